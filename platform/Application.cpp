@@ -1,0 +1,153 @@
+#include "platform/Application.h"
+
+#include "platform/private/Fonts.h"
+#include "platform/private/WindowPeer.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStyleFactory>
+
+#include <clocale>
+
+IMPLEMENT_DYNAMIC(CWinApp, CObject)
+
+namespace platform {
+
+class ToolkitApplication : public QApplication {
+  public:
+    using QApplication::QApplication;
+};
+
+} // namespace platform
+
+namespace {
+
+CWinApp* theApplication = nullptr;
+
+// A light look of our own, whatever the desktop's: drawings are made for a light ground.
+QPalette dialogPalette() {
+    QPalette palette(QColor(0xf0, 0xf0, 0xf0));
+    palette.setColor(QPalette::Window, QColor(0xf0, 0xf0, 0xf0));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::Highlight, QColor(0x1f, 0x5f, 0xa8));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x8a, 0x8a, 0x8a));
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0xf4, 0xf4, 0xf4));
+    return palette;
+}
+
+struct BoxButton {
+    int command;
+    const char* text;
+    QMessageBox::ButtonRole role;
+};
+
+std::vector<BoxButton> buttonsOf(UINT type) {
+    constexpr auto Yes = QMessageBox::YesRole;
+    constexpr auto No = QMessageBox::NoRole;
+    constexpr auto Accept = QMessageBox::AcceptRole;
+    constexpr auto Reject = QMessageBox::RejectRole;
+    switch (type & MB_TYPEMASK) {
+    case MB_OKCANCEL:
+        return {{IDOK, "OK", Accept}, {IDCANCEL, "Annulla", Reject}};
+    case MB_ABORTRETRYIGNORE:
+        return {{IDABORT, "Interrompi", Reject}, {IDRETRY, "Riprova", Accept}, {IDIGNORE, "Ignora", No}};
+    case MB_YESNOCANCEL:
+        return {{IDYES, "&Sì", Yes}, {IDNO, "&No", No}, {IDCANCEL, "Annulla", Reject}};
+    case MB_YESNO:
+        return {{IDYES, "&Sì", Yes}, {IDNO, "&No", No}};
+    case MB_RETRYCANCEL:
+        return {{IDRETRY, "Riprova", Accept}, {IDCANCEL, "Annulla", Reject}};
+    default:
+        return {{IDOK, "OK", Accept}};
+    }
+}
+
+QMessageBox::Icon iconOf(UINT type) {
+    switch (type & MB_ICONMASK) {
+    case MB_ICONERROR:
+        return QMessageBox::Critical;
+    case MB_ICONQUESTION:
+        return QMessageBox::Question;
+    case MB_ICONWARNING:
+        return QMessageBox::Warning;
+    case MB_ICONINFORMATION:
+        return QMessageBox::Information;
+    default:
+        break;
+    }
+    const UINT buttons = type & MB_TYPEMASK;
+    return buttons == MB_YESNO || buttons == MB_YESNOCANCEL ? QMessageBox::Question : QMessageBox::Warning;
+}
+
+} // namespace
+
+CWinApp::CWinApp(LPCTSTR name, int& argc, char** argv) : m_pszAppName(name) {
+    m_toolkit = std::make_unique<platform::ToolkitApplication>(argc, argv);
+    // The toolkit has just adopted the machine's locale; printf and the exchange need the decimal point.
+    std::setlocale(LC_NUMERIC, "C");
+    QLocale::setDefault(QLocale::c());
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(dialogPalette());
+    QApplication::setFont(platform::toolkitFont("MS Sans Serif", 11, 400, false));
+    QApplication::setApplicationName(platform::toQString(name));
+    theApplication = this;
+}
+
+CWinApp::~CWinApp() {
+    PumpMessages(); // windows that wait for their deletion go before the toolkit does
+    theApplication = nullptr;
+}
+
+int CWinApp::Run() {
+    if (!InitInstance())
+        return ExitInstance();
+    const int status = QApplication::exec();
+    const int exitStatus = ExitInstance();
+    return exitStatus ? exitStatus : status;
+}
+
+int CWinApp::DoMessageBox(LPCTSTR text, UINT type, UINT) {
+    return ShowMessageBox(text, m_pszAppName, type);
+}
+
+int CWinApp::ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setWindowTitle(platform::toQString(caption));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(platform::toQString(text));
+    box.setIcon(iconOf(type));
+    std::vector<QAbstractButton*> made;
+    const std::vector<BoxButton> buttons = buttonsOf(type);
+    for (const BoxButton& button : buttons)
+        made.push_back(box.addButton(QString::fromUtf8(button.text), button.role));
+    const bool second = (type & MB_DEFBUTTON2) && made.size() > 1;
+    box.setDefaultButton(qobject_cast<QPushButton*>(made[second ? 1 : 0]));
+    box.exec();
+    for (std::size_t i = 0; i < made.size(); ++i)
+        if (box.clickedButton() == made[i])
+            return buttons[i].command;
+    return buttons.size() == 1 ? IDOK : IDCANCEL;
+}
+
+void CWinApp::PumpMessages() {
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // all at once: one receiver at a time is quadratic
+}
+
+CWinApp* AfxGetApp() {
+    return theApplication;
+}
+
+CWnd* AfxGetMainWnd() {
+    return theApplication ? theApplication->m_pMainWnd : nullptr;
+}
+
+int AfxMessageBox(LPCTSTR text, UINT type, UINT helpId) {
+    return theApplication ? theApplication->DoMessageBox(text, type, helpId) : IDCANCEL;
+}

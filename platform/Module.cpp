@@ -1,0 +1,169 @@
+#include "platform/Module.h"
+
+#include "platform/Resource.h"
+
+#include <algorithm>
+#include <dlfcn.h>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace platform {
+namespace {
+
+// Links that the framework owns, in the order in which they were made.
+std::vector<CDynLinkLibrary*>& Links() {
+    static std::vector<CDynLinkLibrary*> links;
+    return links;
+}
+
+// Deletes the links of a module. Each takes itself out of the list, so the search starts anew after every one.
+void ReleaseLinks(HINSTANCE module) {
+    const auto next = [module] {
+        return std::ranges::find(Links(), module, [](const CDynLinkLibrary* link) { return link->m_hModule; });
+    };
+    for (auto found = next(); found != Links().end(); found = next())
+        delete *found;
+}
+
+// Calls the entry; a refused start leaves nothing of the module behind.
+bool Start(AFX_MODULE_ENTRY entry, HINSTANCE module) {
+    if (entry(module, DLL_PROCESS_ATTACH) != 0)
+        return true;
+    ReleaseLinks(module);
+    return false;
+}
+
+struct Library {
+    int uses;
+    AFX_MODULE_ENTRY entry;
+};
+
+class Loader {
+  public:
+    HINSTANCE Load(const char* path) {
+        error_.clear();
+        if (!*path) // to the system's loader an empty name is the program itself
+            return Fail("no module named");
+        void* library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+        if (!library)
+            return Fail(dlerror());
+        if (const auto known = libraries_.find(library); known != libraries_.end()) {
+            ++known->second.uses;
+            dlclose(library); // the first load holds it
+            return library;
+        }
+        const auto entry = reinterpret_cast<AFX_MODULE_ENTRY>(dlsym(library, AFX_MODULE_ENTRY_NAME));
+        if (!entry || !Start(entry, library)) {
+            dlclose(library);
+            return Fail(std::string(path) + (entry ? ": the module refused to start" : ": not a module"));
+        }
+        libraries_[library] = {1, entry};
+        return library;
+    }
+
+    BOOL Free(HINSTANCE module) {
+        const auto known = libraries_.find(const_cast<void*>(module));
+        if (known == libraries_.end())
+            return FALSE;
+        if (--known->second.uses > 0)
+            return TRUE;
+        known->second.entry(module, DLL_PROCESS_DETACH);
+        // A module that forgot its own part must not leave links into unmapped memory.
+        ReleaseLinks(module);
+        dlclose(known->first);
+        libraries_.erase(known);
+        return TRUE;
+    }
+
+    HINSTANCE Attach(AFX_MODULE_ENTRY entry) {
+        const HINSTANCE module = reinterpret_cast<HINSTANCE>(entry);
+        if (std::ranges::find(linked_, entry) != linked_.end())
+            return module;
+        if (!entry || !Start(entry, module))
+            return nullptr;
+        linked_.push_back(entry);
+        return module;
+    }
+
+    BOOL Detach(AFX_MODULE_ENTRY entry) {
+        const auto known = std::ranges::find(linked_, entry);
+        if (known == linked_.end())
+            return FALSE;
+        linked_.erase(known);
+        entry(reinterpret_cast<HINSTANCE>(entry), DLL_PROCESS_DETACH);
+        ReleaseLinks(reinterpret_cast<HINSTANCE>(entry));
+        return TRUE;
+    }
+
+    const char* Error() const { return error_.c_str(); }
+
+  private:
+    HINSTANCE Fail(std::string error) {
+        error_ = std::move(error);
+        return nullptr;
+    }
+
+    std::map<void*, Library> libraries_;
+    std::vector<AFX_MODULE_ENTRY> linked_;
+    std::string error_;
+};
+
+Loader& TheLoader() {
+    static Loader loader;
+    return loader;
+}
+
+} // namespace
+} // namespace platform
+
+BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HINSTANCE hModule,
+                            const platform::ResourceModule* pResources) {
+    if (state.bInitialized || !hModule || !pResources)
+        return FALSE;
+    state = {TRUE, hModule, pResources};
+    return TRUE;
+}
+
+void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state) {
+    if (!state.bInitialized)
+        return;
+    platform::ReleaseLinks(state.hModule);
+    state = {};
+}
+
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state) : m_hModule(state.hModule) {
+    if (!m_hModule)
+        return;
+    platform::Links().push_back(this);
+    platform::AppendResources(m_hModule, state.pResources);
+}
+
+CDynLinkLibrary::~CDynLinkLibrary() {
+    if (!m_hModule)
+        return;
+    std::erase(platform::Links(), this);
+    const auto sameModule = [this](const CDynLinkLibrary* link) { return link->m_hModule == m_hModule; };
+    if (std::ranges::none_of(platform::Links(), sameModule))
+        platform::RemoveResources(m_hModule);
+}
+
+HINSTANCE AfxLoadLibrary(LPCTSTR pszModulePath) {
+    return platform::TheLoader().Load(pszModulePath ? pszModulePath : "");
+}
+
+BOOL AfxFreeLibrary(HINSTANCE hModule) {
+    return platform::TheLoader().Free(hModule);
+}
+
+HINSTANCE AfxAttachLinkedModule(AFX_MODULE_ENTRY entry) {
+    return platform::TheLoader().Attach(entry);
+}
+
+BOOL AfxDetachLinkedModule(AFX_MODULE_ENTRY entry) {
+    return platform::TheLoader().Detach(entry);
+}
+
+LPCTSTR AfxGetLoadError() {
+    return platform::TheLoader().Error();
+}

@@ -1,0 +1,105 @@
+// List boxes. Rows are plain records: no toolkit object stands behind one, nothing is announced for one, and only those
+// on the screen are converted and painted, so that a hundred thousand of them cost what their texts cost.
+#pragma once
+
+#include "platform/private/Hosted.h"
+
+#include <QAbstractScrollArea>
+#include <QBasicTimer>
+#include <QElapsedTimer>
+
+#include <vector>
+
+namespace platform {
+
+class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
+  public:
+    struct Row {
+        CString text;
+        DWORD_PTR data = 0;
+        bool selected = false;
+    };
+
+    ListBoxPeer(const ControlSpec& spec, WindowPeer& parentPeer);
+
+    UINT dialogCode() const override { return WantsArrows | WantsCharacters; }
+    std::unique_ptr<CWnd> makeObject() const override;
+    void focusChanged(bool gained) override;
+    LRESULT defaultMessage(UINT message, WPARAM wParam, LPARAM) override;
+
+    bool multiple() const { return WindowPeer::style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL); }
+    bool extended() const { return WindowPeer::style & LBS_EXTENDEDSEL; }
+    int count() const { return static_cast<int>(m_rows.size()); }
+    Row* row(int index) { return index >= 0 && index < count() ? &m_rows[static_cast<std::size_t>(index)] : nullptr; }
+
+    int add(const CString& text);            // at the end, or in its sorted place
+    int insert(int index, const CString& text); // -1 appends; -1 for a bad place
+    bool remove(int index);
+    void reset();
+    void reserve(int rows) { m_rows.reserve(m_rows.size() + static_cast<std::size_t>(rows)); }
+    int find(int startAfter, const CString& text, bool whole) const; // -1 when there is none
+
+    // The program's selecting, which tells nobody.
+    int current() const { return m_caret; } // single selection: the selected row
+    void select(int index);                 // single selection, -1 for none
+    void setSelected(int first, int last, bool selected);
+    int selectedCount() const { return m_selectedCount; }
+    int caret() const { return m_caret; }
+    void setCaret(int index, bool scroll);
+    int anchor() const { return m_anchor; }
+    void setAnchor(int index) { m_anchor = index; }
+
+    int rowHeight() const;
+    QRect rowRect(int index);
+    int rowAt(int y); // may lie outside the rows
+    int topRow();
+    void setTopRow(int index);
+    void setExtent(int width);
+    int extent() const { return m_extent; }
+    void setTabStops(std::vector<int> pixels); // ascending
+    void showRow(int index);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+  private:
+    void rowsChanged();
+    void arrange(); // the scroll bars, once after any number of changed rows
+    int pageRows() const;
+    void paintRow(QPainter& painter, const Row& row, const QRect& place, bool focused) const;
+    void drawColumns(QPainter& painter, const QString& text, QRect place) const;
+
+    // The user's selecting; true when the selection may have changed and the parent is to hear of it.
+    bool pickByMouse(int index, Qt::KeyboardModifiers modifiers);
+    bool pickByKey(int index, Qt::KeyboardModifiers modifiers);
+    bool pressSpace(Qt::KeyboardModifiers modifiers);
+    void selectOnly(int first, int last);
+    void dragTo(int y);
+    void tell(UINT code);
+    int typeAhead(const QString& typed);
+
+    std::vector<Row> m_rows;
+    int m_selectedCount = 0;
+    int m_caret = -1;  // with the focus rectangle
+    int m_anchor = -1; // where a range of the user's begins
+    int m_extent = 0;
+    std::vector<int> m_tabStops;
+    bool m_arrangePending = false;
+    bool m_dragging = false;
+    bool m_dragSelects = true; // what dragging does to the rows that it reaches
+    bool m_dragKeeps = false;  // the rows outside the range stay as they are
+    int m_dragY = 0;
+    QBasicTimer m_dragScroll;
+    QString m_typed;
+    QElapsedTimer m_typedAt;
+};
+
+} // namespace platform

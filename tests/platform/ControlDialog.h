@@ -1,0 +1,76 @@
+// A dialog that writes down what its controls tell it.
+#pragma once
+
+#include "tests/platform/TestDialogs.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/TestApp.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class ControlDialog : public CDialog {
+  public:
+    explicit ControlDialog(const ControlRows& rows) : CDialog(1), m_template(rows) {
+        Create(1);
+        TestApp::PumpMessages();
+    }
+    ~ControlDialog() override { DestroyWindow(); }
+
+    // "command 100:768" or "notify 100:-2" or "scroll 4:17", in the order in which they came.
+    std::vector<std::string> log;
+    std::function<LRESULT(int code)> onNotify; // its value is the notification's result
+    std::function<void()> onCommand;
+    const void* scrollBar = nullptr; // of the last scroll message
+
+    std::vector<std::string> take() { return std::exchange(log, {}); }
+    template <class Control>
+    Control& control(int id) {
+        return dynamic_cast<Control&>(*GetDlgItem(id));
+    }
+
+  protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        log.push_back("command " + std::to_string(LOWORD(wParam)) + ":" + std::to_string(HIWORD(wParam)));
+        if (onCommand)
+            onCommand();
+        return CDialog::OnCommand(wParam, lParam);
+    }
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override {
+        const int code = reinterpret_cast<const NMHDR*>(lParam)->code;
+        log.push_back("notify " + std::to_string(wParam) + ":" + std::to_string(code));
+        *result = onNotify ? onNotify(code) : 0;
+        return TRUE;
+    }
+    void OnVScroll(UINT code, UINT position, CScrollBar* bar) {
+        log.push_back("scroll " + std::to_string(code) + ":" + std::to_string(position));
+        scrollBar = bar;
+    }
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    TestTemplate m_template;
+};
+
+// "command 100:768" of one control's code.
+inline std::string told(int id, UINT code) {
+    return "command " + std::to_string(id) + ":" + std::to_string(code);
+}
+inline std::string notified(int id, int code) {
+    return "notify " + std::to_string(id) + ":" + std::to_string(code);
+}
+using Log = std::vector<std::string>;
+
+// The lines without what the coming and going of the focus tells.
+inline Log withoutFocus(Log log) {
+    std::erase_if(log, [](const std::string& line) {
+        for (const int code : {int(EN_SETFOCUS), int(EN_KILLFOCUS), int(LBN_SETFOCUS), int(LBN_KILLFOCUS),
+                               int(NM_SETFOCUS), int(NM_KILLFOCUS)})
+            if (line.ends_with(":" + std::to_string(code)))
+                return true;
+        return false;
+    });
+    return log;
+}

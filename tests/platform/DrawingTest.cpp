@@ -1,0 +1,326 @@
+#include "tests/platform/Sheet.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+constexpr COLORREF red = RGB(255, 0, 0);
+
+} // namespace
+
+// Catches lines that are one pixel too long or too short in one of their directions.
+TEST(Lines, ExcludeTheirLastPoint) {
+    Sheet sheet(12, 8);
+    const auto line = [&](int x1, int y1, int x2, int y2) {
+        sheet->MoveTo(x1, y1);
+        sheet->LineTo(x2, y2);
+    };
+    line(1, 0, 5, 0);
+    line(5, 2, 1, 2);
+    line(7, 0, 7, 4);
+    line(9, 4, 9, 0);
+    line(0, 4, 3, 7);
+    line(6, 7, 3, 4);
+    line(11, 5, 11, 5); // no length, no pixel
+    EXPECT_EQ(sheet->GetCurrentPosition(), CPoint(11, 5));
+    EXPECT_EQ(sheet.rows(), ".####..#..../"
+                            ".......#.#../"
+                            "..####.#.#../"
+                            ".......#.#../"
+                            "#........#../"
+                            ".#..#......./"
+                            "..#..#....../"
+                            "......#...../");
+}
+
+// Catches the batch that draws other pixels than the single lines, and joints drawn twice, which show when inverting.
+TEST(Lines, BatchesEqualSingleLines) {
+    const CPoint points[] = {{1, 1}, {9, 3}, {4, 8}, {1, 1}, {0, 9}, {9, 9}, {11, 2}, {11, 9}};
+    const DWORD counts[] = {4, 2, 2};
+    for (const int mode : {R2_COPYPEN, R2_NOT}) {
+        Sheet batch(12, 12), single(12, 12);
+        batch->SetROP2(mode);
+        single->SetROP2(mode);
+        batch->PolyPolyline(points, counts, 3);
+        for (const auto& [from, to] : {std::pair{0, 1}, {1, 2}, {2, 3}, {4, 5}, {6, 7}}) {
+            single->MoveTo(points[from]);
+            single->LineTo(points[to]);
+        }
+        EXPECT_EQ(batch.rows(), single.rows());
+    }
+    Sheet sheet(3, 3);
+    EXPECT_FALSE(sheet->Polyline(points, 1));
+    EXPECT_EQ(sheet.rows(), "");
+}
+
+TEST(Lines, WidePensAreCentred) {
+    const CPoint ends[] = {{3, 3}, {8, 3}};
+    Sheet three(12, 8), two(12, 8);
+    CPen pen3(PS_SOLID, 3, red), pen2(PS_DASH, 2, red); // broken pens are solid from two pixels on
+    three->SelectObject(&pen3);
+    two->SelectObject(&pen2);
+    three->Polyline(ends, 2);
+    two->Polyline(ends, 2);
+    EXPECT_EQ(three.box(), CRect(2, 2, 10, 5));
+    EXPECT_EQ(two.box(), CRect(2, 2, 9, 4));
+    EXPECT_EQ(two.image().pixel(5, 2), qRgb(255, 0, 0));
+}
+
+TEST(Lines, BrokenPensShowTheBackgroundInTheirGaps) {
+    Sheet sheet(14, 4);
+    CPen dots(PS_DOT, 1, RGB(0, 0, 0));
+    sheet->SelectObject(&dots);
+    sheet->SetBkMode(TRANSPARENT);
+    sheet->MoveTo(0, 0);
+    sheet->LineTo(12, 0);
+    EXPECT_EQ(sheet.rows(), "###...###...../");
+    sheet->SetBkMode(OPAQUE);
+    sheet->SetBkColor(red);
+    sheet->MoveTo(0, 2);
+    sheet->LineTo(12, 2);
+    EXPECT_EQ(sheet.image().pixel(0, 2), qRgb(0, 0, 0));
+    EXPECT_EQ(sheet.image().pixel(4, 2), qRgb(255, 0, 0));
+    CPen none(PS_NULL, 5, red);
+    sheet->SelectObject(&none);
+    sheet->MoveTo(0, 3);
+    sheet->LineTo(12, 3);
+    EXPECT_EQ(sheet.image().pixel(5, 3), qRgb(255, 255, 255));
+}
+
+// Catches rectangles that paint over their neighbours or leave a gap before them.
+TEST(Shapes, RectanglesExcludeRightAndBottom) {
+    Sheet sheet(16, 6);
+    CBrush brush(red);
+    sheet->SelectStockObject(NULL_BRUSH);
+    sheet->Rectangle(0, 0, 5, 4);
+    sheet->SelectObject(&brush);
+    sheet->SelectStockObject(NULL_PEN);
+    sheet->Rectangle(6, 0, 11, 4); // without an outline one pixel less each way
+    const CRect filled(15, 4, 12, 0);
+    sheet->FillRect(&filled, &brush); // turned round: empty
+    const CRect right(12, 0, 15, 4);
+    sheet->FillRect(&right, &brush);
+    EXPECT_EQ(sheet.rows(), "#####.####..###./"
+                            "#...#.####..###./"
+                            "#...#.####..###./"
+                            "#####.......###./");
+}
+
+TEST(Shapes, WideOutlinesKeepTheirPlace) {
+    const auto boxOf = [](int style, int width) {
+        Sheet sheet(20, 20);
+        CPen pen(style, width, red);
+        sheet->SelectObject(&pen);
+        sheet->SelectStockObject(NULL_BRUSH);
+        sheet->Rectangle(5, 5, 15, 15);
+        return sheet.box();
+    };
+    EXPECT_EQ(boxOf(PS_SOLID, 1), CRect(5, 5, 15, 15));
+    EXPECT_EQ(boxOf(PS_SOLID, 3), CRect(4, 4, 16, 16));
+    EXPECT_EQ(boxOf(PS_INSIDEFRAME, 3), CRect(5, 5, 15, 15));
+    EXPECT_EQ(boxOf(PS_INSIDEFRAME, 4), CRect(5, 5, 15, 15));
+    EXPECT_EQ(boxOf(PS_DOT, 1), CRect(5, 5, 15, 15));
+}
+
+// Catches circles that are larger than their box, cut at a side, or not symmetrical.
+TEST(Shapes, EllipsesFollowTheirBox) {
+    CBrush brush(red);
+    for (const int size : {3, 4, 7, 10, 15}) {
+        Sheet outlined(20, 20), bare(20, 20);
+        outlined->Ellipse(2, 3, 2 + size, 3 + size);
+        bare->SelectObject(&brush);
+        bare->SelectStockObject(NULL_PEN);
+        bare->Ellipse(2, 3, 3 + size, 4 + size); // one pixel less, as with rectangles
+        for (const Sheet* sheet : {&outlined, &bare}) {
+            EXPECT_EQ(sheet->box(), CRect(2, 3, 2 + size, 3 + size));
+            for (int y = 0; y < size; ++y)
+                for (int x = 0; x < size; ++x)
+                    EXPECT_EQ(sheet->image().pixel(2 + x, 3 + y), sheet->image().pixel(1 + size - x, 3 + y))
+                        << size << ": " << x << "," << y;
+        }
+    }
+    Sheet flat(20, 20);
+    flat->Ellipse(2, 2, 3, 9);
+    EXPECT_EQ(flat.box(), CRect(2, 2, 3, 9));
+}
+
+TEST(Shapes, ArcsRunCounterclockwise) {
+    Sheet sheet(22, 22);
+    const CRect box(0, 0, 21, 21);
+    sheet->Arc(&box, {20, 10}, {10, 0}); // from the right to the top
+    EXPECT_EQ(sheet.box(), CRect(10, 0, 21, 11));
+    Sheet pie(22, 22);
+    CBrush brush(red);
+    pie->SelectObject(&brush);
+    pie->Pie(&box, {10, 0}, {20, 10}); // the other three quarters
+    EXPECT_EQ(pie.image().pixel(5, 15), qRgb(255, 0, 0));
+    EXPECT_EQ(pie.image().pixel(14, 6), qRgb(255, 255, 255));
+}
+
+TEST(Shapes, PolygonsFillByTheirMode) {
+    // A square walked twice: alternate filling leaves it empty.
+    const CPoint twice[] = {{2, 2}, {9, 2}, {9, 9}, {2, 9}, {2, 2}, {9, 2}, {9, 9}, {2, 9}};
+    CBrush brush(red);
+    for (const auto& [mode, inside] : {std::pair{ALTERNATE, qRgb(255, 255, 255)}, {WINDING, qRgb(255, 0, 0)}}) {
+        Sheet sheet(12, 12);
+        sheet->SelectObject(&brush);
+        sheet->SetPolyFillMode(mode);
+        sheet->Polygon(twice, 8);
+        EXPECT_EQ(sheet.image().pixel(5, 5), inside);
+        EXPECT_EQ(sheet.box(), CRect(2, 2, 10, 10)) << "the outline passes through the points";
+    }
+}
+
+TEST(Fills, FramesAndBevels) {
+    Sheet sheet(6, 5);
+    CBrush brush(red);
+    const CRect rect(0, 0, 5, 4);
+    sheet->FrameRect(&rect, &brush);
+    EXPECT_EQ(sheet.rows(), "#####./#...#./#...#./#####./");
+    sheet->Draw3dRect(&rect, RGB(1, 1, 1), RGB(2, 2, 2));
+    EXPECT_EQ(sheet->GetPixel(0, 0), RGB(1, 1, 1));
+    EXPECT_EQ(sheet->GetPixel(4, 0), RGB(2, 2, 2)) << "the corner belongs to the right line";
+    EXPECT_EQ(sheet->GetPixel(0, 3), RGB(2, 2, 2));
+    sheet->FillSolidRect(1, 1, 2, 2, red);
+    EXPECT_EQ(sheet->GetBkColor(), red);
+    EXPECT_EQ(sheet->GetPixel(2, 2), red);
+    EXPECT_EQ(sheet->GetPixel(6, 0), CLR_INVALID);
+    EXPECT_EQ(sheet->GetPixel(-1, 0), CLR_INVALID);
+}
+
+// Catches rubber bands and focus rectangles that leave traces.
+TEST(Modes, DrawingTwiceRestores) {
+    Sheet sheet(20, 20);
+    sheet->FillSolidRect(3, 3, 9, 9, RGB(10, 200, 30));
+    const std::string before = sheet.rows();
+    const CRect rect(1, 1, 15, 12);
+    const std::function<void()> drawings[] = {[&] { sheet->DrawFocusRect(&rect); }, [&] { sheet->InvertRect(&rect); },
+                                              [&] {
+                                                  CPen pen(PS_SOLID, 3, RGB(77, 0, 200));
+                                                  const ObjectSelection selected(sheet.dc(), pen);
+                                                  const int old = sheet->SetROP2(R2_XORPEN);
+                                                  sheet->Rectangle(&rect);
+                                                  sheet->SetROP2(old);
+                                              }};
+    for (const auto& draw : drawings) {
+        draw();
+        EXPECT_NE(sheet.rows(), before);
+        draw();
+        EXPECT_EQ(sheet.rows(), before);
+    }
+    EXPECT_EQ(sheet->GetPixel(5, 5), RGB(10, 200, 30));
+}
+
+TEST(State, SelectionReturnsWhatWasThere) {
+    Sheet sheet(4, 4);
+    CPen first(PS_SOLID, 1, red), second(PS_SOLID, 1, RGB(0, 0, 255)), unmade;
+    CPen* original = sheet->SelectObject(&first);
+    ASSERT_NE(original, nullptr);
+    {
+        const ObjectSelection selected(sheet.dc(), second);
+        EXPECT_EQ(sheet->GetCurrentPen(), &second);
+    }
+    EXPECT_EQ(sheet->SelectObject(&unmade), nullptr);
+    EXPECT_EQ(sheet->GetCurrentPen(), &first);
+    first.DeleteObject(); // while selected: the context has its copy
+    sheet->MoveTo(0, 0);
+    sheet->LineTo(2, 0);
+    EXPECT_EQ(sheet->GetPixel(0, 0), red);
+    EXPECT_EQ(sheet->SelectObject(original), &first);
+    LOGPEN description;
+    EXPECT_FALSE(first.GetLogPen(&description));
+    EXPECT_TRUE(second.GetLogPen(&description));
+    EXPECT_EQ(description.lopnColor, RGB(0, 0, 255));
+    first.Attach(second.Detach());
+    EXPECT_TRUE(first.GetLogPen(&description));
+    EXPECT_FALSE(second.DeleteObject());
+}
+
+TEST(State, ClipsOriginsAndSavedStates) {
+    Sheet sheet(10, 10);
+    EXPECT_EQ(sheet->SetViewportOrg(2, 3), CPoint(0, 0));
+    const int saved = sheet->SaveDC();
+    sheet->IntersectClipRect(0, 0, 4, 4);
+    sheet->SetTextColor(red);
+    sheet->SetViewportOrg(0, 0); // the clip stays where it was
+    CRect clip;
+    sheet->GetClipBox(&clip);
+    EXPECT_EQ(clip, CRect(2, 3, 6, 7));
+    sheet->FillSolidRect(0, 0, 10, 10, red);
+    EXPECT_EQ(sheet.box(), CRect(2, 3, 6, 7));
+    EXPECT_TRUE(sheet->RestoreDC(saved));
+    EXPECT_FALSE(sheet->RestoreDC(saved));
+    EXPECT_EQ(sheet->GetTextColor(), RGB(0, 0, 0));
+    sheet->FillSolidRect(0, 0, 1, 5, red);
+    EXPECT_EQ(sheet.box(), CRect(2, 3, 6, 8));
+    sheet->ExcludeClipRect(0, 0, 8, 6);
+    sheet->FillSolidRect(0, 0, 8, 7, red);
+    EXPECT_EQ(sheet.box(), CRect(2, 3, 10, 10));
+}
+
+// Catches a scaled screen that shows 100 % drawing enlarged unevenly, shifted or smoothed.
+TEST(Scale, EverythingIsSharpAtTwoHundredPercent) {
+    const auto draw = [](Sheet& sheet) {
+        CPen wide(PS_SOLID, 2, red);
+        sheet->Rectangle(1, 1, 8, 7);
+        sheet->MoveTo(3, 4);
+        sheet->LineTo(6, 4);
+        const CPoint corner[] = {{12, 9}, {10, 9}, {10, 2}};
+        sheet->Polyline(corner, 3);
+        sheet->FillSolidRect(0, 9, 3, 2, red);
+        sheet->SelectObject(&wide);
+        sheet->SelectStockObject(NULL_BRUSH);
+        sheet->Rectangle(13, 2, 18, 9);
+    };
+    Sheet plain(20, 12), fine(20, 12, 2);
+    draw(plain);
+    draw(fine);
+    EXPECT_EQ(drawnRows(plain.image().scaled(40, 24)), fine.rows());
+    Sheet circle(20, 20, 2);
+    circle->Ellipse(2, 3, 12, 13);
+    EXPECT_EQ(circle.box(), CRect(4, 6, 24, 26));
+    for (int x = 0; x < 40; ++x)
+        EXPECT_EQ(circle.image().pixel(x, 6), circle.image().pixel(x, 25)) << "top and bottom row, " << x;
+}
+
+TEST(Bitmaps, CopyBetweenContexts) {
+    CDC memory;
+    EXPECT_EQ(memory.GetSafeHdc(), nullptr);
+    memory.CreateCompatibleDC(nullptr);
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&memory, 8, 8));
+    EXPECT_FALSE(CBitmap().CreateCompatibleBitmap(&memory, -1, 100000));
+    CBitmap* before = memory.SelectObject(&bitmap);
+    EXPECT_EQ(memory.GetPixel(0, 0), RGB(0, 0, 0));
+    memory.PatBlt(0, 0, 8, 8, WHITENESS);
+    memory.FillSolidRect(0, 0, 2, 2, red);
+    memory.BitBlt(1, 1, 4, 4, &memory, 0, 0, SRCCOPY); // onto itself, overlapping
+    EXPECT_EQ(memory.GetPixel(2, 2), red);
+    EXPECT_EQ(memory.GetPixel(3, 3), RGB(255, 255, 255));
+    Sheet sheet(12, 12);
+    sheet->BitBlt(5, 6, 3, 3, &memory, 0, 0, SRCCOPY);
+    EXPECT_EQ(sheet.rows().substr(6 * 13), ".....##...../.....###..../......##..../");
+    sheet->BitBlt(5, 6, 3, 3, &memory, 0, 0, SRCINVERT);
+    EXPECT_EQ(sheet->GetPixel(5, 6), RGB(0, 0, 0));
+    EXPECT_EQ(memory.SelectObject(before), &bitmap);
+    EXPECT_FALSE(sheet->BitBlt(0, 0, 3, 3, &memory, 0, 0, SRCCOPY)) << "nothing is selected any more";
+    EXPECT_EQ(sheet->SelectObject(&bitmap), nullptr) << "only contexts in memory take bitmaps";
+}
+
+// Catches a bitmap or a context that outlives the other and draws into freed pixels.
+TEST(Bitmaps, MayEndInAnyOrder) {
+    CDC memory;
+    memory.CreateCompatibleDC(nullptr);
+    {
+        CBitmap bitmap;
+        bitmap.CreateBitmap(4, 4, 1, 32, nullptr);
+        memory.SelectObject(&bitmap);
+    }
+    memory.FillSolidRect(0, 0, 4, 4, red);
+    EXPECT_EQ(memory.GetPixel(3, 3), red);
+    memory.DeleteDC();
+    memory.FillSolidRect(0, 0, 4, 4, red);
+    EXPECT_EQ(memory.GetPixel(0, 0), CLR_INVALID);
+}

@@ -1,0 +1,180 @@
+#include "tests/platform/Sheet.h"
+
+#include "platform/Application.h"
+#include "platform/ImageList.h"
+#include "platform/private/ImageListData.h"
+#include "platform/private/Picture.h"
+#include "platform/private/WindowPeer.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255);
+
+// A window that has been shown and waits for no painting.
+class Shown : public CWnd {
+  public:
+    Shown() {
+        Create("STATIC", "", WS_POPUP | WS_VISIBLE, CRect(0, 0, 40, 30), nullptr, 0);
+        settle();
+    }
+
+    // What the window shows on the screen.
+    QRgb shown(int x, int y) {
+        CWinApp::PumpMessages();
+        const QImage image = m_hWnd->widget->grab().toImage();
+        return image.pixel((QPointF(x, y) * image.devicePixelRatio()).toPoint());
+    }
+
+  protected:
+    void settle() {
+        CWinApp::PumpMessages();
+        UpdateWindow();
+    }
+};
+
+// A window that draws a blue square whenever it is told to paint, the second time through a client context.
+class Painting : public Shown {
+  public:
+    Painting() { settle(); }
+
+    int painted = 0;
+
+  private:
+    void OnPaint() {
+        CPaintDC(this).FillSolidRect(20, 0, 5, 5, blue);
+        CClientDC(this).FillSolidRect(30, 0, 5, 5, blue);
+        ++painted;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Painting, Shown)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+COLORREF pixel(CWnd& window, int x, int y) {
+    return CClientDC(&window).GetPixel(x, y);
+}
+
+} // namespace
+
+// Catches drawing outside paint messages that is lost, or shows only after the next resize.
+TEST(Picture, KeepsWhatIsDrawnUntilErased) {
+    Shown window;
+    CClientDC(&window).FillSolidRect(0, 0, 5, 5, red);
+    EXPECT_EQ(window.shown(2, 2), qRgb(255, 0, 0));
+    EXPECT_EQ(window.shown(2, 2), qRgb(255, 0, 0)) << "a second look";
+    window.MoveWindow(0, 0, 60, 60);
+    CClientDC(&window).FillSolidRect(50, 50, 5, 5, red);
+    EXPECT_EQ(pixel(window, 52, 52), red) << "the picture grows with its window";
+    window.Invalidate();
+    window.UpdateWindow();
+    EXPECT_NE(pixel(window, 52, 52), red) << "erased before it returns";
+}
+
+// Catches two contexts on one window of which the second draws nothing or with the first one's pen.
+TEST(Picture, ServesSeveralContextsAtOnce) {
+    Shown window;
+    CPen redPen(PS_SOLID, 1, red), bluePen(PS_SOLID, 1, blue);
+    CClientDC first(&window), second(&window);
+    first.SelectObject(&redPen);
+    second.SelectObject(&bluePen);
+    second.IntersectClipRect(0, 0, 10, 30);
+    for (int y = 0; y < 4; ++y) {
+        CDC& dc = y % 2 ? second : first;
+        dc.MoveTo(0, y);
+        dc.LineTo(20, y);
+    }
+    EXPECT_EQ(pixel(window, 15, 2), red);
+    EXPECT_EQ(pixel(window, 5, 3), blue);
+    EXPECT_NE(pixel(window, 15, 3), blue);
+    EXPECT_EQ(window.shown(5, 2), qRgb(255, 0, 0)) << "shown while contexts are open";
+}
+
+TEST(Picture, OutlivesAndIsOutlived) {
+    CClientDC nowhere(nullptr);
+    nowhere.FillSolidRect(0, 0, 5, 5, red);
+    nowhere.SelectStockObject(WHITE_PEN);
+    EXPECT_FALSE(nowhere.LineTo(3, 3));
+    EXPECT_GT(nowhere.GetTextExtent("abc").cx, 0);
+    Shown window;
+    CClientDC dc(&window);
+    dc.FillSolidRect(0, 0, 5, 5, red);
+    window.Invalidate();
+    window.UpdateWindow(); // erased under the open context
+    EXPECT_NE(dc.GetPixel(2, 2), red);
+    dc.FillSolidRect(0, 0, 5, 5, red);
+    EXPECT_EQ(dc.GetPixel(2, 2), red);
+    window.DestroyWindow();
+    CWinApp::PumpMessages();
+    dc.FillSolidRect(0, 0, 5, 5, blue);
+    Shown closed;
+    closed.DestroyWindow();
+    CClientDC(&closed).FillSolidRect(0, 0, 5, 5, red);
+}
+
+// Catches inverting over what was never drawn: it must show against the window's own background and go away again.
+TEST(Picture, InvertsOverTheBackground) {
+    Shown window;
+    CClientDC dc(&window);
+    const COLORREF background = dc.GetPixel(3, 3);
+    dc.SetROP2(R2_NOT);
+    dc.MoveTo(0, 3);
+    dc.LineTo(9, 3);
+    EXPECT_EQ(dc.GetPixel(3, 3), background ^ 0xffffff);
+    dc.MoveTo(0, 3);
+    dc.LineTo(9, 3);
+    EXPECT_EQ(dc.GetPixel(3, 3), background);
+}
+
+// Catches a paint handler whose own drawing asks for painting again, for ever.
+TEST(Picture, PaintingEnds) {
+    Painting window;
+    window.Invalidate();
+    EXPECT_EQ(window.shown(22, 2), qRgb(0, 0, 255));
+    EXPECT_EQ(window.shown(32, 2), qRgb(0, 0, 255));
+    const int before = window.painted;
+    for (int i = 0; i < 5; ++i)
+        CWinApp::PumpMessages();
+    EXPECT_EQ(window.painted, before);
+    EXPECT_EQ(CPaintDC(&window).m_ps.rcPaint, CRect(0, 0, 40, 30));
+}
+
+TEST(Picture, KeepsItsContentAcrossScales) {
+    platform::Picture picture;
+    EXPECT_TRUE(picture.empty());
+    QPainter(&picture.canvas({10, 10}, 1)->image).fillRect(0, 0, 4, 4, Qt::red);
+    const QImage& fine = picture.canvas({12, 12}, 2)->image;
+    EXPECT_EQ(fine.size(), QSize(24, 24));
+    EXPECT_EQ(fine.pixel(7, 7), qRgb(255, 0, 0));
+    EXPECT_EQ(qAlpha(fine.pixel(8, 8)), 0);
+    EXPECT_FALSE(picture.empty());
+    picture.erase();
+    EXPECT_TRUE(picture.empty());
+    EXPECT_EQ(qAlpha(picture.canvas({12, 12}, 2)->image.pixel(7, 7)), 0);
+}
+
+TEST(ImageList, CutsAndMasks) {
+    CDC memory;
+    memory.CreateCompatibleDC(nullptr);
+    CBitmap strip;
+    strip.CreateCompatibleBitmap(&memory, 9, 4); // two pictures and a rest
+    memory.SelectObject(&strip);
+    memory.FillSolidRect(0, 0, 8, 4, red);
+    memory.SetPixel(5, 1, blue);
+    CImageList list;
+    EXPECT_EQ(list.Add(&strip, red), -1) << "not created yet";
+    list.Create(4, 4, ILC_COLOR32 | ILC_MASK, 2, 2);
+    EXPECT_EQ(list.Add(&strip, red), 0);
+    EXPECT_EQ(list.GetImageCount(), 2);
+    Sheet sheet(8, 4);
+    EXPECT_TRUE(list.Draw(&sheet.dc(), 1, CPoint(2, 0), ILD_NORMAL));
+    EXPECT_EQ(sheet.rows(), "......../...#..../");
+    EXPECT_FALSE(list.Draw(&sheet.dc(), 2, CPoint(), ILD_NORMAL));
+    EXPECT_EQ(list.Add(strip.m_hObject), 2) << "an icon is brought to the list's size";
+    EXPECT_EQ(list.Data()->images[2].size(), QSize(4, 4));
+    EXPECT_TRUE(list.Remove(0));
+    EXPECT_EQ(list.GetImageCount(), 2);
+}

@@ -1,0 +1,296 @@
+// The resource chain, the start of modules and the compiler of resource scripts.
+#include "platform/Resource.h"
+#include "platform/Module.h"
+#include "platform/Styles.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <sys/wait.h>
+
+namespace {
+
+using platform::DialogTemplate;
+using platform::MenuTemplate;
+using platform::ResourceModule;
+
+constexpr DialogTemplate MakeDialog(int id, const char* caption) {
+    return {id, 0, 0, 10, 10, caption, 0, 0, "", 0, 0, {}};
+}
+
+constexpr std::array kHostDialogs = {MakeDialog(60001, "host"), MakeDialog(60002, "host")};
+constexpr std::array kFirstDialogs = {MakeDialog(60002, "first"), MakeDialog(60003, "first")};
+constexpr std::array kSecondDialogs = {MakeDialog(60003, "second"), MakeDialog(60004, "second")};
+constexpr std::array kFirstMenus = {MenuTemplate{60376, 0, {}}};
+constexpr std::array<unsigned char, 1> kPicture = {'<'};
+constexpr std::array kHostIcons = {platform::BitmapResource{60355, kPicture}};
+
+constexpr ResourceModule kHost{"host", kHostDialogs, {}, {}, kHostIcons};
+constexpr ResourceModule kFirst{"First", kFirstDialogs, kFirstMenus, {}, {}};
+constexpr ResourceModule kSecond{"Second", kSecondDialogs, {}, {}, {}};
+
+std::string CaptionOf(int id) {
+    const DialogTemplate* found = platform::FindDialogTemplate(id);
+    return found ? found->caption : "none";
+}
+
+// Two modules as a program that is linked with them sees them; each can be told to refuse.
+AFX_EXTENSION_MODULE g_firstState;
+int g_firstStarts = 0;
+
+int FirstEntry(HINSTANCE module, UINT reason) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        if (!AfxInitExtensionModule(g_firstState, module, &kFirst))
+            return 0;
+        ++g_firstStarts;
+        new CDynLinkLibrary(g_firstState);
+    } else if (reason == DLL_PROCESS_DETACH) {
+        AfxTermExtensionModule(g_firstState);
+    }
+    return 1;
+}
+
+AFX_EXTENSION_MODULE g_secondState;
+bool g_secondRefusesLate = false;
+
+int SecondEntry(HINSTANCE module, UINT reason) {
+    if (reason == DLL_PROCESS_DETACH) {
+        AfxTermExtensionModule(g_secondState);
+        return 1;
+    }
+    if (!AfxInitExtensionModule(g_secondState, module, &kSecond))
+        return 0;
+    new CDynLinkLibrary(g_secondState);
+    if (!g_secondRefusesLate)
+        return 1;
+    g_secondState = {};
+    return 0;
+}
+
+class ResourceChain : public testing::Test {
+  protected:
+    void SetUp() override { platform::SetHostResources(&kHost); }
+    void TearDown() override {
+        AfxDetachLinkedModule(&FirstEntry);
+        AfxDetachLinkedModule(&SecondEntry);
+        platform::SetHostResources(nullptr);
+        g_secondRefusesLate = false;
+    }
+};
+
+// Catches a search that asks a module before the host, or modules in another order than they were loaded.
+TEST_F(ResourceChain, HostFirstThenModulesInLoadOrder) {
+    const HINSTANCE first = AfxAttachLinkedModule(&FirstEntry);
+    const HINSTANCE second = AfxAttachLinkedModule(&SecondEntry);
+    ASSERT_TRUE(first && second && first != second);
+    EXPECT_EQ(CaptionOf(60001), "host");
+    EXPECT_EQ(CaptionOf(60002), "host");
+    EXPECT_EQ(CaptionOf(60003), "first");
+    EXPECT_EQ(CaptionOf(60004), "second");
+    EXPECT_EQ(CaptionOf(60005), "none");
+
+    // Host resources that come late still go in front.
+    platform::SetHostResources(nullptr);
+    EXPECT_EQ(CaptionOf(60002), "first");
+    platform::SetHostResources(&kHost);
+    EXPECT_EQ(CaptionOf(60002), "host");
+}
+
+// Catches a handle that names the wrong module, kinds of resources mixed up, and a null handle for what is missing.
+TEST_F(ResourceChain, HandlesNameTheModuleThatHoldsTheResource) {
+    const HINSTANCE first = AfxAttachLinkedModule(&FirstEntry);
+    const HINSTANCE host = platform::HostInstance();
+    EXPECT_EQ(AfxFindResourceHandle(60376, RT_MENU), first);
+    EXPECT_EQ(AfxFindResourceHandle(60376, RT_DIALOG), host);
+    EXPECT_EQ(AfxFindResourceHandle(60002, RT_DIALOG), host);
+    EXPECT_EQ(AfxFindResourceHandle(60355, RT_GROUP_ICON), host);
+    EXPECT_TRUE(platform::FindIcon(host, 60355));
+    EXPECT_TRUE(platform::FindMenu(first, 60376));
+    EXPECT_FALSE(platform::FindMenu(host, 60376));
+    EXPECT_STREQ(platform::FindDialogTemplate(first, 60002)->caption, "first");
+
+    EXPECT_EQ(GetModuleHandle("first.dll"), first);
+    EXPECT_EQ(GetModuleHandle("/opt/lib/libFirst.so"), first);
+    EXPECT_EQ(GetModuleHandle(nullptr), host);
+    EXPECT_EQ(GetModuleHandle("third"), nullptr);
+}
+
+// Catches a module that stays in the chain after its end, or takes a neighbour's resources along.
+TEST_F(ResourceChain, DetachTakesOutOneModuleAndOnlyIt) {
+    AfxAttachLinkedModule(&FirstEntry);
+    AfxAttachLinkedModule(&SecondEntry);
+    EXPECT_TRUE(AfxDetachLinkedModule(&FirstEntry));
+    EXPECT_FALSE(AfxDetachLinkedModule(&FirstEntry));
+    EXPECT_FALSE(g_firstState.bInitialized);
+    EXPECT_EQ(CaptionOf(60003), "second");
+    EXPECT_EQ(platform::FindMenu(60376), nullptr);
+    EXPECT_EQ(CaptionOf(60001), "host");
+}
+
+// Catches a second start of a running module, which would put its resources into the chain twice.
+TEST_F(ResourceChain, AModuleStartsOnce) {
+    const int before = g_firstStarts;
+    const HINSTANCE first = AfxAttachLinkedModule(&FirstEntry);
+    EXPECT_EQ(AfxAttachLinkedModule(&FirstEntry), first);
+    EXPECT_EQ(g_firstStarts, before + 1);
+    AFX_EXTENSION_MODULE again = g_firstState;
+    EXPECT_FALSE(AfxInitExtensionModule(again, first, &kFirst));
+    EXPECT_TRUE(AfxDetachLinkedModule(&FirstEntry));
+    EXPECT_TRUE(AfxAttachLinkedModule(&FirstEntry)); // a detached one may start again
+}
+
+// Catches a refusal that is ignored, or that leaves resources of the refusing module behind.
+TEST_F(ResourceChain, ARefusedStartLeavesTheChainAsItWas) {
+    AFX_EXTENSION_MODULE empty;
+    EXPECT_FALSE(AfxInitExtensionModule(empty, nullptr, &kFirst));
+    EXPECT_FALSE(AfxInitExtensionModule(empty, &empty, nullptr));
+    EXPECT_FALSE(empty.bInitialized);
+    { const CDynLinkLibrary harmless(empty); }
+
+    g_firstState = {TRUE, &g_firstState, &kFirst}; // as if it ran already
+    EXPECT_EQ(AfxAttachLinkedModule(&FirstEntry), nullptr);
+    EXPECT_EQ(CaptionOf(60003), "none");
+    g_firstState = {};
+
+    g_secondRefusesLate = true; // after its link was made
+    EXPECT_EQ(AfxAttachLinkedModule(&SecondEntry), nullptr);
+    EXPECT_EQ(CaptionOf(60004), "none");
+    EXPECT_FALSE(AfxDetachLinkedModule(&SecondEntry));
+    EXPECT_EQ(AfxAttachLinkedModule(nullptr), nullptr);
+}
+
+// Catches a loader that crashes on files that are no modules or hands out a handle for them.
+TEST_F(ResourceChain, FilesThatAreNoModulesDoNotLoad) {
+    for (const char* path : {"", "/nowhere/libMissing.so", "/proc/self/cmdline", "libm.so.6"}) {
+        EXPECT_EQ(AfxLoadLibrary(path), nullptr) << path;
+        EXPECT_STRNE(AfxGetLoadError(), "") << path;
+    }
+    EXPECT_EQ(AfxLoadLibrary(nullptr), nullptr);
+    EXPECT_FALSE(AfxFreeLibrary(nullptr));
+}
+
+// Runs the compiler, which stands beside this program, in a folder of its own.
+class Compiler : public testing::Test {
+  protected:
+    struct Result {
+        int status;
+        std::string errors;
+        std::string output;
+    };
+
+    void SetUp() override {
+        std::string name = (std::filesystem::temp_directory_path() / "rescompilerXXXXXX").string();
+        folder_ = mkdtemp(name.data());
+        Put("a.svg", "<svg/>");
+        Put("ids.h", "#pragma once\n#define IDD_ONE 9001 // a dialog\n#define IDC_BACK -1\n");
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+
+    void Put(const std::string& name, const std::string& text) { std::ofstream(folder_ / name) << text; }
+    std::string Get(const std::string& name) {
+        std::stringstream text;
+        text << std::ifstream(folder_ / name).rdbuf();
+        return text.str();
+    }
+
+    Result Compile(const std::string& script) {
+        Put("t.rc", script);
+        const auto tool = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "rescompiler";
+        const std::string command =
+            "cd " + folder_.string() + " && '" + tool.string() + "' Tables out.cpp out.d t.rc 2>errors";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("errors"), Get("out.cpp")};
+    }
+
+    // A script with one dialog, whose controls start in line 4.
+    Result CompileDialog(const std::string& controls) {
+        return Compile("9001 DIALOG 0, 0, 100, 50\nCAPTION \"C\"\nBEGIN\n" + controls + "\nEND\n");
+    }
+
+    std::filesystem::path folder_;
+};
+
+std::string Hex(DWORD style) {
+    std::ostringstream text;
+    text << "0x" << std::hex << style << 'u';
+    return text.str();
+}
+
+// Catches a lost default style, NOT that clears nothing, a combo box whose type is mixed with the default one, texts
+// in the wrong code page, escapes that run into a following digit, and names that are not looked up.
+TEST_F(Compiler, WritesWhatTheScriptSays) {
+    const Result result = Compile("#include \"ids.h\"\n/* a\n comment */ 7 BITMAP \"a.svg\"\n"
+                                  "IDD_ONE DIALOGEX 1, 2, 100, 50, 3\nSTYLE WS_POPUP | WS_CAPTION\n"
+                                  "CAPTION \"Perch\u00e9 \"\"9\"\"\"\nFONT 8, \"MS Sans Serif\", 400, 0, 1\nBEGIN\n"
+                                  "  LTEXT \"\u00e01\", IDC_BACK, 0, 0, 10, 8, NOT WS_GROUP\n"
+                                  "  EDITTEXT 0x10, 0, 10, 10, 8, ES_RIGHT | NOT WS_TABSTOP\n"
+                                  "  COMBOBOX 17, 0, 20, 10, 8, CBS_DROPDOWN\n  COMBOBOX 18, 0, 30, 10, 8\n"
+                                  "  CONTROL 7, 65535, \"static\", SS_BITMAP, 20, 0, 10, 8\n"
+                                  "  CONTROL \"\", 19, \"MSCTLS_UPDOWN32\", UDS_AUTOBUDDY, 40, 0, 10, 8\nEND\n"
+                                  "5 MENU { POPUP \"&P\" { MENUITEM \"A\\tF2\", 6, GRAYED MENUITEM SEPARATOR } }\n");
+    ASSERT_EQ(result.status, 0) << result.errors;
+    const auto has = [&](const std::string& line) {
+        EXPECT_NE(result.output.find(line), std::string::npos) << line << "\nnot in\n" << result.output;
+    };
+    const DWORD shown = WS_CHILD | WS_VISIBLE;
+    has("{9001, 1, 2, 100, 50, \"Perch\\351 \\0429\\042\", " + Hex(WS_POPUP | WS_CAPTION | DS_SETFONT));
+    has("{Kind::Static, \"Static\", \"\\3401\", -1, 0, 0, 10, 8, " + Hex(shown) + ", 0x0u, 0}");
+    has("{Kind::Edit, \"Edit\", \"\", 16, 0, 10, 10, 8, " + Hex(shown | WS_BORDER | ES_RIGHT) + ", 0x0u, 0}");
+    has("17, 0, 20, 10, 8, " + Hex(shown | WS_TABSTOP | CBS_DROPDOWN));
+    has("18, 0, 30, 10, 8, " + Hex(shown | WS_TABSTOP | CBS_SIMPLE));
+    has("{Kind::Static, \"Static\", \"\", -1, 20, 0, 10, 8, " + Hex(shown | SS_BITMAP) + ", 0x0u, 7}");
+    has("{Kind::Custom, \"msctls_updown32\", \"\", 19, 40, 0, 10, 8, " + Hex(shown | UDS_AUTOBUDDY));
+    has("{0, \"&P\", false, true, 2, false, false}");
+    has("{6, \"A\\011F2\", false, false, 0, true, false}");
+    has("constexpr unsigned char bitmap7[] = {\n    60,115,118,103,47,62,");
+    EXPECT_NE(Get("out.d").find("ids.h"), std::string::npos);
+    EXPECT_NE(Get("out.d").find("a.svg"), std::string::npos);
+}
+
+// Catches a broken script that compiles, or a message without its place.
+TEST_F(Compiler, FaultsEndTheBuildWithTheirPlace) {
+    const std::array<std::pair<const char*, const char*>, 10> faults = {{
+        {"LTEXT \"a\", 5, 0, 0, 9, 8\nLTEXT \"b\", 5, 9, 0, 9, 8", "t.rc:5: control 5 is there twice in dialog 9001"},
+        {"EDITTEXT 5, 95, 0, 6, 8", "t.rc:4: control 5 reaches out of dialog 9001"},
+        {"EDITTEXT 5, 9, 0, 6, 8, ES_LEFTISH", "t.rc:4: unknown style ES_LEFTISH"},
+        {"CONTROL \"\", 5, \"Dial\", 0, 0, 0, 6, 8", "t.rc:4: unknown class \"Dial\""},
+        {"CONTROL 8, 5, \"Static\", SS_BITMAP, 0, 0, 6, 8", "t.rc:4: bitmap 8 is missing"},
+        {"LTEXT \"\u0416\", 5, 0, 0, 9, 8", "t.rc:4: \"\u0416\" has characters outside the code page"},
+        {"KNOB 5, 0, 0, 9, 8", "t.rc:4: unknown control KNOB"},
+        {"EDITTEXT IDC_NONE, 0, 0, 9, 8", "t.rc:4: expected a number or a defined name instead of \"IDC_NONE\""},
+        {"LTEXT \"a, 5, 0, 0, 9, 8", "t.rc:4: text without closing quote"},
+        {"EDITTEXT 5, 0, 0, 9", "t.rc:5: expected a comma instead of \"END\""},
+    }};
+    for (const auto& [controls, message] : faults) {
+        const Result result = CompileDialog(controls);
+        EXPECT_EQ(result.status, 1) << controls;
+        EXPECT_EQ(result.errors, std::string(message) + "\n");
+        EXPECT_EQ(result.output, "") << "an output was left for " << controls;
+    }
+}
+
+// The same for what stands outside dialogs, with the name of a faulty header.
+TEST_F(Compiler, FaultsOutsideDialogs) {
+    Put("bad.h", "\n#define IDC_X (1 + 2)\n");
+    const std::array<std::pair<const char*, const char*>, 7> faults = {{
+        {"7 BITMAP \"b.svg\"", "t.rc:1: cannot read b.svg"},
+        {"7 BITMAP \"ids.h\"", "t.rc:1: ids.h is no SVG picture"},
+        {"1 DIALOG 0,0,9,9 {}\n1 DIALOG 0,0,9,9 {}", "t.rc:2: dialog 1 is there twice"},
+        {"1 DIALOG 0, 0, 9, 9\nBEGIN\n", "t.rc:2: dialog 1 without END"},
+        {"1 CURSOR \"c\"", "t.rc:1: unknown kind of resource \"CURSOR\""},
+        {"#include \"bad.h\"", "bad.h:2: IDC_X is not defined as a number"},
+        {"#include \"none.h\"", "t.rc:1: cannot read none.h"},
+    }};
+    for (const auto& [script, message] : faults) {
+        const Result result = Compile(script);
+        EXPECT_EQ(result.status, 1) << script;
+        EXPECT_EQ(result.errors, std::string(message) + "\n");
+    }
+}
+
+} // namespace

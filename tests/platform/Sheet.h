@@ -1,0 +1,58 @@
+// A white sheet to draw on in memory, read back as rows of text.
+#pragma once
+
+#include "platform/DeviceContext.h"
+#include "platform/private/GdiData.h"
+#include "platform/private/PainterDC.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <optional>
+#include <string>
+
+// Rows from the first to the last that is not white, '#' for drawn and '.' for white pixels, each row ended by '/'.
+inline std::string drawnRows(const QImage& image) {
+    std::string all;
+    std::size_t used = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            all += image.pixel(x, y) == qRgb(255, 255, 255) ? '.' : '#';
+        all += '/';
+        if (all.find('#', used) != std::string::npos)
+            used = all.size();
+    }
+    return all.substr(0, used);
+}
+
+// The smallest rectangle around what is drawn, in device pixels.
+inline CRect drawnBox(const QImage& image) {
+    CRect box;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixel(x, y) != qRgb(255, 255, 255))
+                box |= CRect(x, y, x + 1, y + 1);
+    return box;
+}
+
+class Sheet {
+  public:
+    explicit Sheet(int width, int height, double scale = 1)
+        : m_image((QSizeF(width, height) * scale).toSize(), QImage::Format_ARGB32_Premultiplied) {
+        m_image.setDevicePixelRatio(scale);
+        m_image.fill(Qt::white);
+        m_painter.emplace(&m_image);
+        m_dc.emplace(*m_painter);
+    }
+
+    CDC* operator->() { return &*m_dc; }
+    CDC& dc() { return *m_dc; }
+    std::string rows() const { return drawnRows(m_image); }
+    CRect box() const { return drawnBox(m_image); }
+    const QImage& image() const { return m_image; }
+
+  private:
+    QImage m_image;
+    std::optional<QPainter> m_painter;
+    std::optional<platform::PainterDC> m_dc;
+};

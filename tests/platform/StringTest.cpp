@@ -1,0 +1,152 @@
+#include "platform/String.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <unordered_set>
+
+// Catches texts with accents that reach the screen or a file as two characters each.
+TEST(CodePage, ConvertsBothWays) {
+    EXPECT_EQ("perch\xe9 \x80 5 \x96 2"_t.GetLength(), 14) << "malformed sources give one '?' for each bad byte";
+    const CString text = "perché € 5 – 2"_t;
+    EXPECT_EQ(text, CString("perch\xe9 \x80 5 \x96 2"));
+    EXPECT_EQ(text.ToUtf8(), "perché € 5 – 2");
+    for (int byte = 1; byte < 256; ++byte) {
+        const CString one(static_cast<char>(byte));
+        const bool undefined = byte == 0x81 || byte == 0x8d || byte == 0x8f || byte == 0x90 || byte == 0x9d;
+        EXPECT_EQ(CString::FromUtf8(one.ToUtf8()), undefined ? CString("?") : one) << byte;
+    }
+}
+
+// Catches a converter that reads past a truncated sequence or lets foreign characters through as garbage.
+TEST(CodePage, ReplacesWhatItCannotHold) {
+    EXPECT_EQ(CString::FromUtf8("\xe6\xbc\xa2 x"), "? x");                    // a character outside the code page
+    EXPECT_EQ(CString::FromUtf8("\xf0\x9f\x98\x80"), "?");                    // beyond 16 bits
+    EXPECT_EQ(CString::FromUtf8("a\xc3"), "a?");                              // cut off
+    EXPECT_EQ(CString::FromUtf8("\xe2\x82z"), "?z");                          // cut short in the middle
+    EXPECT_EQ(CString::FromUtf8("\xc0\xaf\xff"), "???");                      // overlong, never a byte of UTF-8
+    EXPECT_EQ(CString::FromUtf8("\xed\xa0\x80"), "?");                        // half a surrogate pair
+    EXPECT_EQ(CString::FromUtf8("\xc2\x81"), "?");                            // undefined in the code page
+    EXPECT_EQ(CString::FromUtf8(std::string_view("a\0b", 3)).GetLength(), 3); // counted, not ended by 0
+}
+
+// Catches sorted lists that put "È" after "z" in one case and not in the other, and signs taken for letters.
+TEST(CodePage, KnowsTheCaseOfAccents) {
+    EXPECT_EQ("Più è çüÿšž ÷ß"_t.MakeUpper(), "PIÙ È ÇÜŸŠŽ ÷ß"_t);
+    EXPECT_EQ("PIÙ È ÇÜŸŠŽ ×"_t.MakeLower(), "più è çüÿšž ×"_t);
+    EXPECT_EQ("CITTÀ"_t.CompareNoCase("città"_t), 0);
+    EXPECT_LT(CString("trave").CompareNoCase("Trave 2"), 0);
+    EXPECT_LT(CString("a").CompareNoCase("\xe0"), 0) << "bytes compare unsigned";
+    EXPECT_NE(CString("a").Compare("A"), 0);
+}
+
+// Catches positions outside the text that read or cut foreign memory.
+TEST(String, PartsAreCutToTheText) {
+    const CString text("telaio");
+    EXPECT_EQ(text.Left(3), "tel");
+    EXPECT_EQ(text.Left(99), "telaio");
+    EXPECT_EQ(text.Left(-1), "");
+    EXPECT_EQ(text.Right(2), "io");
+    EXPECT_EQ(text.Right(99), "telaio");
+    EXPECT_EQ(text.Mid(2), "laio");
+    EXPECT_EQ(text.Mid(2, 2), "la");
+    EXPECT_EQ(text.Mid(6), "");
+    EXPECT_EQ(text.Mid(99, 2), "");
+    EXPECT_EQ(text.Mid(-2, 3), "tel");
+    EXPECT_EQ(text[0], 't');
+    EXPECT_EQ(text[6], '\0');
+    EXPECT_EQ(text.GetAt(-1), '\0');
+    CString changed = text;
+    changed.SetAt(6, 'x');
+    changed.SetAt(0, 'T');
+    EXPECT_EQ(changed, "Telaio");
+    EXPECT_EQ(CString(nullptr).GetLength(), 0);
+    EXPECT_EQ(CString("telaio", 3), "tel");
+    EXPECT_EQ(CString('x', 3), "xxx");
+}
+
+TEST(String, Searches) {
+    const CString path("C:\\lavori\\ponte.asg");
+    EXPECT_EQ(path.ReverseFind('\\'), 9);
+    EXPECT_EQ(path.Find('\\', 3), 9);
+    EXPECT_EQ(path.Find("ponte"), 10);
+    EXPECT_EQ(path.Find("ponte", 11), -1);
+    EXPECT_EQ(path.Find('x', 99), -1);
+    EXPECT_EQ(path.FindOneOf(".\\"), 2);
+    EXPECT_EQ(path.SpanExcluding(":"), "C");
+    EXPECT_EQ(CString("12ab").SpanIncluding("0123456789"), "12");
+    int at = 0;
+    const CString list(" a;;b ");
+    EXPECT_EQ(list.Tokenize("; ", at), "a");
+    EXPECT_EQ(list.Tokenize("; ", at), "b");
+    EXPECT_EQ(list.Tokenize("; ", at), "");
+    EXPECT_EQ(at, -1);
+}
+
+// Catches replacing that meets its own output, and changes whose count or length is wrong.
+TEST(String, Changes) {
+    CString text("a-b-a");
+    EXPECT_EQ(text.Replace("a", "aa"), 2);
+    EXPECT_EQ(text, "aa-b-aa");
+    EXPECT_EQ(text.Replace("", "x"), 0);
+    EXPECT_EQ(text.Replace('-', '+'), 2);
+    EXPECT_EQ(text.Remove('a'), 4);
+    EXPECT_EQ(text, "+b+");
+    EXPECT_EQ(text.Insert(1, "12"), 5);
+    EXPECT_EQ(text.Insert(99, 'z'), 6);
+    EXPECT_EQ(text.Delete(0, 3), 3);
+    EXPECT_EQ(text.Delete(2, 99), 2);
+    EXPECT_EQ(text, "b+");
+    EXPECT_EQ(CString(" \t x y \n").Trim(), "x y");
+    EXPECT_EQ(CString("   ").TrimRight(), "");
+    EXPECT_EQ(CString("00120").TrimLeft('0'), "120");
+    EXPECT_EQ(CString("abc").MakeReverse(), "cba");
+    text = "abc";
+    text = static_cast<const char*>(text) + 1; // its own bytes
+    EXPECT_EQ(text, "bc");
+    text += text;
+    EXPECT_EQ('<' + text + "> " + CString("x") + '!', "<bcbc> x!");
+    std::snprintf(text.GetBuffer(16), 17, "%d", 42);
+    text.ReleaseBuffer();
+    EXPECT_EQ(text, "42");
+}
+
+TEST(String, ComparesAndHashes) {
+    const CString a("a"), b("b");
+    EXPECT_TRUE(a == "a" && "a" == a && a != b && a < b && "b" > a && a <= "a" && !(b < a));
+    const std::unordered_set<CString> set = {"x", "y", "x"};
+    EXPECT_EQ(set.size(), 2u);
+}
+
+TEST(Format, FollowsPrintf) {
+    CString text;
+    text.Format("%d : %s", 4, "Vento +X"_t);
+    EXPECT_EQ(text, "4 : Vento +X");
+    text.Format("%5.2f|%-6d|%06d|%+g|%.3e|%X|%c|%%", 3.14159, 42, -42, 0.5, 12345.678, 255, 'z');
+    EXPECT_EQ(text, " 3.14|42    |-00042|+0.5|1.235e+04|FF|z|%");
+    text.Format("%.15g %g %u %x %ld %lu", 0.1, 1e21, 4000000000u, -1, -5L, 5UL);
+    EXPECT_EQ(text, "0.1 1e+21 4000000000 ffffffff -5 5");
+    text.Format("%*d|%-*s|%.*f", 4, 7, 3, "a", 1, 2.55);
+    EXPECT_EQ(text, "   7|a  |2.5");
+    text.AppendFormat(" %s", CString('x', 300));
+    EXPECT_EQ(text.GetLength(), 313) << "longer than any fixed buffer";
+}
+
+// Catches a wrong pairing of conversion and argument that prints foreign memory or crashes.
+TEST(Format, SurvivesWrongArguments) {
+    CString text;
+    text.Format("%d %s %g", 2.9, 7, 3);
+    EXPECT_EQ(text, "2 7 3");
+    text.Format("%d", std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(text, "0");
+    text.Format("[%s][%s]", static_cast<const char*>(nullptr));
+    EXPECT_EQ(text, "[][]");
+    text.Format("100%");
+    EXPECT_EQ(text, "100");
+    text.Format("a%n%yb");
+    EXPECT_EQ(text, "ab");
+    text.Format("%99999999999d", 1);
+    EXPECT_EQ(text.GetLength(), 9999);
+    text.Format("%s", text); // the old text is the argument
+    EXPECT_EQ(text.GetLength(), 9999);
+}

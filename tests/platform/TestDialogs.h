@@ -1,0 +1,57 @@
+// Small templates of the window layer's own tests.
+#pragma once
+
+#include "platform/Dialog.h"
+#include "platform/Resource.h"
+
+#include <vector>
+
+// Puts one dialog template, number 1, at the head of the resource chain while it lives.
+class TestTemplate {
+  public:
+    explicit TestTemplate(std::vector<platform::ControlTemplate> controls,
+                          DWORD style = WS_POPUP | WS_CAPTION | WS_VISIBLE, int cx = 200, int cy = 120)
+        : m_controls(std::move(controls)),
+          m_dialog{1, 0, 0, cx, cy, "Prova", style, 0, "MS Sans Serif", 8, 0, m_controls},
+          m_module{"tests", {&m_dialog, 1}, {}, {}, {}} {
+        platform::SetHostResources(&m_module);
+    }
+    ~TestTemplate() { platform::SetHostResources(nullptr); }
+    TestTemplate(const TestTemplate&) = delete;
+    TestTemplate& operator=(const TestTemplate&) = delete;
+
+  private:
+    std::vector<platform::ControlTemplate> m_controls;
+    platform::DialogTemplate m_dialog;
+    platform::ResourceModule m_module;
+};
+
+// Controls of a template, one below the other unless a place is given.
+class ControlRows {
+  public:
+    ControlRows& edit(int id, DWORD style = 0) {
+        return add("EDIT", "", id, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL | style);
+    }
+    ControlRows& label(const char* text, int id = -1) { return add("STATIC", text, id, WS_GROUP); }
+    ControlRows& button(const char* text, int id, DWORD style = BS_PUSHBUTTON) {
+        return add("BUTTON", text, id, WS_TABSTOP | style);
+    }
+    ControlRows& radio(const char* text, int id, bool first = false) {
+        return add("BUTTON", text, id, BS_AUTORADIOBUTTON | (first ? WS_GROUP | WS_TABSTOP : 0u));
+    }
+    ControlRows& add(const char* className, const char* text, int id, DWORD style) {
+        m_controls.push_back({platform::ControlTemplate::Kind::Custom, className, text, id, 5, m_y, 80, 12,
+                              WS_CHILD | WS_VISIBLE | style, 0, 0});
+        m_y += 14;
+        return *this;
+    }
+    ControlRows& disabled() {
+        m_controls.back().style |= WS_DISABLED;
+        return *this;
+    }
+    operator std::vector<platform::ControlTemplate>() const { return m_controls; }
+
+  private:
+    std::vector<platform::ControlTemplate> m_controls;
+    int m_y = 5;
+};

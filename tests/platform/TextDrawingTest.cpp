@@ -1,0 +1,140 @@
+#include "tests/platform/Sheet.h"
+
+#include "platform/private/Fonts.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+int widthOf(const char* face, int tenths, const CString& text) {
+    CFont font;
+    font.CreatePointFont(tenths, face);
+    CDC dc;
+    dc.SelectObject(&font);
+    return dc.GetTextExtent(text).cx;
+}
+
+} // namespace
+
+// Catches a machine without the substitutes, where another face changes every layout: the advances of these letters in
+// the classic faces are known (1479, 1139, 455, 455 and 1139 of 2048 to the em).
+TEST(Fonts, HaveTheClassicAdvances) {
+    EXPECT_EQ(widthOf("Arial", 7500, "Hello"), 2279);
+    EXPECT_EQ(widthOf("MS Sans Serif", 7500, "Hello"), 2279);
+    EXPECT_NEAR(widthOf("Arial Narrow", 7500, "Hello"), 2279 * 0.82, 4);
+    EXPECT_GT(widthOf("Arial Black", 7500, "Hello"), 2279);
+    EXPECT_EQ(widthOf("Courier New", 7500, "il"), widthOf("Courier New", 7500, "MW"));
+    EXPECT_EQ(widthOf("Arial", 7500, "\xe0"), widthOf("Arial", 7500, "a")) << "an accent changes no advance";
+    EXPECT_EQ(widthOf("Arial", 80, ""), 0);
+}
+
+TEST(Fonts, SizesAreInTenthsOfAPointOrPixels) {
+    CFont font;
+    LOGFONT description;
+    EXPECT_FALSE(font.GetLogFont(&description));
+    font.CreatePointFont(80, "Arial");
+    ASSERT_TRUE(font.GetLogFont(&description));
+    EXPECT_EQ(description.lfHeight, -11);
+    EXPECT_STREQ(description.lfFaceName, "Arial");
+    CDC dc;
+    TEXTMETRIC metrics;
+    dc.SelectObject(&font);
+    dc.GetTextMetrics(&metrics);
+    EXPECT_EQ(metrics.tmHeight, 13) << "the dialog font's base unit";
+    EXPECT_EQ(metrics.tmAscent + metrics.tmDescent, 13);
+    EXPECT_EQ(metrics.tmWeight, 400);
+    description.lfHeight = 40; // of the cell, not of the em square
+    description.lfWeight = FW_BOLD;
+    font.CreateFontIndirect(&description);
+    dc.SelectObject(&font);
+    dc.GetTextMetrics(&metrics);
+    EXPECT_NEAR(metrics.tmHeight, 40, 1);
+    EXPECT_EQ(metrics.tmWeight, 700);
+    EXPECT_EQ(platform::toolkitFont("Arial Black", 11, 400).weight(), 900);
+    EXPECT_EQ(platform::toolkitFont(nullptr, 0).pixelSize(), 11);
+}
+
+// Catches labels that stand beside their place, and boxes of background that cover what is below a label.
+TEST(Text, KeepsItsAlignmentAndBackground) {
+    const auto boxOf = [](UINT align) {
+        Sheet sheet(60, 40);
+        sheet->SetTextAlign(align);
+        sheet->SetBkColor(RGB(200, 200, 200)); // opaque is the mode at the start
+        sheet->TextOut(30, 20, "IMI");
+        return sheet.box();
+    };
+    CDC dc;
+    const CSize size = dc.GetTextExtent("IMI");
+    EXPECT_EQ(boxOf(TA_LEFT), CRect(CPoint(30, 20), size));
+    EXPECT_EQ(boxOf(TA_RIGHT), CRect(CPoint(30 - size.cx, 20), size));
+    EXPECT_EQ(boxOf(TA_CENTER), CRect(CPoint(30 - size.cx / 2, 20), size));
+    EXPECT_EQ(boxOf(TA_BOTTOM), CRect(CPoint(30, 20 - size.cy), size));
+    EXPECT_EQ(boxOf(TA_BASELINE).top, 20 - 10);
+    Sheet sheet(60, 40);
+    sheet->SetBkMode(TRANSPARENT);
+    sheet->SetTextColor(RGB(255, 0, 0));
+    sheet->TextOut(30, 20, "I");
+    EXPECT_LT(sheet.box().Width(), dc.GetTextExtent("I").cx);
+    EXPECT_EQ(sheet.box().bottom, 30) << "a capital stands on the baseline";
+    sheet->SetTextAlign(TA_UPDATECP);
+    sheet->MoveTo(2, 2);
+    sheet->TextOut(0, 0, "IMI");
+    EXPECT_EQ(sheet->GetCurrentPosition(), CPoint(2 + size.cx, 2));
+}
+
+TEST(Text, TurnsCounterclockwise) {
+    LOGFONT description;
+    description.lfHeight = -11;
+    description.lfEscapement = 900;
+    CFont upwards;
+    upwards.CreateFontIndirect(&description);
+    Sheet sheet(60, 60);
+    sheet->SetBkMode(TRANSPARENT);
+    sheet->SelectObject(&upwards);
+    sheet->TextOut(30, 40, "IIIIIIII");
+    EXPECT_LE(sheet.box().bottom, 40);
+    EXPECT_GE(sheet.box().left, 30);
+    EXPECT_GT(sheet.box().Height(), sheet.box().Width());
+}
+
+TEST(Text, DrawTextPlacesLines) {
+    CDC dc;
+    const int height = dc.GetTextExtent("x").cy;
+    CRect rect(10, 10, 60, 100);
+    EXPECT_EQ(dc.DrawText("uno\r\ndue\ntre", &rect, DT_CALCRECT), 3 * height);
+    EXPECT_EQ(rect,
+              CRect(10, 10, 10 + std::max({dc.GetTextExtent("uno").cx, dc.GetTextExtent("due").cx}), 10 + 3 * height));
+    const int word = dc.GetTextExtent("parola").cx;
+    rect = CRect(0, 0, 2 * word, 10); // two words and the blank between them do not fit
+    EXPECT_EQ(dc.DrawText("parola parola parola", &rect, DT_CALCRECT | DT_WORDBREAK), 3 * height);
+    EXPECT_EQ(rect.Width(), word);
+    rect = CRect(0, 0, 1, 1);
+    EXPECT_EQ(dc.DrawText("a\nb", &rect, DT_CALCRECT | DT_SINGLELINE), height);
+    rect = CRect(0, 0, 1, 1);
+    dc.DrawText("&Nuovo && altro", &rect, DT_CALCRECT);
+    EXPECT_EQ(rect.Width(), dc.GetTextExtent("Nuovo & altro").cx);
+    rect = CRect(0, 0, 1, 1);
+    dc.DrawText("a&b", &rect, DT_CALCRECT | DT_NOPREFIX);
+    EXPECT_EQ(rect.Width(), dc.GetTextExtent("a&b").cx);
+}
+
+TEST(Text, DrawTextAlignsAndClips) {
+    const CRect frame(10, 10, 70, 50);
+    const auto boxOf = [&](const CString& text, UINT format) {
+        Sheet sheet(90, 60);
+        sheet->SetBkColor(RGB(200, 200, 200));
+        CRect rect = frame;
+        sheet->DrawText(text, rect, format);
+        return sheet.box();
+    };
+    CDC dc;
+    const CSize size = dc.GetTextExtent("IMI");
+    EXPECT_EQ(boxOf("IMI", DT_SINGLELINE | DT_CENTER | DT_VCENTER),
+              CRect(CPoint(10 + (60 - size.cx) / 2, 10 + (40 - size.cy) / 2), size));
+    EXPECT_EQ(boxOf("IMI", DT_SINGLELINE | DT_RIGHT | DT_BOTTOM), CRect(CPoint(70 - size.cx, 50 - size.cy), size));
+    EXPECT_EQ(boxOf("IMI", DT_RIGHT | DT_BOTTOM).top, 10) << "several lines start at the top";
+    const CString wide('M', 30);
+    EXPECT_EQ(boxOf(wide, DT_SINGLELINE).right, 70);
+    EXPECT_EQ(boxOf(wide, DT_SINGLELINE | DT_NOCLIP).right, 90);
+    EXPECT_LE(boxOf(wide, DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOCLIP).right, 70);
+}

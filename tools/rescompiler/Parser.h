@@ -1,0 +1,29 @@
+// Reads one script's resources into the tables.
+#pragma once
+
+#include "tools/rescompiler/Tables.h"
+#include "tools/rescompiler/TokenReader.h"
+
+namespace rescompiler {
+
+class Parser {
+  public:
+    // Both must outlive the parser; what the script declares is appended to the tables.
+    Parser(const Script& script, Tables& tables) : reader_(script), tables_(tables) {}
+
+    // Throws ScriptError at the first fault.
+    void Parse();
+
+  private:
+    void ParseResource();
+    void ParseMenu(int id, const Place& place);
+    int ParseMenuItems(Menu& menu);
+    void ParseMenuItem(Menu& menu);
+    void ParseMenuFlags(MenuItem& item);
+    Picture ParsePicture(int id, const Place& place);
+
+    TokenReader reader_;
+    Tables& tables_;
+};
+
+} // namespace rescompiler

@@ -1,0 +1,23 @@
+// Names of styles and window classes that every script knows.
+#pragma once
+
+#include "platform/Resource.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace rescompiler {
+
+// Value of a style or language name; nothing when there is no such name.
+std::optional<std::uint32_t> StyleValue(const std::string& name);
+
+struct WindowClass {
+    platform::ControlTemplate::Kind kind;
+    const char* name; // in the spelling of the window layer
+};
+
+// Class of that name without regard to case; nothing for one that the window layer does not make.
+std::optional<WindowClass> FindWindowClass(const std::string& name);
+
+} // namespace rescompiler

@@ -1,0 +1,46 @@
+// Walks a script's tokens and reads the values that every statement is made of.
+#pragma once
+
+#include "tools/rescompiler/Script.h"
+
+#include <cstdint>
+#include <string>
+
+namespace rescompiler {
+
+class TokenReader {
+  public:
+    // The script must outlive the reader.
+    explicit TokenReader(const Script& script) : script_(script) {}
+
+    const Token& Peek() const { return script_.Tokens()[at_]; }
+    const Token& Take();
+    bool AtEnd() const { return Peek().kind == Token::Kind::End; }
+
+    // Words are told apart without regard to case. The Accept functions take the token only when it is the one asked
+    // for; the Expect functions throw ScriptError otherwise.
+    bool AcceptWord(const char* word);
+    bool AcceptMark(char mark);
+    void ExpectComma();
+    std::string ExpectText();
+    // BEGIN or {, END or }.
+    void ExpectBegin();
+    bool AcceptEnd();
+
+    // A number, a defined name or "-" and a number.
+    int ExpectNumber();
+    bool AtNumber() const;
+
+    // Style names and numbers joined by |, any of them after NOT: sets the ones named and clears those after NOT.
+    // `base` is what the statement sets by itself.
+    std::uint32_t ExpectStyle(std::uint32_t base);
+
+  private:
+    std::uint32_t StyleTerm();
+    [[noreturn]] void FailExpected(const std::string& what) const;
+
+    const Script& script_;
+    std::size_t at_ = 0;
+};
+
+} // namespace rescompiler

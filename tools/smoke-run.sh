@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Runs "PROGRAM --smoke" on a virtual X display with a window manager, without which no window gets the focus there.
+# The program's status is this script's; one that hangs is ended after two minutes.
+set -euo pipefail
+
+if [ "${1:-}" != inside ]; then
+    exec xvfb-run -a -s "-screen 0 1280x1024x24" "$0" inside "$1"
+fi
+
+openbox --sm-disable &
+manager=$!
+trap 'kill "$manager" 2>/dev/null || true' EXIT
+sleep 1 # until the window manager has taken the display over
+QT_QPA_PLATFORM=xcb timeout --kill-after=10 120 "$2" --smoke
