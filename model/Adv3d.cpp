@@ -1,0 +1,209 @@
+#include "model/Adv3d.h"
+
+#include "model/TipoElemento.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+// Of the eye's distance: what comes nearer is cut off, or it would be torn to infinity.
+constexpr double nearLimit = 0.98;
+constexpr double defaultSide = 1000; // pixels, while there is no viewport
+
+struct Standard {
+    CFPoint right, up;
+};
+
+Standard standard(Adv3d::Direzione direzione) {
+    switch (direzione) {
+    case Adv3d::Alto:
+        return {{1, 0, 0}, {0, 1, 0}};
+    case Adv3d::Basso:
+        return {{1, 0, 0}, {0, -1, 0}};
+    case Adv3d::Fronte:
+        return {{1, 0, 0}, {0, 0, 1}};
+    case Adv3d::Retro:
+        return {{-1, 0, 0}, {0, 0, 1}};
+    case Adv3d::Destra:
+        return {{0, 1, 0}, {0, 0, 1}};
+    case Adv3d::Sinistra:
+        return {{0, -1, 0}, {0, 0, 1}};
+    default:
+        return {{1, 1, 0}, {-1, 1, 2}};
+    }
+}
+
+// A turn by a right angle and its multiples is exact, so that four of them give the first view again.
+void turn(double degrees, double& cosine, double& sine) {
+    const double radians = std::remainder(degrees, 360.0) * std::numbers::pi / 180;
+    cosine = std::cos(radians);
+    sine = std::sin(radians);
+    if (std::abs(cosine) < 1e-15)
+        cosine = 0;
+    if (std::abs(sine) < 1e-15)
+        sine = 0;
+}
+
+} // namespace
+
+CPoint Adv3d::Punto::pixel() const {
+    // Far outside the window a coordinate may exceed an int; there it only has to stay outside.
+    const auto whole = [](double value) { return static_cast<int>(std::floor(std::clamp(value, -1e8, 1e8) + 0.5)); };
+    return {whole(x), whole(y)};
+}
+
+Adv3d::Adv3d() {
+    SetDirezione(Assonometria);
+    GetSettings(TipoElemento::Nodo).SetColore(RGB(30, 60, 160));
+    GetSettings(TipoElemento::Trave).SetColore(RGB(50, 50, 60));
+    GetSettings(TipoElemento::Asta).SetColore(RGB(0, 120, 80));
+    GetSettings(TipoElemento::Solaio).SetColore(RGB(120, 150, 190));
+    GetSettings(TipoElemento::Setto).SetColore(RGB(190, 160, 110));
+    place();
+}
+
+void Adv3d::rotate(int axisA, int axisB, double degrees) {
+    double c = 1, s = 0;
+    turn(degrees, c, s);
+    CFPoint& a = m_axes[static_cast<std::size_t>(axisA)];
+    CFPoint& b = m_axes[static_cast<std::size_t>(axisB)];
+    const CFPoint turned = a * c - b * s;
+    b = a * s + b * c;
+    a = turned;
+    SetAssi(m_axes[0], m_axes[1]); // thousands of small turns by the mouse must not shear the view
+}
+
+void Adv3d::vista_ruotax(double gradi) {
+    rotate(1, 2, gradi);
+}
+
+void Adv3d::vista_ruotay(double gradi) {
+    rotate(2, 0, gradi);
+}
+
+void Adv3d::vista_ruotaz(double gradi) {
+    rotate(0, 1, gradi);
+}
+
+void Adv3d::SetDirezione(Direzione direzione) {
+    const Standard axes = standard(direzione);
+    SetAssi(axes.right, axes.up);
+}
+
+CFPoint Adv3d::GetAsse(int i) const {
+    return m_axes[static_cast<std::size_t>(std::clamp(i, 0, 2))];
+}
+
+void Adv3d::SetAssi(CFPoint destra, CFPoint alto) {
+    CFPoint towardsEye = Cross(destra, alto);
+    if (!destra.Normalize() || !towardsEye.Normalize())
+        return;
+    m_axes = {destra, Cross(towardsEye, destra), towardsEye};
+}
+
+void Adv3d::SetViewport(const CRect& rect) {
+    m_viewport = rect;
+    place();
+}
+
+void Adv3d::SetTarget(CFPoint punto) {
+    if (punto.IsFinite())
+        m_target = punto;
+}
+
+void Adv3d::SetPan(double dx, double dy) {
+    m_panX = dx;
+    m_panY = dy;
+    place();
+}
+
+void Adv3d::SetScala(double pixelPerUnita) {
+    if (pixelPerUnita > 0 && std::isfinite(pixelPerUnita))
+        m_scale = pixelPerUnita;
+}
+
+void Adv3d::SetDistanzaOcchio(double multiplo) {
+    if (multiplo > 0 && std::isfinite(multiplo))
+        m_eyeMultiple = multiplo;
+}
+
+void Adv3d::place() {
+    m_originX = (m_viewport.left + m_viewport.right) / 2.0 + m_panX;
+    m_originY = (m_viewport.top + m_viewport.bottom) / 2.0 + m_panY;
+}
+
+void Adv3d::Zoom(double fattore, CPoint fermo) {
+    if (!(fattore > 0) || !std::isfinite(m_scale * fattore) || m_scale * fattore < 1e-12)
+        return;
+    m_scale *= fattore;
+    SetPan(m_panX + (fermo.x - m_originX) * (1 - fattore), m_panY + (fermo.y - m_originY) * (1 - fattore));
+}
+
+void Adv3d::FitToBounds(CFPoint minimo, CFPoint massimo, int margine) {
+    if (!minimo.IsFinite() || !massimo.IsFinite())
+        return;
+    SetTarget((minimo + massimo) * 0.5);
+    SetPan(0, 0);
+    const CFPoint half = (massimo - minimo) * 0.5;
+    const auto reach = [&](const CFPoint& axis) {
+        return std::abs(axis.x * half.x) + std::abs(axis.y * half.y) + std::abs(axis.z * half.z);
+    };
+    const double width = std::max(m_viewport.Width() - 2.0 * margine, 10.0) / 2;
+    const double height = std::max(m_viewport.Height() - 2.0 * margine, 10.0) / 2;
+    const double across = reach(m_axes[0]), up = reach(m_axes[1]), deep = reach(m_axes[2]);
+    const double largest = std::max(across / width, up / height);
+    if (!(largest > 0) || !std::isfinite(largest)) {
+        if (deep > 0) // a line that is seen end on
+            SetScala(std::min(width, height) / deep);
+        return;
+    }
+    SetScala(1 / largest);
+    if (!m_perspective)
+        return;
+    // The near corners are drawn larger; the eye's distance in length units grows as the scale shrinks.
+    const double side = m_viewport.IsRectEmpty() ? defaultSide : std::max(m_viewport.Width(), m_viewport.Height());
+    const double eye = m_eyeMultiple * side;
+    SetScala(eye / (eye * largest + deep));
+}
+
+Adv3d::Punto Adv3d::projectEye(double ex, double ey, double ez) const {
+    double scale = m_scale;
+    if (m_perspective) {
+        const double side = m_viewport.IsRectEmpty() ? defaultSide : std::max(m_viewport.Width(), m_viewport.Height());
+        const double eye = m_eyeMultiple * side / m_scale;
+        if (!(ez <= eye * nearLimit))
+            return {0, 0, ez, false};
+        scale *= eye / (eye - ez);
+    }
+    const double x = m_originX + ex * scale;
+    const double y = m_originY - ey * scale;
+    return {x, y, ez, std::isfinite(x) && std::isfinite(y)};
+}
+
+Adv3d::Punto Adv3d::Project(const CFPoint& punto) const {
+    const double dx = punto.x - m_target.x, dy = punto.y - m_target.y, dz = punto.z - m_target.z;
+    const auto along = [&](const CFPoint& axis) { return axis.x * dx + axis.y * dy + axis.z * dz; };
+    return projectEye(along(m_axes[0]), along(m_axes[1]), along(m_axes[2]));
+}
+
+CFPoint Adv3d::Unproject(CPoint pixel, const CFPoint& piano) const {
+    const double perPixel = GetUnitaPerPixel(piano);
+    const double ex = (pixel.x - m_originX) * perPixel;
+    const double ey = (m_originY - pixel.y) * perPixel;
+    return m_target + m_axes[0] * ex + m_axes[1] * ey + m_axes[2] * GetProfondita(piano);
+}
+
+double Adv3d::GetUnitaPerPixel(const CFPoint& punto) const {
+    if (!m_perspective)
+        return 1 / m_scale;
+    const double side = m_viewport.IsRectEmpty() ? defaultSide : std::max(m_viewport.Width(), m_viewport.Height());
+    const double eye = m_eyeMultiple * side / m_scale;
+    const double depth = std::min(GetProfondita(punto), eye * nearLimit);
+    return (eye - depth) / eye / m_scale;
+}
+
+CElementoSettings& Adv3d::GetSettings(unsigned tipo) {
+    return m_settings[tipo < m_settings.size() ? tipo : 0];
+}

@@ -1,0 +1,51 @@
+// A load case and the loads that it owns.
+#pragma once
+
+#include "model/Carico.h"
+#include "model/ElementoStrutturale.h"
+#include "model/PositionIndex.h"
+
+#include <memory>
+#include <vector>
+
+class CCasoCarico : public CElementoStrutturale {
+    DECLARE_DYNCREATE(CCasoCarico)
+
+    using CElementoStrutturale::operator=;
+
+    CCasoCarico() : CElementoStrutturale(TipoElemento::CasoCarico) {}
+    CCasoCarico(const CCasoCarico& altro);
+    CCasoCarico& operator=(const CCasoCarico& altro) {
+        operator=(source(altro));
+        return *this;
+    }
+    // Copies the loads, each under its own number. The loads that were here are deleted: nothing may refer to them.
+    CElemento& operator=(CElemento& altro) override;
+
+    void SetID(int id) override; // the loads follow
+
+    // Takes the load over, gives it this case and, when its number is 0 or taken, a new number; returns that number. 0
+    // for null, which is not taken.
+    int AddCarico(CCarico* pCarico);
+    // By number, null when there is none; the index goes through pIndex unless that is null (-1 when there is none).
+    CCarico* GetCarico(int id, int* pIndex);
+    int GetSizeCarichi() const { return static_cast<int>(m_carichi.size()); }
+    CCarico* GetIndexCarico(int i); // null for an index outside
+    // Deletes a load; elements must have let it go. 0 when there is none.
+    int EliminaCarico(int id);
+    void EliminaCarichi();
+    // Gives a load back to the caller, who owns it then; null when there is none.
+    std::unique_ptr<CCarico> StaccaCarico(int id);
+
+    void ChangeLunghezza(Lunghezza lunghezza) override;
+    void ChangeForza(Forza forza) override;
+    void SetLunghezza(Lunghezza lunghezza) override;
+    void SetForza(Forza forza) override;
+
+  private:
+    void copyLoads(CCasoCarico& altro);
+
+    std::vector<std::unique_ptr<CCarico>> m_carichi;
+    PositionIndex m_posizioni;
+    int m_nUltimo = 0; // the highest number given
+};

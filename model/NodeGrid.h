@@ -1,0 +1,62 @@
+// Nodes by position: the node within a tolerance of a point, in constant time for any number of nodes.
+//
+// Space is divided into cells about as large as the tolerance that is asked for. Each order of magnitude of tolerance
+// gets a division of its own, made when it is first asked for and kept while nodes come, move and go.
+#pragma once
+
+#include "model/FPoint.h"
+
+#include <cstdint>
+#include <vector>
+
+class CNodo;
+
+class NodeGrid {
+  public:
+    NodeGrid() = default;
+    ~NodeGrid(); // lets its nodes go
+    NodeGrid(const NodeGrid&) = delete;
+    NodeGrid& operator=(const NodeGrid&) = delete;
+
+    // False for null, a node of some grid already, or coordinates that are no numbers. The node is not owned; it leaves
+    // by itself when it is deleted and is found at its new place after CNodo::SetPunto.
+    bool Insert(CNodo* node);
+    bool Remove(CNodo* node); // false when the node is not in this grid
+    void Clear();
+    int GetSize() const { return m_count; }
+
+    // The nearest node within the tolerance (length units, the limit included), other than `excluded` (null excludes
+    // none); of equally near ones that with the lowest identifier. Null when there is none. A negative tolerance finds
+    // nothing, 0 finds nodes at exactly the point.
+    CNodo* Find(const CFPoint& point, const CNodo* excluded, double tolerance) const;
+
+  private:
+    friend class CNodo;
+
+    static constexpr std::uint32_t kNone = 0xffffffffu;
+
+    // One division of space. A node is in the chain of the bucket that its cell hashes to.
+    struct Level {
+        double cell = 0; // size of a cell, length units
+        std::uint64_t used = 0;
+        std::vector<std::uint32_t> buckets; // first slot of each chain; the size is a power of two
+        struct Link {
+            std::uint32_t next = kNone;
+            std::uint32_t previous = kNone;
+            std::uint32_t bucket = kNone;
+        };
+        std::vector<Link> links; // by slot
+    };
+
+    void move(CNodo* node, const CFPoint& point);
+    void link(Level& level, std::uint32_t slot) const;
+    static void unlink(Level& level, std::uint32_t slot);
+    void build(Level& level) const;
+    Level& levelFor(double tolerance) const;
+
+    std::vector<CNodo*> m_slots; // null in a free one
+    std::vector<std::uint32_t> m_free;
+    int m_count = 0;
+    mutable std::vector<Level> m_levels;
+    mutable std::uint64_t m_clock = 0;
+};

@@ -1,0 +1,171 @@
+// The projection: where points land, and what the views do with it.
+#include "model/Adv3d.h"
+#include "model/Adv3dRect.h"
+#include "tests/model/SmallModel.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+void expectPixel(const Adv3d& view, const CFPoint& point, double x, double y) {
+    const Adv3d::Punto p = view.Project(point);
+    EXPECT_TRUE(p.visible);
+    EXPECT_NEAR(p.x, x, 1e-9);
+    EXPECT_NEAR(p.y, y, 1e-9);
+}
+
+Adv3d front() {
+    Adv3d view;
+    view.SetViewport(CRect(0, 0, 400, 300));
+    view.SetDirezione(Adv3d::Fronte);
+    view.SetScala(10);
+    return view;
+}
+
+// Faults: the picture upside down, left for right, near for far, in any standard direction.
+TEST(ProjectionTest, StandardDirections) {
+    Adv3d view = front();
+    expectPixel(view, {0, 0, 0}, 200, 150);
+    expectPixel(view, {3, 5, 2}, 230, 130);
+    EXPECT_GT(view.GetProfondita({0, -1, 0}), view.GetProfondita({0, 1, 0})); // the eye stands at negative Y
+    view.SetDirezione(Adv3d::Alto);
+    expectPixel(view, {3, 5, 2}, 230, 100);
+    EXPECT_GT(view.GetProfondita({0, 0, 1}), 0);
+    view.SetDirezione(Adv3d::Destra);
+    expectPixel(view, {3, 5, 2}, 250, 130);
+    view.SetDirezione(Adv3d::Sinistra);
+    expectPixel(view, {3, 5, 2}, 150, 130);
+    view.SetDirezione(Adv3d::Retro);
+    expectPixel(view, {3, 5, 2}, 170, 130);
+    view.SetDirezione(Adv3d::Basso);
+    expectPixel(view, {3, 5, 2}, 230, 200);
+    view.SetDirezione(Adv3d::Assonometria);
+    EXPECT_LT(view.Project({0, 0, 1}).y, view.Project({0, 0, 0}).y);
+    EXPECT_GT(view.Project({1, 0, 0}).x, view.Project({0, 0, 0}).x);
+    EXPECT_GT(view.Project({0, 1, 0}).x, view.Project({0, 0, 0}).x);
+}
+
+// Faults: radians for degrees, a turn the wrong way round, axes that drift apart after many small turns.
+TEST(ProjectionTest, RotationsAboutTheScreenAxes) {
+    Adv3d view = front();
+    view.vista_ruotaz(90); // counter-clockwise: what points right points up
+    expectPixel(view, {1, 0, 0}, 200, 140);
+    view = front();
+    view.vista_ruotax(90); // what points up comes towards the eye
+    EXPECT_NEAR(view.GetProfondita({0, 0, 1}), 1, 1e-12);
+    view = front();
+    view.vista_ruotay(90); // what comes towards the eye points right
+    expectPixel(view, {0, -1, 0}, 210, 150);
+
+    view = front();
+    for (int i = 0; i < 36000; ++i) {
+        view.vista_ruotax(0.37);
+        view.vista_ruotay(-0.11);
+    }
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_NEAR(view.GetAsse(i).GetMod(), 1, 1e-12);
+        EXPECT_NEAR(Dot(view.GetAsse(i), view.GetAsse((i + 1) % 3)), 0, 1e-12);
+    }
+    const CFPoint before = view.GetAsse(0);
+    view.SetAssi(CFPoint(0, 0, 1), CFPoint(0, 0, -2));
+    EXPECT_EQ(view.GetAsse(0), before);
+}
+
+// Faults: the point under the mouse slides away while zooming; a model that does not fit, or is a dot in the middle.
+TEST(ProjectionTest, ZoomKeepsItsPointAndFitShowsAll) {
+    for (int perspective : {0, 1}) {
+        Adv3d view = front();
+        view.SetProspettiva(perspective);
+        const CFPoint held = view.Unproject(CPoint(320, 90), view.GetTarget());
+        view.Zoom(1.7, CPoint(320, 90));
+        expectPixel(view, held, 320, 90);
+        view.Zoom(0, CPoint(1, 1));
+        view.Zoom(-2, CPoint(1, 1));
+        expectPixel(view, held, 320, 90);
+
+        view.SetDirezione(Adv3d::Assonometria);
+        view.FitToBounds({-10, 0, 0}, {30, 20, 12}, 20);
+        double left = 1e9, right = -1e9, top = 1e9, bottom = -1e9;
+        for (int i = 0; i < 8; ++i) {
+            const Adv3d::Punto p = view.Project({i & 1 ? -10.0 : 30.0, i & 2 ? 0.0 : 20.0, i & 4 ? 0.0 : 12.0});
+            ASSERT_TRUE(p.visible);
+            left = std::min(left, p.x), right = std::max(right, p.x);
+            top = std::min(top, p.y), bottom = std::max(bottom, p.y);
+        }
+        EXPECT_GE(left, 20 - 1e-6);
+        EXPECT_LE(right, 380 + 1e-6);
+        EXPECT_GE(top, 20 - 1e-6);
+        EXPECT_LE(bottom, 280 + 1e-6);
+        EXPECT_TRUE(right - left > 300 || bottom - top > 200);
+    }
+    Adv3d view = front();
+    view.FitToBounds({5, 5, 5}, {5, 5, 5});
+    EXPECT_EQ(view.GetScala(), 10);
+    expectPixel(view, {5, 5, 5}, 200, 150);
+    view.FitToBounds({std::nan(""), 0, 0}, {1, 1, 1});
+    EXPECT_EQ(view.GetTarget(), CFPoint(5, 5, 5));
+}
+
+// Faults: near things smaller than far ones, points behind the eye mirrored into the picture, picking off the plane.
+TEST(ProjectionTest, Perspective) {
+    Adv3d view = front();
+    view.SetProspettiva(1);
+    const double near = view.Project({5, -10, 0}).x - 200, far = view.Project({5, 10, 0}).x - 200;
+    EXPECT_GT(near, 50);
+    EXPECT_LT(far, 50);
+    EXPECT_FALSE(view.Project({5, -1e4, 0}).visible);
+    EXPECT_FALSE(view.Project({std::nan(""), 0, 0}).visible);
+    const CFPoint point(3, -7, 2);
+    const Adv3d::Punto p = view.Project(point);
+    const CFPoint back = view.Unproject(p.pixel(), point);
+    EXPECT_NEAR((back - point).GetMod(), 0, view.GetUnitaPerPixel(point));
+    EXPECT_NEAR(view.Project(point + CFPoint(view.GetUnitaPerPixel(point), 0, 0)).x, p.x + 1, 1e-6);
+}
+
+// Faults: a click just beside a line or inside a wall that misses; a frame that takes what only crosses it; hidden
+// things picked; a region that does not cover what it stands for.
+TEST(HitTest, ClicksAndFrames) {
+    SmallModel m;
+    Adv3d view = front();
+    CNodo &a = m.node(0, 0, 0), &b = m.node(5, 0, 0), &c = m.node(5, 0, 5), &d = m.node(0, 0, 5);
+    CTrave& beam = m.beam(a, b);
+    CSetto& wall = m.polygon<CSetto>({&a, &b, &c, &d});
+    EXPECT_TRUE(a.PtIn(CPoint(204, 147), &view));
+    EXPECT_FALSE(a.PtIn(CPoint(207, 150), &view));
+    EXPECT_TRUE(beam.PtIn(CPoint(225, 153), &view));
+    EXPECT_FALSE(beam.PtIn(CPoint(225, 156), &view));
+    EXPECT_FALSE(beam.PtIn(CPoint(260, 150), &view)); // beyond its end
+    EXPECT_TRUE(wall.PtIn(CPoint(225, 125), &view));
+    EXPECT_FALSE(wall.PtIn(CPoint(225, 160), &view));
+    EXPECT_TRUE(beam.IsInRect(CPoint(255, 155), CPoint(200, 150), &view)); // corners in any order, edges included
+    EXPECT_FALSE(beam.IsInRect(CPoint(210, 140), CPoint(300, 160), &view));
+    EXPECT_TRUE(wall.IsInRect(CPoint(199, 99), CPoint(251, 151), &view));
+    EXPECT_FALSE(wall.IsInRect(CPoint(199, 101), CPoint(251, 151), &view));
+    for (CElemento* element : std::initializer_list<CElemento*>{&a, &beam, &wall}) {
+        EXPECT_FALSE(element->PtIn(CPoint(225, 150), nullptr));
+        EXPECT_FALSE(element->IsInRect(CPoint(0, 0), CPoint(400, 300), nullptr));
+        EXPECT_TRUE(element->Select(CPoint(0, 0), CPoint(400, 300), &view));
+        EXPECT_TRUE(element->IsSelect());
+        EXPECT_EQ(element->Select(1, &view), 0); // set, not toggled
+        EXPECT_EQ(element->Select(0, nullptr), 1);
+        element->SetVisible(0);
+        EXPECT_FALSE(element->Select(CPoint(0, 0), CPoint(400, 300), &view));
+        EXPECT_FALSE(element->IsSelect());
+        element->SetVisible(1);
+    }
+
+    Adv3dRect region(&view), blind;
+    EXPECT_TRUE(region.IsEmpty());
+    beam.UpdateInvalideRect(&region, 1);
+    EXPECT_TRUE(region.GetRect().PtInRect(CPoint(200, 150)) && region.GetRect().PtInRect(CPoint(250, 150)));
+    EXPECT_FALSE(region.GetRect().PtInRect(CPoint(250, 130)));
+    d.UpdateInvalideRect(&region, 0);
+    EXPECT_TRUE(region.GetRect().PtInRect(CPoint(200, 100)));
+    wall.UpdateInvalideRect(&blind, 5);
+    a.UpdateInvalideRect(nullptr, 5);
+    EXPECT_TRUE(blind.IsEmpty());
+}
+
+} // namespace

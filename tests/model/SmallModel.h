@@ -1,0 +1,76 @@
+// A model of a few objects for the tests of this folder, destroyed in the order that a document uses: nodes last.
+#pragma once
+
+#include "model/Asta.h"
+#include "model/Materiale.h"
+#include "model/NodeGrid.h"
+#include "model/Nodo.h"
+#include "model/Setto.h"
+#include "model/Sezione.h"
+#include "model/Solaio.h"
+#include "model/Spessore.h"
+#include "model/Trave.h"
+
+#include <memory>
+#include <vector>
+
+class SmallModel {
+  public:
+    SmallModel() {
+        material.SetID(1);
+        section.SetID(1);
+        thickness.SetID(1);
+        material.SetE(3e7);
+        material.SetG(1.25e7);
+        section.SetRettangolo(0.3, 0.5);
+        thickness.SetSpessore(0.2);
+    }
+
+    CNodo& node(double x, double y, double z) {
+        nodes.push_back(std::make_unique<CNodo>(CFPoint(x, y, z)));
+        nodes.back()->SetID(static_cast<int>(nodes.size()));
+        return *nodes.back();
+    }
+    // A line with material and section.
+    template <typename Line>
+    Line& line(CNodo& from, CNodo& to) {
+        auto made = std::make_unique<Line>();
+        Line& result = *made;
+        result.SetID(static_cast<int>(elements.size()) + 1);
+        result.SetNodi(&from, &to);
+        result.SetMateriale(1, &material);
+        result.SetSezione(1, &section);
+        elements.push_back(std::move(made));
+        return result;
+    }
+    CTrave& beam(CNodo& from, CNodo& to) { return line<CTrave>(from, to); }
+    // A wall or slab with material and thickness.
+    template <typename Polygon>
+    Polygon& polygon(std::initializer_list<CNodo*> corners) {
+        auto made = std::make_unique<Polygon>();
+        Polygon& result = *made;
+        result.SetID(static_cast<int>(elements.size()) + 1);
+        for (CNodo* corner : corners)
+            result.AggiungiVertice(corner);
+        result.SetMateriale(1, &material);
+        result.SetSpessore(1, &thickness);
+        elements.push_back(std::move(made));
+        return result;
+    }
+
+    CMateriale material;
+    CSezione section;
+    CSpessore thickness;
+    std::vector<std::unique_ptr<CNodo>> nodes;
+    std::vector<std::unique_ptr<CElemento>> elements;
+};
+
+// The messages of an object's own check, one a line; empty when it says that it is sound.
+inline std::string check(CElemento& element) {
+    CStringArray messages;
+    const int sound = element.CheckElemento(messages);
+    std::string text = sound == (messages.GetSize() == 0) ? "" : "result and messages disagree\n";
+    for (const CString& message : messages)
+        text += message.ToUtf8() + "\n";
+    return text;
+}
