@@ -1,0 +1,28 @@
+#include "dialogs/frame/Controls.h"
+
+void EnableControls(CWnd& dialog, std::initializer_list<int> ids, BOOL enable) {
+    for (const int id : ids)
+        EnableControls(dialog, id, id, enable);
+}
+
+void EnableControls(CWnd& dialog, int first, int last, BOOL enable) {
+    for (int id = first; id <= last; ++id)
+        if (CWnd* control = dialog.GetDlgItem(id))
+            control->EnableWindow(enable);
+}
+
+void DDX_Point(CDataExchange* pDX, int idX, double& x, double& y, double& z) {
+    DDX_Point(pDX, idX, idX + 1, idX + 2, x, y, z);
+}
+
+void DDX_Point(CDataExchange* pDX, int idX, int idY, int idZ, double& x, double& y, double& z) {
+    DDX_Text(pDX, idX, x);
+    DDX_Text(pDX, idY, y);
+    DDX_Text(pDX, idZ, z);
+}
+
+void StorePoint(const CFPoint& point, double& x, double& y, double& z) {
+    x = point.x;
+    y = point.y;
+    z = point.z;
+}

@@ -1,0 +1,20 @@
+// What tool dialogs do alike with their controls.
+#pragma once
+
+#include "model/FPoint.h"
+#include "platform/DataExchange.h"
+
+#include <initializer_list>
+
+// Enables or disables controls together; a number that the dialog does not have is passed over.
+void EnableControls(CWnd& dialog, std::initializer_list<int> ids, BOOL enable);
+// The controls numbered first to last.
+void EnableControls(CWnd& dialog, int first, int last, BOOL enable);
+
+// A coordinate triple and its three edits, which are numbered one after the other in the order x, y, z.
+void DDX_Point(CDataExchange* pDX, int idX, double& x, double& y, double& z);
+// The same for edits with numbers of their own.
+void DDX_Point(CDataExchange* pDX, int idX, int idY, int idZ, double& x, double& y, double& z);
+
+// Stores a point in three fields.
+void StorePoint(const CFPoint& point, double& x, double& y, double& z);

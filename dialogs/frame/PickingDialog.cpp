@@ -1,0 +1,38 @@
+#include "dialogs/frame/PickingDialog.h"
+
+BEGIN_MESSAGE_MAP(PickingDialog, CDialogDocument)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+PickingDialog::~PickingDialog() {
+    PickingDialog::DestroyWindow();
+}
+
+void PickingDialog::StartPicking(const CString& prompt) {
+    if (CQuovarView* pView = GetView())
+        pView->StartDefinisciVettore(prompt, "");
+}
+
+void PickingDialog::RestartPicking(const CString& prompt) {
+    CQuovarView* pView = GetView();
+    if (!pView)
+        return;
+    pView->StopDefinisciVettore();
+    pView->StartDefinisciVettore(prompt, "");
+}
+
+void PickingDialog::EndPicking() {
+    CQuovarView* pView = GetView();
+    if (pView && pView->IsDefinisciVettore())
+        pView->StopDefinisciVettore();
+}
+
+void PickingDialog::OnDestroy() {
+    CDialogDocument::OnDestroy();
+    EndPicking();
+}
+
+void ConfirmedDialog::OnOK() {
+    if (UpdateData(TRUE))
+        CDialogDocument::OnOK();
+}

@@ -1,0 +1,32 @@
+// Bases of the tool dialogs that take points from the view.
+#pragma once
+
+#include "dialogs/frame/DialogDocument.h"
+
+// A tool dialog that puts its view into vector definition. The mode ends with the dialog's window.
+class PickingDialog : public CDialogDocument {
+  public:
+    using CDialogDocument::CDialogDocument;
+    // Ends the window while this class still handles its messages: later the view would stay in vector definition.
+    ~PickingDialog() override;
+
+  protected:
+    // Asks the view for a point; nothing happens without a view. The prompt may be empty.
+    void StartPicking(const CString& prompt = CString());
+    // Asks for one more point, which then arrives at SetVettoreFrom again.
+    void RestartPicking(const CString& prompt);
+    // What happens to the picking when the window goes: the mode is stopped where it is still on.
+    virtual void EndPicking();
+
+    void OnDestroy();
+
+    DECLARE_MESSAGE_MAP()
+};
+
+// The same with the common confirm: OK reads the controls, and only when every field was accepted runs the command.
+class ConfirmedDialog : public PickingDialog {
+  public:
+    using PickingDialog::PickingDialog;
+
+    void OnOK() override;
+};

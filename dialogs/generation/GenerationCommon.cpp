@@ -1,0 +1,14 @@
+#include "dialogs/generation/GenerationCommon.h"
+
+#include "platform/Application.h"
+#include "platform/SpinButton.h"
+
+void InitNodeSpin(CSpinButtonCtrl& spin) {
+    spin.SetRange(1, 100);
+    spin.SetPos(1);
+}
+
+void ReportRejection(int generated) {
+    if (!generated)
+        AfxMessageBox("Parametri Errati!", MB_OK);
+}

@@ -1,0 +1,338 @@
+// Contracts over all dialog templates, menus and pictures of the module at once. A new template is checked without a
+// line here.
+#include "dialogs/frame/Module.h"
+#include "platform/DeviceContext.h"
+#include "platform/Dialog.h"
+#include "platform/Gdi.h"
+#include "platform/Module.h"
+#include "platform/Resource.h"
+#include "platform/Styles.h"
+#include "tests/dialogs/TemplateInventory.h"
+#include "tests/support/DialogTest.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace resources {
+extern const platform::ResourceModule Quovar_Dialogs;
+}
+
+namespace {
+
+using platform::ControlTemplate;
+using platform::DialogTemplate;
+using Kind = ControlTemplate::Kind;
+
+constexpr int kColourTemplate = 251; // the one with another font
+
+// Controls that are laid over others while they are shown, and hidden until then.
+const std::set<std::pair<int, int>> kInPlaceEditors = {{9006, 1096}};
+
+DWORD ButtonType(const ControlTemplate& control) {
+    return control.style & BS_TYPEMASK;
+}
+bool IsGroupBox(const ControlTemplate& control) {
+    return control.kind == Kind::Button && ButtonType(control) == BS_GROUPBOX;
+}
+bool IsRadio(const ControlTemplate& control) {
+    return control.kind == Kind::Button &&
+           (ButtonType(control) == BS_RADIOBUTTON || ButtonType(control) == BS_AUTORADIOBUTTON);
+}
+bool IsPicture(const ControlTemplate& control) {
+    return control.kind == Kind::Static && (control.style & SS_TYPEMASK) == SS_BITMAP;
+}
+CRect UnitsOf(const ControlTemplate& control) {
+    return {control.x, control.y, control.x + control.cx, control.y + control.cy};
+}
+bool Overlap(const CRect& a, const CRect& b) {
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+bool Contains(const CRect& outer, const CRect& inner) {
+    return outer.left <= inner.left && outer.top <= inner.top && outer.right >= inner.right &&
+           outer.bottom >= inner.bottom;
+}
+
+// A spin that aligns itself takes a strip of the edit before it.
+bool IsSpinInItsBuddy(const ControlTemplate& edit, const ControlTemplate& spin) {
+    return edit.kind == Kind::Edit && std::string(spin.className) == "msctls_updown32" &&
+           (spin.style & (UDS_ALIGNRIGHT | UDS_ALIGNLEFT)) && Contains(UnitsOf(edit), UnitsOf(spin));
+}
+
+std::string Where(const DialogTemplate& dialog, const ControlTemplate& control) {
+    return std::to_string(dialog.id) + ": control " + std::to_string(control.id) + " \"" + control.text + "\" at " +
+           std::to_string(control.x) + "," + std::to_string(control.y);
+}
+
+// Text without mnemonic marks, with doubled ones made single.
+CString ShownText(const char* text) {
+    std::string shown;
+    for (const char* c = text; *c; ++c)
+        if (*c != '&' || *++c)
+            shown += *c;
+        else
+            break;
+    return CString(shown.c_str());
+}
+
+// Upper case, 0 for none.
+char Mnemonic(const char* text) {
+    for (const char* c = text; *c; ++c)
+        if (*c == '&' && *++c != '&')
+            return static_cast<char>(std::toupper(static_cast<unsigned char>(*c)));
+    return 0;
+}
+
+// Pixels beside the text that the kind of control needs: the box of a check, the frame of a button or group.
+int RoomBesideText(const ControlTemplate& control) {
+    if (control.kind != Kind::Button)
+        return 0;
+    return ButtonType(control) == BS_PUSHBUTTON || ButtonType(control) == BS_DEFPUSHBUTTON ? 8 : 16;
+}
+
+// Smallest group box around a control, null for none.
+const ControlTemplate* GroupAround(const DialogTemplate& dialog, const ControlTemplate& control) {
+    const ControlTemplate* around = nullptr;
+    for (const ControlTemplate& box : dialog.controls)
+        if (&box != &control && IsGroupBox(box) && Contains(UnitsOf(box), UnitsOf(control)) &&
+            (!around || box.cx * box.cy < around->cx * around->cy))
+            around = &box;
+    return around;
+}
+
+class Templates : public testing::Test {
+  protected:
+    Templates() { AttachDialogModule(); }
+
+    std::span<const DialogTemplate> dialogs = resources::Quovar_Dialogs.dialogs;
+};
+
+// Catches a caption with other blanks, a lost picture, another font, and a template that the chain does not find.
+TEST_F(Templates, FixedPropertiesAreKept) {
+    for (const DialogTemplate& dialog : dialogs) {
+        const auto fixed = std::ranges::find(inventory::templates, dialog.id, &inventory::Template::id);
+        ASSERT_NE(fixed, inventory::templates.end()) << "no template has the number " << dialog.id;
+        EXPECT_EQ(platform::FindDialogTemplate(dialog.id), &dialog);
+        EXPECT_STREQ(dialog.caption, fixed->caption);
+        EXPECT_STREQ(dialog.fontFace, dialog.id == kColourTemplate ? "Helv" : "MS Sans Serif") << dialog.id;
+        EXPECT_EQ(dialog.fontPoints, 8) << dialog.id;
+        const auto picture = std::ranges::find_if(dialog.controls, IsPicture);
+        const bool found = picture != dialog.controls.end();
+        EXPECT_EQ(found ? picture->image : 0, fixed->picture) << dialog.id;
+        if (found) {
+            EXPECT_EQ(CPoint(picture->x, picture->y), CPoint(7, 7)) << dialog.id;
+            EXPECT_EQ(CSize(picture->cx, picture->cy), CSize(84, 64)) << dialog.id;
+        }
+    }
+}
+
+// Catches a label cut at its right edge, in the font that the user sees.
+TEST_F(Templates, EveryTextFitsItsControl) {
+    for (const DialogTemplate& source : dialogs) {
+        CDialog dialog;
+        ASSERT_TRUE(dialog.Create(source.id));
+        CClientDC device(&dialog);
+        CFont font;
+        font.CreatePointFont(source.fontPoints * 10, source.fontFace);
+        CFont* previous = device.SelectObject(&font);
+        for (const ControlTemplate& control : source.controls) {
+            CRect room(0, 0, control.cx, control.cy);
+            dialog.MapDialogRect(room);
+            const CSize text = device.GetTextExtent(ShownText(control.text));
+            EXPECT_LE(text.cx + RoomBesideText(control), room.right) << Where(source, control);
+            if (*control.text) {
+                EXPECT_LE(text.cy, room.bottom) << Where(source, control);
+            }
+        }
+        device.SelectObject(previous);
+        dialog.DestroyWindow();
+    }
+}
+
+// Catches controls over each other, and a group box that cuts through one.
+TEST_F(Templates, NoTwoControlsOverlap) {
+    for (const DialogTemplate& dialog : dialogs)
+        for (std::size_t i = 0; i < dialog.controls.size(); ++i)
+            for (std::size_t j = i + 1; j < dialog.controls.size(); ++j) {
+                const ControlTemplate& a = dialog.controls[i];
+                const ControlTemplate& b = dialog.controls[j];
+                if (kInPlaceEditors.contains({dialog.id, a.id}) || kInPlaceEditors.contains({dialog.id, b.id}))
+                    continue;
+                const bool nested = (IsGroupBox(a) && Contains(UnitsOf(a), UnitsOf(b))) ||
+                                    (IsGroupBox(b) && Contains(UnitsOf(b), UnitsOf(a))) ||
+                                    (j == i + 1 && IsSpinInItsBuddy(a, b));
+                EXPECT_TRUE(nested || !Overlap(UnitsOf(a), UnitsOf(b)))
+                    << Where(dialog, a) << " and " << Where(dialog, b);
+            }
+}
+
+// Catches two texts that claim one key, and an editor that shows before its time.
+TEST_F(Templates, MnemonicsAreUnique) {
+    for (const DialogTemplate& dialog : dialogs) {
+        std::set<char> taken;
+        for (const ControlTemplate& control : dialog.controls) {
+            if (const char key = Mnemonic(control.text)) {
+                EXPECT_TRUE(taken.insert(key).second) << Where(dialog, control);
+            }
+            if (kInPlaceEditors.contains({dialog.id, control.id})) {
+                EXPECT_EQ(control.style & WS_VISIBLE, 0u) << Where(dialog, control);
+            }
+        }
+    }
+}
+
+// Catches a focus that jumps back: inside one group box, and among the controls outside all of them, the next tab stop
+// stands lower or wholly to the right.
+TEST_F(Templates, FocusFollowsReadingOrder) {
+    for (const DialogTemplate& dialog : dialogs) {
+        std::map<const ControlTemplate*, const ControlTemplate*> last;
+        for (const ControlTemplate& control : dialog.controls) {
+            if (!(control.style & WS_TABSTOP))
+                continue;
+            const ControlTemplate*& before = last[GroupAround(dialog, control)];
+            if (before) {
+                EXPECT_TRUE(control.y >= before->y + before->cy || control.x >= before->x + before->cx)
+                    << Where(dialog, control) << " after " << Where(dialog, *before);
+            }
+            before = &control;
+        }
+    }
+}
+
+// Catches a radio group that swallows the next control or cannot be reached, two default buttons, and a spin that
+// takes a wrong control for its buddy.
+TEST_F(Templates, GroupsAndBuddiesAreClosed) {
+    for (const DialogTemplate& dialog : dialogs) {
+        int defaults = 0;
+        const ControlTemplate* before = nullptr;
+        for (const ControlTemplate& control : dialog.controls) {
+            if (IsRadio(control) && (!before || !IsRadio(*before))) {
+                EXPECT_EQ(control.style & (WS_GROUP | WS_TABSTOP), WS_GROUP | WS_TABSTOP) << Where(dialog, control);
+            }
+            if (before && IsRadio(*before) && !IsRadio(control)) {
+                EXPECT_TRUE(control.style & WS_GROUP) << Where(dialog, control);
+            }
+            if (std::string(control.className) == "msctls_updown32" && (control.style & UDS_AUTOBUDDY)) {
+                EXPECT_TRUE(before && before->kind == Kind::Edit) << Where(dialog, control);
+            }
+            defaults += control.kind == Kind::Button && ButtonType(control) == BS_DEFPUSHBUTTON;
+            before = &control;
+        }
+        EXPECT_LE(defaults, 1) << dialog.id;
+    }
+}
+
+// Catches a control that the window layer does not make, or makes with another text or outside the dialog.
+TEST_F(Templates, OpenWithEveryControl) {
+    for (const DialogTemplate& source : dialogs) {
+        CDialog dialog;
+        ASSERT_TRUE(dialog.Create(source.id));
+        CRect client;
+        dialog.GetClientRect(client);
+        CRect wanted(0, 0, source.cx, source.cy);
+        dialog.MapDialogRect(wanted);
+        EXPECT_EQ(client, wanted) << source.id;
+        for (const ControlTemplate& control : source.controls) {
+            if (control.id == -1)
+                continue;
+            const CWnd* window = dialog.GetDlgItem(control.id);
+            ASSERT_TRUE(window) << Where(source, control);
+            CRect bounds;
+            window->GetWindowRect(bounds);
+            dialog.ScreenToClient(bounds);
+            EXPECT_TRUE(Contains(client, bounds)) << Where(source, control);
+            CString text;
+            window->GetWindowText(text);
+            if (control.kind == Kind::Button || control.kind == Kind::Static) {
+                EXPECT_STREQ(text, control.text);
+            }
+        }
+        dialog.DestroyWindow();
+    }
+}
+
+// Catches a picture that cannot be drawn.
+TEST_F(Templates, PicturesAreReadable) {
+    for (const platform::BitmapResource& picture : resources::Quovar_Dialogs.bitmaps) {
+        CBitmap bitmap;
+        EXPECT_TRUE(bitmap.LoadBitmap(picture.id)) << picture.id;
+    }
+}
+
+// A menu as lines: depth marks, command number, text; "-" for a separator.
+std::vector<std::string> MenuLines(int id) {
+    std::vector<std::string> lines;
+    const platform::MenuTemplate* menu = platform::FindMenu(id);
+    if (!menu || menu->itemCount != 1 || !menu->items.front().popup)
+        return lines;
+    for (const platform::MenuItemTemplate& item : menu->items)
+        lines.push_back(item.separator ? "-"
+                        : item.popup   ? std::string(item.text) + " of " + std::to_string(item.childCount)
+                                       : std::to_string(item.id) + " " + item.text);
+    return lines;
+}
+
+// Catches a command number, text or separator that differs from what host and dialogs share.
+TEST_F(Templates, MenusHaveTheSharedCommands) {
+    using Lines = std::vector<std::string>;
+    EXPECT_EQ(MenuLines(106), (Lines{"Posizionamento of 4", "40001 Orizzontale in basso", "40005 Orizzontale in alto",
+                                     "40003 Verticale a destra", "40004 Verticale e sinistra"}));
+    EXPECT_EQ(MenuLines(351), (Lines{"Diagrammi of 13", "33110 N", "33111 V2", "33112 V3", "33113 T", "33114 M2",
+                                     "33115 M3", "40006 N/A", "40007 M2/W2", "40008 M3/W3", "-",
+                                     "33117 Visualizza Valori rif. loc.", "-", "33119 Cattura &Immagine"}));
+    EXPECT_EQ(MenuLines(376), (Lines{"File of 7", "57600 &Nuovo \tCtrl+N", "-", "33163 &Crea Directory", "-",
+                                     "33158 &Apri", "33162 &Rinomina", "33159 &Elimina"}));
+}
+
+// Takes the linked module out for a test that starts it another way.
+class ModuleStart : public testing::Test {
+  protected:
+    ModuleStart() {
+        AttachDialogModule();
+        AfxDetachLinkedModule(&QuovarModuleEntry);
+    }
+    ~ModuleStart() override { AfxAttachLinkedModule(&QuovarModuleEntry); }
+
+    const std::string library =
+        (std::filesystem::read_symlink("/proc/self/exe").parent_path() / "libQuovar_Dialogs.so").string();
+};
+
+// Catches a module that loads without its resources, starts at each load, or leaves them behind at its end.
+TEST_F(ModuleStart, LoadedByPathItJoinsTheChainUntilItIsFreed) {
+    EXPECT_EQ(platform::FindDialogTemplate(9015), nullptr);
+    const HINSTANCE module = AfxLoadLibrary(library.c_str());
+    ASSERT_TRUE(module) << AfxGetLoadError();
+    EXPECT_TRUE(platform::FindDialogTemplate(9015));
+    EXPECT_EQ(AfxFindResourceHandle(376, RT_MENU), module);
+    EXPECT_EQ(GetModuleHandle("Quovar_Dialogs.dll"), module);
+
+    EXPECT_EQ(AfxLoadLibrary(library.c_str()), module);
+    EXPECT_TRUE(AfxFreeLibrary(module));
+    EXPECT_TRUE(platform::FindDialogTemplate(9015));
+    EXPECT_TRUE(AfxFreeLibrary(module));
+    EXPECT_EQ(platform::FindDialogTemplate(9015), nullptr);
+    EXPECT_FALSE(AfxFreeLibrary(module));
+}
+
+// Catches a failed start that is taken for a load: the state is in use already, so the initialisation fails.
+TEST_F(ModuleStart, AFailedStartMakesLoadingFail) {
+    const HINSTANCE linked = AfxAttachLinkedModule(&QuovarModuleEntry);
+    ASSERT_TRUE(linked);
+    EXPECT_EQ(AfxLoadLibrary(library.c_str()), nullptr);
+    EXPECT_NE(std::string(AfxGetLoadError()).find("refused to start"), std::string::npos);
+    EXPECT_EQ(AfxFindResourceHandle(9015, RT_DIALOG), linked); // the running one is untouched
+
+    AfxDetachLinkedModule(&QuovarModuleEntry);
+    EXPECT_EQ(QuovarModuleEntry(nullptr, DLL_PROCESS_ATTACH), 0);
+    EXPECT_EQ(platform::FindDialogTemplate(9015), nullptr);
+    EXPECT_EQ(QuovarModuleEntry(nullptr, DLL_THREAD_ATTACH), 1); // other notifications do nothing
+    EXPECT_EQ(QuovarModuleEntry(nullptr, DLL_PROCESS_DETACH), 1);
+}
+
+} // namespace

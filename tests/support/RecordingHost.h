@@ -1,0 +1,118 @@
+// A host that writes down each command that it receives, so that a test compares what the dialogs did line by line:
+//
+//     RecordingHost host;
+//     CDialogGenNodiLineare dialog;
+//     host.Open(dialog);                       the host's way: on the view, beside it
+//     ...
+//     EXPECT_EQ(host.Take(), Lines({"GenNodiLineare (2,3,0) (2,4,0) 1 1", "WM_FINEDIALOGO 1"}));
+#pragma once
+
+#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/QuovarHost.h"
+#include "tests/support/Journal.h"
+#include "tests/support/RecordingDoc.h"
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+using Lines = std::vector<std::string>;
+
+// A view with a window of its own. It hands picked points to its tool dialog while vector definition is on.
+class RecordingView : public CQuovarView {
+  public:
+    RecordingView(Journal& journal, CQuovarDoc& doc);
+    ~RecordingView() override;
+
+    CDialogDocument* tool = nullptr;
+    // Whether the view ends the tool dialog when asked to, as a host must.
+    bool endsDialogs = true;
+    int selectable = 1; // of every kind
+
+    // A click on a node: "from" and "to" alternate; each start of the mode begins with a "from" again. Fails the test
+    // when the mode is off or there is no dialog.
+    void Pick(double x, double y, double z);
+    const CString& Prompt() const { return m_prompt; }
+
+    CQuovarDoc* GetDocument() override { return &m_doc; }
+    void StartDefinisciVettore(CString prompt, CString prompt2) override;
+    void StopDefinisciVettore() override;
+    int IsDefinisciVettore() override { return m_picking; }
+    int IsSelectNodi() override { return selectable; }
+    int IsSelectTravi() override { return selectable; }
+    int IsSelectAste() override { return selectable; }
+    int IsSelectSetti() override { return selectable; }
+    int IsSelectSolai() override { return selectable; }
+    int IsSelectElementi() override { return selectable; }
+    CElementoSettings& GetNodoSettings() override;
+    CElementoSettings& GetTraveSettings() override;
+    CElementoSettings& GetSettoSettings() override;
+    int IsDrawRisultatoSetti() override { return 0; }
+    int IsDrawProgettoSetti() override { return 0; }
+    int IsDrawPressioneTerreno() override { return 0; }
+    int GetProgettoSetti() override { return 0; }
+    Adv3d* GetVista() override;
+    void SetRectImmagine(int left, int top, int right, int bottom) override;
+    void CatturaImmagine() override;
+
+  private:
+    struct Settings;
+
+    LRESULT OnFineDialogo(WPARAM wParam, LPARAM lParam);
+
+    Journal& m_journal;
+    CQuovarDoc& m_doc;
+    int m_picking = 0;
+    bool m_second = false; // the next pick of the pair is the "to" point
+    CString m_prompt;
+    std::unique_ptr<Settings> m_settings;
+
+    DECLARE_MESSAGE_MAP()
+};
+
+class RecordingFrame : public CMainFrame {
+  public:
+    CRect table{0, 0, 400, 150};
+    CRect& GetRectClientTabella() override { return table; }
+};
+
+class RecordingHost : public CQuovarHost {
+  public:
+    // Installs itself, with a main window, an empty document saved as "/lavori/Ponte.asg" and one view.
+    RecordingHost();
+    ~RecordingHost() override;
+
+    Journal journal;
+    RecordingFrame frame;
+    RecordingDoc doc;
+    bool hasDoc = true; // whether there is an active document
+    bool hasFrame = true;
+
+    RecordingView& View() { return *m_views.front(); }
+    RecordingView& AddView();
+    // As the user's closing of a view: its tool dialog is told while the window still exists, then the window goes.
+    void CloseView(RecordingView& view);
+
+    // Creates the dialog on the view and makes it the view's tool dialog; the result of Create.
+    int Open(CDialogDocument& dialog);
+    int Open(CDialogDocument& dialog, RecordingView& view);
+
+    Lines Take() { return journal.Take(); }
+
+    CQuovarDoc* GetActiveDoc() override { return hasDoc ? &doc : nullptr; }
+    CMainFrame* GetMainFrame() override { return hasFrame ? &frame : nullptr; }
+    void InizioAttesa(CString messaggio, unsigned int nPassi) override;
+    void StepBar() override;
+    void FineAttesa() override;
+    ModificaDocumento GetInformazioniBase(long lHint) override;
+    long GetInformazioniAggiuntive(long lHint) override;
+    void SetInformazioniAggiuntive(unsigned long& lHint, unsigned short valore) override;
+    CString GetPathFilesVorm(CString path) override;
+    CString GetFileInputVorm(int n) override;
+    CCasoCarico* CreaCasoCarico(CQuovarDoc* pDoc) override;
+
+  private:
+    std::vector<std::unique_ptr<RecordingView>> m_views;
+};
