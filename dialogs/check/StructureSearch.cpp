@@ -1,0 +1,89 @@
+#include "dialogs/check/StructureSearch.h"
+
+#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/QuovarDoc.h"
+#include "dialogs/frame/QuovarSelection.h"
+#include "model/Nodo.h"
+#include "platform/Application.h"
+
+#include <algorithm>
+#include <memory>
+
+StructureSearch::~StructureSearch() {
+    RemoveAllStructures();
+}
+
+CObArray* StructureSearch::GetIndexStructure(int i) const {
+    return i >= 0 && i < GetSizeStructures() ? static_cast<CObArray*>(m_aStrutture[i]) : nullptr;
+}
+
+CObArray* StructureSearch::NewArray() {
+    return platform::allocating([] { return new CObArray; });
+}
+
+CObArray* StructureSearch::InsertNewStructure() {
+    std::unique_ptr<CObArray> structure;
+    try {
+        structure.reset(NewArray());
+        m_aStrutture.Add(structure.get());
+    } catch (CException* exception) {
+        exception->ReportError(MB_OK, 0);
+        exception->Delete();
+        return nullptr;
+    }
+    return structure.release();
+}
+
+void StructureSearch::AddStructure(CQuovarDoc& doc, CNodo* seed) {
+    CObArray* structure = InsertNewStructure();
+    if (!structure)
+        return;
+    doc.m_pSelezione->SelezionaStruttura(seed, structure);
+    const int number = GetSizeStructures() - 1;
+    for (const CObject* node : *structure)
+        if (node && node->IsKindOf(RUNTIME_CLASS(CNodo)))
+            m_index.Add(node, number);
+}
+
+void StructureSearch::FindStructures(CQuovarDoc* pDoc) {
+    RemoveAllStructures();
+    const int nodes = pDoc ? pDoc->GetSizeNodi() : 0;
+    if (nodes == 0)
+        return;
+    platform::allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
+    AddStructure(*pDoc, pDoc->GetIndexNodo(0));
+    const WaitBar wait("Attendere...Ricerca delle strutture", static_cast<unsigned int>(nodes));
+    for (int i = 0; i < nodes; ++i) {
+        CMainFrame::_StepBar();
+        CNodo* node = pDoc->GetIndexNodo(i);
+        if (node && !ThereNodo(node))
+            AddStructure(*pDoc, node);
+    }
+}
+
+int StructureSearch::ThereNodo(CNodo* pNodo) const {
+    return m_index.Find(pNodo) != NodeIndex::none;
+}
+
+int StructureSearch::ThereNodo(CNodo* pNodo, int s) const {
+    const int first = m_index.Find(pNodo);
+    if (first == s || first == NodeIndex::none)
+        return first != NodeIndex::none;
+    // A host may hand a node out twice; the index knows the first structure only.
+    const CObArray* structure = GetIndexStructure(s);
+    return structure && std::find(structure->begin(), structure->end(), pNodo) != structure->end();
+}
+
+void StructureSearch::RemoveAllStructures() {
+    for (CObject* structure : m_aStrutture)
+        delete structure;
+    m_aStrutture.RemoveAll();
+    m_index.Clear();
+}
+
+CurrentNodes::CurrentNodes(CQuovarDoc& doc) {
+    const int nodes = doc.GetSizeNodi();
+    platform::allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
+    for (int i = 0; i < nodes; ++i)
+        m_index.Add(doc.GetIndexNodo(i), 0);
+}

@@ -1,0 +1,65 @@
+// Small sound models in the recording document: what is made here has its material, section and thickness.
+#pragma once
+
+#include "model/Asta.h"
+#include "model/Materiale.h"
+#include "model/Nodo.h"
+#include "model/Setto.h"
+#include "model/Sezione.h"
+#include "model/Solaio.h"
+#include "model/Spessore.h"
+#include "model/Trave.h"
+#include "tests/support/RecordingDoc.h"
+
+#include <initializer_list>
+#include <utility>
+
+class CheckModel {
+  public:
+    explicit CheckModel(RecordingDoc& doc) : m_doc(doc) {}
+
+    static inline const CVincolo fixed{CVincolo::Tutti};
+    static inline const CVincolo pinned{1, 1, 1, 0, 0, 0};
+    CMateriale material;
+    CSezione section;
+    CSpessore thickness;
+
+    // Nodes stand on a parabola, so that no three of them are in line.
+    CNodo* Node() {
+        const double x = static_cast<double>(m_doc.nodi.size());
+        return m_doc.NewNodo(x, x * x, 0);
+    }
+    CTrave& Beam(CNodo& a, CNodo& b) { return Physical(*m_doc.NewTrave(a.GetID(), b.GetID())); }
+    CAsta& Truss(CNodo& a, CNodo& b) { return Physical(*m_doc.NewAsta(a.GetID(), b.GetID())); }
+    CSolaio& Slab(std::initializer_list<CNodo*> nodes) { return Polygon(m_doc.solai, nodes); }
+    CSetto& Wall(std::initializer_list<CNodo*> nodes) { return Polygon(m_doc.setti, nodes); }
+    // A beam that is fixed at its first node: a structure of its own without faults.
+    std::pair<CNodo*, CNodo*> Frame() {
+        CNodo* const first = Node();
+        CNodo* const second = Node();
+        first->SetVincolo(&fixed);
+        Beam(*first, *second);
+        return {first, second};
+    }
+
+  private:
+    template <class Line>
+    Line& Physical(Line& line) {
+        line.SetMateriale(1, &material);
+        line.SetSezione(1, &section);
+        return line;
+    }
+    template <class T>
+    T& Polygon(std::vector<std::unique_ptr<T>>& list, std::initializer_list<CNodo*> nodes) {
+        list.push_back(std::make_unique<T>());
+        T& polygon = *list.back();
+        polygon.SetID(static_cast<int>(list.size()));
+        for (CNodo* node : nodes)
+            polygon.AggiungiVertice(node);
+        polygon.SetMateriale(1, &material);
+        polygon.SetSpessore(1, &thickness);
+        return polygon;
+    }
+
+    RecordingDoc& m_doc;
+};

@@ -1,0 +1,364 @@
+#include "dialogs/check/DialogCheck.h"
+#include "dialogs/frame/QuovarGlobal.h"
+#include "model/Asta.h"
+#include "model/Materiale.h"
+#include "model/Nodo.h"
+#include "model/Sezione.h"
+#include "model/Spessore.h"
+#include "model/Trave.h"
+#include "platform/Application.h"
+#include "tests/dialogs/CheckModel.h"
+#include "tests/support/DialogTest.h"
+
+namespace {
+
+constexpr int list = 1086;
+const char* const severalStructures = "ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!";
+
+class Check : public DialogTest {
+  protected:
+    ~Check() override { dialog.DestroyWindow(); }
+
+    void Open() {
+        dialog.DestroyWindow();
+        ASSERT_NE(host.Open(dialog), 0);
+        host.Take();
+    }
+    // Opens the window on the model as it is, asks for the check and gives its rows without the two of the heading.
+    Lines Rows() {
+        Open();
+        return Recheck();
+    }
+    Lines Recheck() {
+        host.doc.UpdateAllViews(nullptr, MODIFICA_CHECK);
+        host.Take();
+        Lines rows = DialogDriver(dialog).Rows(list);
+        EXPECT_GE(rows.size(), 2u);
+        if (rows.size() >= 2) {
+            EXPECT_EQ(rows[0], "--- Check Modello --- ");
+            EXPECT_EQ(rows[1], "");
+            rows.erase(rows.begin(), rows.begin() + 2);
+        }
+        return rows;
+    }
+    // These rows and the two that close a list without faults.
+    static Lines Closed(Lines rows) {
+        rows.insert(rows.end(), {"", "--- Fine Messaggi ---"});
+        return rows;
+    }
+    static std::string Labile(int structure) {
+        return "Attenzione la Struttura n.ro " + std::to_string(structure) + ", è labile";
+    }
+
+    CheckModel model{host.doc};
+    CDialogCheck dialog;
+};
+
+TEST_F(Check, OpensBelowTheViewAndWaitsForTheRequest) {
+    model.Frame();
+    model.Frame();
+    host.frame.table = CRect(0, 0, 400, 130);
+    ASSERT_NE(host.Open(dialog), 0);
+    // Seeded by the first node not reached yet, one step of the bar for each node.
+    EXPECT_EQ(host.Take(),
+              (Lines{"SelezionaStruttura CNodo 1", "InizioAttesa \"Attendere...Ricerca delle strutture\" 4", "StepBar",
+                     "StepBar", "StepBar", "SelezionaStruttura CNodo 3", "StepBar", "FineAttesa"}));
+    const DialogDriver driver(dialog);
+    EXPECT_EQ(driver.Caption(), "Check Modello");
+    EXPECT_TRUE(driver.Rows(list).empty());
+    CRect around, place, client, box;
+    host.frame.GetWindowRect(around);
+    dialog.GetWindowRect(place);
+    EXPECT_EQ(place.left, around.left);
+    EXPECT_EQ(place.top, around.bottom);
+    constexpr int frame = 30; // which the window manager may add around the size asked for
+    EXPECT_NEAR(place.Width(), around.Width(), frame);
+    EXPECT_NEAR(place.Height(), 130, frame);
+    dialog.SetWindowPos(nullptr, 0, 0, 333, 222, SWP_NOMOVE | SWP_NOZORDER);
+    dialog.GetClientRect(client);
+    dialog.GetDlgItem(list)->GetWindowRect(box);
+    EXPECT_EQ(box.Size(), client.Size()) << "the list fills the window at every size";
+    // Only the check's own change code fills the list.
+    host.doc.UpdateAllViews(nullptr, MODIFICA_STRUTTURA);
+    EXPECT_TRUE(driver.Rows(list).empty());
+}
+
+TEST_F(Check, OpensWithoutMainWindowAndOnAnEmptyModel) {
+    host.hasFrame = false;
+    EXPECT_EQ(Rows(), Closed({}));
+    dialog.DestroyWindow();
+    host.Open(dialog);
+    EXPECT_EQ(host.Take(), Lines{}) << "no node, no search";
+}
+
+TEST_F(Check, EnterKeepsItOpenAndEscapeClosesIt) {
+    Open();
+    DialogDriver driver(dialog);
+    driver.Press(VK_RETURN);
+    EXPECT_EQ(host.Take(), Lines{});
+    driver.Press(VK_ESCAPE);
+    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 2"});
+}
+
+TEST_F(Check, SoundFramesAndSeveralStructures) {
+    model.Frame();
+    EXPECT_EQ(Rows(), Closed({}));
+    model.Frame();
+    host.doc.unica = 0;
+    EXPECT_EQ(Rows(), Closed({severalStructures}));
+    EXPECT_EQ(Recheck(), Closed({severalStructures})) << "a second check starts from an empty list";
+}
+
+TEST_F(Check, RestraintsThatHoldAStructureAndThoseThatDoNot) {
+    const auto [first, second] = model.Frame();
+    const auto rows = [&](CVincolo a, CVincolo b) {
+        first->SetVincolo(&a);
+        second->SetVincolo(&b);
+        return Rows();
+    };
+    const CVincolo none, pinned(1, 1, 1, 0, 0, 0), fixed(CVincolo::Tutti);
+    EXPECT_EQ(rows(fixed, none), Closed({})) << "three translations and six components in one node";
+    EXPECT_EQ(rows(pinned, none), Closed({Labile(1)})) << "three components are not six";
+    EXPECT_EQ(rows(pinned, pinned), Closed({})) << "components of several nodes add up";
+    EXPECT_EQ(rows(CVincolo(1, 1, 0, 1, 1, 1), CVincolo(1, 1, 0, 1, 1, 1)), Closed({Labile(1)}))
+        << "ten components, none along z";
+    EXPECT_EQ(rows(CVincolo(0, 1, 1, 1, 1, 1), CVincolo(0, 1, 1, 1, 1, 1)), Closed({Labile(1)}));
+    EXPECT_EQ(rows(CVincolo(1, 0, 1, 1, 1, 1), CVincolo(1, 0, 1, 1, 1, 1)), Closed({Labile(1)}));
+    EXPECT_EQ(rows(CVincolo(1, 1, 1, 1, 1, 0), none), Closed({Labile(1)})) << "five components";
+    EXPECT_EQ(rows(CVincolo(1, 1, 1, 1, 1, 0), CVincolo(0, 0, 0, 0, 0, 1)), Closed({}));
+    EXPECT_EQ(rows(fixed, fixed), Closed({"Attenzione nella Struttura n.ro 1 tutti i nodi sono incastrati, impossibile "
+                                          "risolverla!"}));
+    EXPECT_EQ(rows(fixed, CVincolo(1, 1, 1, 1, 1, 0)), Closed({})) << "one free component in one node is enough";
+}
+
+TEST_F(Check, SpringsCountByDirection) {
+    const auto [first, second] = model.Frame();
+    first->SetVincolo(nullptr);
+    second->SetVincolo(nullptr);
+    using M = CMolla;
+    const auto rows = [&](std::initializer_list<CMolla> springs) {
+        first->EliminaMolle();
+        for (const CMolla& spring : springs)
+            first->AddMolla(spring);
+        return Rows();
+    };
+    const CMolla along(M::Traslazionale, 10, CFPoint(1, -1, 0.5)), about(M::Rotazionale, 10, CFPoint(1, 2, 3));
+    EXPECT_EQ(rows({along, about}), Closed({}));
+    EXPECT_EQ(rows({along}), Closed({Labile(1)})) << "three components";
+    EXPECT_EQ(rows({about, about}), Closed({Labile(1)})) << "rotational springs hold no translation";
+    EXPECT_EQ(rows({along, CMolla(M::Traslazionale, 0, CFPoint(1, 1, 1))}), Closed({Labile(1)}))
+        << "without stiffness it holds nothing";
+    EXPECT_EQ(rows({CMolla(M::Traslazionale, 10, CFPoint(1, 1, 0)), about, about}), Closed({Labile(1)})) << "z is free";
+    EXPECT_EQ(rows({along, CMolla(M::Rotazionale, 5, CFPoint(0, 0, 1)), CMolla(M::Rotazionale, 5, CFPoint(0, 1, 0)),
+                    CMolla(M::Rotazionale, 5, CFPoint(0, 0, 1))}),
+              Closed({}))
+        << "each non-zero component is one";
+}
+
+TEST_F(Check, StructuresAreNumberedInTheOrderFound) {
+    model.Frame();
+    host.doc.nodi[0]->SetVincolo(nullptr);
+    model.Frame();
+    model.Frame();
+    host.doc.nodi[4]->SetVincolo(nullptr);
+    EXPECT_EQ(Rows(), Closed({Labile(1), Labile(3)}));
+}
+
+TEST_F(Check, BeamsReleasedAtBothEnds) {
+    model.Frame();
+    model.Frame();
+    CTrave& beam = *host.doc.travi[1];
+    const auto release = [&](int end, int n, int t, int m2, int m3) {
+        beam.AddSpecifica(new CSpecificheSvincoliTrave(end, n, t, m2, m3));
+        return Rows();
+    };
+    EXPECT_EQ(release(0, 0, 0, 1, 0), Closed({})) << "a single specification is not examined";
+    EXPECT_EQ(release(0, 0, 0, 0, 1), Closed({})) << "both at the first end";
+    EXPECT_EQ(release(1, 0, 0, 0, 0), Closed({})) << "the second end releases nothing";
+    EXPECT_EQ(release(1, 0, 0, 1, 0), Closed({"La Trave n.ro 2, è labile."})) << "once for the beam";
+}
+
+TEST_F(Check, TrussMembersAndMembranesAtFreeNodes) {
+    CNodo* const a = model.Node();
+    CNodo* const b = model.Node();
+    model.Truss(*a, *b);
+    a->SetVincolo(&CheckModel::fixed);
+    b->SetVincolo(&CheckModel::pinned);
+    EXPECT_EQ(Rows(), Closed({"La biella n.ro 1, è labile."})) << "b is free to rotate";
+    a->SetVincolo(&CheckModel::pinned);
+    EXPECT_EQ(Rows(), Closed({"La biella n.ro 1, è labile.", "La biella n.ro 1, è labile."})) << "one row a node";
+    const CVincolo twoRotations(1, 1, 1, 1, 1, 0);
+    a->SetVincolo(&twoRotations);
+    EXPECT_EQ(Rows().size(), 4u) << "all three rotations are needed";
+    // A beam or a wall at the node passes; a membrane or another member does not.
+    CNodo* const c = model.Node();
+    model.Slab({a, b, c});
+    EXPECT_EQ(Rows(),
+              Closed({"La biella n.ro 1, è labile.", "La biella n.ro 1, è labile.", "La membrana n.ro 1, è labile.",
+                      "La membrana n.ro 1, è labile.", "La membrana n.ro 1, è labile."}));
+    CNodo* const d = model.Node();
+    model.Beam(*a, *d);
+    model.Wall({b, c, d});
+    EXPECT_EQ(Rows(), Closed({}));
+}
+
+TEST_F(Check, NodesWithManyElementsAreAskedOnce) {
+    // The answer that is kept for such a node must be the right one, for each node its own.
+    CNodo* const hub = model.Node();
+    CNodo* const held = model.Node();
+    held->SetVincolo(&CheckModel::fixed);
+    for (int i = 0; i < 20; ++i) {
+        CNodo* const end = model.Node();
+        end->SetVincolo(&CheckModel::fixed);
+        model.Truss(*hub, *end);
+        model.Truss(*held, *end);
+    }
+    const Lines rows = Rows();
+    EXPECT_EQ(rows.size(), 22u);
+    EXPECT_EQ(rows.front(), "La biella n.ro 1, è labile.");
+    EXPECT_EQ(std::count(rows.begin(), rows.end(), "La biella n.ro 2, è labile."), 0);
+}
+
+TEST_F(Check, ElementsReportThemselves) {
+    model.Frame();
+    model.Node();
+    host.doc.nodi[2]->SetVincolo(&CheckModel::fixed);
+    CNodo& a = *host.doc.nodi[0];
+    CNodo& b = *host.doc.nodi[1];
+    host.doc.NewAsta(1, 2); // neither material nor section
+    CNodo* const c = model.Node();
+    model.Slab({&a, &b, c}).SetSpessore(0, nullptr);
+    model.Wall({&a, &b, c}).SetSpessore(0, nullptr);
+    const Lines rows = Rows();
+    // Structure 2 is the node alone. Nodes come before elements, elements in document order, and no closing rows.
+    const Lines expected{
+        "Attenzione nella Struttura n.ro 2 tutti i nodi sono incastrati, impossibile risolverla!",
+        "CNodo n.ro 3 Il nodo non appartiene a nessun elemento.",
+    };
+    ASSERT_GE(rows.size(), 6u);
+    EXPECT_EQ(Lines(rows.begin(), rows.begin() + 2), expected);
+    EXPECT_NE(std::find(rows.begin(), rows.end(), "CAsta n.ro 1 L'elemento non ha un materiale."), rows.end());
+    EXPECT_NE(std::find(rows.begin(), rows.end(), "CSetto n.ro 1 L'elemento non ha uno spessore."), rows.end());
+    EXPECT_NE(std::find(rows.begin(), rows.end(), "CSolaio n.ro 1 L'elemento non ha uno spessore."), rows.end());
+    EXPECT_EQ(std::find(rows.begin(), rows.end(), "--- Fine Messaggi ---"), rows.end());
+}
+
+TEST_F(Check, PickingRowsSelectsTheirObjects) {
+    model.Node(); // structure 1: without restraint, without element
+    CNodo* const a = model.Node();
+    CNodo* const b = model.Node();
+    CNodo* const c = model.Node();
+    host.doc.NewTrave(2, 3)->SetSezione(0, nullptr);
+    host.doc.travi[0]->SetMateriale(1, &model.material);
+    model.Wall({a, b, c}).SetSpessore(0, nullptr);
+    host.doc.NewAsta(3, 4)->SetSezione(1, &model.section);
+    model.Slab({a, b, c}).SetSpessore(0, nullptr);
+    Rows();
+    DialogDriver driver(dialog);
+    const Lines rows = driver.Rows(list);
+    std::vector<std::pair<std::string, std::string>> expected{
+        {"CNodo n.ro 1", "SelezionaNodo 1 null"},          {"CTrave n.ro 1", "SelezionaTrave 1 null null"},
+        {"CAsta n.ro 1", "SelezionaAsta 1 null null"},     {"CSetto n.ro 1", "SelezionaSetto 1 null null"},
+        {"CSolaio n.ro 1", "SelezionaSolaio 1 null null"}, {"--- Check Modello", ""},
+    };
+    for (const auto& [start, call] : expected) {
+        const auto row =
+            std::find_if(rows.begin(), rows.end(), [&](const std::string& text) { return text.starts_with(start); });
+        ASSERT_NE(row, rows.end()) << start;
+        driver.ClickRow(list, static_cast<int>(row - rows.begin()));
+        EXPECT_EQ(host.Take(), call.empty() ? Lines{"Deseleziona null"} : (Lines{"Deseleziona null", call})) << start;
+    }
+    // All rows at once by keyboard: every object, in the order of the rows.
+    driver.Press(VK_END, ShiftKey);
+    const Lines lines = host.Take();
+    EXPECT_EQ(lines.front(), "Deseleziona null");
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "Deseleziona null"), 1);
+    EXPECT_EQ(driver.SelectedRows(list).size(), rows.size());
+    EXPECT_EQ(host.doc.selected.GetCount(), 5);
+}
+
+TEST_F(Check, ModelChangedAfterTheSearch) {
+    const auto [first, second] = model.Frame();
+    model.Frame();
+    EXPECT_EQ(Rows(), Closed({}));
+    // A restraint taken away counts at the next check, a new structure does not: the search is not repeated.
+    first->SetVincolo(nullptr);
+    model.Frame();
+    host.doc.nodi[4]->SetVincolo(nullptr);
+    EXPECT_EQ(Recheck(), Closed({Labile(1)}));
+    // Nodes that were removed are not touched any more; a structure that is gone as a whole says nothing.
+    host.doc.travi.erase(host.doc.travi.begin());
+    host.doc.nodi.erase(host.doc.nodi.begin(), host.doc.nodi.begin() + 2);
+    EXPECT_EQ(Recheck(), Closed({}));
+    EXPECT_EQ(Rows(), Closed({Labile(2)})) << "opened again, the window searches again";
+}
+
+TEST_F(Check, ManyRowsAtOnce) {
+    constexpr int nodes = 20'000;
+    for (int i = 0; i < nodes; ++i)
+        host.doc.NewNodo(i, 0, 0);
+    Open();
+    host.doc.UpdateAllViews(nullptr, MODIFICA_CHECK);
+    host.Take();
+    auto& box = dynamic_cast<CListBox&>(*dialog.GetDlgItem(list));
+    EXPECT_EQ(box.GetCount(), 2 + 2 * nodes) << "each node is a labile structure and belongs to no element";
+    EXPECT_EQ(box.GetItemData(2 + nodes), 2u + nodes);
+}
+
+class FailingSearch : public StructureSearch {
+  public:
+    int arrays = 0;
+    int failAt = 0;
+
+  protected:
+    CObArray* NewArray() override {
+        if (++arrays == failAt)
+            AfxThrowMemoryException();
+        return StructureSearch::NewArray();
+    }
+};
+
+TEST_F(Check, FailedStructureLeavesItsNodesToBeTriedAgain) {
+    model.Frame();
+    model.Frame();
+    CString text;
+    CMemoryException(FALSE).GetErrorMessage(text.GetBuffer(200), 200);
+    text.ReleaseBuffer();
+    for (const int failAt : {1, 2}) {
+        FailingSearch search;
+        search.failAt = failAt;
+        user.ExpectMessage(text.ToUtf8(), IDOK, MB_OK);
+        search.FindStructures(&host.doc);
+        EXPECT_EQ(search.GetSizeStructures(), 2);
+        EXPECT_EQ(search.arrays, 3) << "the next node of the same structure is its seed";
+        for (const auto& node : host.doc.nodi)
+            EXPECT_TRUE(search.ThereNodo(node.get()));
+    }
+}
+
+TEST_F(Check, MembershipOfNodes) {
+    const auto [first, second] = model.Frame();
+    const auto [third, fourth] = model.Frame();
+    StructureSearch search;
+    search.FindStructures(nullptr);
+    EXPECT_EQ(search.GetSizeStructures(), 0);
+    EXPECT_FALSE(search.ThereNodo(first));
+    search.FindStructures(&host.doc);
+    EXPECT_TRUE(search.ThereNodo(second, 0));
+    EXPECT_FALSE(search.ThereNodo(second, 1));
+    EXPECT_TRUE(search.ThereNodo(fourth, 1));
+    EXPECT_FALSE(search.ThereNodo(third, -1));
+    EXPECT_FALSE(search.ThereNodo(third, 2));
+    EXPECT_FALSE(search.ThereNodo(nullptr));
+    CNodo stranger;
+    EXPECT_FALSE(search.ThereNodo(&stranger));
+    EXPECT_EQ(search.GetIndexStructure(1)->GetSize(), 2);
+    EXPECT_EQ(search.GetIndexStructure(2), nullptr);
+    // A node handed out twice, by a host whose answer is one-sided, is in both.
+    search.GetIndexStructure(1)->Add(first);
+    EXPECT_TRUE(search.ThereNodo(first, 1));
+    search.RemoveAllStructures();
+    EXPECT_FALSE(search.ThereNodo(first));
+}
+
+} // namespace

@@ -1,0 +1,199 @@
+#include "dialogs/check/DialogStrutture.h"
+#include "dialogs/frame/QuovarGlobal.h"
+#include "platform/Application.h"
+#include "tests/dialogs/CheckModel.h"
+#include "tests/support/DialogTest.h"
+
+#include <chrono>
+#include <thread>
+
+namespace {
+
+constexpr int treeId = 1078;
+
+class Strutture : public DialogTest {
+  protected:
+    ~Strutture() override { dialog.DestroyWindow(); }
+
+    void Open() {
+        host.Open(dialog);
+        host.Take();
+    }
+    CTreeCtrl& Tree() { return dynamic_cast<CTreeCtrl&>(*dialog.GetDlgItem(treeId)); }
+    HTREEITEM Item(int index) {
+        HTREEITEM item = Tree().GetRootItem();
+        while (index-- > 0)
+            item = Tree().GetNextSiblingItem(item);
+        return item;
+    }
+    Lines Texts() {
+        Lines texts;
+        for (HTREEITEM item = Tree().GetRootItem(); item; item = Tree().GetNextSiblingItem(item))
+            texts.push_back(Tree().GetItemText(item).ToUtf8());
+        return texts;
+    }
+    // The box stands left of the label; hit testing finds it.
+    void ClickBox(DialogDriver& driver, int index) {
+        CRect label;
+        Tree().GetItemRect(Item(index), &label, TRUE);
+        for (int x = label.left - 1; x > 0; --x) {
+            UINT flags = 0;
+            CPoint point(x, label.CenterPoint().y);
+            Tree().HitTest(point, &flags);
+            if (!(flags & TVHT_ONITEMSTATEICON))
+                continue;
+            point.x -= 4; // inside the box, off its edge
+            Tree().ClientToScreen(point);
+            dialog.ScreenToClient(point);
+            driver.ClickAt(point.x, point.y);
+            return;
+        }
+        ADD_FAILURE() << "no box before item " << index;
+    }
+    // Lets the timer run out and gives what the host then received.
+    Lines Later() {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(250);
+        while (std::chrono::steady_clock::now() < end) {
+            CWinApp::PumpMessages();
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
+        return host.Take();
+    }
+    static Lines Structure(const Lines& selected) {
+        Lines lines{"UpdateAllViews null 8 null", "UpdateAllViews null 17 null"};
+        lines.insert(lines.end(), selected.begin(), selected.end());
+        lines.insert(lines.end(), {"UpdateAllViews null 7340041 null", "UpdateAllViews null 18 null",
+                                   "UpdateAllViews null 5 Adv3dRect"});
+        return lines;
+    }
+    static Lines Join(Lines a, const Lines& b) {
+        a.insert(a.end(), b.begin(), b.end());
+        return a;
+    }
+
+    CheckModel model{host.doc};
+    CDialogStrutture dialog;
+};
+
+TEST_F(Strutture, OpensWithOneBoxForEachStructure) {
+    model.Frame();
+    model.Frame();
+    ASSERT_NE(host.Open(dialog), 0);
+    EXPECT_EQ(host.Take(), (Lines{"Deseleziona null", "SelezionaStruttura CNodo 1",
+                                  "InizioAttesa \"Attendere...Ricerca delle strutture\" 4", "StepBar", "StepBar",
+                                  "StepBar", "SelezionaStruttura CNodo 3", "StepBar", "FineAttesa"}));
+    EXPECT_EQ(DialogDriver(dialog).Caption(), "Strutture ");
+    EXPECT_EQ(Texts(), (Lines{"Struttura n.ro 1", "Struttura n.ro 2"}));
+    EXPECT_EQ(Tree().GetItemData(Item(1)), 1u);
+    EXPECT_FALSE(Tree().GetCheck(Item(0)));
+    EXPECT_EQ(Later(), Lines{}) << "nothing is selected before a tick";
+}
+
+TEST_F(Strutture, EmptyModelShowsNone) {
+    Open();
+    EXPECT_TRUE(Texts().empty());
+}
+
+TEST_F(Strutture, TicksByMouseSelectInOrder) {
+    for (int i = 0; i < 3; ++i)
+        model.Frame();
+    Open();
+    DialogDriver driver(dialog);
+    // The first node meets the beam, and so does the second: the beam is named once for each.
+    const Lines first = Structure({"SelezionaTrave 1 null Adv3dRect", "SelezionaTrave 1 null Adv3dRect"});
+    const Lines third = Structure({"SelezionaTrave 3 null Adv3dRect", "SelezionaTrave 3 null Adv3dRect"});
+    ClickBox(driver, 2);
+    EXPECT_TRUE(Tree().GetCheck(Item(2)));
+    EXPECT_EQ(host.Take(), Lines{}) << "read before the tree has toggled, the tick would be the old one";
+    EXPECT_EQ(Later(), Join({"Deseleziona null"}, third));
+    ClickBox(driver, 0);
+    EXPECT_EQ(Later(), Join(Join({"Deseleziona null"}, first), third));
+    ClickBox(driver, 0);
+    ClickBox(driver, 2);
+    EXPECT_EQ(Later(), Lines{"Deseleziona null"}) << "two clicks in one period are one reading";
+    EXPECT_EQ(host.doc.selected.GetCount(), 0);
+}
+
+TEST_F(Strutture, TicksByKeyboard) {
+    model.Frame();
+    model.Frame();
+    Open();
+    DialogDriver driver(dialog);
+    driver.SetFocus(treeId);
+    Tree().SelectItem(Item(0));
+    driver.Press(VK_DOWN);
+    EXPECT_EQ(Later(), Lines{}) << "only Space starts the timer";
+    driver.Press(VK_SPACE);
+    EXPECT_TRUE(Tree().GetCheck(Item(1)));
+    EXPECT_EQ(Later().size(), 8u);
+    EXPECT_EQ(Later(), Lines{}) << "the timer runs once";
+}
+
+TEST_F(Strutture, EveryKindOfElementAndNodesWithout) {
+    CNodo* const a = model.Node();
+    CNodo* const b = model.Node();
+    CNodo* const c = model.Node();
+    model.Truss(*a, *b);
+    model.Wall({a, b, c});
+    model.Slab({a, b, c});
+    model.Node();
+    Open();
+    DialogDriver driver(dialog);
+    ClickBox(driver, 1); // a node without elements
+    EXPECT_EQ(Later(), Join({"Deseleziona null"}, Structure({})));
+    ClickBox(driver, 0);
+    const Lines lines = Later();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaAsta 1 null Adv3dRect"), 2);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaSetto 1 null Adv3dRect"), 3);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaSolaio 1 null Adv3dRect"), 3);
+    EXPECT_EQ(host.doc.selected.GetCount(), 3) << "the nodes themselves are not selected";
+}
+
+TEST_F(Strutture, NodesRemovedAfterTheSearch) {
+    model.Frame();
+    model.Frame();
+    Open();
+    host.doc.travi.erase(host.doc.travi.begin());
+    host.doc.nodi.erase(host.doc.nodi.begin());
+    DialogDriver driver(dialog);
+    ClickBox(driver, 0);
+    EXPECT_EQ(Later(), Join({"Deseleziona null"}, Structure({})));
+    EXPECT_EQ(Texts().size(), 2u) << "later changes do not refresh the list";
+}
+
+// Reaches the selection of a structure that the search cannot make.
+class OpenStrutture : public CDialogStrutture {
+  public:
+    using CDialogStrutture::GetIndexStructure;
+    using CDialogStrutture::SelezionaStruttura;
+};
+
+TEST_F(Strutture, StructureWithAStrangerStopsAtIt) {
+    model.Frame();
+    OpenStrutture open;
+    host.Open(open);
+    host.Take();
+    const CurrentNodes current(host.doc);
+    open.SelezionaStruttura(nullptr, current);
+    EXPECT_EQ(host.Take(), Lines{});
+    open.GetIndexStructure(0)->InsertAt(1, host.doc.travi[0].get());
+    open.SelezionaStruttura(open.GetIndexStructure(0), current);
+    EXPECT_EQ(host.Take(),
+              (Lines{"UpdateAllViews null 8 null", "UpdateAllViews null 17 null", "SelezionaTrave 1 null Adv3dRect"}));
+    open.DestroyWindow();
+}
+
+TEST_F(Strutture, ClosedBeforeTheTimer) {
+    model.Frame();
+    Open();
+    DialogDriver driver(dialog);
+    ClickBox(driver, 0);
+    driver.Press(VK_ESCAPE);
+    EXPECT_EQ(Later(), Lines{"WM_FINEDIALOGO 2"});
+    host.Open(dialog);
+    host.Take();
+    DialogDriver(dialog).Press(VK_RETURN);
+    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 1"});
+}
+
+} // namespace
