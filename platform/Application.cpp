@@ -5,8 +5,8 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QPushButton>
-#include <QStyleFactory>
 
 #include <clocale>
 
@@ -24,6 +24,18 @@ class ToolkitApplication : public QApplication {
 namespace {
 
 CWinApp* theApplication = nullptr;
+
+// Boxes and their labels stand a little closer together: templates give them the classic width.
+class DialogStyle : public QProxyStyle {
+  public:
+    DialogStyle() : QProxyStyle("Fusion") {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        if (metric == PM_CheckBoxLabelSpacing || metric == PM_RadioButtonLabelSpacing)
+            return 3;
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 // A light look of our own, whatever the desktop's: drawings are made for a light ground.
 QPalette dialogPalette() {
@@ -92,7 +104,7 @@ CWinApp::CWinApp(LPCTSTR name, int& argc, char** argv) : m_pszAppName(name) {
     // The toolkit has just adopted the machine's locale; printf and the exchange need the decimal point.
     std::setlocale(LC_NUMERIC, "C");
     QLocale::setDefault(QLocale::c());
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new DialogStyle);
     QApplication::setPalette(dialogPalette());
     QApplication::setFont(platform::toolkitFont("MS Sans Serif", 11, 400, false));
     QApplication::setApplicationName(platform::toQString(name));

@@ -249,8 +249,8 @@ BOOL CMenu::TrackPopupMenu(UINT flags, int x, int y, CWnd* window, const CRect*)
         return FALSE;
     // The window, and its object with it, may go while the menu is up.
     const QPointer<QWidget> widget = window && window->m_hWnd ? window->m_hWnd->widget : nullptr;
-    UINT chosen = platform::popupMenuHook ? platform::popupMenuHook(*this, window)
-                                          : showPopup(*m_menu, flags, x, y, widget);
+    UINT chosen =
+        platform::popupMenuHook ? platform::popupMenuHook(*this, window) : showPopup(*m_menu, flags, x, y, widget);
     const MenuData::Item* item = chosen && m_menu ? findCommand(*m_menu, chosen) : nullptr;
     if (!item || isDisabled(*item))
         chosen = 0;

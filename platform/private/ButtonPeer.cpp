@@ -45,7 +45,8 @@ void showCheck(QPushButton& button, int check) {
         button.setChecked(check != 0);
 }
 
-void applyStyle(QCheckBox&, DWORD) {}
+void applyStyle(QCheckBox&, DWORD) {
+}
 void applyStyle(QRadioButton& button, DWORD) {
     button.setAutoExclusive(false); // the groups are the dialog's, not the parent's
 }
@@ -132,7 +133,8 @@ template <class Base>
 void ButtonOf<Base>::showText() {
     QString shown = toQString(m_text);
     if (WindowPeer::style & BS_MULTILINE) // beside the check mark, or inside the frame
-        shown = wrapped(shown, this->fontMetrics(), this->width() - (buttonDialogCode(WindowPeer::style) & IsPushButton ? 6 : 18));
+        shown = wrapped(shown, this->fontMetrics(),
+                        this->width() - (buttonDialogCode(WindowPeer::style) & IsPushButton ? 6 : 18));
     if (!m_picture.isNull())
         shown.clear();
     if (shown == Base::text())
@@ -209,8 +211,8 @@ void GroupBoxPeer::paintEvent(QPaintEvent*) {
     painter.drawRect(frame.rect.adjusted(0, 0, -1, -1));
     painter.restore();
     QWidget::style()->drawItemText(&painter, QRect(Indent + 2, 0, titleWidth, lineHeight),
-                                   Qt::TextShowMnemonic | Qt::AlignLeft | Qt::TextSingleLine, palette(), isEnabled(), title,
-                                   QPalette::WindowText);
+                                   Qt::TextShowMnemonic | Qt::AlignLeft | Qt::TextSingleLine, palette(), isEnabled(),
+                                   title, QPalette::WindowText);
 }
 
 WindowPeer* createButton(const ControlSpec& spec, WindowPeer& parent) {

@@ -56,6 +56,14 @@ std::unique_ptr<CWnd> ComboBoxPeer::makeObject() const {
     return std::make_unique<CComboBox>();
 }
 
+// The list that hangs down takes the focus and gives it back, which is nobody's business.
+void ComboBoxPeer::focusChanged(bool gained) {
+    if (gained == m_focusTold || (!gained && m_dropped))
+        return;
+    m_focusTold = gained;
+    notifyParent(gained ? CBN_SETFOCUS : CBN_KILLFOCUS);
+}
+
 LRESULT ComboBoxPeer::defaultMessage(UINT message, WPARAM wParam, LPARAM) {
     return playKey(*this, message, wParam);
 }

@@ -15,7 +15,7 @@ class ComboBoxPeer final : public Hosted<QComboBox> {
     void setText(const CString& text) override; // only where the text can be typed
     UINT dialogCode() const override;
     std::unique_ptr<CWnd> makeObject() const override;
-    void focusChanged(bool gained) override { notifyParent(gained ? CBN_SETFOCUS : CBN_KILLFOCUS); }
+    void focusChanged(bool gained) override;
     LRESULT defaultMessage(UINT message, WPARAM wParam, LPARAM) override;
 
     int add(const CString& text);
@@ -38,6 +38,7 @@ class ComboBoxPeer final : public Hosted<QComboBox> {
   private:
     int m_told = -1; // the selection that the parent knows or that the program made
     bool m_dropped = false;
+    bool m_focusTold = false;
 };
 
 } // namespace platform

@@ -138,8 +138,8 @@ void LineEditPeer::setLimit(int characters) {
     allowLength(static_cast<int>(QLineEdit::text().size()));
 }
 
-// The limit is for the user; the toolkit would cut the program's text as well. Setting it sets the text again there, and
-// the selection with it is lost.
+// The limit is for the user; the toolkit would cut the program's text as well. Setting it sets the text again there,
+// and the selection with it is lost.
 void LineEditPeer::allowLength(int length) {
     const int wanted = std::max(m_limit, length);
     if (wanted == maxLength())

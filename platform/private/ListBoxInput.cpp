@@ -10,8 +10,8 @@ namespace platform {
 
 namespace {
 
-constexpr int DragScrollPeriod = 50;    // milliseconds
-constexpr int TypeAheadPause = 1000;    // milliseconds
+constexpr int DragScrollPeriod = 50; // milliseconds
+constexpr int TypeAheadPause = 1000; // milliseconds
 
 } // namespace
 
@@ -87,9 +87,13 @@ bool ListBoxPeer::pressSpace(Qt::KeyboardModifiers modifiers) {
     return true;
 }
 
+bool ListBoxPeer::typingAhead() const {
+    return m_typedAt.isValid() && m_typedAt.elapsed() <= TypeAheadPause;
+}
+
 // Letters that follow each other quickly make one prefix.
 int ListBoxPeer::typeAhead(const QString& typed) {
-    if (!m_typedAt.isValid() || m_typedAt.elapsed() > TypeAheadPause)
+    if (!typingAhead())
         m_typed.clear();
     m_typedAt.start();
     m_typed += typed;
@@ -102,7 +106,9 @@ void ListBoxPeer::keyPressEvent(QKeyEvent* event) {
         return;
     const int page = std::max(1, pageRows() - 1);
     bool changed = false;
-    switch (event->key()) {
+    // In a box with single selection a blank has nothing to select; it may stand inside the text that is looked for.
+    const bool blankInText = event->key() == Qt::Key_Space && !multiple() && typingAhead();
+    switch (blankInText ? 0 : event->key()) {
     case Qt::Key_Up:
     case Qt::Key_Left:
         changed = pickByKey(m_caret - 1, event->modifiers());
@@ -141,6 +147,7 @@ void ListBoxPeer::mousePressEvent(QMouseEvent* event) {
     const int index = rowAt(static_cast<int>(event->position().y()));
     if (!row(index))
         return;
+    m_typedAt.invalidate();
     m_dragging = pickByMouse(index, event->modifiers());
 }
 

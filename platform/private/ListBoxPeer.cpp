@@ -51,9 +51,10 @@ LRESULT ListBoxPeer::defaultMessage(UINT message, WPARAM wParam, LPARAM) {
 int ListBoxPeer::add(const CString& text) {
     if (!(WindowPeer::style & LBS_SORT) || m_rows.empty() || compareNoCase(m_rows.back().text.View(), text.View()) <= 0)
         return insert(-1, text);
-    const auto place = std::upper_bound(m_rows.begin(), m_rows.end(), text, [](const CString& added, const Row& present) {
-        return compareNoCase(added.View(), present.text.View()) < 0;
-    });
+    const auto place =
+        std::upper_bound(m_rows.begin(), m_rows.end(), text, [](const CString& added, const Row& present) {
+            return compareNoCase(added.View(), present.text.View()) < 0;
+        });
     return insert(static_cast<int>(place - m_rows.begin()), text);
 }
 
@@ -108,7 +109,8 @@ int ListBoxPeer::find(int startAfter, const CString& text, bool whole) const {
 }
 
 void ListBoxPeer::select(int index) {
-    setSelected(m_caret, m_caret, false); // no other row can be selected; callers step through a hundred thousand of them
+    setSelected(m_caret, m_caret,
+                false); // no other row can be selected; callers step through a hundred thousand of them
     m_caret = m_anchor = row(index) ? index : -1;
     if (m_caret < 0)
         return;
@@ -149,7 +151,8 @@ void ListBoxPeer::rowsChanged() {
     if (m_arrangePending)
         return;
     m_arrangePending = true;
-    QMetaObject::invokeMethod(this, [this] { arrange(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { arrange(); }, Qt::QueuedConnection);
     viewport()->update();
 }
 

@@ -32,7 +32,7 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     int count() const { return static_cast<int>(m_rows.size()); }
     Row* row(int index) { return index >= 0 && index < count() ? &m_rows[static_cast<std::size_t>(index)] : nullptr; }
 
-    int add(const CString& text);            // at the end, or in its sorted place
+    int add(const CString& text);               // at the end, or in its sorted place
     int insert(int index, const CString& text); // -1 appends; -1 for a bad place
     bool remove(int index);
     void reset();
@@ -85,6 +85,7 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     void dragTo(int y);
     void tell(UINT code);
     int typeAhead(const QString& typed);
+    bool typingAhead() const;
 
     std::vector<Row> m_rows;
     int m_selectedCount = 0;

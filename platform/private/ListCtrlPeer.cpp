@@ -64,12 +64,14 @@ void ListCtrlControl::setState(int row, UINT state, UINT mask) {
     if (mask & LVIS_SELECTED) {
         const bool select = state & LVIS_SELECTED;
         const bool single = view().selectionMode() == QAbstractItemView::SingleSelection;
-        QItemSelectionModel::SelectionFlags command = select ? QItemSelectionModel::Select : QItemSelectionModel::Deselect;
+        QItemSelectionModel::SelectionFlags command =
+            select ? QItemSelectionModel::Select : QItemSelectionModel::Deselect;
         if (select && single)
             command = QItemSelectionModel::ClearAndSelect;
         const int last = all ? m_model.count() - 1 : row;
         if (last >= 0 && !(all && select && single))
-            selection.select(QItemSelection(rowIndex(all ? 0 : row), rowIndex(last)), command | QItemSelectionModel::Rows);
+            selection.select(QItemSelection(rowIndex(all ? 0 : row), rowIndex(last)),
+                             command | QItemSelectionModel::Rows);
     }
     if (alive && !peer().destroyed && !all && (mask & state & LVIS_FOCUSED))
         selection.setCurrentIndex(rowIndex(row), QItemSelectionModel::NoUpdate);

@@ -150,7 +150,9 @@ void SpinPeer::step(int direction, bool ends) {
         return;
     const long long wanted = from + change.iDelta;
     const bool wraps = (WindowPeer::style & UDS_WRAP) && wanted != inRange(wanted);
-    const int next = !wraps ? inRange(wanted) : change.iDelta > 0 ? std::min(m_lower, m_upper) : std::max(m_lower, m_upper);
+    const int next = !wraps              ? inRange(wanted)
+                     : change.iDelta > 0 ? std::min(m_lower, m_upper)
+                                         : std::max(m_lower, m_upper);
     setPosition(next);
     if (!alive || WindowPeer::destroyed)
         return;
@@ -230,7 +232,8 @@ void SpinPeer::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const bool horizontal = WindowPeer::style & UDS_HORZ;
     const QRect all = rect();
-    const QRect first = horizontal ? QRect(0, 0, all.width() / 2, all.height()) : QRect(0, 0, all.width(), all.height() / 2);
+    const QRect first =
+        horizontal ? QRect(0, 0, all.width() / 2, all.height()) : QRect(0, 0, all.width(), all.height() / 2);
     const QRect second = horizontal ? all.adjusted(first.width(), 0, 0, 0) : all.adjusted(0, first.height(), 0, 0);
     const auto drawArrow = [&](const QRect& place, int direction, QStyle::PrimitiveElement arrow) {
         QStyleOptionButton option;

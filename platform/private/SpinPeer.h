@@ -17,7 +17,7 @@ class SpinPeer final : public Hosted<QWidget> {
     void setRange(int lower, int upper);
     int lower() const { return m_lower; }
     int upper() const { return m_upper; }
-    int position();            // the buddy's number, when it shows one
+    int position();             // the buddy's number, when it shows one
     int setPosition(int value); // shows it in the buddy; returns the old one
     WindowPeer* buddy() const;
     WindowPeer* setBuddy(WindowPeer* buddy);

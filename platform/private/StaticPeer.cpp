@@ -1,9 +1,9 @@
 #include "platform/private/StaticPeer.h"
 
+#include "platform/Resource.h"
 #include "platform/Static.h"
 #include "platform/private/Controls.h"
 #include "platform/private/GdiData.h"
-#include "platform/Resource.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -100,10 +100,11 @@ void StaticPeer::paintShape(QPainter& painter, UINT type) const {
         return frame(Qt::gray);
     case SS_WHITEFRAME:
         return frame(Qt::white);
+    // The toolkit centres a line on its place; a pixel further in, both of its shades lie inside.
     case SS_ETCHEDHORZ:
-        return qDrawShadeLine(&painter, 0, 0, width() - 1, 0, palette(), true, 1);
+        return qDrawShadeLine(&painter, 0, 1, width() - 1, 1, palette(), true, 1);
     case SS_ETCHEDVERT:
-        return qDrawShadeLine(&painter, 0, 0, 0, height() - 1, palette(), true, 1);
+        return qDrawShadeLine(&painter, 1, 0, 1, height() - 1, palette(), true, 1);
     case SS_ETCHEDFRAME:
         return qDrawShadeRect(&painter, rect(), palette(), true, 1);
     default:

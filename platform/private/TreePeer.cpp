@@ -82,8 +82,8 @@ int TreePeer::placeOf(QTreeWidgetItem& parentItem, const QString& text, HTREEITE
         return count;
     if (after == TVI_SORT) {
         int place = count;
-        while (place > 0 && compareNoCase(fromQString(text).View(),
-                                          fromQString(parentItem.child(place - 1)->text(0)).View()) < 0)
+        while (place > 0 &&
+               compareNoCase(fromQString(text).View(), fromQString(parentItem.child(place - 1)->text(0)).View()) < 0)
             --place;
         return place;
     }

@@ -189,7 +189,7 @@ void WindowPeer::paintNow() {
     paintPending = false;
     if (std::exchange(erasePending, false))
         picture.erase();
-    if (hasHandler(WM_PAINT))
+    if (object)
         send(WM_PAINT);
 }
 

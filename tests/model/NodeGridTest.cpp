@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cmath>
 #include <random>
 #include <set>
@@ -108,30 +107,6 @@ TEST(NodeGridTest, ForgetsNodesAndEndures) {
     EXPECT_TRUE(next.Insert(&far)); // both grids let their nodes go
 }
 
-// Fault: a search that walks all nodes, or a cluster that falls into one cell. A hundred times as many nodes may not
-// take ten times as long; the walk would take a hundred times.
-TEST(NodeGridTest, TakesConstantTime) {
-    const auto secondsPerFind = [](int count, double spacing) {
-        std::vector<std::unique_ptr<CNodo>> nodes;
-        NodeGrid grid;
-        for (int i = 0; i < count; ++i) {
-            nodes.push_back(
-                std::make_unique<CNodo>(CFPoint(i % 50 * spacing, i / 50 % 50 * spacing, i / 2500 * spacing)));
-            grid.Insert(nodes.back().get());
-        }
-        grid.Find({0, 0, 0}, nullptr, 1e-5);
-        const auto start = std::chrono::steady_clock::now();
-        int found = 0;
-        for (int i = 0; i < 20000; ++i)
-            found +=
-                grid.Find(*nodes[static_cast<std::size_t>(i * 7919L % count)]->GetPunto(), nullptr, 1e-5) != nullptr;
-        EXPECT_EQ(found, 20000);
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    };
-    const double few = std::min(secondsPerFind(2000, 3.0), secondsPerFind(2000, 3.0));
-    EXPECT_LT(std::min(secondsPerFind(200000, 3.0), secondsPerFind(200000, 3.0)), 10 * few);
-    EXPECT_LT(std::min(secondsPerFind(200000, 1e-3), secondsPerFind(200000, 1e-3)), 10 * few);
-}
 
 // Faults: a wild number that makes the table as large as itself; a number given again while undo still holds its
 // bearer.

