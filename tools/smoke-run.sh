@@ -9,6 +9,6 @@ fi
 
 openbox --sm-disable &
 manager=$!
-trap 'kill "$manager" 2>/dev/null || true' EXIT
+trap 'kill "$manager" 2>/dev/null && wait "$manager" || true' EXIT
 sleep 1 # until the window manager has taken the display over
 QT_QPA_PLATFORM=xcb timeout --kill-after=10 120 "$2" --smoke

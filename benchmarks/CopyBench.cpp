@@ -1,0 +1,142 @@
+// A hundred copies of a frame, its nodes joined from copy to copy, made by the dialog in an open document, beside a
+// plain loop that adds the same nodes and beams to the document one by one; and the undo of it.
+#include "benchmarks/Models.h"
+#include "benchmarks/Ratios.h"
+#include "dialogs/selection/DialogCopiaTrasla.h"
+#include "host/document/HostDocument.h"
+#include "host/ui/HostView.h"
+#include "host/ui/MainWindow.h"
+#include "host/ui/Workspace.h"
+#include "model/Nodo.h"
+#include "model/Trave.h"
+#include "platform/Application.h"
+
+#include <memory>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr int FrameNodes = 22 * 22 * 22; // with 22 * 22 * 21 beams, a little over 10,000
+constexpr int Copies = 100;
+constexpr double Step = 30; // clear of the frame itself
+
+// The application with the frame open and selected.
+class OpenFrame {
+  public:
+    OpenFrame() {
+        m_workspace.NewDocument();
+        bench::fillGrid(Document(), FrameNodes);
+        Document().SelezionaTutto();
+        CWinApp::PumpMessages();
+        m_nodes = Document().GetSizeNodi();
+        m_beams = Document().GetSizeTravi();
+    }
+
+    HostDocument& Document() { return m_workspace.ActiveView()->Document(); }
+
+    // Fills the dialog in; the caller presses OK, which ends it.
+    CDialogCopiaTrasla& OpenDialog() {
+        auto* dialog = static_cast<CDialogCopiaTrasla*>(m_workspace.Tools().Open(
+            std::make_unique<CDialogCopiaTrasla>(&m_workspace.Window().Frame()), *m_workspace.ActiveView()));
+        if (!dialog)
+            throw std::runtime_error("the dialog does not open");
+        dialog->GetDlgItem(CDialogCopiaTrasla::IDC_COPIE)->SetWindowText("100");
+        dialog->GetDlgItem(CDialogCopiaTrasla::IDC_SPAZIATURA)->SetWindowText("30");
+        dialog->CheckRadioButton(CDialogCopiaTrasla::IDC_UNIONE_TRAVI, CDialogCopiaTrasla::IDC_UNIONE_TRAVI + 2,
+                                 CDialogCopiaTrasla::IDC_UNIONE_TRAVI);
+        CWinApp::PumpMessages();
+        return *dialog;
+    }
+
+    void CopyByHand() {
+        HostDocument& document = Document();
+        const UndoStep step(document.Undo(), "Copie");
+        std::vector<int> places(static_cast<std::size_t>(m_nodes));
+        for (int i = 0; i < m_nodes; ++i)
+            places[static_cast<std::size_t>(i)] = document.GetIndexNodo(i)->GetID();
+        std::vector<std::pair<int, int>> beams;
+        for (int i = 0; i < m_beams; ++i) // the frame's nodes are numbered from 1 in document order
+            beams.emplace_back(document.GetIndexTrave(i)->GetIDNodoIniziale() - 1,
+                               document.GetIndexTrave(i)->GetIDNodoFinale() - 1);
+        for (int copy = 1; copy <= Copies; ++copy)
+            AddCopy(places, beams, copy * Step);
+    }
+
+    // What one of the two left out must not make it the faster one.
+    void Check() {
+        if (Document().GetSizeNodi() != m_nodes * (Copies + 1) ||
+            Document().GetSizeTravi() != m_beams * (Copies + 1) + m_nodes * Copies)
+            throw std::runtime_error("not the copies that were to be measured");
+    }
+
+  private:
+    // `places` holds the numbers of the former copy's nodes and gets those of the new one.
+    void AddCopy(std::vector<int>& places, const std::vector<std::pair<int, int>>& beams, double height) {
+        HostDocument& document = Document();
+        std::vector<int> former(places.size());
+        former.swap(places);
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            CFPoint place = *document.GetIndexNodo(static_cast<int>(i))->GetPunto() + CFPoint(0, 0, height);
+            places[i] = document.AddNodo(place, nullptr, 1)->GetID();
+        }
+        for (const auto& [first, second] : beams)
+            document.AddTrave(places[static_cast<std::size_t>(first)], places[static_cast<std::size_t>(second)],
+                              nullptr);
+        for (std::size_t i = 0; i < places.size(); ++i)
+            document.AddTrave(former[i], places[i], nullptr);
+    }
+
+    Workspace m_workspace;
+    int m_nodes = 0, m_beams = 0;
+};
+
+void copyByDialog(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            OpenFrame frame;
+            CDialogCopiaTrasla& dialog = frame.OpenDialog();
+            state.ResumeTiming();
+            dialog.OnOK();
+            state.PauseTiming();
+            frame.Check();
+        }
+        state.ResumeTiming();
+    }
+}
+
+void copyByHand(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            OpenFrame frame;
+            state.ResumeTiming();
+            frame.CopyByHand();
+            state.PauseTiming();
+            frame.Check();
+        }
+        state.ResumeTiming();
+    }
+}
+
+void undoCopies(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            OpenFrame frame;
+            frame.OpenDialog().OnOK();
+            frame.Check();
+            state.ResumeTiming();
+            frame.Document().Undo().Undo();
+            state.PauseTiming();
+        }
+        state.ResumeTiming();
+    }
+}
+
+const bench::Ratio copy("copy_100_of_10000_joined_elements", copyByDialog, copyByHand, 1.5, benchmark::kSecond);
+const bench::Ratio undo("undo_100_of_10000_joined_elements", undoCopies, copyByHand, 1, benchmark::kSecond);
+
+} // namespace

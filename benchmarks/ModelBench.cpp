@@ -1,0 +1,217 @@
+// Looking nodes up by place, drawing, and the project file, each beside the plainest way to do the same.
+#include "benchmarks/Models.h"
+#include "benchmarks/Ratios.h"
+#include "host/document/HostDocument.h"
+#include "host/files/ProjectFile.h"
+#include "host/ui/ViewRenderer.h"
+#include "model/Adv3d.h"
+#include "model/Nodo.h"
+#include "model/Trave.h"
+#include "platform/private/PainterDC.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <sqlite3.h>
+
+#include <cstdio>
+#include <random>
+
+namespace {
+
+constexpr int Million = 1'000'000;
+
+// Half of the places hold a node, half lie beside one.
+void lookUp(benchmark::State& state) {
+    HostDocument document;
+    const auto nodes = static_cast<int>(state.range(0));
+    bench::fillGrid(document, nodes);
+    std::mt19937 random(1);
+    std::uniform_int_distribution<int> index(0, nodes - 1);
+    std::vector<CFPoint> places;
+    for (int i = 0; i < 100'000; ++i) {
+        CFPoint place = *document.GetIndexNodo(index(random))->GetPunto();
+        place.x += i % 2 ? 0.4 : 1e-5;
+        places.push_back(place);
+    }
+    int found = 0;
+    for (auto _ : state)
+        for (CFPoint& place : places)
+            found += document.GetNodo(place, nullptr, 0.001) != nullptr;
+    benchmark::DoNotOptimize(found);
+}
+
+constexpr int DrawnElements = 100'000;
+constexpr int Side = 1000;
+
+void drawOurs(benchmark::State& state) {
+    HostDocument document;
+    bench::fillGrid(document, DrawnElements);
+    QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
+    Adv3d vista;
+    vista.SetViewport(CRect(0, 0, Side, Side));
+    CFPoint low;
+    CFPoint high;
+    GetBounds(document, low, high);
+    vista.FitToBounds(low, high);
+    for (auto _ : state) {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        platform::PainterDC dc(painter);
+        DrawModel(document, vista, dc);
+    }
+}
+
+// The same lines and the same marks of the nodes, projected and handed to the painter without any model behind them.
+void drawPolylines(benchmark::State& state) {
+    HostDocument document;
+    bench::fillGrid(document, DrawnElements);
+    std::vector<CFPoint> ends;
+    for (int i = 0; i < document.GetSizeTravi(); ++i) {
+        ends.push_back(*document.GetIndexTrave(i)->GetNodoIniziale()->GetPunto());
+        ends.push_back(*document.GetIndexTrave(i)->GetNodoFinale()->GetPunto());
+    }
+    std::vector<CFPoint> nodes;
+    for (int i = 0; i < document.GetSizeNodi(); ++i)
+        nodes.push_back(*document.GetIndexNodo(i)->GetPunto());
+    QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
+    Adv3d vista;
+    vista.SetViewport(CRect(0, 0, Side, Side));
+    CFPoint low;
+    CFPoint high;
+    GetBounds(document, low, high);
+    vista.FitToBounds(low, high);
+    for (auto _ : state) {
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.setPen(QPen(Qt::blue, 1));
+        for (std::size_t i = 0; i + 1 < ends.size(); i += 2) {
+            const Adv3d::Punto a = vista.Project(ends[i]);
+            const Adv3d::Punto b = vista.Project(ends[i + 1]);
+            const QPoint line[] = {{static_cast<int>(a.x), static_cast<int>(a.y)},
+                                   {static_cast<int>(b.x), static_cast<int>(b.y)}};
+            painter.drawPolyline(line, 2);
+        }
+        painter.setPen(QPen(Qt::black, 1));
+        for (const CFPoint& node : nodes) {
+            const Adv3d::Punto p = vista.Project(node);
+            const int x = static_cast<int>(p.x);
+            const int y = static_cast<int>(p.y);
+            const QPoint square[] = {{x - 1, y - 1}, {x + 1, y - 1}, {x + 1, y + 1}, {x - 1, y + 1}, {x - 1, y - 1}};
+            painter.drawPolyline(square, 5);
+        }
+    }
+}
+
+constexpr int FiledNodes = Million / 2; // and as many beams
+
+struct TemporaryFile {
+    QTemporaryDir folder;
+    std::string path = folder.filePath("modello.asg").toStdString();
+};
+
+void saveOurs(benchmark::State& state) {
+    const DocumentData data = bench::makeGrid(FiledNodes);
+    const TemporaryFile file;
+    for (auto _ : state)
+        SaveProject(data, file.path, "bench");
+}
+
+void openOurs(benchmark::State& state) {
+    const TemporaryFile file;
+    SaveProject(bench::makeGrid(FiledNodes), file.path, "bench");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(LoadProject(file.path));
+}
+
+// Rows of the same numbers in two plain tables.
+void saveRows(const std::string& path, const DocumentData& data) {
+    std::remove(path.c_str());
+    sqlite3* database = nullptr;
+    sqlite3_open(path.c_str(), &database);
+    sqlite3_exec(
+        database,
+        "CREATE TABLE nodi(id INTEGER PRIMARY KEY, x REAL, y REAL, z REAL);"
+        "CREATE TABLE travi(id INTEGER PRIMARY KEY, a INTEGER, b INTEGER, m INTEGER, s INTEGER, beta REAL);BEGIN",
+        nullptr, nullptr, nullptr);
+    sqlite3_stmt* row = nullptr;
+    sqlite3_prepare_v2(database, "INSERT INTO nodi VALUES(?,?,?,?)", -1, &row, nullptr);
+    for (int i = 0; i < data.Size(Kind::Node); ++i) {
+        CNodo* node = data.Node(i);
+        sqlite3_bind_int(row, 1, node->GetID());
+        sqlite3_bind_double(row, 2, node->GetPunto()->x);
+        sqlite3_bind_double(row, 3, node->GetPunto()->y);
+        sqlite3_bind_double(row, 4, node->GetPunto()->z);
+        sqlite3_step(row);
+        sqlite3_reset(row);
+    }
+    sqlite3_finalize(row);
+    sqlite3_prepare_v2(database, "INSERT INTO travi VALUES(?,?,?,?,?,?)", -1, &row, nullptr);
+    for (int i = 0; i < data.Size(Kind::Beam); ++i) {
+        auto* beam = data.As<CTrave>(Kind::Beam, i);
+        const int values[] = {beam->GetID(), beam->GetIDNodoIniziale(), beam->GetIDNodoFinale(), beam->GetIDMateriale(),
+                              beam->GetIDSezione()};
+        for (int column = 0; column < 5; ++column)
+            sqlite3_bind_int(row, column + 1, values[column]);
+        sqlite3_bind_double(row, 6, beam->GetBeta());
+        sqlite3_step(row);
+        sqlite3_reset(row);
+    }
+    sqlite3_finalize(row);
+    sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr);
+    sqlite3_close(database);
+}
+
+void saveTheirs(benchmark::State& state) {
+    const DocumentData data = bench::makeGrid(FiledNodes);
+    const TemporaryFile file;
+    for (auto _ : state)
+        saveRows(file.path, data);
+}
+
+// Reads the rows back into plain records: no objects, no checks.
+void openTheirs(benchmark::State& state) {
+    struct Node {
+        int id;
+        double x, y, z;
+    };
+    struct Beam {
+        int values[5];
+        double beta;
+    };
+    const TemporaryFile file;
+    saveRows(file.path, bench::makeGrid(FiledNodes));
+    for (auto _ : state) {
+        sqlite3* database = nullptr;
+        sqlite3_open(file.path.c_str(), &database);
+        sqlite3_stmt* row = nullptr;
+        std::vector<Node> nodes;
+        sqlite3_prepare_v2(database, "SELECT * FROM nodi", -1, &row, nullptr);
+        while (sqlite3_step(row) == SQLITE_ROW)
+            nodes.push_back({sqlite3_column_int(row, 0), sqlite3_column_double(row, 1), sqlite3_column_double(row, 2),
+                             sqlite3_column_double(row, 3)});
+        sqlite3_finalize(row);
+        std::vector<Beam> beams;
+        sqlite3_prepare_v2(database, "SELECT * FROM travi", -1, &row, nullptr);
+        while (sqlite3_step(row) == SQLITE_ROW) {
+            Beam beam{};
+            for (int column = 0; column < 5; ++column)
+                beam.values[column] = sqlite3_column_int(row, column);
+            beam.beta = sqlite3_column_double(row, 5);
+            beams.push_back(beam);
+        }
+        sqlite3_finalize(row);
+        sqlite3_close(database);
+        benchmark::DoNotOptimize(nodes.data());
+        benchmark::DoNotOptimize(beams.data());
+    }
+}
+
+const bench::Growth nodeLookUp("node_by_place_10000_to_1000000", lookUp, 10'000, Million, 1,
+                               5); // caches, not the search
+const bench::Ratio draw("draw_100000_elements", drawOurs, drawPolylines, 1.5);
+const bench::Ratio save("save_1000000_elements", saveOurs, saveTheirs, 2, benchmark::kSecond);
+const bench::Ratio open("open_1000000_elements", openOurs, openTheirs, 2, benchmark::kSecond);
+
+} // namespace

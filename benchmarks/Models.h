@@ -1,0 +1,15 @@
+// Large models to measure on.
+#pragma once
+
+#include "host/document/DocumentData.h"
+
+class HostDocument;
+
+namespace bench {
+
+// A cubic grid of nodes, one apart, joined along the first axis by beams with one material and one section: about as
+// many beams as nodes.
+DocumentData makeGrid(int nodes);
+void fillGrid(HostDocument& document, int nodes);
+
+} // namespace bench

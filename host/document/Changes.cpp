@@ -1,0 +1,132 @@
+#include "host/document/Changes.h"
+
+namespace host {
+
+void Creation::Add(Kind kind) {
+    if (!m_runs.empty() && m_runs.back().kind == kind)
+        ++m_runs.back().count;
+    else
+        m_runs.push_back({kind, 1});
+}
+
+void Creation::Undo() {
+    for (std::size_t run = m_runs.size(); run-- > 0;)
+        for (std::uint32_t i = 0; i < m_runs[run].count; ++i)
+            m_objects.push_back(m_data.TakeLast(m_runs[run].kind));
+}
+
+void Creation::Redo() {
+    while (!m_objects.empty()) {
+        m_data.Return(std::move(m_objects.back()));
+        m_objects.pop_back();
+    }
+}
+
+Removal::Removal(DocumentData& data, Kind kind, std::vector<CElemento*> objects)
+    : m_data(data), m_kind(kind), m_objects(std::move(objects)) {
+    Redo();
+}
+
+void Removal::Undo() {
+    m_data.PutBack(m_kind, std::move(m_taken));
+    m_taken.clear();
+}
+
+void Removal::Redo() {
+    m_taken = m_data.Take(m_kind, m_objects);
+}
+
+Movement::Movement(DocumentData& data, std::vector<std::pair<CNodo*, CFPoint>> places)
+    : m_data(data), m_places(std::move(places)) {
+    Swap();
+}
+
+void Movement::Swap() {
+    for (auto& [node, place] : m_places) {
+        const CFPoint here = *node->GetPunto();
+        m_data.MoveNode(*node, place);
+        place = here;
+    }
+}
+
+Attributes::Attributes(DocumentData& data, CElemento& object)
+    : m_data(data), m_object(object), m_other(CreaCopia(object)) {
+}
+
+void Attributes::Swap() {
+    std::unique_ptr<CElemento> here = CreaCopia(m_object);
+    RipristinaStato(m_object, *m_other, m_data);
+    // The copy may have been made while the object was selected; the selection itself is restored after the step.
+    m_object.SetSelect(0);
+    m_other = std::move(here);
+}
+
+void EntityName::Swap() {
+    const CString name = m_entity.GetNome();
+    const CString type = m_entity.GetTipo();
+    m_entity.SetNome(m_name);
+    m_entity.SetTipo(m_type);
+    m_name = name;
+    m_type = type;
+}
+
+Carrying::Carrying(CCasoCarico& loadCase, const std::vector<CElementoCarico*>& carriers) : m_case(loadCase) {
+    for (CElementoCarico* element : carriers) {
+        std::vector<int> loads;
+        for (int i = 0; i < element->GetSizeCarichi(); ++i)
+            if (element->GetIndexIDCasoCarico(i) == loadCase.GetID())
+                loads.push_back(element->GetIndexIDCarico(i));
+        m_carriers.push_back({element, std::move(loads)});
+    }
+}
+
+void Carrying::Undo() {
+    for (const Carrier& carrier : m_carriers)
+        carrier.element->EliminaCarichiCaso(m_case.GetID());
+}
+
+void Carrying::Redo() {
+    for (const Carrier& carrier : m_carriers)
+        for (const int id : carrier.loads)
+            carrier.element->AddCarico(m_case.GetCarico(id, nullptr), 0);
+}
+
+template <class Action>
+void Grouping::ForEachMember(Action action) {
+    for (int i = 0; i < m_group.GetSizeElementi(); ++i) {
+        const unsigned code = m_group.GetTipoIndexElemento(i);
+        for (const Kind kind : allKinds)
+            if (IsSelectableKind(kind) && CodeOf(kind) == code)
+                if (auto* member = m_data.FindAs<CElementoGruppo>(kind, m_group.GetIDIndexElemento(i)))
+                    action(*member);
+    }
+}
+
+void Grouping::Undo() {
+    ForEachMember([this](CElementoGruppo& member) { member.EliminaGruppo(m_group.GetID()); });
+}
+
+void Grouping::Redo() {
+    ForEachMember([this](CElementoGruppo& member) { member.AddGruppo(m_group.GetID()); });
+}
+
+LoadMembership::LoadMembership(CCasoCarico& loadCase, std::unique_ptr<CCarico> load)
+    : m_case(loadCase), m_id(loadCase.AddCarico(load.get())) {
+    if (m_id != 0)
+        load.release();
+}
+
+LoadMembership::LoadMembership(CCasoCarico& loadCase, int loadId) : m_case(loadCase), m_id(loadId) {
+    Swap();
+}
+
+void LoadMembership::Swap() {
+    if (m_load) {
+        m_case.AddCarico(m_load.get());
+        m_load.release();
+    } else {
+        m_load = m_case.StaccaCarico(m_id);
+    }
+}
+
+} // namespace host

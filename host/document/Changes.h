@@ -1,0 +1,180 @@
+// The reversible changes that undo steps are made of. Each keeps references to the document's data, which outlives it.
+#pragma once
+
+#include "host/document/DocumentData.h"
+#include "host/document/HostUndo.h"
+#include "model/CasoCarico.h"
+#include "model/Gruppo.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace host {
+
+// Objects appended to their lists, in any mixture of kinds. While undone, it owns them.
+class Creation : public Change {
+  public:
+    explicit Creation(DocumentData& data) : m_data(data) {}
+
+    void Add(Kind kind); // one more object has just been appended
+    void Undo() override;
+    void Redo() override;
+
+  private:
+    struct Run {
+        Kind kind;
+        std::uint32_t count;
+    };
+    DocumentData& m_data;
+    std::vector<Run> m_runs;
+    // The newest first, so that on destruction no element outlives its nodes.
+    std::vector<std::unique_ptr<CElemento>> m_objects;
+};
+
+// Objects taken out of one list. While not undone, it owns them. Elements go before their nodes, in a change of their
+// own.
+class Removal : public Change {
+  public:
+    // Takes them out.
+    Removal(DocumentData& data, Kind kind, std::vector<CElemento*> objects);
+
+    void Undo() override;
+    void Redo() override;
+
+  private:
+    DocumentData& m_data;
+    Kind m_kind;
+    std::vector<CElemento*> m_objects;
+    DocumentData::Taken m_taken;
+};
+
+// Nodes moved.
+class Movement : public Change {
+  public:
+    // Moves them.
+    Movement(DocumentData& data, std::vector<std::pair<CNodo*, CFPoint>> places);
+
+    void Undo() override { Swap(); }
+    void Redo() override { Swap(); }
+
+  private:
+    void Swap();
+
+    DocumentData& m_data;
+    std::vector<std::pair<CNodo*, CFPoint>> m_places; // where the nodes are not
+};
+
+// The attributes of one object. Made before they change. Not for load cases, whose loads others refer to.
+class Attributes : public Change {
+  public:
+    Attributes(DocumentData& data, CElemento& object);
+
+    CElemento& Object() const { return m_object; }
+    void Undo() override { Swap(); }
+    void Redo() override { Swap(); }
+
+  private:
+    void Swap();
+
+    DocumentData& m_data;
+    CElemento& m_object;
+    std::unique_ptr<CElemento> m_other;
+};
+
+// Name and type of a named entity.
+class EntityName : public Change {
+  public:
+    // Made before they change.
+    explicit EntityName(CElementoStrutturale& entity) : EntityName(entity, entity.GetNome()) {}
+    // Made when the name has changed.
+    EntityName(CElementoStrutturale& entity, CString former)
+        : m_entity(entity), m_name(std::move(former)), m_type(entity.GetTipo()) {}
+
+    void Undo() override { Swap(); }
+    void Redo() override { Swap(); }
+
+  private:
+    void Swap();
+
+    CElementoStrutturale& m_entity;
+    CString m_name, m_type;
+};
+
+// Elements that were made to carry loads of a case, each at the end of its list, when none carried any before.
+class Carrying : public Change {
+  public:
+    // Made when they carry them.
+    Carrying(CCasoCarico& loadCase, const std::vector<CElementoCarico*>& carriers);
+
+    void Undo() override;
+    void Redo() override;
+
+  private:
+    struct Carrier {
+        CElementoCarico* element;
+        std::vector<int> loads;
+    };
+    CCasoCarico& m_case;
+    std::vector<Carrier> m_carriers;
+};
+
+// The members of a new group, which learn of it.
+class Grouping : public Change {
+  public:
+    // Tells them.
+    Grouping(DocumentData& data, CGruppo& group) : m_data(data), m_group(group) { Redo(); }
+
+    void Undo() override;
+    void Redo() override;
+
+  private:
+    template <class Action>
+    void ForEachMember(Action action);
+
+    DocumentData& m_data;
+    CGruppo& m_group;
+};
+
+// A load that entered its case as the last one, or left it. No element refers to it while it is out.
+class LoadMembership : public Change {
+  public:
+    // Puts it in.
+    LoadMembership(CCasoCarico& loadCase, std::unique_ptr<CCarico> load);
+    // Takes it out.
+    LoadMembership(CCasoCarico& loadCase, int loadId);
+
+    CCarico* Load() const { return m_case.GetCarico(m_id, nullptr); }
+    void Undo() override { Swap(); }
+    void Redo() override { Swap(); }
+
+  private:
+    void Swap();
+
+    CCasoCarico& m_case;
+    int m_id;
+    std::unique_ptr<CCarico> m_load; // while it is out
+};
+
+// A plain value of the document.
+template <class T>
+class Value : public Change {
+  public:
+    // Sets it.
+    Value(T& where, T value) : m_where(where), m_other(std::move(value)) { std::swap(m_where, m_other); }
+
+    void Undo() override { std::swap(m_where, m_other); }
+    void Redo() override { std::swap(m_where, m_other); }
+
+  private:
+    T& m_where;
+    T m_other;
+};
+
+// Which load case or combination is the current one.
+class CurrentCase : public Value<int> {
+  public:
+    using Value::Value;
+    bool ChangesModel() const override { return false; }
+};
+
+} // namespace host

@@ -1,0 +1,244 @@
+#include "host/document/DocumentData.h"
+
+#include "model/Asta.h"
+#include "model/CasoCarico.h"
+#include "model/Combinazione.h"
+#include "model/Gruppo.h"
+#include "model/Materiale.h"
+#include "model/Setto.h"
+#include "model/Sezione.h"
+#include "model/Solaio.h"
+#include "model/Spessore.h"
+#include "model/Trave.h"
+
+#include <algorithm>
+#include <cmath>
+
+unsigned CodeOf(Kind kind) {
+    static constexpr unsigned codes[kindCount] = {
+        TipoElemento::Nodo,      TipoElemento::Trave,      TipoElemento::Asta,         TipoElemento::Setto,
+        TipoElemento::Solaio,    TipoElemento::CasoCarico, TipoElemento::Combinazione, TipoElemento::Gruppo,
+        TipoElemento::Materiale, TipoElemento::Sezione,    TipoElemento::Spessore};
+    return codes[static_cast<std::size_t>(kind)];
+}
+
+bool KindOf(CElemento& object, Kind& kind) {
+    static const auto kinds = [] {
+        std::array<signed char, 64> table;
+        table.fill(-1);
+        for (const Kind candidate : allKinds)
+            table[CodeOf(candidate)] = static_cast<signed char>(candidate);
+        return table;
+    }();
+    const unsigned code = object.GetTipoElemento();
+    if (code >= kinds.size() || kinds[code] < 0)
+        return false;
+    kind = static_cast<Kind>(kinds[code]);
+    return true;
+}
+
+bool IsUsablePlace(const CFPoint& place) {
+    constexpr double farthest = 1e12;
+    return std::fabs(place.x) <= farthest && std::fabs(place.y) <= farthest && std::fabs(place.z) <= farthest;
+}
+
+std::unique_ptr<CElemento> MakeObject(Kind kind) {
+    switch (kind) {
+    case Kind::Node:
+        return std::make_unique<CNodo>();
+    case Kind::Beam:
+        return std::make_unique<CTrave>();
+    case Kind::Truss:
+        return std::make_unique<CAsta>();
+    case Kind::Wall:
+        return std::make_unique<CSetto>();
+    case Kind::Slab:
+        return std::make_unique<CSolaio>();
+    case Kind::LoadCase:
+        return std::make_unique<CCasoCarico>();
+    case Kind::Combination:
+        return std::make_unique<CCombinazione>();
+    case Kind::Group:
+        return std::make_unique<CGruppo>();
+    case Kind::Material:
+        return std::make_unique<CMateriale>();
+    case Kind::Section:
+        return std::make_unique<CSezione>();
+    case Kind::Thickness:
+        return std::make_unique<CSpessore>();
+    }
+    return nullptr;
+}
+
+DocumentData::DocumentData() : m_grid(std::make_unique<NodeGrid>()) {
+}
+
+// Whoever refers to others goes first, so that no node has to look for elements that still know it.
+DocumentData::~DocumentData() {
+    for (const Kind kind : {Kind::Beam, Kind::Truss, Kind::Wall, Kind::Slab, Kind::Node})
+        list(kind).objects.clear();
+}
+
+DocumentData::DocumentData(DocumentData&&) noexcept = default;
+
+DocumentData& DocumentData::operator=(DocumentData&& other) noexcept {
+    DocumentData old(std::move(*this)); // destroyed in its own order, with its own grid
+    m_lists = std::move(other.m_lists);
+    m_grid = std::move(other.m_grid);
+    m_extent = other.m_extent;
+    m_tolerance = other.m_tolerance;
+    m_units = other.m_units;
+    m_info = std::move(other.m_info);
+    m_currentCase = other.m_currentCase;
+    return *this;
+}
+
+bool DocumentData::Contains(CElemento& object) const {
+    Kind kind;
+    return KindOf(object, kind) && Find(kind, object.GetID()) == &object;
+}
+
+int DocumentData::IndexOf(Kind kind, int id) const {
+    const auto& objects = list(kind).objects;
+    const auto found =
+        std::find_if(objects.begin(), objects.end(), [id](const auto& object) { return object->GetID() == id; });
+    return found == objects.end() ? -1 : static_cast<int>(found - objects.begin());
+}
+
+int DocumentData::NextId(Kind kind) const {
+    return list(counter(kind)).next;
+}
+
+void DocumentData::enter(Kind kind, CElemento& object) {
+    List& its = list(kind);
+    its.ids.Insert(object.GetID(), &object);
+    if (kind == Kind::Node) {
+        auto& node = static_cast<CNodo&>(object);
+        m_grid->Insert(&node);
+        grow(*node.GetPunto());
+    } else if (IsLineKind(kind)) {
+        static_cast<CLinea&>(object).CollegaNodi();
+    } else if (IsPolygonKind(kind)) {
+        static_cast<CPoligono&>(object).CollegaNodi();
+    }
+}
+
+void DocumentData::leave(Kind kind, CElemento& object) {
+    list(kind).ids.Remove(object.GetID());
+    object.SetRisultati(nullptr); // the results may end while the object is out of the model
+    if (kind == Kind::Node)
+        m_grid->Remove(static_cast<CNodo*>(&object));
+    else if (IsLineKind(kind))
+        static_cast<CLinea&>(object).StaccaNodi();
+    else if (IsPolygonKind(kind))
+        static_cast<CPoligono&>(object).StaccaNodi();
+}
+
+bool DocumentData::Append(std::unique_ptr<CElemento>& object) {
+    Kind kind;
+    if (!object || !KindOf(*object, kind) || object->GetID() <= 0 || Find(kind, object->GetID()))
+        return false;
+    if (counter(kind) == Kind::LoadCase &&
+        Find(kind == Kind::LoadCase ? Kind::Combination : Kind::LoadCase, object->GetID()))
+        return false;
+    Return(std::move(object));
+    return true;
+}
+
+void DocumentData::Return(std::unique_ptr<CElemento> object) {
+    Kind kind;
+    if (!object || !KindOf(*object, kind))
+        return;
+    enter(kind, *object);
+    int& next = list(counter(kind)).next;
+    if (next != 0 && object->GetID() >= next)
+        next = object->GetID() < 0x7fffffff ? object->GetID() + 1 : 0;
+    list(kind).objects.push_back(std::move(object));
+}
+
+std::unique_ptr<CElemento> DocumentData::TakeLast(Kind kind) {
+    List& its = list(kind);
+    std::unique_ptr<CElemento> object = std::move(its.objects.back());
+    its.objects.pop_back();
+    leave(kind, *object);
+    // The newest number is free again, so that a command repeated after its undo numbers alike.
+    int& next = list(counter(kind)).next;
+    if (object->GetID() == next - 1)
+        next = object->GetID();
+    return object;
+}
+
+DocumentData::Taken DocumentData::Take(Kind kind, const std::vector<CElemento*>& objects) {
+    Taken taken;
+    taken.reserve(objects.size());
+    for (CElemento* object : objects)
+        object->SetAlready(1);
+    auto& from = list(kind).objects;
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        if (from[i]->IsAlready()) {
+            from[i]->SetAlready(0);
+            leave(kind, *from[i]);
+            taken.emplace_back(i, std::move(from[i]));
+        } else {
+            if (kept != i)
+                from[kept] = std::move(from[i]);
+            ++kept;
+        }
+    }
+    from.resize(kept);
+    return taken;
+}
+
+void DocumentData::PutBack(Kind kind, Taken taken) {
+    auto& to = list(kind).objects;
+    std::size_t from = to.size(); // behind the next object that moves up
+    std::size_t at = to.size() + taken.size();
+    to.resize(at);
+    for (std::size_t i = taken.size(); i-- > 0;) {
+        for (--at; at > taken[i].first; --at)
+            to[at] = std::move(to[--from]);
+        to[at] = std::move(taken[i].second);
+    }
+    for (const auto& [index, object] : taken)
+        enter(kind, *to[index]);
+}
+
+void DocumentData::grow(const CFPoint& place) {
+    m_extent = std::max({m_extent, std::fabs(place.x), std::fabs(place.y), std::fabs(place.z)});
+}
+
+void DocumentData::MoveNode(CNodo& node, const CFPoint& place) {
+    node.SetPunto(place);
+    grow(place);
+}
+
+CNodo* DocumentData::NodeAt(const CFPoint& place, const CNodo* excluded, double tolerance) const {
+    return m_grid->Find(place, excluded, tolerance);
+}
+
+double DocumentData::ExactTolerance() const {
+    // Of the next power of ten: the search keeps a table for each size of tolerance, and few should do.
+    return m_extent > 0 ? 1e-9 * std::pow(10.0, std::floor(std::log10(m_extent))) : 0;
+}
+
+CNodo* DocumentData::CercaNodo(int id) {
+    return FindAs<CNodo>(Kind::Node, id);
+}
+
+CMateriale* DocumentData::CercaMateriale(int id) {
+    return FindAs<CMateriale>(Kind::Material, id);
+}
+
+CSezione* DocumentData::CercaSezione(int id) {
+    return FindAs<CSezione>(Kind::Section, id);
+}
+
+CSpessore* DocumentData::CercaSpessore(int id) {
+    return FindAs<CSpessore>(Kind::Thickness, id);
+}
+
+CCarico* DocumentData::CercaCarico(int idCasoCarico, int idCarico) {
+    auto* loadCase = FindAs<CCasoCarico>(Kind::LoadCase, idCasoCarico);
+    return loadCase ? loadCase->GetCarico(idCarico, nullptr) : nullptr;
+}

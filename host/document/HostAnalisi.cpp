@@ -1,0 +1,125 @@
+#include "host/document/HostAnalisi.h"
+
+#include "model/Combinazione.h"
+#include "platform/Collections.h"
+
+using host::CaseResults;
+
+host::AnalysisOutcome HostAnalisi::Run(const std::function<void()>& step) {
+    Clear();
+    host::AnalysisOutcome outcome = host::Analyse(m_data, step);
+    if (!outcome.done)
+        return outcome;
+    m_cases = std::move(outcome.cases);
+    outcome.cases.clear();
+    m_bRisultatiValidi = 1;
+    Show(m_data.CurrentCase());
+    return outcome;
+}
+
+bool HostAnalisi::Clear() {
+    const bool valid = m_bRisultatiValidi != 0;
+    m_bRisultatiValidi = 0;
+    if (!m_cases.empty()) {
+        Show(0); // before the records go that the elements point at
+        m_cases = {};
+        m_combined = {};
+    }
+    return valid;
+}
+
+CaseResults* HostAnalisi::Find(int caseId) {
+    for (CaseResults& each : m_cases)
+        if (each.id == caseId)
+            return &each;
+    return nullptr;
+}
+
+const CaseResults* HostAnalisi::Results(int caseId) const {
+    return const_cast<HostAnalisi*>(this)->Find(caseId);
+}
+
+std::size_t HostAnalisi::LineCount() const {
+    return static_cast<std::size_t>(m_data.Size(Kind::Beam) + m_data.Size(Kind::Truss));
+}
+
+CLineaRisultati* HostAnalisi::Line(std::size_t index) const {
+    const auto beams = static_cast<std::size_t>(m_data.Size(Kind::Beam));
+    return index < beams ? m_data.As<CLineaRisultati>(Kind::Beam, static_cast<int>(index))
+                         : m_data.As<CLineaRisultati>(Kind::Truss, static_cast<int>(index - beams));
+}
+
+void HostAnalisi::Show(int caseId) {
+    auto* combination = m_data.FindAs<CCombinazione>(Kind::Combination, caseId);
+    CaseResults* results = Find(caseId);
+    CaseResults former = std::move(m_combined); // lives until the elements have let it go
+    m_combined = {};
+    if (combination && !m_cases.empty()) {
+        m_combined = host::Combine(*combination, m_cases);
+        results = &m_combined;
+    }
+    m_shown = results ? caseId : 0;
+    ShowRecords(results);
+}
+
+// In the middle of a command the model may have lost elements while the results still stand: their numbers tell.
+void HostAnalisi::ShowRecords(CaseResults* results) {
+    for (std::size_t i = 0, count = LineCount(); i < count; ++i)
+        Line(i)->SetRisultati(results && i < results->lines.size() && results->lines[i].GetID() == Line(i)->GetID()
+                                  ? &results->lines[i]
+                                  : nullptr);
+    for (int i = 0; i < m_data.Size(Kind::Node); ++i)
+        m_data.Node(i)->SetReazioniVincolari(nullptr);
+    if (!results)
+        return;
+    for (const CaseResults::Reaction& reaction : results->reactions) {
+        // The record holds what the node acts with on its support.
+        const auto& r = reaction.values;
+        const CNodoReazioniVincolari record(-r[0], -r[1], -r[2], -r[3], -r[4], -r[5]);
+        if (CNodo* node = m_data.Node(reaction.node))
+            node->SetReazioniVincolari(&record);
+    }
+}
+
+int HostAnalisi::LeggiRisultati(int idCaso, CObArray& out, int) {
+    const CaseResults* results = m_bRisultatiValidi ? Results(idCaso) : nullptr;
+    if (!results)
+        return 0;
+    for (const CTraveRisultati& each : results->lines)
+        out.Add(new CTraveRisultati(each));
+    return 1;
+}
+
+bool HostAnalisi::Fits(const CObArray& records) const {
+    if (static_cast<std::size_t>(records.GetSize()) != LineCount())
+        return false;
+    for (std::size_t i = 0, count = LineCount(); i < count; ++i) {
+        const auto* record = DYNAMIC_DOWNCAST(CTraveRisultati, records.GetAt(static_cast<int>(i)));
+        if (!record || record->GetID() != Line(i)->GetID())
+            return false;
+    }
+    return true;
+}
+
+int HostAnalisi::AggiornaRiferimentiRisultati(CObArray& risultati) {
+    if (!Fits(risultati))
+        return 0;
+    for (std::size_t i = 0, count = LineCount(); i < count; ++i)
+        Line(i)->SetRisultati(static_cast<CTraveRisultati*>(risultati.GetAt(static_cast<int>(i))));
+    return 1;
+}
+
+int HostAnalisi::CreaRisultati(int idCaso, CObArray& risultati, int) {
+    CaseResults* results = m_bRisultatiValidi ? Find(idCaso) : nullptr;
+    if (!results || !Fits(risultati))
+        return 0;
+    // In place: elements that show this case point at these records.
+    for (std::size_t i = 0; i < results->lines.size(); ++i)
+        results->lines[i] = *static_cast<CTraveRisultati*>(risultati.GetAt(static_cast<int>(i)));
+    return 1;
+}
+
+int HostAnalisi::RipristinaRisultati() {
+    Show(m_shown);
+    return m_shown != 0;
+}

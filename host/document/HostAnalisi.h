@@ -1,0 +1,41 @@
+// The analysis of a document: its switches, and the results, which the elements show for the current load case or
+// combination.
+#pragma once
+
+#include "dialogs/frame/QuovarAnalisi.h"
+#include "host/analysis/Analysis.h"
+
+// It owns the results that elements point at. They go as soon as the model changes: whoever owns the model calls Clear.
+class HostAnalisi : public CQuovarAnalisi {
+  public:
+    explicit HostAnalisi(DocumentData& data) : m_data(data) { m_bAnalisiStatica = 1; }
+
+    // Analyses the model and shows the current case; former results go either way. The cases of the outcome have moved
+    // in here.
+    host::AnalysisOutcome Run(const std::function<void()>& step);
+    // Makes the elements show the results of a load case or combination; without such results, none.
+    void Show(int caseId);
+    // Takes the results away. True when there were valid ones.
+    bool Clear();
+    // Of a load case; null without results.
+    const host::CaseResults* Results(int caseId) const;
+    const std::vector<host::CaseResults>& Cases() const { return m_cases; }
+
+    // Beams, then truss members, in document order. Results of a combination are not stored: 0.
+    int LeggiRisultati(int idCaso, CObArray& out, int flag) override;
+    int AggiornaRiferimentiRisultati(CObArray& risultati) override;
+    int CreaRisultati(int idCaso, CObArray& risultati, int flag) override;
+    int RipristinaRisultati() override;
+
+  private:
+    void ShowRecords(host::CaseResults* results); // null shows none
+    CLineaRisultati* Line(std::size_t index) const;
+    std::size_t LineCount() const;
+    bool Fits(const CObArray& records) const;
+    host::CaseResults* Find(int caseId);
+
+    DocumentData& m_data;
+    std::vector<host::CaseResults> m_cases;
+    host::CaseResults m_combined; // of the combination shown last
+    int m_shown = 0;              // case or combination; 0 none
+};

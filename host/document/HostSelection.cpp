@@ -1,0 +1,219 @@
+#include "host/document/HostSelection.h"
+
+#include "host/document/Copier.h"
+#include "host/document/HostDocument.h"
+#include "model/Linea.h"
+#include "model/Poligono.h"
+
+#include <algorithm>
+#include <cmath>
+
+HostSelection::HostSelection(HostDocument& document) : m_document(document) {
+}
+
+HostSelection::~HostSelection() = default;
+
+// ---- The set
+
+CElemento* HostSelection::At(Kind kind, int index) const {
+    const auto& elements = m_kinds[static_cast<std::size_t>(kind)];
+    return static_cast<std::size_t>(index) < elements.size() ? elements[static_cast<std::size_t>(index)] : nullptr;
+}
+
+void HostSelection::Changed(unsigned kinds) {
+    if (kinds == 0)
+        return;
+    m_snapshot.reset();
+    m_listValid = false;
+    m_document.NotifySelection(kinds);
+}
+
+// The kind's bit when the element was not selected before, else 0.
+unsigned HostSelection::Put(CElemento* element) {
+    Kind kind;
+    if (!element || !KindOf(*element, kind) || !IsSelectableKind(kind) || element->IsSelect() ||
+        !m_document.Data().Contains(*element))
+        return 0;
+    element->SetSelect(1);
+    m_all.push_back(element);
+    m_kinds[static_cast<std::size_t>(kind)].push_back(element);
+    return Bit(kind);
+}
+
+void HostSelection::Add(CElemento* element) {
+    Changed(Put(element));
+}
+
+void HostSelection::Add(const std::vector<CElemento*>& elements) {
+    unsigned kinds = 0;
+    for (CElemento* element : elements)
+        kinds |= Put(element);
+    Changed(kinds);
+}
+
+void HostSelection::Remove(CElemento* element) {
+    Remove(std::vector<CElemento*>{element});
+}
+
+void HostSelection::Remove(const std::vector<CElemento*>& elements) {
+    unsigned kinds = 0;
+    for (CElemento* element : elements) {
+        Kind kind;
+        if (!element || !element->IsSelect() || !KindOf(*element, kind) || !IsSelectableKind(kind))
+            continue;
+        element->SetSelect(0);
+        kinds |= Bit(kind);
+    }
+    if (kinds == 0)
+        return;
+    // One sweep for all of them.
+    const auto isOut = [](CElemento* element) { return !element->IsSelect(); };
+    std::erase_if(m_all, isOut);
+    for (const Kind kind : allKinds)
+        if (kinds & Bit(kind))
+            std::erase_if(m_kinds[static_cast<std::size_t>(kind)], isOut);
+    Changed(kinds);
+}
+
+void HostSelection::Clear() {
+    unsigned kinds = 0;
+    for (const Kind kind : allKinds) {
+        auto& elements = m_kinds[static_cast<std::size_t>(kind)];
+        if (!elements.empty())
+            kinds |= Bit(kind);
+        elements.clear();
+    }
+    for (CElemento* element : m_all)
+        element->SetSelect(0);
+    m_all.clear();
+    Changed(kinds);
+}
+
+void HostSelection::Forget() {
+    m_all.clear();
+    for (auto& elements : m_kinds)
+        elements.clear();
+    m_snapshot.reset();
+    m_listValid = false;
+    m_cycle.reset();
+}
+
+CObList* HostSelection::List() {
+    if (!m_listValid) {
+        m_list.RemoveAll();
+        for (CElemento* element : m_all)
+            m_list.AddTail(element);
+        m_listValid = true;
+    }
+    return &m_list;
+}
+
+HostSelection::Snapshot HostSelection::TakeSnapshot() {
+    if (!m_snapshot)
+        m_snapshot = std::make_shared<const std::vector<CElemento*>>(m_all);
+    return m_snapshot;
+}
+
+void HostSelection::Restore(const Snapshot& snapshot) {
+    if (snapshot == m_snapshot)
+        return;
+    Clear();
+    Add(*snapshot);
+    m_snapshot = snapshot;
+}
+
+void HostSelection::Deseleziona(CView*) {
+    Clear();
+}
+
+// ---- Selecting by connection and by place
+
+// A breadth-first walk; the array is its queue. The cost is that of the nodes reached and what meets at them.
+void HostSelection::SelezionaStruttura(CNodo* seed, CObArray* pNodi) {
+    if (!seed || !pNodi)
+        return;
+    const int first = pNodi->GetSize();
+    seed->SetAlready(1);
+    pNodi->Add(seed);
+    for (int at = first; at < pNodi->GetSize(); ++at) {
+        auto* node = static_cast<CNodo*>(pNodi->GetAt(at));
+        for (int i = 0; i < node->GetSizeElementi(); ++i) {
+            CElemento* element = node->GetIndexElemento(i);
+            for (int j = 0; j < element->GetSize(); ++j) {
+                CNodo* other = element->GetIndexNodo(j);
+                if (other && !other->IsAlready()) {
+                    other->SetAlready(1);
+                    pNodi->Add(other);
+                }
+            }
+        }
+    }
+    for (int at = first; at < pNodi->GetSize(); ++at)
+        static_cast<CNodo*>(pNodi->GetAt(at))->SetAlready(0);
+}
+
+namespace {
+
+struct Plane {
+    CFPoint point, normal;
+
+    double Distance(const CFPoint& place) const { return Dot(place - point, normal); }
+};
+
+bool PlaneOf(CPoligono* polygon, Plane& plane) {
+    double unused;
+    CFPoint& n = plane.normal;
+    CFPoint& p = plane.point;
+    return polygon &&
+           polygon->GetVersoriLocali(unused, unused, unused, unused, unused, unused, n.x, n.y, n.z, p.x, p.y, p.z);
+}
+
+} // namespace
+
+// A node where each selected line crosses the polygon's plane between its ends. The lines stay whole.
+void HostSelection::IntersezioneLineePiano(CPoligono* pPoligono) {
+    Plane plane;
+    if (!PlaneOf(pPoligono, plane))
+        return;
+    UndoStep step(m_document.Undo(), "Intersezione linee piano");
+    for (const Kind kind : {Kind::Beam, Kind::Truss}) {
+        for (int i = 0; i < Size(kind); ++i) {
+            auto* line = static_cast<CLinea*>(At(kind, i));
+            const CFPoint from = *line->GetNodoIniziale()->GetPunto();
+            const CFPoint to = *line->GetNodoFinale()->GetPunto();
+            const double a = plane.Distance(from), b = plane.Distance(to);
+            if (std::signbit(a) == std::signbit(b) || a == b)
+                continue;
+            CFPoint place = from + (to - from) * (a / (a - b));
+            if (!m_document.GetNodo(place, nullptr, m_document.GetTolleranza()))
+                m_document.AddNodo(place, nullptr, 1);
+        }
+    }
+}
+
+void HostSelection::SelezionaElementiPiano(CPoligono* pPoligono) {
+    Plane plane;
+    if (!PlaneOf(pPoligono, plane))
+        return;
+    std::vector<CElemento*> found;
+    for (int i = 0; i < m_document.GetSizeElementi(); ++i) {
+        CElemento* element = m_document.GetIndexElemento(i);
+        bool inside = true;
+        for (int j = 0; inside && j < element->GetSize(); ++j)
+            inside = std::fabs(plane.Distance(*element->GetIndexNodo(j)->GetPunto())) <= m_document.GetTolleranza();
+        if (inside)
+            found.push_back(element);
+    }
+    Add(found);
+}
+
+void HostSelection::SelezionaElementiRange(CFPoint da, CFPoint a, int nodi, int aste, int travi, int solai, int setti) {
+    const std::pair<Kind, int> wanted[] = {
+        {Kind::Node, nodi}, {Kind::Truss, aste}, {Kind::Beam, travi}, {Kind::Slab, solai}, {Kind::Wall, setti}};
+    std::vector<CElemento*> found;
+    for (const auto& [kind, flag] : wanted)
+        for (int i = 0; flag && i < m_document.Data().Size(kind); ++i)
+            if (CElemento* element = m_document.Data().At(kind, i); element->IsInRange(da, a))
+                found.push_back(element);
+    Add(found);
+}

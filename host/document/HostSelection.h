@@ -1,0 +1,78 @@
+// What is selected in a document, in the order of selecting, and the commands that transform it.
+#pragma once
+
+#include "dialogs/frame/QuovarSelection.h"
+#include "host/document/DocumentData.h"
+#include "platform/Collections.h"
+
+#include <array>
+#include <memory>
+#include <vector>
+
+class CElemento;
+class HostDocument;
+
+namespace host {
+class Copier;
+class Motion;
+} // namespace host
+
+class HostSelection : public CQuovarSelection {
+  public:
+    // The selection of a moment; shared by all who took it before it changed.
+    using Snapshot = std::shared_ptr<const std::vector<CElemento*>>;
+
+    explicit HostSelection(HostDocument& document);
+    ~HostSelection() override;
+    HostSelection(const HostSelection&) = delete;
+    HostSelection& operator=(const HostSelection&) = delete;
+
+    // ---- What the dialogs use; see CQuovarSelection.
+    void Deseleziona(CView* pView) override;
+    void SelezionaStruttura(CNodo* seed, CObArray* pNodi) override;
+    void TraslaSelezione(double dx, double dy, double dz, int nCopie, int unione) override;
+    void RuotaSelezione(double seno, double coseno, int asse, int nCopie, int unione) override;
+    void RuotaSelezione(double x1, double y1, double z1, double x2, double y2, double z2, double gradi, int nCopie,
+                        int unione) override;
+    void SpecchiaSelezione(double x, double y, double z, int piano) override;
+    void InizioCicloTraslaSelezione(Adv3dRect& rect, CObList& oggetti) override;
+    void CicloTraslaSelezione(double dx, double dy, double dz, int unione, unsigned int& contatore, Adv3dRect& rect,
+                              CObList& oggetti, CObList& copie) override;
+    void FineCicloTraslaSelezione(Adv3dRect& rect, unsigned int contatore) override;
+    void IntersezioneLineePiano(CPoligono* pPoligono) override;
+    void SelezionaElementiPiano(CPoligono* pPoligono) override;
+    void SelezionaElementiRange(CFPoint da, CFPoint a, int nodi, int aste, int travi, int solai, int setti) override;
+
+    // ---- What the application uses. Only nodes and elements of the document can be selected; the flag on the element
+    // answers whether it is. All four tell the observers.
+    void Add(CElemento* element);
+    void Remove(CElemento* element);
+    void Add(const std::vector<CElemento*>& elements);
+    void Remove(const std::vector<CElemento*>& elements);
+    void Clear();
+
+    int Size(Kind kind) const { return static_cast<int>(m_kinds[static_cast<std::size_t>(kind)].size()); }
+    CElemento* At(Kind kind, int index) const; // null for an index outside
+    const std::vector<CElemento*>& All() const { return m_all; }
+    bool IsEmpty() const { return m_all.empty(); }
+    CObList* List();
+
+    Snapshot TakeSnapshot();
+    void Restore(const Snapshot& snapshot);
+    // Forgets without touching the elements, which may be gone.
+    void Forget();
+
+  private:
+    unsigned Put(CElemento* element);
+    void Changed(unsigned kinds);
+    void Transform(const host::Motion& motion, int copies, int join, const char* stepName, const CString& message);
+
+    HostDocument& m_document;
+    std::vector<CElemento*> m_all;
+    std::array<std::vector<CElemento*>, kindCount> m_kinds;
+    Snapshot m_snapshot; // of the current state, or null
+    CObList m_list;
+    bool m_listValid = false;
+    std::unique_ptr<host::Copier> m_cycle; // between the start and the end of a copy cycle
+    bool m_cycleStopped = false;           // it would have become too large
+};

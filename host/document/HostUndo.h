@@ -1,0 +1,126 @@
+// Undo and redo without limit. A step is a journal of changes, so it costs what it changed, and the objects that it
+// created or removed come back as the same objects: pointers kept by the journal stay good.
+#pragma once
+
+#include "dialogs/frame/QuovarUndo.h"
+#include "platform/String.h"
+
+#include <memory>
+#include <vector>
+
+class CElemento;
+class HostDocument;
+
+namespace host {
+
+// One reversible change of a document. It has happened when it is recorded.
+class Change {
+  public:
+    virtual ~Change() = default;
+    virtual void Undo() = 0;
+    virtual void Redo() = 0;
+    // False for what only says how the model is looked at: its results stay valid.
+    virtual bool ChangesModel() const { return true; }
+};
+
+} // namespace host
+
+class HostUndo : public CQuovarUndo {
+  public:
+    explicit HostUndo(HostDocument& document);
+    ~HostUndo() override;
+    HostUndo(const HostUndo&) = delete;
+    HostUndo& operator=(const HostUndo&) = delete;
+
+    // Brackets nest: only the outermost makes a step. An end closes the brackets opened inside its own that were left
+    // open; one without a beginning does nothing. Undo, Redo and Close end whatever is open.
+    void BeginUndo(unsigned int tipo, double v1, double v2, double v3, double v4, double v5, double v6, double v7,
+                   double v8, double v9, double v10) override;
+    void EndUndo(unsigned int tipo) override;
+
+    // The host's own brackets; see UndoStep. The name, UTF-8, is what the menu shows after "Annulla".
+    void Begin(const char* name);
+    void End();
+    // A bracket for what a dialog asks for piece by piece, one call after the other: until control is back in the event
+    // loop, further ones of the same name, and changes outside every bracket, go into the same step. Without a
+    // scheduler (see HostDocument::SetIdleScheduler) it is a bracket like any other. See SharedStep.
+    void BeginShared(const char* name);
+    void EndShared();
+    bool IsInBracket() const { return !m_brackets.empty(); }
+    // How many changes were ever recorded: equal numbers say that nothing was recorded in between.
+    std::size_t RecordCount() const { return m_recorded; }
+    // A better name for the open step: the kind 4 of a bracket does not tell a mirror from a copy.
+    void Rename(const char* name);
+    void Close();
+    // Ends a step that was opened by a change outside every bracket.
+    void CloseImplicit() {
+        if (m_brackets.empty())
+            CloseStep();
+    }
+    bool IsOpen() const { return !m_brackets.empty() || m_open; }
+
+    // Takes a change that has just been made. Outside every bracket it opens a step of that name by itself, closed at
+    // once, or when control is back in the event loop (see HostDocument::SetIdleScheduler).
+    void Record(std::unique_ptr<host::Change> change, const char* name);
+    // The change recorded last in the open step, for those that can take one more; null at the start of a step.
+    host::Change* Last();
+
+    bool CanUndo() const { return m_position > 0 || HasOpenChanges(); }
+    bool CanRedo() const { return m_position < m_steps.size() && !HasOpenChanges(); }
+    // Go one step back or forth with the selection that belongs to it; false when there is none.
+    bool Undo();
+    bool Redo();
+    // Names of the next steps, for the menu; empty when there are none.
+    CString UndoName() const;
+    CString RedoName() const;
+    std::size_t UndoCount() const { return m_position; }
+    std::size_t RedoCount() const { return m_steps.size() - m_position; }
+
+    // Forgets all steps.
+    void Clear();
+    // A number that tells the states of the document apart, equal again when undo or redo comes back to one.
+    std::size_t State() const;
+
+  private:
+    struct Step;
+
+    bool HasOpenChanges() const;
+    void Open(const char* name);
+    void EndBracket(unsigned int tipo);
+    void Settle(); // closes the step, now or when control is back in the event loop
+    void CloseStep();
+    void Run(Step& step, bool forward);
+
+    HostDocument& m_document;
+    std::vector<std::unique_ptr<Step>> m_steps;
+    std::size_t m_position = 0;           // steps before it are done, those from it on undone
+    std::unique_ptr<Step> m_open;         // being recorded
+    std::vector<unsigned int> m_brackets; // kinds; 0 for the host's own
+    std::size_t m_lastState = 0;
+    std::size_t m_recorded = 0;
+    bool m_running = false; // what undo and redo change is not recorded
+};
+
+// Brackets a command of the host.
+class UndoStep {
+  public:
+    UndoStep(HostUndo& undo, const char* name) : m_undo(undo) { m_undo.Begin(name); }
+    ~UndoStep() { m_undo.End(); }
+    UndoStep(const UndoStep&) = delete;
+    UndoStep& operator=(const UndoStep&) = delete;
+
+  private:
+    HostUndo& m_undo;
+};
+
+// The same for a piece of a dialog's command.
+class SharedStep {
+  public:
+    SharedStep(HostUndo& undo, const char* name) : m_undo(undo) { m_undo.BeginShared(name); }
+    ~SharedStep() { m_undo.EndShared(); }
+    SharedStep(const SharedStep&) = delete;
+    SharedStep& operator=(const SharedStep&) = delete;
+
+  private:
+    HostUndo& m_undo;
+};

@@ -1,0 +1,27 @@
+// A change of the document's units, which converts every stored value. Undone exactly: the old values are kept, since
+// converting back would round.
+#pragma once
+
+#include "host/document/DocumentData.h"
+#include "host/document/HostUndo.h"
+
+namespace host {
+
+class UnitChange : public Change {
+  public:
+    // Converts everything.
+    UnitChange(DocumentData& data, DocumentUnits units);
+
+    void Undo() override { Swap(); }
+    void Redo() override { Swap(); }
+
+  private:
+    void Swap();
+
+    DocumentData& m_data;
+    DocumentUnits m_units;
+    double m_tolerance;
+    std::vector<std::pair<CElemento*, std::unique_ptr<CElemento>>> m_others;
+};
+
+} // namespace host

@@ -1,0 +1,53 @@
+#include "host/ui/AnalysisCommand.h"
+
+#include "dialogs/frame/MainFrame.h"
+#include "host/document/HostDocument.h"
+#include "platform/Application.h"
+
+#include <new>
+
+namespace {
+
+constexpr std::size_t mostSentences = 12; // as many as a message box shows well
+
+CString joined(const CString& first, const std::vector<CString>& sentences) {
+    CString text = first;
+    for (std::size_t i = 0; i < sentences.size() && i < mostSentences; ++i)
+        text += "\n" + sentences[i];
+    if (sentences.size() > mostSentences) {
+        CString more;
+        more.Format("\n(e altre %d)", static_cast<int>(sentences.size() - mostSentences));
+        text += more;
+    }
+    return text;
+}
+
+host::AnalysisOutcome analyse(HostDocument& document) {
+    const WaitBar wait("Attendere...Analisi della struttura.", host::AnalysisSteps(document.Data()));
+    return document.EseguiAnalisi([] { CMainFrame::_StepBar(); });
+}
+
+} // namespace
+
+bool RunAnalysis(HostDocument& document) {
+    if (!document.m_pAnalisi->m_bAnalisiStatica) {
+        AfxMessageBox("L'analisi statica non è attiva."_t, MB_OK | MB_ICONEXCLAMATION);
+        return false;
+    }
+    host::AnalysisOutcome outcome;
+    try {
+        outcome = analyse(document);
+    } catch (const std::bad_alloc&) {
+        outcome.message = "Memoria insufficiente.";
+    }
+    if (!outcome.done) {
+        AfxMessageBox("Analisi non eseguita.\n" + outcome.message, MB_OK | MB_ICONEXCLAMATION);
+        return false;
+    }
+    const CQuovarAnalisi& asked = *document.m_pAnalisi;
+    if (asked.m_bAnalisiModale || asked.m_bAnalisiSpettro || asked.m_bAnalisiInstabilita)
+        outcome.leftOut.push_back("Solo l'analisi statica è disponibile."_t);
+    if (!outcome.leftOut.empty())
+        AfxMessageBox(joined("Analisi eseguita con queste limitazioni:", outcome.leftOut), MB_OK | MB_ICONINFORMATION);
+    return true;
+}

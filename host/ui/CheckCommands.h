@@ -1,0 +1,17 @@
+// The model check, asked for by the user or from the command line.
+#pragma once
+
+#include <cstdio>
+
+class HostDocument;
+class QString;
+class Workspace;
+
+// The check window does not check on its own: this asks every open one of the document to.
+void RequestCheck(HostDocument& document);
+
+// Opens a project or a text model, checks it through the check window and prints that window's rows, one a line, UTF-8.
+// Returns the process's exit status: 0 when the model is free of faults of its own nodes and elements (the list ends
+// with the closing row), 1 when it is not or the check cannot be carried out, 2, after a message, when the file cannot
+// be read.
+int PrintCheck(Workspace& workspace, const QString& path, std::FILE* out = stdout);

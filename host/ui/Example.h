@@ -1,0 +1,7 @@
+// The example project as a file.
+#pragma once
+
+#include <string>
+
+// The path is as the system spells it. 0 on success; otherwise 1 and a message on the error stream.
+int WriteExample(const std::string& path);

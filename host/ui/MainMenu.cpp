@@ -1,0 +1,319 @@
+#include "host/ui/MainMenu.h"
+
+#include "host/document/HostDocument.h"
+#include "host/ui/AnalysisCommand.h"
+#include "host/ui/Assign.h"
+#include "host/ui/Commands.h"
+#include "host/ui/HostView.h"
+#include "host/ui/Icons.h"
+#include "host/ui/MainWindow.h"
+#include "host/ui/ViewWidget.h"
+#include "host/ui/Workspace.h"
+#include "model/ElementoRisultati.h"
+#include "model/TipoElemento.h"
+
+#include <QAction>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStyle>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+struct KindEntry {
+    unsigned kind;
+    const char* name;
+    bool KindFilter::*filter;
+};
+const KindEntry kinds[] = {
+    {TipoElemento::Nodo, "Nodi", &KindFilter::nodes},    {TipoElemento::Trave, "Travi", &KindFilter::beams},
+    {TipoElemento::Asta, "Aste", &KindFilter::trusses},  {TipoElemento::Setto, "Setti", &KindFilter::walls},
+    {TipoElemento::Solaio, "Solai", &KindFilter::slabs},
+};
+
+} // namespace
+
+MainMenu::MainMenu(MainWindow& window, Workspace& workspace) : m_window(window), m_workspace(workspace) {
+    BuildFile();
+    BuildEdit();
+    BuildView();
+    BuildTools("&Genera", CommandMenu::Generate, "genera.");
+    BuildSelection();
+    BuildAssign();
+    BuildTools("&Carichi", CommandMenu::Loads, "carichi.");
+    BuildAnalysis();
+    BuildTools("S&trumenti", CommandMenu::Tools, "strumenti.");
+    BuildWindow();
+    BuildHelp();
+}
+
+QMenu& MainMenu::Menu(const QString& title) {
+    return *m_window.menuBar()->addMenu(title);
+}
+
+QAction* MainMenu::Add(QMenu& menu, const QString& name, const QString& text, const QKeySequence& keys, Needs needs,
+                       std::function<void()> run) {
+    auto* action = new QAction(text, &m_window);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    menu.addAction(action);
+    // While a command runs nothing else starts, however the request comes.
+    QObject::connect(action, &QAction::triggered, &m_window, [this, run = std::move(run)] {
+        if (!m_workspace.IsWaiting())
+            run();
+    });
+    m_items.push_back({action, needs, {}});
+    return action;
+}
+
+QAction* MainMenu::AddForView(QMenu& menu, const QString& name, const QString& text, const QKeySequence& keys,
+                              std::function<void(HostView&)> run) {
+    return Add(menu, name, text, keys, Needs::View, [this, run = std::move(run)] {
+        if (HostView* view = m_workspace.ActiveView())
+            run(*view);
+    });
+}
+
+QAction* MainMenu::AddToggle(QMenu& menu, const QString& name, const QString& text,
+                             std::function<bool(HostView&)> state, std::function<void(HostView&, bool)> set) {
+    QAction* action =
+        AddForView(menu, name, text, {}, [state, set = std::move(set)](HostView& view) { set(view, !state(view)); });
+    action->setCheckable(true);
+    m_items.back().checked = std::move(state);
+    return action;
+}
+
+void MainMenu::BuildFile() {
+    QMenu& menu = Menu("&File");
+    const QStyle* style = m_window.QMainWindow::style();
+    Add(menu, "file.nuovo", "&Nuovo", QKeySequence::New, Needs::Nothing, [this] {
+        m_workspace.NewDocument();
+    })->setIcon(style->standardIcon(QStyle::SP_FileIcon));
+    Add(menu, "file.apri", QStringLiteral("&Apri\u2026"), QKeySequence::Open, Needs::Nothing, [this] {
+        m_workspace.AskAndOpen();
+    })->setIcon(style->standardIcon(QStyle::SP_DialogOpenButton));
+    Add(menu, "file.importa", QStringLiteral("&Importa\u2026"), {}, Needs::Nothing,
+        [this] { m_workspace.AskAndImport(); });
+    menu.addSeparator();
+    AddForView(menu, "file.salva", "&Salva", QKeySequence::Save, [this](HostView& view) {
+        m_workspace.Save(view.Document());
+    })->setIcon(style->standardIcon(QStyle::SP_DialogSaveButton));
+    AddForView(menu, "file.salva_con_nome", QStringLiteral("Salva con n&ome\u2026"), QKeySequence("Ctrl+Shift+S"),
+               [this](HostView& view) { m_workspace.AskAndSaveAs(view.Document()); });
+    AddForView(menu, "file.chiudi", "&Chiudi", QKeySequence("Ctrl+W"),
+               [this](HostView& view) { m_workspace.CloseView(view); });
+    menu.addSeparator();
+    Add(menu, "file.esci", "&Esci", QKeySequence("Ctrl+Q"), Needs::Nothing,
+        [this] { m_window.Frame().SendMessage(WM_CLOSE); });
+}
+
+void MainMenu::BuildEdit() {
+    QMenu& menu = Menu("&Modifica");
+    m_undo =
+        Add(menu, "modifica.annulla", "&Annulla", QKeySequence("Ctrl+Z"), Needs::Undo, [this] { m_workspace.Undo(); });
+    m_redo = Add(menu, "modifica.ripristina", "&Ripristina", QKeySequence("Ctrl+Y"), Needs::Redo,
+                 [this] { m_workspace.Redo(); });
+    m_undo->setIcon(ToolIcon("annulla"));
+    m_redo->setIcon(ToolIcon("ripristina"));
+    m_undo->setIconText("Annulla");
+    m_redo->setIconText("Ripristina");
+    menu.addSeparator();
+    AddForView(menu, "modifica.seleziona_tutto", "&Seleziona tutto", QKeySequence::SelectAll,
+               [](HostView& view) { view.Document().SelezionaTutto(); });
+    Add(menu, "modifica.deseleziona", "&Deseleziona", QKeySequence("Ctrl+D"), Needs::Selection, [this] {
+        if (HostView* view = m_workspace.ActiveView())
+            view->Document().Selection().Clear();
+    });
+    menu.addSeparator();
+    Add(menu, "modifica.elimina", "&Elimina", QKeySequence(Qt::Key_Delete), Needs::Selection, [this] {
+        if (HostView* view = m_workspace.ActiveView())
+            view->Document().EliminaSelezione();
+    });
+}
+
+void MainMenu::BuildView() {
+    QMenu& menu = Menu("&Vista");
+    const struct {
+        const char* name;
+        const char* text;
+        const char* keys;
+        Adv3d::Direzione direction;
+    } directions[] = {
+        {"vista.assonometria", "&Assonometria", "Ctrl+1", Adv3d::Assonometria},
+        {"vista.xy", "Pianta X&Y", "Ctrl+2", Adv3d::Alto},
+        {"vista.xz", "Prospetto X&Z", "Ctrl+3", Adv3d::Fronte},
+        {"vista.yz", "Prospetto Y&Z", "Ctrl+4", Adv3d::Destra},
+        {"vista.basso", "Dal &basso", "", Adv3d::Basso},
+        {"vista.retro", "Dal &retro", "", Adv3d::Retro},
+        {"vista.sinistra", "Da &sinistra", "", Adv3d::Sinistra},
+    };
+    for (const auto& each : directions)
+        AddForView(menu, each.name, each.text, QKeySequence(each.keys), [direction = each.direction](HostView& view) {
+            view.SetDirection(direction);
+        })->setIcon(ToolIcon(each.name + std::strlen("vista.")));
+    menu.addSeparator();
+    AddForView(menu, "vista.adatta", "Ada&tta alla finestra", QKeySequence("F4"), [](HostView& view) {
+        view.Fit();
+    })->setIcon(ToolIcon("adatta"));
+    const auto zoom = [](double factor) {
+        return [factor](HostView& view) { view.Zoom(factor, view.Vista().GetViewport().CenterPoint()); };
+    };
+    AddForView(menu, "vista.ingrandisci", "&Ingrandisci", QKeySequence::ZoomIn, zoom(1.25));
+    AddForView(menu, "vista.riduci", "Ri&duci", QKeySequence::ZoomOut, zoom(0.8));
+    AddToggle(
+        menu, "vista.prospettiva", "&Prospettiva", [](HostView& view) { return view.Vista().IsProspettiva() != 0; },
+        [](HostView& view, bool on) { view.SetPerspective(on); });
+    menu.addSeparator();
+    BuildShown(menu);
+}
+
+void MainMenu::BuildShown(QMenu& menu) {
+    for (const KindEntry& each : kinds)
+        AddToggle(
+            menu, QStringLiteral("mostra.") + each.name, QStringLiteral("Mostra ") + QString(each.name).toLower(),
+            [kind = each.kind](HostView& view) { return view.IsShown(kind, CElementoSettings::Oggetto); },
+            [kind = each.kind](HostView& view, bool on) { view.SetShown(kind, CElementoSettings::Oggetto, on); });
+    menu.addSeparator();
+    const struct {
+        const char* name;
+        unsigned item;
+    } items[] = {{"Facce", CElementoSettings::Facce},
+                 {"Carichi", CElementoSettings::Carichi},
+                 {"Valori dei carichi", CElementoSettings::ValoriCarichi},
+                 {"Vincoli", CElementoSettings::Vincoli},
+                 {"Molle", CElementoSettings::Molle},
+                 {"Svincoli", CElementoSettings::Specifiche},
+                 {"Numeri", CElementoSettings::Identificatore},
+                 {"Assi locali", CElementoSettings::AssiLocali}};
+    for (const auto& each : items)
+        AddToggle(
+            menu, QStringLiteral("mostra.") + each.name, each.name,
+            [item = each.item](HostView& view) {
+                return std::any_of(std::begin(kinds), std::end(kinds),
+                                   [&](const KindEntry& kind) { return view.IsShown(kind.kind, item); });
+            },
+            [item = each.item](HostView& view, bool on) {
+                for (const KindEntry& kind : kinds)
+                    view.SetShown(kind.kind, item, on);
+            });
+}
+
+void MainMenu::BuildSelection() {
+    QMenu& menu = Menu("&Selezione");
+    for (const KindEntry& each : kinds)
+        AddToggle(
+            menu, QStringLiteral("filtro.") + each.name, each.name,
+            [filter = each.filter](HostView& view) { return view.Filter().*filter; },
+            [filter = each.filter](HostView& view, bool on) {
+                KindFilter changed = view.Filter();
+                changed.*filter = on;
+                view.SetFilter(changed);
+            })
+            ->setIcon(ToolIcon(QByteArray(each.name).toLower()));
+    menu.addSeparator();
+    AddTools(menu, CommandMenu::Select, "selezione.");
+}
+
+void MainMenu::BuildAssign() {
+    QMenu& menu = Menu("Ass&egna");
+    const struct {
+        const char* name;
+        const char* text;
+        void (*run)(HostDocument&, QWidget&);
+    } commands[] = {{"assegna.vincolo", "&Vincolo\u2026", RunAssignRestraint},
+                    {"assegna.molla", "&Molla\u2026", RunAssignSpring},
+                    {"assegna.svincoli", "&Svincoli\u2026", RunAssignReleases}};
+    for (const auto& each : commands)
+        Add(menu, each.name, QString::fromUtf8(each.text), {}, Needs::Selection, [this, run = each.run] {
+            if (HostView* view = m_workspace.ActiveView())
+                run(view->Document(), m_window);
+        });
+}
+
+void MainMenu::BuildAnalysis() {
+    QMenu& menu = Menu("&Analisi");
+    AddForView(menu, "analisi.esegui", "&Esegui analisi", QKeySequence("F5"),
+               [](HostView& view) { RunAnalysis(view.Document()); });
+    AddTools(menu, CommandMenu::Results, "analisi.");
+    QMenu& shown = *menu.addMenu("Diagrammi &mostrati");
+    for (const int kind : {CElementoSettings::N, CElementoSettings::V2, CElementoSettings::V3, CElementoSettings::T,
+                           CElementoSettings::M2, CElementoSettings::M3, CElementoSettings::N_A,
+                           CElementoSettings::M2_W2, CElementoSettings::M3_W3}) {
+        const QString name = platform::toQString(CElementoRisultati::_GetStringRisultato(kind));
+        AddToggle(
+            shown, "analisi.mostra_risultato." + name, name,
+            [kind](HostView& view) { return view.GetTraveSettings().IsRisultato(kind) != 0; },
+            [kind](HostView& view, bool on) { view.SetResultShown(kind, on); });
+    }
+}
+
+void MainMenu::AddTools(QMenu& menu, CommandMenu which, const QString& prefix) {
+    const auto add = [&](const auto& commands) {
+        for (const auto& each : commands)
+            if (each.menu == which)
+                Add(menu, prefix + QString::fromUtf8(each.caption), QString::fromUtf8(each.caption), {}, Needs::View,
+                    [this, &each] { m_workspace.Run(each); });
+    };
+    add(ModalCommands());
+    add(ToolCommands());
+}
+
+// A menu without commands is not shown.
+void MainMenu::BuildTools(const QString& title, CommandMenu which, const QString& prefix) {
+    const auto uses = [which](const auto& commands) {
+        return std::any_of(commands.begin(), commands.end(), [which](const auto& each) { return each.menu == which; });
+    };
+    if (uses(ModalCommands()) || uses(ToolCommands()))
+        AddTools(Menu(title), which, prefix);
+}
+
+void MainMenu::BuildWindow() {
+    QMenu& menu = Menu("Fi&nestra");
+    AddForView(menu, "finestra.nuova", "&Nuova finestra", {},
+               [this](HostView& view) { m_workspace.NewView(view.Document()); });
+    menu.addSeparator();
+    QMdiArea& area = m_window.Area();
+    Add(menu, "finestra.affianca", "&Affianca", {}, Needs::View, [&area] {
+        area.setViewMode(QMdiArea::SubWindowView);
+        area.tileSubWindows();
+    });
+    Add(menu, "finestra.sovrapponi", "&Sovrapponi", {}, Needs::View, [&area] {
+        area.setViewMode(QMdiArea::SubWindowView);
+        area.cascadeSubWindows();
+    });
+    Add(menu, "finestra.schede", "S&chede", {}, Needs::View, [&area] { area.setViewMode(QMdiArea::TabbedView); });
+    menu.addSeparator();
+    Add(menu, "finestra.successiva", "S&uccessiva", QKeySequence("Ctrl+Tab"), Needs::View,
+        [&area] { area.activateNextSubWindow(); });
+    Add(menu, "finestra.precedente", "&Precedente", QKeySequence("Ctrl+Shift+Tab"), Needs::View,
+        [&area] { area.activatePreviousSubWindow(); });
+}
+
+void MainMenu::BuildHelp() {
+    QMenu& menu = Menu("&?");
+    Add(menu, "aiuto.informazioni", "&Informazioni su Quovar", {}, Needs::Nothing, [this] {
+        QMessageBox::about(&m_window, "Informazioni su Quovar",
+                           QStringLiteral("Quovar %1\n\nModellazione e analisi di strutture intelaiate.")
+                               .arg(QStringLiteral(QUOVAR_VERSION)));
+    });
+}
+
+void MainMenu::Refresh(HostView* view) {
+    HostUndo* undo = view ? &view->Document().Undo() : nullptr;
+    const bool met[] = {true, view != nullptr, view && !view->Document().Selection().IsEmpty(), undo && undo->CanUndo(),
+                        undo && undo->CanRedo()};
+    for (Item& item : m_items) {
+        item.action->setEnabled(met[static_cast<std::size_t>(item.needs)]);
+        if (item.checked)
+            item.action->setChecked(view && item.checked(*view));
+    }
+    const auto withStep = [](const char* verb, const CString& step) {
+        return step.IsEmpty() ? QString(verb) : QString(verb) + " " + platform::toQString(step);
+    };
+    m_undo->setText(withStep("&Annulla", undo ? undo->UndoName() : CString()));
+    m_redo->setText(withStep("&Ripristina", undo ? undo->RedoName() : CString()));
+}

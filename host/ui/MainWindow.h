@@ -1,0 +1,82 @@
+// The main window: sub-windows of views, menus, tool bar, status bar.
+#pragma once
+
+#include "dialogs/frame/MainFrame.h"
+#include "host/ui/WaitIndicator.h"
+#include "platform/MessageMap.h"
+#include "platform/private/Hosted.h"
+
+#include <QMainWindow>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+class HostView;
+class MainMenu;
+class QComboBox;
+class QLabel;
+class QMdiArea;
+class QMdiSubWindow;
+class Workspace;
+
+// The main window as the dialogs see it.
+class HostFrame final : public CMainFrame {
+  public:
+    explicit HostFrame(Workspace& workspace) : m_workspace(workspace) {}
+
+    CRect& GetRectClientTabella() override;
+
+  private:
+    void OnClose();
+
+    DECLARE_MESSAGE_MAP()
+
+    Workspace& m_workspace;
+    CRect m_tableRect;
+};
+
+class MainWindow final : public platform::Hosted<QMainWindow> {
+  public:
+    explicit MainWindow(Workspace& workspace);
+    ~MainWindow() override;
+
+    HostFrame& Frame() { return m_frame; }
+    WaitIndicator& Wait() { return *m_wait; }
+    QMdiArea& Area() { return *m_area; }
+
+    void AddView(HostView& view);
+    void RemoveView(HostView& view); // the view closes itself
+    void ShowView(HostView& view);   // makes it the active one
+
+    // Brings menus, tool bar, titles and status bar up to date, once, when control is back in the loop.
+    void ScheduleRefresh();
+    void Refresh();
+    void ShowCoordinates(const QString& text);
+
+    // Commands by name ("file.salva", "modifica.annulla", "genera.Generazione Nodi Lineare"); null when there is none.
+    QAction* Command(const QString& name) const { return findChild<QAction*>(name); }
+    QString PromptText() const;
+
+  protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    void BuildStatusBar();
+    void BuildToolBar();
+    void RefreshLoadCases(HostView* view);
+    QMdiSubWindow* WindowOf(const HostView& view) const;
+
+    Workspace& m_workspace;
+    HostFrame m_frame;
+    QMdiArea* m_area; // this and the next are owned by the window
+    QLabel* m_prompt = nullptr;
+    QLabel* m_coordinates = nullptr;
+    QLabel* m_unit = nullptr;
+    QComboBox* m_loadCase = nullptr;
+    std::vector<std::pair<int, QString>> m_loadCases; // what the box lists
+    std::unique_ptr<WaitIndicator> m_wait;
+    std::unique_ptr<MainMenu> m_menu;
+    bool m_refreshScheduled = false;
+};

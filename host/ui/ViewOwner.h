@@ -1,0 +1,25 @@
+// What a structure view needs from the application around it.
+#pragma once
+
+class CDialogDocument;
+class CObject;
+class CView;
+class HostView;
+class QString;
+
+class ViewOwner {
+  public:
+    virtual ~ViewOwner() = default;
+
+    // The tool dialog that works on the view; null when it has none.
+    virtual CDialogDocument* ToolOf(const HostView& view) const = 0;
+    // The dialog asked to be ended. It may be any address: only a tool dialog of this view is ended.
+    virtual void EndTool(HostView& view, const CDialogDocument* dialog) = 0;
+    // The view's document changed; the arguments are those of CQuovarDoc::UpdateAllViews.
+    virtual void DocumentChanged(HostView& view, CView* sender, long hint, CObject* pHint) = 0;
+    // Prompt, filters or display of the view changed.
+    virtual void ViewChanged(HostView& view) = 0;
+    virtual void ShowCoordinates(const QString& text) = 0;
+    // A long command is running: the model may be half changed and is not to be drawn.
+    virtual bool IsWaiting() const = 0;
+};

@@ -1,0 +1,104 @@
+#include "host/ui/ViewRenderer.h"
+
+#include "host/document/HostDocument.h"
+#include "model/Adv3d.h"
+#include "model/Asta.h"
+#include "model/CasoCarico.h"
+#include "model/FaceElemento.h"
+#include "model/Nodo.h"
+#include "model/Setto.h"
+#include "model/Solaio.h"
+#include "model/Trave.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+// The projection draws on the context for as long as this lives.
+class DrawingScope {
+  public:
+    DrawingScope(Adv3d& vista, CDC& dc) : m_vista(vista) { m_vista.SetDC(&dc); }
+    ~DrawingScope() { m_vista.SetDC(nullptr); }
+    DrawingScope(const DrawingScope&) = delete;
+    DrawingScope& operator=(const DrawingScope&) = delete;
+
+  private:
+    Adv3d& m_vista;
+};
+
+template <class Action>
+void forPlanes(HostDocument& document, const Action& action) {
+    for (int i = 0; i < document.GetSizeSetti(); ++i)
+        action(*document.GetIndexSetto(i));
+    for (int i = 0; i < document.GetSizeSolai(); ++i)
+        action(*document.GetIndexSolaio(i));
+}
+
+// Faces first and sorted by depth: they would cover the lines in front of them as well as those behind.
+void drawPlanes(HostDocument& document, Adv3d& vista) {
+    std::vector<CElemento*> shown;
+    int faceCount = 0;
+    forPlanes(document, [&](CElemento& element) {
+        if (element.CanDraw(&vista)) {
+            shown.push_back(&element);
+            faceCount += element.GetSizeFaccie(&vista);
+        }
+    });
+    std::vector<FaceElemento> faces(static_cast<std::size_t>(std::max(faceCount, 0)));
+    FaceElemento* end = faces.data();
+    for (CElemento* element : shown)
+        element->SetFacesArray(&end, &vista, nullptr);
+    vista.DrawFaces(faces.data(), static_cast<int>(end - faces.data()));
+    for (CElemento* element : shown)
+        element->Draw(&vista);
+}
+
+void drawOne(CElemento& element, Adv3d& vista) {
+    if (element.CanDraw(&vista))
+        element.Draw(&vista);
+}
+
+void drawBeside(CElemento& element, Adv3d& vista) {
+    if (element.CanDraw(&vista))
+        element.DrawInformazioni(&vista);
+}
+
+} // namespace
+
+void DrawModel(HostDocument& document, Adv3d& vista, CDC& dc, int stride) {
+    CCasoCarico* loadCase = document.GetSelectCasoCarico();
+    vista.SetCasoCarico(loadCase ? loadCase->GetID() : 0);
+    stride = std::max(stride, 1);
+    const DrawingScope scope(vista, dc);
+    drawPlanes(document, vista);
+    for (int i = 0; i < document.GetSizeTravi(); i += stride)
+        drawOne(*document.GetIndexTrave(i), vista);
+    for (int i = 0; i < document.GetSizeAste(); i += stride)
+        drawOne(*document.GetIndexAsta(i), vista);
+    for (int i = 0; i < document.GetSizeNodi(); i += stride)
+        drawOne(*document.GetIndexNodo(i), vista);
+    if (stride == 1) {
+        forPlanes(document, [&vista](CElemento& element) { drawBeside(element, vista); });
+        for (int i = 0; i < document.GetSizeTravi(); ++i)
+            drawBeside(*document.GetIndexTrave(i), vista);
+        for (int i = 0; i < document.GetSizeAste(); ++i)
+            drawBeside(*document.GetIndexAsta(i), vista);
+        for (int i = 0; i < document.GetSizeNodi(); ++i)
+            drawBeside(*document.GetIndexNodo(i), vista);
+    }
+    vista.Flush();
+}
+
+bool GetBounds(HostDocument& document, CFPoint& minimum, CFPoint& maximum) {
+    const int count = document.GetSizeNodi();
+    if (count == 0)
+        return false;
+    minimum = maximum = *document.GetIndexNodo(0)->GetPunto();
+    for (int i = 1; i < count; ++i) {
+        const CFPoint& point = *document.GetIndexNodo(i)->GetPunto();
+        minimum = {std::min(minimum.x, point.x), std::min(minimum.y, point.y), std::min(minimum.z, point.z)};
+        maximum = {std::max(maximum.x, point.x), std::max(maximum.y, point.y), std::max(maximum.z, point.z)};
+    }
+    return true;
+}

@@ -1,0 +1,254 @@
+#include "host/ui/Workspace.h"
+
+#include "dialogs/frame/DialogDocument.h"
+#include "host/document/HostDocument.h"
+#include "host/ui/Commands.h"
+#include "host/ui/DeferredDelete.h"
+#include "host/ui/HostView.h"
+#include "host/ui/MainWindow.h"
+#include "host/ui/ViewWidget.h"
+#include "platform/Application.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+Workspace::Workspace() {
+    m_window = std::make_unique<MainWindow>(*this); // asks this object, whole by now, what to show
+    if (CWinApp* application = AfxGetApp())
+        application->m_pMainWnd = &m_window->Frame();
+    CQuovarHost::Install(this);
+}
+
+Workspace::~Workspace() {
+    m_tools.EndAll();
+    while (!m_views.empty())
+        ReleaseView(*m_views.back());
+    // What waits for its deletion refers to the documents and to the window.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (CWinApp* application = AfxGetApp(); application && application->m_pMainWnd == &m_window->Frame())
+        application->m_pMainWnd = nullptr;
+    CQuovarHost::Install(nullptr);
+}
+
+Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name) {
+    m_projects.push_back(std::make_unique<Project>());
+    Project& project = *m_projects.back();
+    project.document = std::move(document);
+    project.idle = std::make_unique<QObject>();
+    project.path = path;
+    project.name = name;
+    project.document->SetIdleScheduler(
+        [this, &project] { QTimer::singleShot(0, project.idle.get(), [this, &project] { RunIdle(project); }); });
+    return project;
+}
+
+// During a long command the loop turns, but the command's step is still open.
+void Workspace::RunIdle(Project& project) {
+    if (IsWaiting())
+        QTimer::singleShot(50, project.idle.get(), [this, &project] { RunIdle(project); });
+    else
+        project.document->Idle();
+}
+
+Workspace::Project* Workspace::ProjectOf(const HostDocument& document) const {
+    const auto found = std::find_if(m_projects.begin(), m_projects.end(),
+                                    [&document](const auto& each) { return each->document.get() == &document; });
+    return found == m_projects.end() ? nullptr : found->get();
+}
+
+QString Workspace::PathOf(const HostDocument& document) const {
+    const Project* project = ProjectOf(document);
+    return project ? project->path : QString();
+}
+
+QString Workspace::TitleOf(const HostView& view) const {
+    const Project* project = ProjectOf(view.Document());
+    if (!project)
+        return {};
+    QString title = project->name;
+    if (project->document->IsModified())
+        title += "*";
+    int number = 0, count = 0;
+    for (const auto& each : m_views)
+        if (&each->Document() == &view.Document()) {
+            ++count;
+            if (each.get() == &view)
+                number = count;
+        }
+    return count > 1 ? QStringLiteral("%1:%2").arg(title).arg(number) : title;
+}
+
+HostView& Workspace::NewDocument() {
+    const QString name = QStringLiteral("Senza titolo %1").arg(++m_untitled);
+    Project& project = Adopt(std::make_unique<HostDocument>(), {}, name);
+    project.document->SetTitle(platform::fromQString(name));
+    return NewView(*project.document);
+}
+
+HostView& Workspace::NewView(HostDocument& document) {
+    m_views.push_back(std::make_unique<HostView>(document, *this, m_window.get(), nullptr));
+    HostView& view = *m_views.back();
+    m_window->AddView(view);
+    m_window->ShowView(view);
+    ViewActivated(view);
+    return view;
+}
+
+HostView* Workspace::LastViewOf(const HostDocument& document) const {
+    HostView* last = nullptr;
+    for (const auto& each : m_views)
+        if (&each->Document() == &document) {
+            if (last)
+                return nullptr;
+            last = each.get();
+        }
+    return last;
+}
+
+bool Workspace::CloseView(HostView& view) {
+    Project* project = ProjectOf(view.Document());
+    if (project && LastViewOf(view.Document()) == &view && !AskToSave(*project))
+        return false;
+    ReleaseView(view);
+    return true;
+}
+
+bool Workspace::CloseAll() {
+    for (const auto& project : m_projects)
+        if (!AskToSave(*project))
+            return false;
+    m_tools.EndAll();
+    while (!m_views.empty())
+        ReleaseView(*m_views.back());
+    return true;
+}
+
+// The dialogs let go of the view first, then its window ends, then the object; its document goes with its last view.
+void Workspace::ReleaseView(HostView& view) {
+    HostDocument& document = view.Document();
+    const auto held =
+        std::find_if(m_views.begin(), m_views.end(), [&view](const auto& each) { return each.get() == &view; });
+    m_tools.ViewClosing(view);
+    std::unique_ptr<HostView> closing = std::move(*held);
+    m_views.erase(held);
+    if (m_active == &view)
+        m_active = nullptr;
+    document.SetActiveView(nullptr);
+    closing->Close();
+    m_window->RemoveView(*closing);
+    host::DeleteLater(std::move(closing));
+    if (std::none_of(m_views.begin(), m_views.end(), [&](const auto& each) { return &each->Document() == &document; }))
+        std::erase_if(m_projects, [&document](const auto& each) { return each->document.get() == &document; });
+    if (!m_active && !m_views.empty())
+        m_window->ShowView(*m_views.back());
+    if (!m_active && !m_views.empty())
+        ViewActivated(*m_views.back());
+    m_window->ScheduleRefresh();
+}
+
+void Workspace::ViewActivated(HostView& view) {
+    if (view.IsClosed())
+        return;
+    m_active = &view;
+    view.Document().SetActiveView(&view);
+    m_tools.ViewActivated(view);
+    m_window->ScheduleRefresh();
+}
+
+CDialogDocument* Workspace::Run(const ToolCommand& command) {
+    if (!m_active)
+        return nullptr;
+    HostView& view = *m_active;
+    CDialogDocument* dialog = m_tools.Open(command.make(&m_window->Frame()), view);
+    if (dialog && command.opened)
+        command.opened(view.Document());
+    return dialog;
+}
+
+void Workspace::Run(const ModalCommand& command) {
+    if (!m_active)
+        return;
+    command.run(m_active->Document(), m_window->Frame());
+    m_window->ScheduleRefresh();
+}
+
+void Workspace::Undo() {
+    if (m_active)
+        m_active->Document().Undo().Undo();
+    m_window->ScheduleRefresh();
+}
+
+void Workspace::Redo() {
+    if (m_active)
+        m_active->Document().Undo().Redo();
+    m_window->ScheduleRefresh();
+}
+
+void Workspace::SelectLoadCase(HostView& view, int id) {
+    view.Document().SelectCasoCarico(id);
+}
+
+void Workspace::EndTool(HostView& view, const CDialogDocument* dialog) {
+    if (!dialog || m_tools.Of(view) != dialog)
+        return;
+    m_tools.End(dialog);
+    view.Widget().activateWindow();
+    view.Widget().setFocus();
+    m_window->ScheduleRefresh();
+}
+
+void Workspace::DocumentChanged(HostView& view, CView* sender, long hint, CObject* pHint) {
+    m_tools.Update(view, sender, hint, pHint);
+    m_window->ScheduleRefresh();
+}
+
+void Workspace::ViewChanged(HostView& view) {
+    if (&view == m_active)
+        m_window->ScheduleRefresh();
+}
+
+void Workspace::ShowCoordinates(const QString& text) {
+    m_window->ShowCoordinates(text);
+}
+
+bool Workspace::IsWaiting() const {
+    return m_window && m_window->Wait().IsActive();
+}
+
+CQuovarDoc* Workspace::GetActiveDoc() {
+    return m_active ? &m_active->Document() : nullptr;
+}
+
+CMainFrame* Workspace::GetMainFrame() {
+    return &m_window->Frame();
+}
+
+void Workspace::InizioAttesa(CString messaggio, unsigned int nPassi) {
+    m_window->Wait().Begin(platform::toQString(messaggio), nPassi);
+}
+
+void Workspace::StepBar() {
+    m_window->Wait().Step();
+}
+
+void Workspace::FineAttesa() {
+    m_window->Wait().End();
+}
+
+ModificaDocumento Workspace::GetInformazioniBase(long lHint) {
+    return static_cast<ModificaDocumento>(lHint & 0xffff);
+}
+
+long Workspace::GetInformazioniAggiuntive(long lHint) {
+    return lHint & 0xffff0000L;
+}
+
+void Workspace::SetInformazioniAggiuntive(unsigned long& lHint, unsigned short valore) {
+    lHint = (lHint & 0xffffUL) | static_cast<unsigned long>(valore) << 16;
+}
+
+CCasoCarico* Workspace::CreaCasoCarico(CQuovarDoc* pDoc) {
+    auto* document = dynamic_cast<HostDocument*>(pDoc);
+    return document ? document->CreaCasoCarico() : nullptr;
+}

@@ -1,0 +1,106 @@
+// The application at work: its documents, their views and tool dialogs, its main window, and the host that the dialogs
+// reach through their static functions.
+#pragma once
+
+#include "dialogs/frame/QuovarHost.h"
+#include "host/ui/ToolDialogs.h"
+#include "host/ui/ViewOwner.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class HostDocument;
+class MainWindow;
+struct ModalCommand;
+struct ToolCommand;
+
+// One at a time: it installs itself as the host and its window as the application's main window for as long as it
+// lives. What a user is told or asked goes through message boxes, in Italian.
+class Workspace final : public CQuovarHost, public ViewOwner {
+  public:
+    Workspace();
+    ~Workspace() override; // closes everything without asking
+    Workspace(const Workspace&) = delete;
+    Workspace& operator=(const Workspace&) = delete;
+
+    MainWindow& Window() { return *m_window; }
+    ToolDialogs& Tools() { return m_tools; }
+
+    // ---- Documents. Views and documents stay this object's; a document lives as long as it has views.
+    HostView& NewDocument();
+    // A project, or a text model by its extension. Null, after a message, when the file cannot be read; what is open
+    // stays as it is. A file that is open already is shown.
+    HostView* Open(const QString& path);
+    bool Save(HostDocument& document); // asks for a name when there is none; false when nothing was written
+    bool SaveAs(HostDocument& document, const QString& path);
+    void AskAndOpen();
+    void AskAndImport();
+    bool AskAndSaveAs(HostDocument& document);
+    QString PathOf(const HostDocument& document) const; // empty before the first save
+    QString TitleOf(const HostView& view) const;
+
+    // ---- Views.
+    HostView& NewView(HostDocument& document);
+    // Asks about unsaved changes with a document's last view; false when the user keeps it.
+    bool CloseView(HostView& view);
+    bool CloseAll();
+    HostView* ActiveView() const { return m_active; } // null when there is none
+    void ViewActivated(HostView& view);
+    const std::vector<std::unique_ptr<HostView>>& Views() const { return m_views; }
+
+    // ---- Commands on the active view; without one nothing happens.
+    CDialogDocument* Run(const ToolCommand& command); // null when the dialog could not be opened
+    void Run(const ModalCommand& command);            // returns when the user is done
+    void Undo();
+    void Redo();
+    void SelectLoadCase(HostView& view, int id);
+
+    // ---- For the views.
+    CDialogDocument* ToolOf(const HostView& view) const override { return m_tools.Of(view); }
+    void EndTool(HostView& view, const CDialogDocument* dialog) override;
+    void DocumentChanged(HostView& view, CView* sender, long hint, CObject* pHint) override;
+    void ViewChanged(HostView& view) override;
+    void ShowCoordinates(const QString& text) override;
+    bool IsWaiting() const override;
+
+    // ---- For the dialogs.
+    CQuovarDoc* GetActiveDoc() override;
+    CMainFrame* GetMainFrame() override;
+    void InizioAttesa(CString messaggio, unsigned int nPassi) override;
+    void StepBar() override;
+    void FineAttesa() override;
+    // The change code is the hint's lower half, the additional value its upper one, left in place.
+    ModificaDocumento GetInformazioniBase(long lHint) override;
+    long GetInformazioniAggiuntive(long lHint) override;
+    void SetInformazioniAggiuntive(unsigned long& lHint, unsigned short valore) override;
+    // There is no external solver: no files.
+    CString GetPathFilesVorm(CString) override { return {}; }
+    CString GetFileInputVorm(int) override { return {}; }
+    CCasoCarico* CreaCasoCarico(CQuovarDoc* pDoc) override;
+
+  private:
+    struct Project {
+        std::unique_ptr<HostDocument> document;
+        std::unique_ptr<QObject> idle; // context of the calls that wait for the loop
+        QString path;                  // as the file system knows it; empty before the first save
+        QString name;                  // without folder
+    };
+
+    Project& Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name);
+    Project* ProjectOf(const HostDocument& document) const;
+    HostView* LastViewOf(const HostDocument& document) const; // null when it has none or more than one
+    void RunIdle(Project& project);
+    bool AskToSave(Project& project); // false when the user cancels
+    void CloseUntouched(HostView* view);
+    void ReleaseView(HostView& view);
+
+    std::unique_ptr<MainWindow> m_window;
+    std::vector<std::unique_ptr<Project>> m_projects;
+    std::vector<std::unique_ptr<HostView>> m_views;
+    HostView* m_active = nullptr;
+    ToolDialogs m_tools;
+    int m_untitled = 0;
+};

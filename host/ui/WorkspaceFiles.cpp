@@ -1,0 +1,170 @@
+// The part of the workspace that reads and writes files.
+#include "dialogs/frame/DialogDocument.h"
+#include "host/document/HostDocument.h"
+#include "host/files/FileError.h"
+#include "host/files/Frame3ddImport.h"
+#include "host/files/ProjectFile.h"
+#include "host/ui/HostView.h"
+#include "host/ui/MainWindow.h"
+#include "host/ui/Workspace.h"
+#include "platform/Application.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include <new>
+
+namespace {
+
+const QString allModels = QStringLiteral("Modelli (*.asg *.3dd)");
+const QString projects = QStringLiteral("Progetti (*.asg)");
+const QString textModels = QStringLiteral("Modelli di testo (*.3dd)");
+const QString allFiles = QStringLiteral("Tutti i file (*)");
+
+std::string systemPath(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+bool isTextModel(const QString& path) {
+    return QFileInfo(path).suffix().compare(QStringLiteral("3dd"), Qt::CaseInsensitive) == 0;
+}
+
+void tell(const QString& text) {
+    AfxMessageBox(platform::fromQString(text), MB_OK);
+}
+
+// What a text model asks for and the import leaves out.
+void tellNotes(const std::vector<CString>& notes) {
+    CString text("Modello importato con queste limitazioni:");
+    for (const CString& note : notes)
+        text += "\n" + note;
+    AfxMessageBox(text, MB_OK | MB_ICONINFORMATION);
+}
+
+// Runs what reads or writes a file; false, after a message that begins with `what`, when it fails.
+template <class Action>
+bool guarded(const QString& what, const Action& action) {
+    QString reason;
+    try {
+        const CWaitCursor wait;
+        action();
+        return true;
+    } catch (const FileError& error) {
+        reason = QString::fromUtf8(error.what());
+    } catch (const std::bad_alloc&) {
+        reason = QStringLiteral("Memoria insufficiente.");
+    }
+    tell(what + "\n" + reason);
+    return false;
+}
+
+QString withSuffix(const QString& path) {
+    return QFileInfo(path).suffix().isEmpty() ? path + ".asg" : path;
+}
+
+} // namespace
+
+HostView* Workspace::Open(const QString& path) {
+    const QFileInfo file(path);
+    const QString whole = file.absoluteFilePath();
+    for (const auto& view : m_views)
+        if (!PathOf(view->Document()).isEmpty() && QFileInfo(PathOf(view->Document())) == file) {
+            m_window->ShowView(*view);
+            ViewActivated(*view);
+            return view.get();
+        }
+    const bool text = isTextModel(whole);
+    std::vector<CString> notes;
+    auto document = std::make_unique<HostDocument>();
+    const bool read = guarded(QStringLiteral("Impossibile aprire \"%1\".").arg(QDir::toNativeSeparators(path)), [&] {
+        document->Replace(text ? ImportFrame3dd(systemPath(whole), &notes) : LoadProject(systemPath(whole)));
+    });
+    if (!read)
+        return nullptr;
+    // A text model becomes a project of its own: saving never writes over it.
+    if (text)
+        document->SetTitle(platform::fromQString(file.completeBaseName()));
+    else
+        document->SetPathName(platform::fromQString(whole));
+    HostView* former = m_active;
+    Project& project =
+        Adopt(std::move(document), text ? QString() : whole, text ? file.completeBaseName() : file.fileName());
+    HostView& view = NewView(*project.document);
+    CloseUntouched(former);
+    if (!notes.empty())
+        tellNotes(notes);
+    return &view;
+}
+
+// The empty document that the application starts with makes room for the first one opened.
+void Workspace::CloseUntouched(HostView* view) {
+    if (!view || LastViewOf(view->Document()) != view || m_tools.Of(*view))
+        return;
+    HostDocument& document = view->Document();
+    if (PathOf(document).isEmpty() && document.GetSizeNodi() == 0 && !document.IsModified() &&
+        document.Undo().UndoCount() == 0 && document.Undo().RedoCount() == 0)
+        ReleaseView(*view);
+}
+
+bool Workspace::Save(HostDocument& document) {
+    const QString path = PathOf(document);
+    return path.isEmpty() ? AskAndSaveAs(document) : SaveAs(document, path);
+}
+
+bool Workspace::SaveAs(HostDocument& document, const QString& path) {
+    Project* project = ProjectOf(document);
+    if (!project)
+        return false;
+    const QFileInfo file(path);
+    const QString whole = file.absoluteFilePath();
+    document.Idle(); // what was just done belongs to the file
+    const bool written = guarded(QStringLiteral("Impossibile salvare \"%1\".").arg(QDir::toNativeSeparators(path)),
+                                 [&] { SaveProject(document.Data(), systemPath(whole), QUOVAR_VERSION); });
+    if (!written)
+        return false;
+    project->path = whole;
+    project->name = file.fileName();
+    document.SetPathName(platform::fromQString(whole));
+    document.MarkSaved();
+    m_window->ScheduleRefresh();
+    return true;
+}
+
+void Workspace::AskAndOpen() {
+    const QString path = QFileDialog::getOpenFileName(
+        m_window.get(), QStringLiteral("Apri"), {}, QStringList{allModels, projects, textModels, allFiles}.join(";;"));
+    if (!path.isEmpty())
+        Open(path);
+}
+
+void Workspace::AskAndImport() {
+    const QString path = QFileDialog::getOpenFileName(m_window.get(), QStringLiteral("Importa"), {}, textModels);
+    if (!path.isEmpty())
+        Open(path);
+}
+
+bool Workspace::AskAndSaveAs(HostDocument& document) {
+    const Project* project = ProjectOf(document);
+    const QString proposed = project ? (project->path.isEmpty() ? project->name + ".asg" : project->path) : QString();
+    const QString path =
+        QFileDialog::getSaveFileName(m_window.get(), QStringLiteral("Salva con nome"), proposed, projects);
+    return !path.isEmpty() && SaveAs(document, withSuffix(path));
+}
+
+bool Workspace::AskToSave(Project& project) {
+    HostDocument& document = *project.document;
+    document.Idle();
+    if (!document.IsModified())
+        return true;
+    const QString question = QStringLiteral("Salvare le modifiche a \"%1\"?").arg(project.name);
+    switch (AfxMessageBox(platform::fromQString(question), MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    case IDYES:
+        return Save(document);
+    case IDNO:
+        return true;
+    default:
+        return false;
+    }
+}

@@ -1,0 +1,168 @@
+// The application as a whole: from a text model to a saved project.
+#include "platform/Application.h"
+#include "dialogs/frame/DialogDocument.h"
+#include "host/document/HostDocument.h"
+#include "host/ui/MainWindow.h"
+#include "host/ui/Options.h"
+#include "model/Nodo.h"
+#include "tests/host/WorkspaceTest.h"
+#include "tests/support/TestApp.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+const char* const textModel = "Mensola di prova (kN,m)\n"
+                              "3\n1 0 0 0 0\n2 2 0 0 0\n3 4 0 0 0\n"
+                              "1\n1 1 1 1 1 1 1\n"
+                              "2\n1 1 2 0.1 0.08 0.08 0.001 0.002 0.003 3e7 1.2e7 0 2.5\n"
+                              "2 2 3 0.1 0.08 0.08 0.001 0.002 0.003 3e7 1.2e7 0 2.5\n"
+                              "0\n0\n10\n1\n-1\n"
+                              "1\n0 0 0\n1\n3 0 0 -10 0 0 0\n0\n0\n0\n0\n0\n";
+
+enum : int { EditCount = 1221, EditSpacing = 1093, EditStartZ = 1202, RadioY = 1091 }; // of the linear generation
+
+void writeFile(const QString& path, const QByteArray& text) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+}
+
+Options parse(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), "quovar");
+    std::vector<char*> pointers;
+    for (std::string& each : arguments)
+        pointers.push_back(each.data());
+    return ParseOptions(static_cast<int>(pointers.size()), pointers.data());
+}
+
+} // namespace
+
+class ApplicationTest : public WorkspaceTest {
+  protected:
+    QTemporaryDir folder;
+};
+
+// The road of a whole command. Catches a break anywhere between the menu and the file, nodes that are no undo step of
+// their own, and a project that a killed process takes with it.
+TEST_F(ApplicationTest, ImportGenerateUndoRedoSaveKilledReopen) {
+    const QString model = folder.filePath("mensola.3dd");
+    const QString project = folder.filePath("mensola.asg");
+    writeFile(model, textModel);
+    ASSERT_TRUE(workspace->Open(model));
+    CWinApp::PumpMessages();
+    EXPECT_EQ(workspace->Views().size(), 1u) << "the untouched first document makes room";
+    EXPECT_EQ(Document().GetSizeNodi(), 3);
+    EXPECT_EQ(Document().GetSizeTravi(), 2);
+    EXPECT_TRUE(workspace->PathOf(Document()).isEmpty()) << "saving must not write over the text model";
+
+    DialogDriver driver(*OpenLinear());
+    driver.Type(EditCount, "5");
+    driver.Type(EditSpacing, "1.5");
+    driver.Type(EditStartZ, "3");
+    driver.Click(RadioY);
+    driver.Press(VK_RETURN);
+    CWinApp::PumpMessages();
+    EXPECT_FALSE(driver.IsOpen());
+    ASSERT_EQ(Document().GetSizeNodi(), 8);
+    EXPECT_EQ(*Document().GetIndexNodo(7)->GetPunto(), CFPoint(0, 6, 3));
+    EXPECT_EQ(Document().Undo().UndoCount(), 1u);
+    Trigger("modifica.annulla");
+    EXPECT_EQ(Document().GetSizeNodi(), 3);
+    Trigger("modifica.ripristina");
+    EXPECT_EQ(Document().GetSizeNodi(), 8);
+
+    // A process that saves and dies on the spot.
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        const bool saved = workspace->SaveAs(Document(), project);
+        raise(saved ? SIGKILL : SIGABRT);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+    workspace.reset(); // without a question: nothing of this process was saved
+    workspace = std::make_unique<Workspace>();
+    workspace->Window().show();
+    ASSERT_TRUE(workspace->Open(project));
+    EXPECT_EQ(Document().GetSizeNodi(), 8);
+    EXPECT_EQ(Document().GetSizeTravi(), 2);
+    EXPECT_EQ(*Document().GetIndexNodo(7)->GetPunto(), CFPoint(0, 6, 3));
+    EXPECT_EQ(workspace->TitleOf(View()), "mensola.asg");
+    EXPECT_FALSE(Document().IsModified());
+    ASSERT_EQ(workspace->Open(project), &View()) << "an open project is shown, not opened twice";
+    EXPECT_EQ(workspace->Views().size(), 1u);
+}
+
+// Catches a broken file that disturbs what is open, or a message that does not say what and where.
+TEST_F(ApplicationTest, BrokenFilesLeaveTheOpenDocumentAlone) {
+    BuildSmallModel();
+    HostView* view = &View();
+    const int nodes = Document().GetSizeNodi();
+    const QString text = folder.filePath("rotto.3dd");
+    writeFile(text, "Titolo\n3\n1 0 0 0 0\n2 x 0 0 0\n3 1 0 0 0\n0\n0\n");
+    std::vector<std::string> shown;
+    TestApp::instance().messageHandler = [&shown](const CString& message, UINT) {
+        shown.push_back(message.ToUtf8());
+        return IDOK;
+    };
+    EXPECT_FALSE(workspace->Open(text));
+    const QString project = folder.filePath("rotto.asg");
+    writeFile(project, "niente di buono");
+    EXPECT_FALSE(workspace->Open(project));
+    EXPECT_FALSE(workspace->Open(folder.filePath("manca.asg")));
+    EXPECT_FALSE(workspace->SaveAs(Document(), folder.filePath("manca/qui.asg")));
+    ASSERT_EQ(shown.size(), 4u);
+    EXPECT_NE(shown[0].find("Riga 4"), std::string::npos) << shown[0];
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(shown[static_cast<std::size_t>(i)].rfind("Impossibile aprire \"", 0), 0u);
+    EXPECT_EQ(shown[3].rfind("Impossibile salvare \"", 0), 0u);
+    EXPECT_EQ(workspace->ActiveView(), view);
+    EXPECT_EQ(Document().GetSizeNodi(), nodes);
+    EXPECT_TRUE(workspace->PathOf(Document()).isEmpty());
+}
+
+// Catches a close that loses changes: Yes must save before the window goes.
+TEST_F(ApplicationTest, ClosingTheWindowAsksAndSaves) {
+    BuildSmallModel();
+    const QString project = folder.filePath("progetto.asg");
+    ASSERT_TRUE(workspace->SaveAs(Document(), project));
+    Document().GenNodi2Punti(CFPoint(0, 0, 9), CFPoint(1, 0, 9), 2);
+    const int nodes = Document().GetSizeNodi();
+    user.ExpectMessage("Salvare le modifiche a \"progetto.asg\"?", IDCANCEL);
+    workspace->Window().close();
+    EXPECT_TRUE(workspace->Window().isVisible());
+    ASSERT_EQ(workspace->Views().size(), 1u);
+    user.ExpectMessage("Salvare le modifiche a \"progetto.asg\"?", IDYES);
+    EXPECT_TRUE(workspace->CloseAll());
+    ASSERT_TRUE(workspace->Open(project));
+    EXPECT_EQ(Document().GetSizeNodi(), nodes);
+    // Nothing is unsaved now: the close box ends the loop, which would otherwise run for good.
+    QTimer::singleShot(0, [this] { workspace->Window().close(); });
+    QTimer::singleShot(5000, &workspace->Window(), [] { QCoreApplication::exit(99); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_TRUE(workspace->Views().empty());
+}
+
+// Catches options that are taken for files, or an error that is not reported.
+TEST(OptionsTest, SayWhatToDo) {
+    EXPECT_EQ(parse({}).action, Options::Action::Open);
+    EXPECT_EQ(parse({"modello.asg"}).argument, "modello.asg");
+    EXPECT_EQ(parse({"--gallery", "qui"}).action, Options::Action::Gallery);
+    EXPECT_EQ(parse({"--gallery", "qui"}).argument, "qui");
+    EXPECT_EQ(parse({"--smoke"}).action, Options::Action::Smoke);
+    EXPECT_EQ(parse({"--help"}).action, Options::Action::Help);
+    for (const auto& wrong : std::vector<std::vector<std::string>>{
+             {"--boh"}, {"--gallery"}, {"--gallery", "--smoke"}, {"a", "b"}, {"--help", "--version"}}) {
+        const Options options = parse(wrong);
+        EXPECT_EQ(options.action, Options::Action::Invalid) << wrong.front();
+        EXPECT_FALSE(options.error.empty());
+    }
+}

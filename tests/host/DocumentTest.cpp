@@ -1,0 +1,252 @@
+// The document as the dialogs see it: generation, additions, observers, names, selection, connection.
+#include "host/document/HostDocument.h"
+#include "model/Asta.h"
+#include "model/CasoCarico.h"
+#include "model/Combinazione.h"
+#include "model/Setto.h"
+#include "model/Solaio.h"
+#include "model/Trave.h"
+#include "tests/host/TestModel.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+CFPoint At(HostDocument& document, int index) {
+    return *document.GetIndexNodo(index)->GetPunto();
+}
+
+void ExpectNear(const CFPoint& a, const CFPoint& b, double tolerance = 1e-12) {
+    EXPECT_NEAR(a.x, b.x, tolerance);
+    EXPECT_NEAR(a.y, b.y, tolerance);
+    EXPECT_NEAR(a.z, b.z, tolerance);
+}
+
+// Catches a row that counts one too few or too many, or starts one spacing late.
+TEST(DocumentGeneration, LinePlacesNodesFromTheStart) {
+    HostDocument document;
+    EXPECT_NE(document.GenNodiLineare({2, 3, 0}, {2, 7, 0}, 1.5, 3), 0);
+    ASSERT_EQ(document.GetSizeNodi(), 3);
+    for (int i = 0; i < 3; ++i) {
+        ExpectNear(At(document, i), {2, 3 + 1.5 * i, 0});
+        EXPECT_EQ(document.GetIndexNodo(i)->GetID(), i + 1);
+    }
+    EXPECT_EQ(document.Undo().UndoCount(), 1u);
+    EXPECT_EQ(document.Undo().UndoName(), "Generazione nodi");
+    // What lies there already is met, not doubled.
+    EXPECT_NE(document.GenNodiLineare({2, 4.5, 0}, {2, 5, 0}, 1.5, 3), 0);
+    EXPECT_EQ(document.GetSizeNodi(), 4);
+}
+
+TEST(DocumentGeneration, SegmentHasBothEnds) {
+    HostDocument document;
+    EXPECT_NE(document.GenNodi2Punti({0, 0, 0}, {0.3, 0.7, 1.1}, 4), 0);
+    ASSERT_EQ(document.GetSizeNodi(), 4);
+    ExpectNear(At(document, 1), {0.1, 0.7 / 3, 1.1 / 3});
+    EXPECT_TRUE(At(document, 3) == CFPoint(0.3, 0.7, 1.1)) << "the end is exact";
+    HostDocument single;
+    EXPECT_NE(single.GenNodi2Punti({5, 6, 7}, {8, 9, 10}, 1), 0);
+    ASSERT_EQ(single.GetSizeNodi(), 1);
+    EXPECT_TRUE(At(single, 0) == CFPoint(5, 6, 7));
+}
+
+// Parameters that cannot be used leave no trace: no node, no step.
+TEST(DocumentGeneration, NonsenseIsRejected) {
+    HostDocument document;
+    const CFPoint o(0, 0, 0), x(1, 0, 0), y(0, 1, 0);
+    EXPECT_EQ(document.GenNodiLineare(o, x, 1, 0), 0);
+    EXPECT_EQ(document.GenNodiLineare(o, x, 1, -5), 0);
+    EXPECT_EQ(document.GenNodiLineare(o, x, 1, 2'000'000'000), 0);
+    EXPECT_EQ(document.GenNodiLineare(o, o, 1, 5), 0);
+    EXPECT_EQ(document.GenNodiLineare(o, x, 0, 5), 0);
+    EXPECT_EQ(document.GenNodiLineare(o, x, -1, 5), 0);
+    EXPECT_EQ(document.GenNodiLineare(o, x, 1e-9, 5), 0) << "nodes within the tolerance of each other";
+    EXPECT_EQ(document.GenNodiLineare(o, x, std::nan(""), 5), 0);
+    EXPECT_EQ(document.GenNodiLineare({infinity, 0, 0}, x, 1, 5), 0);
+    EXPECT_EQ(document.GenNodiLineare(o, x, 1e308, 5), 0);
+    EXPECT_EQ(document.GenNodi2Punti(x, x, 5), 0);
+    EXPECT_EQ(document.GenNodi2Punti(o, x, 500'000), 0) << "closer than the tolerance";
+    EXPECT_EQ(document.GenNodiArco3Punti(1, o, x, {2, 0, 0}, 5), 0) << "three points in line";
+    EXPECT_EQ(document.GenNodiArco3Punti(1, o, x, {1, 1, 3}, 5), 0) << "not parallel to the plane";
+    EXPECT_EQ(document.GenNodiArco3Punti(4, o, x, {1, 1, 0}, 5), 0);
+    EXPECT_EQ(document.GenNodiArcoCerchio(1, 0, o, o, 90, 5), 0);
+    EXPECT_EQ(document.GenNodiArcoCerchio(1, 0, o, x, 0, 5), 0);
+    EXPECT_EQ(document.GenNodiCerchio(1, 0, 5, o, 0), 0);
+    EXPECT_EQ(document.GenNodiCerchio(1, 0, 5, o, infinity), 0);
+    EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 0, 3), 0);
+    EXPECT_EQ(document.Mesh4Punti(o, x, x, y, 3, 3), 0);
+    EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 100'000, 100'000), 0);
+    EXPECT_EQ(document.GetSizeNodi(), 0);
+    EXPECT_EQ(document.Undo().UndoCount(), 0u);
+    EXPECT_FALSE(document.IsModified());
+}
+
+// Catches an arc that runs the long way round, in the wrong plane, or tilts the wrong way.
+TEST(DocumentGeneration, CurvesKeepTheirPlaneAndDirection) {
+    HostDocument arc;
+    EXPECT_NE(arc.GenNodiArco3Punti(2, {1, 5, 0}, {0, 5, -1}, {-1, 5, 0}, 5), 0);
+    ASSERT_EQ(arc.GetSizeNodi(), 5);
+    ExpectNear(At(arc, 1), {std::sqrt(0.5), 5, -std::sqrt(0.5)});
+    ExpectNear(At(arc, 2), {0, 5, -1});
+    ExpectNear(At(arc, 4), {-1, 5, 0});
+
+    HostDocument quarter;
+    EXPECT_NE(quarter.GenNodiArcoCerchio(1, 90, {0, 0, 0}, {2, 0, 0}, 90, 2), 0);
+    ASSERT_EQ(quarter.GetSizeNodi(), 2);
+    ExpectNear(At(quarter, 1), {0, 0, 2}); // X-Y turned about X by 90 degrees is X-Z
+
+    HostDocument circle;
+    EXPECT_NE(circle.GenNodiCerchio(3, 0, 4, {7, 1, 1}, 2), 0);
+    ASSERT_EQ(circle.GetSizeNodi(), 4) << "the first place is not made again at the end";
+    ExpectNear(At(circle, 0), {7, 3, 1});
+    ExpectNear(At(circle, 1), {7, 1, 3});
+}
+
+TEST(DocumentGeneration, MeshMeetsItsNeighbour) {
+    HostDocument document;
+    EXPECT_NE(document.Mesh4Punti({0, 0, 0}, {4, 0, 0}, {4, 2, 0}, {0, 2, 0}, 4, 2), 0);
+    EXPECT_EQ(document.GetSizeNodi(), 15);
+    EXPECT_EQ(document.GetSizeSolai(), 8);
+    EXPECT_NE(document.Mesh4Punti({4, 0, 0}, {8, 0, 0}, {8, 2, 0}, {4, 2, 0}, 4, 2), 0);
+    EXPECT_EQ(document.GetSizeNodi(), 27) << "the common side has one row of nodes";
+    EXPECT_TRUE(document.IsUnica());
+    CGrandezza area;
+    document.GetIndexSolaio(3)->GetArea(area);
+    EXPECT_NEAR(area.GetValore(), 1, 1e-12);
+}
+
+TEST(Document, AddingRefusesWhatCannotBe) {
+    HostDocument document;
+    CFPoint a(0, 0, 0), b(100, 0, 0), close(100, 0, 1e-8), nowhere(std::nan(""), 0, 0);
+    CNodo* first = document.AddNodo(a, nullptr, 1);
+    CNodo* second = document.AddNodo(b, nullptr, 1);
+    EXPECT_EQ(document.AddNodo(b, nullptr, 1), second);
+    EXPECT_EQ(document.AddNodo(close, nullptr, 1), second) << "1e-9 of the model's size";
+    EXPECT_EQ(document.AddNodo(nowhere, nullptr, 1), nullptr);
+    EXPECT_EQ(document.AddTrave(1, 1, nullptr), nullptr);
+    EXPECT_EQ(document.AddTrave(1, 99, nullptr), nullptr);
+    EXPECT_EQ(document.AddAsta(0, -1, nullptr), nullptr);
+    EXPECT_EQ(document.AddSetto({1, 2}), nullptr);
+    EXPECT_EQ(document.AddSolaio({1, 2, 1}), nullptr);
+    CTrave* beam = document.AddTrave(first->GetID(), second->GetID(), nullptr);
+    ASSERT_NE(beam, nullptr);
+    EXPECT_EQ(first->GetSizeElementi(), 1);
+    CFPoint near(100, 0.0004, 0);
+    EXPECT_EQ(document.GetNodo(near, nullptr, 0.001), second);
+    EXPECT_EQ(document.GetNodo(near, second, 0.001), nullptr);
+    EXPECT_EQ(document.GetNodo(near, nullptr, 0.0001), nullptr);
+}
+
+struct Listener : DocumentObserver {
+    void OnDocumentUpdate(CView*, long hint, CObject*) override {
+        hints.push_back(hint);
+        if (onUpdate)
+            onUpdate();
+    }
+    std::vector<long> hints;
+    std::function<void()> onUpdate;
+};
+
+// A view that closes another while both are told must not be told through a dangling pointer.
+TEST(Document, ObserversMayLeaveDuringTheCall) {
+    HostDocument document;
+    Listener first, second, third;
+    for (Listener* listener : {&first, &second, &third})
+        document.AddObserver(listener);
+    document.AddObserver(&third); // twice is once
+    first.onUpdate = [&] {
+        document.RemoveObserver(&first);
+        document.RemoveObserver(&second);
+    };
+    document.UpdateAllViews(nullptr, 97);
+    document.UpdateAllViews(nullptr, 98);
+    EXPECT_EQ(first.hints, (std::vector<long>{97}));
+    EXPECT_TRUE(second.hints.empty());
+    EXPECT_EQ(third.hints, (std::vector<long>{97, 98}));
+}
+
+TEST(Document, SelectionTellsEachKindOnce) {
+    HostDocument document;
+    BuildEverything(document);
+    Listener listener;
+    document.AddObserver(&listener);
+    bool scheduled = false;
+    document.SetIdleScheduler([&] { scheduled = true; });
+    for (int i = 0; i < document.GetSizeTravi(); ++i)
+        document.SelezionaTrave(document.GetIndexTrave(i)->GetID(), nullptr, nullptr);
+    document.SelezionaTrave(99999, nullptr, nullptr);
+    document.SelezionaNodo(1, nullptr);
+    EXPECT_TRUE(listener.hints.empty());
+    ASSERT_TRUE(scheduled);
+    document.Idle();
+    EXPECT_EQ(listener.hints,
+              (std::vector<long>{MODIFICA_SELEZIONE_NODI, MODIFICA_SELEZIONE_TRAVI, MODIFICA_SELEZIONE_FINE}));
+    EXPECT_EQ(document.GetSizeTraviSelect(), document.GetSizeTravi());
+    EXPECT_EQ(document.GetListaSelezione()->GetCount(), document.GetSizeTravi() + 1);
+
+    int walked = 0;
+    POSITION pos;
+    for (CTrave* beam = document.GetFirstTraveSelect(pos); beam; beam = document.GetNextTraveSelect(pos))
+        EXPECT_EQ(beam, document.GetIndexTrave(walked++));
+    EXPECT_EQ(walked, document.GetSizeTravi());
+    EXPECT_EQ(document.GetNextTraveSelect(pos), nullptr);
+    EXPECT_EQ(document.GetFirstAstaSelect(pos), nullptr);
+
+    document.Selection().Remove(document.GetIndexTrave(0));
+    document.SelezionaTrave(document.GetIndexTrave(0)->GetID(), nullptr, nullptr);
+    EXPECT_EQ(document.GetFirstTraveSelect(pos), document.GetIndexTrave(1)) << "the order is that of selecting";
+    EXPECT_EQ(document.GetListaSelezione()->GetTail(), document.GetIndexTrave(0));
+    document.Selection().Deseleziona(nullptr);
+    EXPECT_FALSE(document.GetIndexTrave(0)->IsSelect());
+    EXPECT_EQ(document.GetListaSelezione()->GetCount(), 0);
+}
+
+TEST(Document, NamesOfCasesFollowTheRule) {
+    HostDocument document;
+    BuildEverything(document);
+    EXPECT_TRUE(document.IsValidoCasoCaricoNome("Neve - 1000 m"));
+    EXPECT_TRUE(document.IsValidoCasoCaricoNome(CString('a', 64)));
+    EXPECT_FALSE(document.IsValidoCasoCaricoNome(CString('a', 65)));
+    EXPECT_FALSE(document.IsValidoCasoCaricoNome(" a"));
+    for (const char* name : {"a.b", "a`b", "a!b", "a[b", "a]b"})
+        EXPECT_FALSE(document.IsValidoCasoCaricoNome(name)) << name;
+    EXPECT_EQ(document.IsCasoCaricoNome("SLU"), document.GetIndexCombinazione(0));
+    EXPECT_EQ(document.IsCasoCaricoNome("slu"), nullptr);
+    EXPECT_EQ(document.IsCasoCaricoNome(*document.GetIndexCasoCarico(0), nullptr), nullptr) << "not by itself";
+    CCombinazione twin;
+    twin.SetNome("Permanenti");
+    CElementoStrutturale* other = nullptr;
+    EXPECT_EQ(document.IsCasoCaricoNome(twin, &other), document.GetIndexCasoCarico(0));
+    EXPECT_EQ(other, document.GetIndexCasoCarico(0));
+    EXPECT_EQ(document.AddCombinazione(&twin, nullptr), 0) << "refused: it stays the caller's";
+    int index = -1;
+    EXPECT_EQ(document.GetCasoCarico(2, &index), document.GetIndexCasoCarico(1));
+    EXPECT_EQ(index, 1);
+    EXPECT_EQ(document.SelectCasoCarico(3), 1) << "combinations and cases share their numbers";
+    EXPECT_EQ(document.GetSelectCombinazione(), document.GetIndexCombinazione(0));
+    EXPECT_EQ(document.GetSelectCasoCarico(), nullptr);
+    EXPECT_EQ(document.SelectCasoCarico(77), 0);
+}
+
+TEST(Document, StructuresAreWhatIsConnected) {
+    HostDocument document;
+    BuildEverything(document);
+    EXPECT_FALSE(document.IsUnica()) << "one node stands alone";
+    CObArray nodes;
+    document.m_pSelezione->SelezionaStruttura(document.GetIndexNodo(4), &nodes);
+    EXPECT_EQ(nodes.GetSize(), document.GetSizeNodi() - 1);
+    EXPECT_EQ(nodes[0], document.GetIndexNodo(4));
+    nodes.RemoveAll();
+    document.m_pSelezione->SelezionaStruttura(document.GetIndexNodo(document.GetSizeNodi() - 1), &nodes);
+    EXPECT_EQ(nodes.GetSize(), 1);
+    nodes.RemoveAll(); // the marks of the first walk must be gone
+    document.m_pSelezione->SelezionaStruttura(document.GetIndexNodo(0), &nodes);
+    EXPECT_EQ(nodes.GetSize(), document.GetSizeNodi() - 1);
+}
+
+} // namespace

@@ -1,0 +1,222 @@
+// Moving, rotating, mirroring and copying the selection: where things end up and what they carry.
+#include "host/document/HostDocument.h"
+#include "model/Adv3dRect.h"
+#include "model/Asta.h"
+#include "model/Carico.h"
+#include "model/CasoCarico.h"
+#include "model/Setto.h"
+#include "model/Solaio.h"
+#include "model/Trave.h"
+#include "platform/Collections.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace {
+
+class DocumentTransformTest : public testing::Test {
+  protected:
+    CNodo* Node(double x, double y, double z) {
+        CFPoint place(x, y, z);
+        return document.AddNodo(place, nullptr, 1);
+    }
+    CTrave* Beam(CNodo* a, CNodo* b) { return document.AddTrave(a->GetID(), b->GetID(), nullptr); }
+    CNodo* Find(double x, double y, double z) {
+        CFPoint place(x, y, z);
+        return document.GetNodo(place, nullptr, 1e-9);
+    }
+    HostSelection& Selection() { return document.Selection(); }
+
+    HostDocument document;
+};
+
+// The dialog's own calls: steps 1, 2 and 3 along X put the copies at 1, 3 and 6.
+TEST_F(DocumentTransformTest, TheCycleCopiesFromCopyToCopy) {
+    CNodo* foot = Node(0, 0, 0);
+    CTrave* beam = Beam(foot, Node(0, 0, 3));
+    beam->SetBeta(15);
+    document.SelezionaTutto();
+    Adv3dRect rect;
+    CObList objects, copies;
+    unsigned counter = 0;
+    document.m_pUndo->BeginUndo(UNDO_COPIA, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
+    Selection().InizioCicloTraslaSelezione(rect, objects);
+    EXPECT_EQ(objects.GetSize(), 3);
+    for (const double step : {1.0, 2.0, 3.0})
+        Selection().CicloTraslaSelezione(step, 0, 0, UNIONE_ASTE, counter, rect, objects, copies);
+    Selection().FineCicloTraslaSelezione(rect, counter);
+    document.m_pUndo->EndUndo(UNDO_COPIA);
+    EXPECT_EQ(document.GetSizeNodi(), 8);
+    EXPECT_EQ(document.GetSizeTravi(), 4);
+    EXPECT_EQ(document.GetSizeAste(), 6);
+    for (const double x : {1.0, 3.0, 6.0})
+        EXPECT_NE(Find(x, 0, 3), nullptr) << x;
+    EXPECT_EQ(document.GetIndexTrave(3)->GetBeta(), 15);
+    EXPECT_EQ(document.GetIndexAsta(5)->GetNodoIniziale(), Find(3, 0, 3));
+    EXPECT_EQ(document.Undo().UndoName(), "Copia Trasla");
+    document.Undo().Undo();
+    EXPECT_EQ(document.GetSizeNodi(), 2);
+    EXPECT_EQ(document.GetSizeAste(), 0);
+    EXPECT_EQ(Selection().All().size(), 3u);
+}
+
+// Copying onto what is there: neither nodes nor elements are doubled.
+TEST_F(DocumentTransformTest, CopiesMeetWhatIsThere) {
+    CNodo* a = Node(0, 0, 0);
+    CNodo* b = Node(1, 0, 0);
+    CNodo* c = Node(2, 0, 0);
+    CTrave* first = Beam(a, b);
+    Beam(b, c);
+    Selection().Add(first);
+    Selection().TraslaSelezione(1, 0, 0, 2, UNIONE_TRAVI);
+    EXPECT_EQ(document.GetSizeNodi(), 4);
+    EXPECT_EQ(document.GetSizeTravi(), 3) << "the second place has its beam, and so has each join";
+    const std::size_t steps = document.Undo().UndoCount();
+    Selection().TraslaSelezione(0, 0, 0, 2, UNIONE_TRAVI);
+    Selection().TraslaSelezione(std::nan(""), 0, 0, 2, UNIONE_TRAVI);
+    Selection().RuotaSelezione(1, 1, 1, 1, 1, 1, 90, 2, UNIONE_TRAVI);
+    Selection().RuotaSelezione(0, 1, 7, 2, UNIONE_TRAVI);
+    EXPECT_EQ(document.Undo().UndoCount(), steps);
+}
+
+TEST_F(DocumentTransformTest, CopiesCarryRestraintsSpringsAndLoads) {
+    CNodo* a = Node(0, 0, 0);
+    CTrave* beam = Beam(a, Node(5, 0, 0));
+    CVincolo fixed(CVincolo::Tutti);
+    CCasoCarico* loadCase = document.GetIndexCasoCarico(0);
+    CCarico* load =
+        document.AddCarico(*loadCase, std::make_unique<CCaricoUniforme>(CFPoint(0, 2, -3), CCarico::Locale));
+    document.Modify(*a, [&] {
+        a->SetVincolo(&fixed);
+        a->AddMolla(CMolla(CMolla::Traslazionale, 10, {1, 0, 0}));
+    });
+    document.Modify(*beam, [&] {
+        beam->AddCarico(load, 0);
+        beam->AddSpecifica(new CSpecificheSvincoliTrave(1, 0, 0, 1, 0));
+    });
+    Selection().Add(beam);
+    Selection().RuotaSelezione(0, 0, 0, 0, 0, 1, 90, 1, UNIONE_NIENTE);
+    CNodo* far = Find(0, 5, 0);
+    ASSERT_NE(far, nullptr) << "a quarter turn is exact";
+    EXPECT_EQ(document.GetSizeNodi(), 3) << "the node on the axis is met";
+    CTrave* copy = document.GetIndexTrave(1);
+    EXPECT_EQ(copy->GetNodoIniziale(), a);
+    EXPECT_EQ(copy->GetIndexCarico(0), load);
+    EXPECT_EQ(copy->GetSvincoli(1), 4u);
+    Selection().TraslaSelezione(0, 0, 10, 1, UNIONE_NIENTE);
+    CNodo* above = Find(0, 0, 10);
+    ASSERT_NE(above, nullptr);
+    ASSERT_NE(above->GetVincolo(), nullptr);
+    EXPECT_EQ(above->GetVincolo()->GetMaschera(), static_cast<unsigned>(CVincolo::Tutti));
+    EXPECT_EQ(above->GetSizeMolle(), 1);
+    // Mirrored in the X-Z plane, axis 2 points to the other side: so does what acts along it.
+    Selection().SpecchiaSelezione(0, -1, 0, 2);
+    CTrave* mirrored = document.GetIndexTrave(document.GetSizeTravi() - 1);
+    EXPECT_EQ(mirrored->GetBeta(), 0);
+    auto* other = static_cast<CCaricoUniforme*>(mirrored->GetIndexCarico(0));
+    ASSERT_NE(other, nullptr);
+    EXPECT_EQ(other->GetCarico().y, -2);
+    EXPECT_EQ(other->GetCarico().z, -3);
+    EXPECT_EQ(loadCase->GetSizeCarichi(), 2);
+}
+
+// Axis 3 of each beam goes along with the motion, whatever the direction of the beam before and after.
+TEST_F(DocumentTransformTest, LocalAxesTurnWithTheElement) {
+    CNodo* a = Node(0, 0, 0);
+    CNodo* tops[] = {Node(4, 0, 0), Node(0, 0, 3), Node(1, 2, 3)};
+    for (CNodo* top : tops)
+        Beam(a, top)->SetBeta(20);
+    std::vector<CFPoint> thirds;
+    CFPoint one, two, three;
+    for (int i = 0; i < 3; ++i) {
+        document.GetIndexTrave(i)->GetAssiLocali(one, two, three);
+        thirds.push_back(three);
+    }
+    document.SelezionaTutto();
+    // A third of a turn about the space diagonal: X becomes Y, Y becomes Z, Z becomes X.
+    Selection().RuotaSelezione(0, 0, 0, 1, 1, 1, 120, 0, UNIONE_NIENTE);
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_TRUE(document.GetIndexTrave(i)->GetAssiLocali(one, two, three));
+        const CFPoint& before = thirds[static_cast<std::size_t>(i)];
+        EXPECT_NEAR(CFPoint::GetMod(three, {before.z, before.x, before.y}), 0, 1e-12) << i;
+    }
+    EXPECT_NE(Find(0, 4, 0), nullptr);
+    document.Undo().Undo();
+    EXPECT_EQ(document.GetIndexTrave(1)->GetBeta(), 20);
+    // About Z, sine and cosine given with a rounded pi, as the dialog does.
+    const double radians = 90 * 0.017453292522222223;
+    Selection().RuotaSelezione(std::sin(radians), std::cos(radians), 2, 0, UNIONE_NIENTE);
+    CFPoint place(0, 4, 0);
+    EXPECT_NE(document.GetNodo(place, nullptr, 1e-6), nullptr);
+    EXPECT_EQ(document.Undo().UndoName(), "Ruota");
+}
+
+TEST_F(DocumentTransformTest, MirroredWallsKeepTheirSide) {
+    Node(0, 0, 0);
+    Node(4, 0, 0);
+    Node(4, 0, 3);
+    Node(0, 0, 3);
+    CSetto* wall = document.AddSetto({1, 2, 3, 4});
+    CFPoint normal, mirrored;
+    wall->GetDir(normal, 2);
+    Selection().Add(wall);
+    Selection().SpecchiaSelezione(-1, 0, 0, 1);
+    ASSERT_EQ(document.GetSizeSetti(), 2);
+    document.GetIndexSetto(1)->GetDir(mirrored, 2);
+    EXPECT_NEAR(CFPoint::GetMod(normal, mirrored), 0, 1e-12);
+    EXPECT_EQ(document.GetIndexSetto(1)->GetIndexNodo(0), Find(-2, 0, 0));
+    Selection().SpecchiaSelezione(9, 9, 9, 3); // in the origin, whatever the point
+    EXPECT_NE(Find(-4, 0, -3), nullptr);
+}
+
+TEST_F(DocumentTransformTest, MovingTakesTheNodesOfElementsAlongOnce) {
+    CNodo* a = Node(0, 0, 0);
+    CNodo* b = Node(5, 0, 0);
+    CNodo* c = Node(5, 5, 0);
+    Selection().Add(Beam(a, b));
+    Selection().Add(Beam(b, c));
+    Selection().Add(b);
+    document.m_pUndo->BeginUndo(UNDO_SPOSTA, 1, 2, 3, 0, 0, 0, 0, 0, 0, 0);
+    Selection().TraslaSelezione(1, 2, 3, 0, 0);
+    document.m_pUndo->EndUndo(UNDO_SPOSTA);
+    EXPECT_EQ(Find(6, 2, 3), b) << "moved once, though three selected objects have it";
+    EXPECT_EQ(Find(5, 0, 0), nullptr);
+    EXPECT_EQ(document.GetSizeNodi(), 3);
+    EXPECT_EQ(document.Undo().UndoName(), "Muovi");
+    document.Undo().Undo();
+    EXPECT_EQ(Find(5, 0, 0), b) << "the search by position follows";
+}
+
+TEST_F(DocumentTransformTest, SelectionByPlaneAndRange) {
+    Node(0, 0, 0);
+    Node(5, 0, 0);
+    Node(5, 5, 0);
+    Node(5, 5, 5);
+    document.AddTrave(1, 2, nullptr);
+    document.AddTrave(3, 4, nullptr);
+    document.AddAsta(2, 3, nullptr);
+    Selection().SelezionaElementiRange({-1, -1, -1}, {6, 6, 1}, 0, 1, 1, 1, 1);
+    EXPECT_EQ(Selection().Size(Kind::Beam), 1);
+    EXPECT_EQ(Selection().Size(Kind::Truss), 1);
+    EXPECT_EQ(Selection().Size(Kind::Node), 0);
+    Selection().Clear();
+    CPoligono ground;
+    for (int i = 0; i < 3; ++i)
+        ground.AggiungiVertice(document.GetIndexNodo(i));
+    Selection().SelezionaElementiPiano(&ground);
+    EXPECT_EQ(Selection().All().size(), 2u);
+    Selection().Clear();
+    document.SelezionaTutto();
+    Node(0, 0, 2);
+    Node(1, 0, 2);
+    Node(0, 1, 2);
+    CPoligono above;
+    for (int i = 4; i < 7; ++i)
+        above.AggiungiVertice(document.GetIndexNodo(i));
+    Selection().IntersezioneLineePiano(&above);
+    EXPECT_NE(Find(5, 5, 2), nullptr);
+    EXPECT_EQ(document.GetSizeNodi(), 8);
+}
+
+} // namespace

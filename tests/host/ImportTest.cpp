@@ -1,0 +1,178 @@
+// Text models of space frames.
+#include "host/document/HostDocument.h"
+#include "host/files/FileError.h"
+#include "host/files/Frame3ddImport.h"
+#include "model/Carico.h"
+#include "model/CasoCarico.h"
+#include "model/Materiale.h"
+#include "model/Sezione.h"
+#include "model/Trave.h"
+#include "tests/host/Dump.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+
+namespace {
+
+// One of each load, separators of every sort, comments, and trailing data for another analysis.
+const char model[] = "Un portale (kN,m,t)\r\n"
+                     "# nodi\n"
+                     "4 # numero\n"
+                     "1 0 0 0 0\n"
+                     "2,4.0,0,0,0\n"
+                     "4\t+4\t0\t3e0\t0\n"
+                     "3 0 0 3 0.1\n"
+                     "2 # vincoli\n"
+                     "1 1 1 1 1 1 1\n"
+                     "2 1 1 1 0 0 0\n"
+                     "3 # elementi\n"
+                     "1 1 3 0.09 0.075 0.075 0.001 0.0007 0.0008 3e7 1.25e7 0 2.5\n"
+                     "2 3 4 0.09 0.075 0.075 0.001 0.0007 0.0008 3e7 1.25e7 30 2.5\n"
+                     "3 2 4 0.12 0.100 0.100 0.001 0.0007 0.0008 3e7 1.25e7 0 2.5\n"
+                     "1 1 10 1 -1\n"
+                     "2 # casi\n"
+                     "0 0 -9.81\n"
+                     "1 \n 3 10 0 0 0 5 0\n"
+                     "1 \n 2 0 0 -8\n"
+                     "1 \n 2 0 0 0 0  0.5 1 2 3  0 4 -1 -1\n"
+                     "1 \n 2 0 0 -7 1.5\n"
+                     "1 \n 1 1.2e-5 0.3 0.3 20 10 30 -10\n"
+                     "1 \n 2 0.01 0 0 0 0 0\n"
+                     "0 0 0 0 0 0 0 0 0\n"
+                     "6 # modi\n 1 0 1e-9 0.0 10.0\n";
+
+std::string RefusalOf(const std::string& text) {
+    try {
+        ImportFrame3ddText(text);
+        return "";
+    } catch (const FileError& error) {
+        return error.what();
+    }
+}
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    const std::size_t at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return text.replace(at, from.size(), to);
+}
+
+// Catches a column read as its neighbour, an axis taken for another, and sections that are not shared.
+TEST(Import, EverythingArrives) {
+    std::vector<CString> notes;
+    DocumentData data = ImportFrame3ddText(model, &notes);
+    EXPECT_EQ(data.Info().title, "Un portale (kN,m,t)");
+    EXPECT_EQ(data.Units().length, Lunghezza::Metri);
+    EXPECT_EQ(data.Units().force, Forza::ChiloNewton);
+    ASSERT_EQ(data.Size(Kind::Node), 4);
+    EXPECT_TRUE(*data.CercaNodo(4)->GetPunto() == CFPoint(4, 0, 3));
+    EXPECT_EQ(data.CercaNodo(2)->GetVincolo()->GetMaschera(), 7u);
+    ASSERT_EQ(data.Size(Kind::Beam), 3);
+    EXPECT_EQ(data.Size(Kind::Material), 1);
+    ASSERT_EQ(data.Size(Kind::Section), 2);
+    auto* section = data.As<CSezione>(Kind::Section, 0);
+    EXPECT_EQ(section->GetArea2(), 0.075);
+    EXPECT_EQ(section->GetI2(), 0.0007);
+    EXPECT_EQ(section->GetI3(), 0.0008);
+    auto* beam = data.FindAs<CTrave>(Kind::Beam, 2);
+    EXPECT_EQ(beam->GetBeta(), 30);
+    EXPECT_EQ(beam->GetSezione(), section);
+    EXPECT_EQ(beam->GetMateriale()->GetDensita(), 2.5);
+    ASSERT_EQ(data.Size(Kind::LoadCase), 2);
+    auto* loads = data.As<CCasoCarico>(Kind::LoadCase, 0);
+    ASSERT_EQ(loads->GetSizeCarichi(), 7);
+    EXPECT_EQ(static_cast<CCaricoPesoProprio*>(loads->GetIndexCarico(0))->GetAccelerazione().z, -9.81);
+    EXPECT_EQ(static_cast<CCaricoNodale*>(data.CercaNodo(3)->GetIndexCarico(0))->GetVettoreMomento().y, 5);
+    EXPECT_EQ(static_cast<CCaricoSpostamento*>(data.CercaNodo(2)->GetIndexCarico(0))->GetSpostamento().x, 0.01);
+    ASSERT_EQ(beam->GetSizeCarichi(), 3);
+    EXPECT_EQ(static_cast<CCaricoUniforme*>(beam->GetIndexCarico(0))->GetRiferimento(), CCarico::Locale);
+    EXPECT_EQ(static_cast<CCaricoTrapezoidale*>(beam->GetIndexCarico(1))->GetTratto(1).fine, 3);
+    EXPECT_EQ(static_cast<CCaricoConcentrato*>(beam->GetIndexCarico(2))->GetDistanza(), 1.5);
+    auto* heat = data.FindAs<CTrave>(Kind::Beam, 1)->GetCaricoTemperatura(1);
+    ASSERT_NE(heat, nullptr);
+    EXPECT_DOUBLE_EQ(heat->GetTemperatura(), 12.5);
+    EXPECT_DOUBLE_EQ(heat->GetGradiente2(), 10 / 0.3);
+    EXPECT_DOUBLE_EQ(heat->GetGradiente3(), 40 / 0.3);
+    EXPECT_EQ(notes.size(), 2u) << "a radius and the geometric stiffness are left out, and said so";
+}
+
+TEST(Import, ShearAreasAndUnitsFollowTheFile) {
+    DocumentData data = ImportFrame3ddText(Replaced(model, "1 1 10 1 -1", "0 0 10 1 -1"));
+    EXPECT_EQ(data.As<CSezione>(Kind::Section, 0)->GetArea2(), 0);
+    const std::pair<const char*, DocumentUnits> titles[] = {
+        {"Esempio (kips,in) ", {Lunghezza::Pollici, Forza::ChiloLibbre}},
+        {"Esempio (units: kip, in)", {Lunghezza::Pollici, Forza::ChiloLibbre}},
+        {"Esempio (N,mm,ton)", {Lunghezza::Millimetri, Forza::Newton}},
+        {"Esempio (m)", {Lunghezza::Millimetri, Forza::Newton}},
+        {"Esempio", {Lunghezza::Millimetri, Forza::Newton}},
+        {")(", {Lunghezza::Millimetri, Forza::Newton}}};
+    for (const auto& [title, units] : titles) {
+        DocumentData named = ImportFrame3ddText(Replaced(model, "Un portale (kN,m,t)", title));
+        EXPECT_EQ(named.Units().length, units.length) << title;
+        EXPECT_EQ(named.Units().force, units.force) << title;
+    }
+}
+
+// The message names the line and what should have been there.
+TEST(Import, MalformedTextIsRefusedWithItsLine) {
+    EXPECT_EQ(RefusalOf(""), "Riga 2: atteso il numero dei nodi, ma il file finisce prima.");
+    EXPECT_EQ(RefusalOf(Replaced(model, "2,4.0", "x,4.0")), "Riga 5: atteso il numero del nodo, trovato \"x\".");
+    EXPECT_EQ(RefusalOf(Replaced(model, "2,4.0", "2,4.0.0")),
+              "Riga 5: attesa una coordinata del nodo, trovato \"4.0.0\".");
+    EXPECT_EQ(RefusalOf(Replaced(model, "2,4.0", "2,nan")), "Riga 5: attesa una coordinata del nodo, trovato \"nan\".");
+    EXPECT_EQ(RefusalOf(Replaced(model, "2,4.0", "1,4.0")), "Riga 5: il nodo 1 è già stato definito.");
+    EXPECT_EQ(RefusalOf(Replaced(model, "4 # numero", "2000000 # numero")),
+              "Riga 3: il file è troppo corto per contenere 2000000 righe.");
+    EXPECT_NE(RefusalOf(Replaced(model, "4 # numero", "-4 # numero")), "");
+    EXPECT_NE(RefusalOf(Replaced(model, "4 # numero", "99999999999 # numero")), "");
+    EXPECT_EQ(RefusalOf(Replaced(model, "2 3 4 0.09", "2 3 3 0.09")),
+              "Riga 13: i due nodi dell'elemento sono lo stesso nodo.");
+    EXPECT_EQ(RefusalOf(Replaced(model, "2 3 4 0.09", "2 3 4 0")),
+              "Riga 13: attesa l'area della sezione maggiore di zero.");
+    EXPECT_EQ(RefusalOf(Replaced(model, "-7 1.5", "-7 4.5")), "Riga 25: il carico è oltre la fine dell'elemento.");
+    EXPECT_NE(RefusalOf(Replaced(model, "2 # casi", "31 # casi")), "");
+    EXPECT_NE(RefusalOf(Replaced(model, "1 1 1 1 1 1 1", "1 1 1 2 1 1 1")), "");
+}
+
+// Cut anywhere before the trailing data, the text is refused; damaged anywhere, it is refused or read whole.
+TEST(Import, TruncationsAndDamageAreRefusedOrWhole) {
+    const std::string whole = model;
+    const std::string expected = Dump(ImportFrame3ddText(whole));
+    const std::size_t end = whole.find("6 # modi");
+    for (std::size_t size = 0; size + 2 < end; ++size) {
+        const std::string refusal = RefusalOf(whole.substr(0, size));
+        EXPECT_EQ(refusal.rfind("Riga ", 0), 0u) << size << ": " << refusal;
+    }
+    EXPECT_EQ(Dump(ImportFrame3ddText(whole.substr(0, end))), expected);
+    std::mt19937 random(54321);
+    for (int round = 0; round < 3000; ++round) {
+        std::string damaged = whole;
+        for (int i = 0; i <= round % 4; ++i)
+            damaged[random() % damaged.size()] = static_cast<char>(random());
+        RefusalOf(damaged);
+    }
+}
+
+#ifdef QUOVAR_SHARED_DIR
+TEST(Import, ModelsOfAPeer) {
+    const std::filesystem::path folder = std::filesystem::path(QUOVAR_SHARED_DIR) / "data" / "frame3dd";
+    if (!std::filesystem::exists(folder))
+        GTEST_SKIP() << "the models are not here";
+    const std::tuple<const char*, int, int, int> models[] = {
+        {"exA", 12, 21, 2}, {"exB", 5, 4, 3}, {"exC", 18, 48, 1}, {"exH", 148, 295, 1}};
+    for (const auto& [name, nodes, elements, cases] : models) {
+        SCOPED_TRACE(name);
+        HostDocument document;
+        document.Replace(ImportFrame3dd((folder / (std::string(name) + ".3dd")).string()));
+        EXPECT_EQ(document.GetSizeNodi(), nodes);
+        EXPECT_EQ(document.GetSizeTravi(), elements);
+        EXPECT_EQ(document.GetSizeCasiCarico(), cases);
+        EXPECT_TRUE(document.IsUnica());
+    }
+    EXPECT_THROW(ImportFrame3dd((folder / "template.3dd").string()), FileError);
+}
+#endif
+
+} // namespace

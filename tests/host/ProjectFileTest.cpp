@@ -1,0 +1,221 @@
+// Project files: nothing is lost, nothing half-read, nothing hostile taken.
+#include "host/files/ProjectFile.h"
+#include "host/document/HostDocument.h"
+#include "host/files/FileError.h"
+#include "host/files/Sqlite.h"
+#include "tests/host/Dump.h"
+#include "tests/host/TestModel.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Bytes(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void Write(const fs::path& path, std::string_view bytes) {
+    std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+class ProjectFileTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        std::string pattern = (fs::temp_directory_path() / "progetto_XXXXXX").string();
+        folder = mkdtemp(pattern.data());
+        file = folder / "prova 100%? #1.asg"; // what an address would take for something else
+        BuildEverything(document);
+    }
+    void TearDown() override { fs::remove_all(folder); }
+
+    void Save() { SaveProject(document.Data(), file.string(), "1.2.3"); }
+    std::string Loaded() { return Dump(LoadProject(file.string())); }
+
+    // The message of the refusal; "" when the file was taken.
+    std::string Refusal() {
+        try {
+            LoadProject(file.string());
+            return "";
+        } catch (const FileError& error) {
+            return error.what();
+        }
+    }
+
+    // The refusal of a saved project after the statements have run on it.
+    std::string RefusalAfter(const char* sql) {
+        Save();
+        {
+            host::Database database(file.string(), host::Database::Mode::WritePrivate);
+            database.Execute("PRAGMA writable_schema = ON");
+            database.Execute(sql);
+        }
+        return Refusal();
+    }
+
+    fs::path folder, file;
+    HostDocument document;
+};
+
+// Every field, in full precision, accents included; counters restart above the highest number.
+TEST_F(ProjectFileTest, RoundTripIsExact) {
+    Save();
+    const std::string first = Loaded();
+    EXPECT_EQ(first, Dump(document.Data()));
+    document.Replace(LoadProject(file.string()));
+    EXPECT_EQ(document.Data().Info().title, "Prova: perché no?"_t);
+    EXPECT_FALSE(document.IsModified());
+    Save();
+    EXPECT_EQ(Loaded(), first);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1) << "no file is left beside the project";
+    HostDocument empty;
+    SaveProject(empty.Data(), file.string(), "1.2.3");
+    EXPECT_EQ(Loaded(), Dump(empty.Data()));
+}
+
+TEST_F(ProjectFileTest, SavingKeepsLinksAndPermissions) {
+    Save();
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    const fs::path link = folder / "collegamento.asg";
+    fs::create_symlink(file, link);
+    SaveProject(document.Data(), link.string(), "1.2.3");
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EXPECT_THROW(SaveProject(document.Data(), (folder / "nessuna" / "a.asg").string(), "1"), FileError);
+    EXPECT_THROW(LoadProject((folder / "manca.asg").string()), FileError);
+    EXPECT_THROW(LoadProject(folder.string()), FileError);
+}
+
+// A copy that stopped half-way: refused, and never the cause of a crash.
+TEST_F(ProjectFileTest, EveryTruncationIsRefused) {
+    Save();
+    const std::string whole = Bytes(file);
+    for (std::size_t size = 0; size < whole.size(); size += size < 1024 ? 16 : 509) {
+        Write(file, std::string_view(whole).substr(0, size));
+        EXPECT_NE(Refusal(), "") << size << " of " << whole.size();
+    }
+    Write(file, "Questo non è un progetto, ma un testo qualunque abbastanza lungo da non essere vuoto.");
+    EXPECT_EQ(Refusal(), "Il file non è un progetto.");
+}
+
+// Damaged bytes are refused or give some whole document; run under the sanitizers this also catches wild reads.
+TEST_F(ProjectFileTest, FlippedBitsNeverCrash) {
+    Save();
+    const std::string whole = Bytes(file);
+    std::mt19937 random(12345);
+    int refused = 0;
+    for (int round = 0; round < 400; ++round) {
+        std::string damaged = whole;
+        for (int i = 0; i <= round % 8; ++i)
+            damaged[random() % damaged.size()] ^= static_cast<char>(1u << random() % 8);
+        Write(file, damaged);
+        refused += Refusal() != "";
+    }
+    EXPECT_GT(refused, 0);
+}
+
+// Each thing that a hand-made file could say and a document cannot be, with where it stands.
+TEST_F(ProjectFileTest, HostileContentIsRefusedWithItsPlace) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"UPDATE travi SET nodo2 = nodo1 WHERE pos = 2", "Tabella travi, riga 2: i due nodi sono lo stesso nodo."},
+        {"UPDATE travi SET nodo2 = 9999 WHERE pos = 3",
+         "Tabella travi, riga 3: si riferisce al numero 9999, che non esiste."},
+        {"UPDATE travi SET materiale = 50 WHERE pos = 1",
+         "Tabella travi, riga 1: si riferisce al numero 50, che non esiste."},
+        {"UPDATE nodi SET x = 9e999 WHERE pos = 4", "Tabella nodi, riga 4: atteso un numero finito."},
+        {"UPDATE nodi SET y = 1e13 WHERE pos = 4", "Tabella nodi, riga 4: le coordinate del nodo sono troppo grandi."},
+        {"UPDATE nodi SET x = 'abc' WHERE pos = 1", "Tabella nodi, riga 1: atteso un numero."},
+        {"UPDATE nodi SET id = 'abc' WHERE pos = 1", "Tabella nodi, riga 1: atteso un numero intero."},
+        {"UPDATE nodi SET id = 1 WHERE pos = 2", "Tabella nodi, riga 2: il numero 1 è già usato."},
+        {"UPDATE nodi SET id = -7 WHERE pos = 2", "Tabella nodi, riga 2: il numero -7 non è ammesso."},
+        {"UPDATE nodi SET id = 99999999999 WHERE pos = 2",
+         "Tabella nodi, riga 2: il numero 99999999999 non è ammesso."},
+        {"UPDATE nodi SET vincolo = 64 WHERE pos = 1", "Tabella nodi, riga 1: il numero 64 non è ammesso."},
+        {"UPDATE casi SET nome = x'00ff' WHERE pos = 1", "Tabella casi, riga 1: atteso un testo."},
+        {"UPDATE casi SET nome = 'SLU' WHERE pos = 1", "Tabella combinazioni, riga 1: il nome \"SLU\" è già usato."},
+        {"UPDATE combinazioni SET id = 1", "Tabella combinazioni, riga 1: il numero 1 è già usato."},
+        {"UPDATE fattori SET caso = combinazione WHERE pos = 1",
+         "Tabella fattori, riga 1: si riferisce al numero 3, che non esiste."},
+        {"DELETE FROM vertici WHERE pos = 2", "Tabella vertici, riga 2: la riga manca o è ripetuta."},
+        {"DELETE FROM vertici WHERE pos > 20", "Tabella vertici: l'elemento 4 ha meno di tre vertici."},
+        {"DELETE FROM molle", "Il progetto è incompleto: mancano delle righe."},
+        {"UPDATE vertici SET nodo = 1 WHERE pos IN (1, 2)", "Tabella vertici, riga 2: il vertice è ripetuto."},
+        {"UPDATE vertici SET genere = 1 WHERE pos = 1", "Tabella vertici, riga 1: solo setti e solai hanno vertici."},
+        {"UPDATE carichi SET genere = 99 WHERE pos = 1", "Tabella carichi, riga 1: il genere del carico non è valido."},
+        {"UPDATE carichi_elementi SET carico = 77 WHERE pos = 1",
+         "Tabella carichi_elementi, riga 1: si riferisce a un carico che non esiste."},
+        {"INSERT INTO gruppi_elementi SELECT NULL, gruppo, genere, elemento FROM gruppi_elementi LIMIT 1",
+         "Tabella gruppi_elementi, riga 10: l'elemento è già nel gruppo."},
+        {"DELETE FROM progetto", "Tabella progetto, riga 1: mancano i dati del progetto."},
+        {"UPDATE progetto SET lunghezza = 9", "Tabella progetto, riga 1: il numero 9 non è ammesso."},
+        {"UPDATE progetto SET caso = 55", "Tabella progetto: il caso di carico corrente non esiste."},
+        {"PRAGMA user_version = 2", "Il progetto è stato salvato da una versione più recente del programma."},
+        {"PRAGMA application_id = 5", "Il file non è un progetto."},
+        {"CREATE TRIGGER t AFTER INSERT ON nodi BEGIN DELETE FROM travi; END",
+         "Il progetto contiene tabelle o dati estranei."},
+        {"CREATE VIEW v AS SELECT 1", "Il progetto contiene tabelle o dati estranei."},
+        {"CREATE INDEX i ON nodi(x)", "Il progetto contiene tabelle o dati estranei."},
+        {"DROP TABLE nodi; CREATE VIEW nodi AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+         "SELECT i AS pos, i AS id, 0.0 AS x, 0.0 AS y, 0.0 AS z, 0 AS vincolo, 1 AS visibile FROM n",
+         "Le tabelle del progetto non sono quelle attese (nodi)."},
+        {"ALTER TABLE nodi ADD COLUMN w REAL GENERATED ALWAYS AS (x) VIRTUAL",
+         "Le tabelle del progetto non sono quelle attese (nodi)."},
+        {"UPDATE materiali SET nome = replace(hex(zeroblob(1100000)), '0', 'a') WHERE pos = 1",
+         "Il file contiene un dato troppo grande."},
+    };
+    for (const auto& [sql, message] : cases)
+        EXPECT_EQ(RefusalAfter(sql), message) << sql;
+}
+
+// The open document is untouched by a file that is refused: content is made apart and swapped in whole.
+TEST_F(ProjectFileTest, TheOpenDocumentSurvivesARefusal) {
+    const std::string before = Dump(document.Data());
+    const std::size_t steps = document.Undo().UndoCount();
+    RefusalAfter("DELETE FROM progetto");
+    EXPECT_THROW(document.Replace(LoadProject(file.string())), FileError);
+    EXPECT_EQ(Dump(document.Data()), before);
+    EXPECT_EQ(document.Undo().UndoCount(), steps);
+}
+
+// Killed at any moment of saving, the file is the old project or the new one. The processes die for real.
+TEST_F(ProjectFileTest, KilledWhileSavingTheFileIsOldOrNew) {
+    Save();
+    const std::string before = Loaded();
+    document.GenNodiLineare({0, 0, 50}, {1, 0, 50}, 0.01, 3000);
+    const std::string after = Dump(document.Data());
+    int seenOld = 0;
+    for (int round = 0; round < 40; ++round) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            try {
+                Save();
+            } catch (const FileError&) {
+            }
+            _exit(0);
+        }
+        usleep(static_cast<useconds_t>(round * round * 40));
+        kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        const std::string now = Loaded();
+        ASSERT_TRUE(now == before || now == after) << round;
+        seenOld += now == before;
+        if (now == after)
+            break;
+    }
+    EXPECT_GT(seenOld, 0) << "no child was killed in time: the test has not tested";
+}
+
+} // namespace

@@ -1,0 +1,59 @@
+#include "tests/host/TestModel.h"
+
+#include "host/document/ExampleModel.h"
+#include "host/document/HostDocument.h"
+#include "model/Asta.h"
+#include "model/Carico.h"
+#include "model/CasoCarico.h"
+#include "model/Combinazione.h"
+#include "model/Gruppo.h"
+#include "model/Trave.h"
+
+namespace {
+
+void AddLoads(HostDocument& document) {
+    CCasoCarico* loadCase = document.CreaCasoCarico();
+    document.Modify(*loadCase, [&] { loadCase->SetNome("Neve – più di 1000 m"_t); });
+    CTrave* beam = document.GetIndexTrave(3);
+    CNodo* node = document.GetIndexNodo(7);
+    const auto carry = [&](CElementoCarico* carrier, std::unique_ptr<CCarico> load) {
+        CCarico* added = document.AddCarico(*loadCase, std::move(load));
+        document.Modify(*carrier, [&] { carrier->AddCarico(added, 0); });
+    };
+    carry(node, std::make_unique<CCaricoNodale>(CFPoint(1, -2, 3), CFPoint(0.1, 0.2, 0.3)));
+    carry(document.GetIndexNodo(0), std::make_unique<CCaricoSpostamento>(CFPoint(0.01, 0, 0), CFPoint(0, 0.001, 0)));
+    carry(beam, std::make_unique<CCaricoUniforme>(CFPoint(0, 1.5, -2.5), CCarico::Locale));
+    auto trapezoid = std::make_unique<CCaricoTrapezoidale>();
+    trapezoid->GetTratto(1) = {0.5, 1.5, -4, 2};
+    trapezoid->GetTratto(2) = {0, 2, 1, 1};
+    carry(beam, std::move(trapezoid));
+    carry(beam, std::make_unique<CCaricoConcentrato>(CFPoint(0, 7, -9), 1.25, CCarico::Locale));
+    auto heat = std::make_unique<CCaricoTemperatura>();
+    heat->GetTemperatura() = 25;
+    heat->GetGradiente2() = 3;
+    heat->GetAlfa() = 1.2e-5;
+    carry(beam, std::move(heat));
+}
+
+} // namespace
+
+void BuildEverything(HostDocument& document) {
+    BuildExample(document);
+    document.Data().Info().title = "Prova: perché no?"_t;
+    AddLoads(document);
+    CTrave* beam = document.GetIndexTrave(0);
+    document.Modify(*beam, [&] {
+        beam->AddSpecifica(new CSpecificheSvincoliTrave(0, 0, 1, 1, 0));
+        beam->AddSpecifica(new CSpecificheSvincoliTrave(1, 0, 0, 0, 1));
+        beam->SetBeta(33.3);
+        beam->SetVisible(0);
+    });
+    CNodo* node = document.GetIndexNodo(10);
+    document.Modify(*node, [&] {
+        node->AddMolla(CMolla(CMolla::Traslazionale, 1234.5, {0, 0, 1}));
+        node->AddMolla(CMolla(CMolla::Rotazionale, 77, {1, 0, 0}));
+    });
+    CFPoint place(2.5, 2.5, 9);
+    document.AddNodo(place, nullptr, 1);
+    document.Remove({document.GetIndexAsta(1), document.GetIndexTrave(12)}); // leaves gaps in the numbers
+}

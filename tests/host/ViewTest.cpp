@@ -1,0 +1,184 @@
+// What the user does in a structure view.
+#include "dialogs/frame/DialogDocument.h"
+#include "host/document/HostDocument.h"
+#include "host/ui/MainWindow.h"
+#include "host/ui/ViewWidget.h"
+#include "model/Nodo.h"
+#include "model/TipoElemento.h"
+#include "model/Trave.h"
+#include "platform/Application.h"
+#include "tests/host/WorkspaceTest.h"
+
+#include <vector>
+
+namespace {
+
+enum : int { EditStartX = 1200, EditStartZ = 1202, EditX1 = 1227, EditX2 = 1230 }; // of the linear generation
+
+std::vector<CElemento*> selected(HostDocument& document) {
+    return document.Selection().All();
+}
+
+using Elements = std::vector<CElemento*>;
+
+} // namespace
+
+using ViewTest = WorkspaceTest;
+
+// Catches picks that deliver the pointer's place instead of the node's, picks far from any node, and pairs that lose
+// their order.
+TEST_F(ViewTest, PicksSnapToTheNearestNodeInPairs) {
+    BuildSmallModel();
+    CDialogDocument* dialog = OpenLinear();
+    ASSERT_TRUE(dialog);
+    DialogDriver driver(*dialog);
+    ASSERT_TRUE(View().IsDefinisciVettore());
+
+    const CPoint first = PixelOf(*Document().GetIndexNodo(1));
+    Click({first.x + 6, first.y - 7});
+    EXPECT_EQ(driver.Text(EditX1), "4");
+    EXPECT_EQ(driver.Text(EditStartX), "4");
+    EXPECT_TRUE(View().Vector().secondIsNext);
+
+    const CPoint between = PixelOf(CFPoint(2, 0, 0)); // on a beam, but 12 pixels from no node
+    Click(between);
+    EXPECT_EQ(driver.Text(EditX2), "0");
+    EXPECT_TRUE(View().Vector().secondIsNext);
+    EXPECT_TRUE(Document().Selection().IsEmpty()) << "a pick selects nothing";
+
+    Click(PixelOf(*Document().GetIndexNodo(2)));
+    EXPECT_EQ(driver.Text(EditX2), "8");
+    Click(PixelOf(*Document().GetIndexNodo(3)));
+    EXPECT_EQ(driver.Text(EditStartX), "0") << "the third pick is a first point again";
+    EXPECT_EQ(driver.Text(EditStartZ), "3");
+    EXPECT_EQ(driver.Text(EditX2), "8");
+}
+
+// Catches a camera that ends the picking or eats a pick, and an Escape that leaves it on.
+TEST_F(ViewTest, CameraDoesNotInterruptPickingButEscapeDoes) {
+    BuildSmallModel();
+    DialogDriver driver(*OpenLinear());
+    Click(PixelOf(*Document().GetIndexNodo(1)));
+    const CPoint middle = View().Vista().GetViewport().CenterPoint();
+    const CFPoint axis = View().Vista().GetAsse(0);
+    Drag(middle, {middle.x + 60, middle.y + 25}, Qt::RightButton);
+    EXPECT_FALSE(View().Vista().GetAsse(0) == axis) << "the right button turns the model";
+    const double scale = View().Vista().GetScala();
+    Wheel(middle, 1);
+    EXPECT_GT(View().Vista().GetScala(), scale);
+    const CPoint before = PixelOf(*Document().GetIndexNodo(2));
+    Drag(middle, {middle.x - 30, middle.y + 10}, Qt::MiddleButton);
+    EXPECT_EQ(PixelOf(*Document().GetIndexNodo(2)).x, before.x - 30);
+    EXPECT_TRUE(View().IsDefinisciVettore());
+    EXPECT_TRUE(View().Vector().secondIsNext);
+    View().Fit();
+    Click(PixelOf(*Document().GetIndexNodo(2)));
+    EXPECT_EQ(driver.Text(EditX2), "8");
+
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(View().IsDefinisciVettore());
+    EXPECT_TRUE(driver.IsOpen()) << "only the mode ends";
+    Click(PixelOf(*Document().GetIndexNodo(3)));
+    EXPECT_EQ(driver.Text(EditX1), "4") << "the dialog gets no picks any more";
+    EXPECT_EQ(selected(Document()), Elements{Document().GetIndexNodo(3)});
+}
+
+// Catches a restart that goes on with a second point, and a prompt that the status bar does not show.
+TEST_F(ViewTest, RestartAsksForAFirstPointAndShowsItsPrompt) {
+    BuildSmallModel();
+    View().StartDefinisciVettore("Definisci il primo nodo.", "");
+    Click(PixelOf(*Document().GetIndexNodo(0)));
+    EXPECT_TRUE(View().Vector().secondIsNext);
+    EXPECT_EQ(workspace->Window().PromptText(), "Definisci il primo nodo.");
+    View().StopDefinisciVettore();
+    View().StartDefinisciVettore("Definisci il secondo nodo.", "");
+    EXPECT_FALSE(View().Vector().secondIsNext);
+    workspace->Window().Refresh();
+    EXPECT_EQ(workspace->Window().PromptText(), "Definisci il secondo nodo.");
+    View().StopDefinisciVettore();
+    workspace->Window().Refresh();
+    EXPECT_EQ(workspace->Window().PromptText(), "");
+}
+
+// Catches a click that adds, a Ctrl-click that replaces, a rectangle that replaces or takes what it only touches.
+TEST_F(ViewTest, ClickReplacesCtrlTogglesRectangleAdds) {
+    BuildSmallModel();
+    HostDocument& document = Document();
+    CTrave* beam = document.GetIndexTrave(0);
+    CTrave* other = document.GetIndexTrave(1);
+    Click(PixelOf(CFPoint(2, 0, 0)));
+    EXPECT_EQ(selected(document), Elements{beam});
+    Click(PixelOf(CFPoint(6, 0, 0)));
+    EXPECT_EQ(selected(document), Elements{other});
+    Click(PixelOf(CFPoint(2, 0, 0)), Qt::ControlModifier);
+    EXPECT_EQ(selected(document), (Elements{other, beam}));
+    Click(PixelOf(CFPoint(6, 0, 0)), Qt::ControlModifier);
+    EXPECT_EQ(selected(document), Elements{beam});
+
+    const CPoint corner = PixelOf(CFPoint(5.5, 0, 3.5));
+    const CPoint far = PixelOf(CFPoint(8.5, 0, 6.5));
+    Drag(corner, far);
+    EXPECT_EQ(document.GetSizeSettiSelect(), 1);
+    EXPECT_EQ(document.Selection().Size(Kind::Node), 4);
+    EXPECT_TRUE(beam->IsSelect()) << "the rectangle adds";
+    EXPECT_EQ(document.GetSizeSolaiSelect(), 0);
+
+    Click(PixelOf(CFPoint(-0.8, 0, 5)));
+    EXPECT_TRUE(selected(document).empty()) << "a click on nothing empties the selection";
+}
+
+// Catches filters that are not asked, and hits on objects that the view does not show.
+TEST_F(ViewTest, FiltersAndHiddenKindsAreNotHit) {
+    BuildSmallModel();
+    HostDocument& document = Document();
+    KindFilter filter;
+    filter.beams = filter.nodes = false;
+    View().SetFilter(filter);
+    EXPECT_FALSE(View().IsSelectTravi());
+    EXPECT_FALSE(View().IsSelectNodi());
+    EXPECT_TRUE(View().IsSelectElementi());
+    Click(PixelOf(CFPoint(2, 0, 0)));
+    Click(PixelOf(*document.GetIndexNodo(1)), Qt::ControlModifier);
+    EXPECT_TRUE(selected(document).empty());
+    Click(PixelOf(CFPoint(3, 0, 5)));
+    EXPECT_EQ(document.GetSizeSolaiSelect(), 1);
+    View().SetFilter({false, false, false, false, false});
+    EXPECT_FALSE(View().IsSelectElementi());
+    Drag({3, 3}, {View().Widget().width() - 3, View().Widget().height() - 3});
+    EXPECT_EQ(selected(document).size(), 1u) << "an empty filter selects nothing";
+
+    View().SetFilter({});
+    View().SetShown(TipoElemento::Trave, CElementoSettings::Oggetto, false);
+    Click(PixelOf(CFPoint(2, 0, 0)));
+    EXPECT_TRUE(selected(document).empty());
+}
+
+// Catches a view that draws the model at every mouse move, and one that keeps a picture which is out of date.
+TEST_F(ViewTest, DrawsTheModelOnlyWhenItChanged) {
+    BuildSmallModel();
+    ViewWidget& widget = View().Widget();
+    widget.grab();
+    const unsigned drawn = widget.DrawCount();
+    Drag(PixelOf(CFPoint(5, 0, 2)), PixelOf(CFPoint(5.5, 0, 2.5)));
+    widget.grab();
+    EXPECT_EQ(widget.DrawCount(), drawn);
+    const QImage before = widget.grab().toImage();
+    Document().GenNodi2Punti(CFPoint(0, 0, 5), CFPoint(1, 0, 5), 5);
+    CWinApp::PumpMessages();
+    EXPECT_NE(widget.grab().toImage(), before);
+    EXPECT_GT(widget.DrawCount(), drawn);
+}
+
+// Catches an orbit that tilts columns, and a zoom that loses the point under the pointer.
+TEST_F(ViewTest, OrbitKeepsTheVerticalAndZoomThePointer) {
+    BuildSmallModel();
+    View().SetDirection(Adv3d::Assonometria);
+    View().Orbit(70, -20);
+    EXPECT_NEAR(View().Vista().GetAsse(0).z, 0, 1e-9) << "the screen's horizontal stays level";
+    const CPoint at(200, 150);
+    const CFPoint under = View().Vista().Unproject(at, View().Vista().GetTarget());
+    View().Zoom(2, at);
+    EXPECT_NEAR(CFPoint::GetMod(View().Vista().Unproject(at, View().Vista().GetTarget()), under), 0, 1e-6);
+    View().Zoom(1e30, at);
+    EXPECT_LT(View().Vista().GetScala(), 1e9);
+}

@@ -1,0 +1,111 @@
+#include "tests/host/WorkspaceTest.h"
+
+#include "host/document/HostDocument.h"
+#include "host/ui/MainWindow.h"
+#include "host/ui/ViewWidget.h"
+#include "model/Asta.h"
+#include "model/Nodo.h"
+#include "model/Setto.h"
+#include "model/Solaio.h"
+#include "model/Trave.h"
+#include "platform/Application.h"
+#include "tests/support/DialogTest.h"
+
+#include <QAction>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWindow>
+
+WorkspaceTest::WorkspaceTest() {
+    AttachDialogModule();
+    workspace = std::make_unique<Workspace>();
+    workspace->Window().show();
+    workspace->NewDocument();
+    CWinApp::PumpMessages();
+}
+
+WorkspaceTest::~WorkspaceTest() {
+    workspace.reset();
+    CWinApp::PumpMessages();
+}
+
+void WorkspaceTest::BuildSmallModel() {
+    HostDocument& document = Document();
+    const auto node = [&document](double x, double y, double z) {
+        CFPoint point(x, y, z);
+        return document.AddNodo(point, nullptr, 1)->GetID();
+    };
+    const int a = node(0, 0, 0), b = node(4, 0, 0), c = node(8, 0, 0);
+    document.AddTrave(a, b, nullptr);
+    document.AddTrave(b, c, nullptr);
+    document.AddAsta(a, node(0, 0, 3), nullptr);
+    document.AddSolaio({node(2, 0, 4), node(4, 0, 4), node(4, 0, 6), node(2, 0, 6)});
+    document.AddSetto({node(6, 0, 4), node(8, 0, 4), node(8, 0, 6), node(6, 0, 6)});
+    CWinApp::PumpMessages();
+    document.Undo().Clear();
+    document.MarkSaved();
+    View().SetDirection(Adv3d::Fronte);
+    CWinApp::PumpMessages();
+}
+
+CPoint WorkspaceTest::PixelOf(CNodo& node) {
+    return PixelOf(*node.GetPunto());
+}
+
+namespace {
+
+QPoint inWindow(HostView& view, CPoint at) {
+    return view.Widget().mapTo(view.Widget().QWidget::window(), QPoint(at.x, at.y));
+}
+
+QWindow* nativeWindow(HostView& view) {
+    return view.Widget().QWidget::window()->windowHandle();
+}
+
+} // namespace
+
+void WorkspaceTest::Click(CPoint at, Qt::KeyboardModifiers modifiers) {
+    QTest::mouseClick(nativeWindow(View()), Qt::LeftButton, modifiers, inWindow(View(), at));
+    CWinApp::PumpMessages();
+}
+
+void WorkspaceTest::Drag(CPoint from, CPoint to, Qt::MouseButton button) {
+    QWindow* window = nativeWindow(View());
+    QTest::mousePress(window, button, Qt::NoModifier, inWindow(View(), from));
+    QTest::mouseMove(window, inWindow(View(), CPoint((from.x + to.x) / 2, (from.y + to.y) / 2)));
+    QTest::mouseMove(window, inWindow(View(), to));
+    QTest::mouseRelease(window, button, Qt::NoModifier, inWindow(View(), to));
+    CWinApp::PumpMessages();
+}
+
+void WorkspaceTest::Wheel(CPoint at, int notches) {
+    const QPoint local(at.x, at.y);
+    QWheelEvent event(local, View().Widget().mapToGlobal(local), {}, QPoint(0, notches * 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&View().Widget(), &event);
+    CWinApp::PumpMessages();
+}
+
+void WorkspaceTest::Press(Qt::Key key) {
+    View().Widget().activateWindow();
+    View().Widget().setFocus();
+    CWinApp::PumpMessages();
+    QTest::keyClick(nativeWindow(View()), key);
+    CWinApp::PumpMessages();
+}
+
+void WorkspaceTest::Trigger(const char* command) {
+    workspace->Window().Refresh();
+    QAction* action = workspace->Window().Command(command);
+    ASSERT_TRUE(action) << "no command " << command;
+    ASSERT_TRUE(action->isEnabled()) << command << " is disabled";
+    action->trigger();
+    CWinApp::PumpMessages();
+}
+
+CDialogDocument* WorkspaceTest::OpenLinear() {
+    Trigger("genera.Generazione Nodi Lineare");
+    CDialogDocument* dialog = workspace->ToolOf(View());
+    EXPECT_TRUE(dialog) << "the dialog does not open";
+    return dialog;
+}

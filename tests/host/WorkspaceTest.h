@@ -1,0 +1,40 @@
+// Base of the tests of the application's windows: a workspace with one document, driven by keys and pointer.
+#pragma once
+
+#include "host/ui/HostView.h"
+#include "host/ui/Workspace.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/UserScript.h"
+
+#include <gtest/gtest.h>
+
+#include <QPoint>
+
+class CDialogDocument;
+class CNodo;
+class HostDocument;
+
+class WorkspaceTest : public testing::Test {
+  protected:
+    WorkspaceTest();
+    ~WorkspaceTest() override;
+
+    HostView& View() { return *workspace->ActiveView(); }
+    HostDocument& Document() { return View().Document(); }
+    // Two beams along X with three nodes, a truss member, a slab above and a wall; unmodified, seen along Y.
+    void BuildSmallModel();
+
+    CPoint PixelOf(const CFPoint& point) { return View().Vista().Project(point).pixel(); }
+    CPoint PixelOf(CNodo& node);
+    void Click(CPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void Drag(CPoint from, CPoint to, Qt::MouseButton button = Qt::LeftButton);
+    void Wheel(CPoint at, int notches);
+    void Press(Qt::Key key); // to the view
+    void Trigger(const char* command);
+
+    // The linear generation, opened from the menu.
+    CDialogDocument* OpenLinear();
+
+    UserScript user;
+    std::unique_ptr<Workspace> workspace;
+};
