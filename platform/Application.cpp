@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QPushButton>
 
@@ -129,7 +130,9 @@ int CWinApp::DoMessageBox(LPCTSTR text, UINT type, UINT) {
 }
 
 int CWinApp::ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) {
-    QMessageBox box(QApplication::activeWindow());
+    // On the heap: the window that it stands over may end while it is up, and takes it along.
+    const QPointer<QMessageBox> shown = new QMessageBox(QApplication::activeWindow());
+    QMessageBox& box = *shown;
     box.setWindowTitle(platform::toQString(caption));
     box.setTextFormat(Qt::PlainText);
     box.setText(platform::toQString(text));
@@ -141,10 +144,12 @@ int CWinApp::ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) {
     const bool second = (type & MB_DEFBUTTON2) && made.size() > 1;
     box.setDefaultButton(qobject_cast<QPushButton*>(made[second ? 1 : 0]));
     box.exec();
-    for (std::size_t i = 0; i < made.size(); ++i)
-        if (box.clickedButton() == made[i])
-            return buttons[i].command;
-    return buttons.size() == 1 ? IDOK : IDCANCEL;
+    int command = buttons.size() == 1 ? IDOK : IDCANCEL;
+    for (std::size_t i = 0; shown && i < made.size(); ++i)
+        if (shown->clickedButton() == made[i])
+            command = buttons[i].command;
+    delete shown;
+    return command;
 }
 
 void CWinApp::PumpMessages() {

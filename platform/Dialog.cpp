@@ -65,6 +65,8 @@ int CDialog::DoModal() {
         return -1;
     if (!m_ended && m_hWnd) {
         QEventLoop loop;
+        // Its owner may end it from inside the loop without asking the object.
+        QObject::connect(m_hWnd->widget, &QObject::destroyed, &loop, &QEventLoop::quit);
         m_loop = &loop;
         loop.exec();
         m_loop = nullptr;

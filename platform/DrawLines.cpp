@@ -42,8 +42,14 @@ void drawJoined(Surface& surface, QPainter& painter, const CPoint* points, int c
 }
 
 void collect(Surface& surface, const CPoint* points, int count) {
-    for (int i = 1; i < count; ++i)
-        addThinLine(surface.lines, surface.strokePoint(points[i - 1]), surface.strokePoint(points[i]));
+    if (count < 2)
+        return;
+    QPointF from = surface.strokePoint(points[0]);
+    for (int i = 1; i < count; ++i) {
+        const QPointF to = surface.strokePoint(points[i]);
+        addThinLine(surface.lines, from, to);
+        from = to;
+    }
 }
 
 void drawCollected(Surface& surface, QPainter& painter) {
@@ -103,7 +109,10 @@ BOOL CDC::PolyPolyline(const CPoint* points, const DWORD* counts, int polylines)
     if (!painter)
         return m_surface->hasTarget();
     const bool thin = m_surface->thinPen();
+    constexpr std::size_t portion = 2048; // lines that stay in the processor's cache between here and the painter
     for (int i = 0; i < polylines; points += counts[i++]) {
+        if (m_surface->lines.size() >= portion)
+            drawCollected(*m_surface, *painter);
         const int count = static_cast<int>(counts[i]);
         if (thin)
             collect(*m_surface, points, count);

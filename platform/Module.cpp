@@ -11,10 +11,24 @@
 namespace platform {
 namespace {
 
-// Links that the framework owns, in the order in which they were made.
+// Links that the framework owns, in the order in which they were made. Those of modules that nobody ended go with the
+// process.
+struct LinkList {
+    // The resource chain is made first: it must still stand when the last links leave it.
+    LinkList() { RemoveResources(nullptr); }
+    ~LinkList() {
+        while (!links.empty())
+            delete links.back(); // takes itself out
+    }
+    LinkList(const LinkList&) = delete;
+    LinkList& operator=(const LinkList&) = delete;
+
+    std::vector<CDynLinkLibrary*> links;
+};
+
 std::vector<CDynLinkLibrary*>& Links() {
-    static std::vector<CDynLinkLibrary*> links;
-    return links;
+    static LinkList list;
+    return list.links;
 }
 
 // Deletes the links of a module. Each takes itself out of the list, so the search starts anew after every one.

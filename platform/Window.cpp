@@ -122,9 +122,15 @@ BOOL CWnd::Create(LPCTSTR className, LPCTSTR text, DWORD style, const CRect& rec
     peer->id = id;
     peer->style = style;
     peer->attach(this);
-    peer->send(WM_CREATE);
+    const QPointer<QWidget> alive = peer->widget;
+    if (peer->send(WM_CREATE) == -1 && alive) // the handler refuses the window
+        peer->destroy();
+    if (!alive || peer->destroyed)
+        return FALSE;
     peer->live = true;
     peer->reportSize();
+    if (!alive || peer->destroyed)
+        return FALSE;
     if (style & WS_VISIBLE)
         peer->widget->show();
     return TRUE;

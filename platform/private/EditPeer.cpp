@@ -4,8 +4,10 @@
 #include "platform/private/Controls.h"
 
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QValidator>
 
 #include <algorithm>
 
@@ -64,6 +66,20 @@ bool isTyping(const QKeyEvent& event) {
            !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
 
+// A field of one line holds no line ends: a number copied from a sheet brings one along and would be no number.
+class OneLine : public QValidator {
+  public:
+    using QValidator::QValidator;
+    State validate(QString& input, int& caret) const override {
+        const auto isLineEnd = [](QChar c) { return c == QLatin1Char('\n') || c == QLatin1Char('\r'); };
+        if (std::any_of(input.begin(), input.end(), isLineEnd)) {
+            caret -= static_cast<int>(std::count_if(input.begin(), input.begin() + caret, isLineEnd));
+            input.removeIf(isLineEnd);
+        }
+        return Acceptable;
+    }
+};
+
 CString withLineEnds(const QString& text) {
     QString lines = text;
     lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
@@ -87,6 +103,7 @@ LineEditPeer::LineEditPeer(const ControlSpec& spec, WindowPeer& parentPeer)
         setEchoMode(Password);
     if (spec.style & ES_READONLY)
         setReadOnly(true);
+    setValidator(new OneLine(this));
     LineEditPeer::setText(spec.text);
     connect(this, &QLineEdit::textChanged, this, [this] { tellChange(*this); });
 }
@@ -290,6 +307,18 @@ void TextEditPeer::keyPressEvent(QKeyEvent* event) {
         return;
     QKeyEvent changed(event->type(), event->key(), event->modifiers(), typed, event->isAutoRepeat());
     QPlainTextEdit::keyPressEvent(&changed);
+}
+
+// What is pasted or dropped counts against the limit as well.
+void TextEditPeer::insertFromMimeData(const QMimeData* source) {
+    if (!source || !source->hasText())
+        return;
+    CString inserted = withLineEnds(withoutReturns(fromQString(source->text())));
+    if (m_limit > 0) {
+        const auto [start, end] = selection();
+        inserted = inserted.Left(std::max(0, m_limit - (text().GetLength() - (end - start))));
+    }
+    insert(inserted);
 }
 
 WindowPeer* createEdit(const ControlSpec& spec, WindowPeer& parent) {

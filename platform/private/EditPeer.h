@@ -99,6 +99,7 @@ class TextEditPeer final : public HostedScrollArea<QPlainTextEdit>, public EditC
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
 
   private:
     int toBytes(int position) const; // a line end is one character in the toolkit, two here

@@ -24,7 +24,6 @@ struct Frame {
     QEvent* event;
     Base base;
     UINT message;
-    Frame* outer;
     bool ran = false;
     bool result = true;
 };
@@ -32,11 +31,13 @@ Frame* currentFrame = nullptr;
 
 // Dispatches one message on behalf of an event; tells what the toolkit's handling returned, true when it did not run.
 bool sendFor(WindowPeer& peer, QEvent* event, Base base, UINT message, WPARAM wParam, LPARAM lParam) {
-    Frame frame{peer, event, base, message, currentFrame};
+    struct Restore { // also when something is thrown through the message
+        Frame* outer = currentFrame;
+        ~Restore() { currentFrame = outer; }
+    } restore;
+    Frame frame{peer, event, base, message};
     currentFrame = &frame;
-    const QPointer<QWidget> alive = peer.widget;
     peer.send(message, wParam, lParam);
-    currentFrame = frame.outer;
     return frame.result;
 }
 

@@ -25,7 +25,6 @@ constexpr Substitute substitutes[] = {
     {"helvetica", "Liberation Sans", 0, 100},
     {"helv", "Liberation Sans", 0, 100},
     {"ms sans serif", "Liberation Sans", 0, 100},
-    {"microsoft sans serif", "Liberation Sans", 0, 100},
     {"ms shell dlg", "Liberation Sans", 0, 100},
     {"ms shell dlg 2", "Liberation Sans", 0, 100},
     {"system", "Liberation Sans", 700, 100},

@@ -12,6 +12,7 @@
 #include <QStyleOptionFocusRect>
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -128,18 +129,34 @@ void ListBoxPeer::setSelected(int first, int last, bool selected) {
         m_selectedCount += int{selected} - int{each.selected};
         each.selected = selected;
     }
-    viewport()->update();
+    repaintSoon();
 }
 
 void ListBoxPeer::setCaret(int index, bool scroll) {
     m_caret = index;
     if (scroll)
         showRow(index);
+    repaintSoon();
+}
+
+// Whatever drops the request, being hidden or not redrawn, ends with a whole repaint, and that resets the mark.
+void ListBoxPeer::repaintSoon() {
+    if (std::exchange(m_repaintPending, true))
+        return;
     viewport()->update();
 }
 
+bool ListBoxPeer::viewportEvent(QEvent* event) {
+    // Here and not in paintEvent, which an object that paints the box itself keeps from being called.
+    if (event->type() == QEvent::Paint)
+        m_repaintPending = false;
+    return HostedScrollArea<QAbstractScrollArea>::viewportEvent(event);
+}
+
 int ListBoxPeer::rowHeight() const {
-    return fontMetrics().height();
+    if (m_rowHeight == 0)
+        m_rowHeight = fontMetrics().height();
+    return m_rowHeight;
 }
 
 int ListBoxPeer::pageRows() const {
@@ -158,11 +175,14 @@ void ListBoxPeer::rowsChanged() {
 
 void ListBoxPeer::arrange() {
     m_arrangePending = false;
+    const int top = std::exchange(m_wantedTop, -1); // before a new range moves the bar by itself
     verticalScrollBar()->setRange(0, std::max(0, count() - pageRows()));
     verticalScrollBar()->setPageStep(pageRows());
     horizontalScrollBar()->setRange(0, std::max(0, m_extent - viewport()->width()));
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setSingleStep(rowHeight());
+    if (top >= 0)
+        verticalScrollBar()->setValue(top);
     viewport()->update();
 }
 
@@ -179,13 +199,32 @@ int ListBoxPeer::rowAt(int y) {
 int ListBoxPeer::topRow() {
     if (m_arrangePending)
         arrange();
-    return verticalScrollBar()->value();
+    return m_wantedTop >= 0 ? m_wantedTop : verticalScrollBar()->value();
 }
 
+// The scroll bar learns of it once control is back in the loop: it announces each of its values to accessibility and
+// to the style, which loops that select row by row would feel.
 void ListBoxPeer::setTopRow(int index) {
-    if (m_arrangePending)
-        arrange();
-    verticalScrollBar()->setValue(index);
+    const int top = topRow();
+    index = std::clamp(index, 0, verticalScrollBar()->maximum());
+    if (index == top)
+        return;
+    if (m_wantedTop < 0)
+        QMetaObject::invokeMethod(
+            this, [this] { moveBar(); }, Qt::QueuedConnection);
+    m_wantedTop = index;
+    repaintSoon();
+}
+
+void ListBoxPeer::moveBar() {
+    if (const int top = std::exchange(m_wantedTop, -1); top >= 0)
+        verticalScrollBar()->setValue(top);
+}
+
+void ListBoxPeer::scrollContentsBy(int dx, int dy) {
+    if (dy != 0)
+        m_wantedTop = -1; // the bar was moved meanwhile, and where it stands now counts
+    HostedScrollArea<QAbstractScrollArea>::scrollContentsBy(dx, dy);
 }
 
 void ListBoxPeer::showRow(int index) {
@@ -257,8 +296,10 @@ void ListBoxPeer::resizeEvent(QResizeEvent* event) {
 
 void ListBoxPeer::changeEvent(QEvent* event) {
     HostedScrollArea<QAbstractScrollArea>::changeEvent(event);
-    if (event->type() == QEvent::FontChange)
+    if (event->type() == QEvent::FontChange) {
+        m_rowHeight = 0;
         rowsChanged();
+    }
 }
 
 WindowPeer* createListBox(const ControlSpec& spec, WindowPeer& parent) {

@@ -60,6 +60,8 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     void showRow(int index);
 
   protected:
+    bool viewportEvent(QEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -73,6 +75,8 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
   private:
     void rowsChanged();
     void arrange(); // the scroll bars, once after any number of changed rows
+    void moveBar(); // the scroll bar to where setTopRow wants it
+    void repaintSoon();
     int pageRows() const;
     void paintRow(QPainter& painter, const Row& row, const QRect& place, bool focused) const;
     void drawColumns(QPainter& painter, const QString& text, QRect place) const;
@@ -94,6 +98,9 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     int m_extent = 0;
     std::vector<int> m_tabStops;
     bool m_arrangePending = false;
+    bool m_repaintPending = false;
+    int m_wantedTop = -1;        // that the scroll bar does not know yet; -1 when it does
+    mutable int m_rowHeight = 0; // 0 when it has to be measured
     bool m_dragging = false;
     bool m_dragSelects = true; // what dragging does to the rows that it reaches
     bool m_dragKeeps = false;  // the rows outside the range stay as they are

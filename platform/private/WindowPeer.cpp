@@ -1,5 +1,7 @@
 #include "platform/private/WindowPeer.h"
 
+#include "platform/Exception.h"
+
 #include <QApplication>
 
 #include <algorithm>
@@ -15,6 +17,23 @@ CString fromQString(const QString& text) {
     const QByteArray utf8 = text.toUtf8();
     return CString::FromUtf8({utf8.constData(), static_cast<std::size_t>(utf8.size())});
 }
+
+namespace {
+
+// An exception that no handler caught ends with its message: the toolkit's frames between here and the loop cannot pass
+// it on. The user is told, unless that has been done. Object and window may be gone by then.
+LRESULT guarded(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam) {
+    try {
+        return object.WindowProc(message, wParam, lParam);
+    } catch (CException* exception) {
+        if (!exception->IsKindOf(RUNTIME_CLASS(CUserException)))
+            exception->ReportError();
+        exception->Delete();
+    }
+    return 0;
+}
+
+} // namespace
 
 WindowPeer* peerOf(const QWidget* widget) {
     return dynamic_cast<WindowPeer*>(const_cast<QWidget*>(widget));
@@ -83,7 +102,7 @@ void WindowPeer::setRedraw(bool on) {
 
 LRESULT WindowPeer::send(UINT message, WPARAM wParam, LPARAM lParam) {
     if (object)
-        return object->WindowProc(message, wParam, lParam);
+        return guarded(*object, message, wParam, lParam);
     LRESULT result = 0;
     if (runEventDefault(*this, message, result))
         return result;
@@ -206,7 +225,7 @@ void WindowPeer::reportSize() {
 
 void WindowPeer::startTimer(UINT_PTR timer, int milliseconds) {
     killTimer(timer);
-    m_timers[timer] = widget->startTimer(milliseconds);
+    m_timers[timer] = widget->startTimer(std::max(0, milliseconds)); // the toolkit starts no negative one
 }
 
 bool WindowPeer::killTimer(UINT_PTR timer) {
