@@ -7,13 +7,15 @@
 #include "model/Sezione.h"
 #include "model/Trave.h"
 
+#include <Eigen/SparseCholesky>
+
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
 
-// 19 by 19 columns and 19 storeys of 361 columns and 684 beams each: 19,855 members.
-constexpr int side = 19, storeys = 19;
+// Seven storeys of 100 by 10 columns: 20,370 members.
+constexpr int alongX = 100, alongY = 10, storeys = 7;
 
 class Building {
   public:
@@ -29,12 +31,12 @@ class Building {
         auto* floor = new CCaricoUniforme({0, 0, -12}, CCarico::Globale);
         loads->AddCarico(floor);
         for (int z = 0; z <= storeys; ++z)
-            for (int y = 0; y < side; ++y)
-                for (int x = 0; x < side; ++x)
+            for (int y = 0; y < alongY; ++y)
+                for (int x = 0; x < alongX; ++x)
                     Place(x, y, z);
         for (int z = 1; z <= storeys; ++z)
-            for (int y = 0; y < side; ++y)
-                for (int x = 0; x < side; ++x)
+            for (int y = 0; y < alongY; ++y)
+                for (int x = 0; x < alongX; ++x)
                     Connect(x, y, z, floor);
         return std::move(m_data);
     }
@@ -48,7 +50,7 @@ class Building {
         m_data.Append(element);
         return added;
     }
-    CNodo* At(int x, int y, int z) { return m_data.Node((z * side + y) * side + x); }
+    CNodo* At(int x, int y, int z) { return m_data.Node((z * alongY + y) * alongX + x); }
     void Place(int x, int y, int z) {
         const CVincolo fixed(CVincolo::Tutti);
         CNodo* node = Append(Kind::Node, std::make_unique<CNodo>(CFPoint(5.0 * x, 5.0 * y, 3.0 * z)));

@@ -2,6 +2,7 @@
 // plain loop that adds the same nodes and beams to the document one by one; and the undo of it.
 #include "benchmarks/Models.h"
 #include "benchmarks/Ratios.h"
+#include "dialogs/frame/Module.h"
 #include "dialogs/selection/DialogCopiaTrasla.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/HostView.h"
@@ -10,6 +11,7 @@
 #include "model/Nodo.h"
 #include "model/Trave.h"
 #include "platform/Application.h"
+#include "platform/Module.h"
 
 #include <memory>
 #include <stdexcept>
@@ -26,6 +28,7 @@ constexpr double Step = 30; // clear of the frame itself
 class OpenFrame {
   public:
     OpenFrame() {
+        AfxAttachLinkedModule(&QuovarModuleEntry); // once: it stays started
         m_workspace.NewDocument();
         bench::fillGrid(Document(), FrameNodes);
         Document().SelezionaTutto();

@@ -168,24 +168,21 @@ void Adv3d::FitToBounds(CFPoint minimo, CFPoint massimo, int margine) {
     SetScala(eye / (eye * largest + deep));
 }
 
-Adv3d::Punto Adv3d::projectEye(double ex, double ey, double ez) const {
+Adv3d::Punto Adv3d::Project(const CFPoint& punto) const {
+    const double dx = punto.x - m_target.x, dy = punto.y - m_target.y, dz = punto.z - m_target.z;
+    const auto along = [&](const CFPoint& axis) { return axis.x * dx + axis.y * dy + axis.z * dz; };
+    const double depth = along(m_axes[2]);
     double scale = m_scale;
     if (m_perspective) {
         const double side = m_viewport.IsRectEmpty() ? defaultSide : std::max(m_viewport.Width(), m_viewport.Height());
         const double eye = m_eyeMultiple * side / m_scale;
-        if (!(ez <= eye * nearLimit))
-            return {0, 0, ez, false};
-        scale *= eye / (eye - ez);
+        if (!(depth <= eye * nearLimit))
+            return {0, 0, depth, false};
+        scale *= eye / (eye - depth);
     }
-    const double x = m_originX + ex * scale;
-    const double y = m_originY - ey * scale;
-    return {x, y, ez, std::isfinite(x) && std::isfinite(y)};
-}
-
-Adv3d::Punto Adv3d::Project(const CFPoint& punto) const {
-    const double dx = punto.x - m_target.x, dy = punto.y - m_target.y, dz = punto.z - m_target.z;
-    const auto along = [&](const CFPoint& axis) { return axis.x * dx + axis.y * dy + axis.z * dz; };
-    return projectEye(along(m_axes[0]), along(m_axes[1]), along(m_axes[2]));
+    const double x = m_originX + along(m_axes[0]) * scale;
+    const double y = m_originY - along(m_axes[1]) * scale;
+    return {x, y, depth, std::isfinite(x) && std::isfinite(y)};
 }
 
 CFPoint Adv3d::Unproject(CPoint pixel, const CFPoint& piano) const {

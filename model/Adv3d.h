@@ -107,7 +107,6 @@ class Adv3d {
 
     void rotate(int axisA, int axisB, double degrees);
     void place();
-    Punto projectEye(double ex, double ey, double ez) const;
     bool clip(double& x1, double& y1, double& x2, double& y2) const;
     Batch& batch(COLORREF color, int width);
 

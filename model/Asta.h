@@ -1,7 +1,7 @@
 // A truss member: axial force only.
 #pragma once
 
-#include "model/LineaFisica.h"
+#include "model/LineaRisultati.h"
 
 class CAsta : public CLineaRisultati {
     DECLARE_DYNCREATE(CAsta)

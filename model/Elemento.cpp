@@ -28,6 +28,17 @@ CElementoSettings& CElemento::settings(Adv3d& vista) {
     return m_pDati && m_pDati->settings ? *m_pDati->settings : vista.GetSettings(m_nTipo);
 }
 
+namespace {
+
+constexpr unsigned named = CElementoSettings::Identificatore | CElementoSettings::Materiale |
+                           CElementoSettings::Sezione | CElementoSettings::AssiLocali;
+
+} // namespace
+
+bool CElemento::isBare(Adv3d& vista) {
+    return !m_pDati && !settings(vista).IsVoce(named);
+}
+
 int CElemento::CanDraw(Adv3d* pVista) {
     return pVista && m_bVisible && settings(*pVista).IsVoce(CElementoSettings::Oggetto);
 }
@@ -38,9 +49,7 @@ void CElemento::Draw(Adv3d*) {
 void CElemento::DrawInformazioni(Adv3d* pVista) {
     if (!CanDraw(pVista))
         return;
-    const CElementoSettings& shown = settings(*pVista);
-    if (shown.IsVoce(CElementoSettings::Identificatore | CElementoSettings::Materiale | CElementoSettings::Sezione |
-                     CElementoSettings::AssiLocali))
+    if (settings(*pVista).IsVoce(named))
         DrawInfo(pVista);
     DrawRisultati(pVista);
     DrawProgetto(pVista);

@@ -122,6 +122,9 @@ class CElemento : public CObject {
 
     // The drawing settings that hold in this view.
     CElementoSettings& settings(Adv3d& vista);
+    // Nothing is to be drawn beside the object: it has nothing out of the ordinary (data() is null), and the view asks
+    // for no names.
+    bool isBare(Adv3d& vista);
     DatiElemento* data() const { return m_pDati.get(); } // null while the object has nothing out of the ordinary
     DatiElemento& makeData();
     bool linked() const { return m_bCollegato; } // its nodes list it

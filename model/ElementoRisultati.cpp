@@ -10,6 +10,10 @@ CNodoRisultati* CElementoRisultati::GetNodoRisultati(int index) {
     return index >= 0 && index < GetSizeNodiRisultati() ? &m_nodi[static_cast<std::size_t>(index)] : nullptr;
 }
 
+const CNodoRisultati* CElementoRisultati::GetNodoRisultati(int index) const {
+    return const_cast<CElementoRisultati*>(this)->GetNodoRisultati(index);
+}
+
 void CElementoRisultati::SetSizeNodiRisultati(int size) {
     m_nodi.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
 }

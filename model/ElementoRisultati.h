@@ -19,6 +19,8 @@ class CNodoRisultati : public CObject {
     double& GetM3() { return m_d[5]; }
     double& GetN() { return GetV1(); }
     double& GetT() { return GetM1(); }
+    double& GetIndice(int i) { return m_d[i]; } // 0..5 in the order above
+    double GetIndice(int i) const { return m_d[i]; }
 
   private:
     double m_d[6] = {};
@@ -29,6 +31,7 @@ class CElementoRisultati : public CObject {
 
     // The record of a section; null for an index outside. Owned by this object.
     virtual CNodoRisultati* GetNodoRisultati(int index);
+    const CNodoRisultati* GetNodoRisultati(int index) const;
     virtual int GetSizeNodiRisultati() const { return static_cast<int>(m_nodi.size()); }
     void SetSizeNodiRisultati(int size);
 

@@ -112,7 +112,7 @@ void CLinea::DrawSpecifiche(Adv3d* pVista) {
 }
 
 void CLinea::DrawInformazioni(Adv3d* pVista) {
-    if (!CanDraw(pVista))
+    if (!pVista || isBare(*pVista) || !CanDraw(pVista))
         return;
     CElementoSpecifiche::DrawInformazioni(pVista);
     if (data() && settings(*pVista).IsVoce(CElementoSettings::Specifiche))

@@ -8,7 +8,6 @@
 #include "model/Trave.h"
 
 IMPLEMENT_DYNAMIC(CLineaFisica, CLinea)
-IMPLEMENT_DYNAMIC(CLineaRisultati, CLineaFisica)
 IMPLEMENT_DYNCREATE(CTrave, CLineaRisultati)
 IMPLEMENT_DYNCREATE(CAsta, CLineaRisultati)
 
@@ -69,9 +68,6 @@ int CLineaFisica::GetTextInfo(CString& testo) {
     testo.Format("%s n.ro %d, nodi %d - %d", GetTipoElemento() == TipoElemento::Asta ? "Asta" : "Trave", GetID(),
                  GetIDNodoIniziale(), GetIDNodoFinale());
     return 1;
-}
-
-void CLineaRisultati::DisegnaDiagrammaTrave(CWnd*, int, int, int, int, int, int, int, int, int, int, CPoint) {
 }
 
 unsigned CTrave::GetSvincoli(int estremo) {

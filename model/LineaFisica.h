@@ -1,11 +1,10 @@
-// A line of some material and section, turned about its axis, and its results.
+// A line of some material and section, turned about its axis.
 #pragma once
 
 #include "model/Linea.h"
 
 class CMateriale;
 class CSezione;
-class CWnd;
 
 class CLineaFisica : public CLinea {
     DECLARE_DYNAMIC(CLineaFisica)
@@ -40,23 +39,4 @@ class CLineaFisica : public CLinea {
     int m_nIDMateriale = 0;
     int m_nIDSezione = 0;
     double m_dBeta = 0;
-};
-
-// The part of a line that shows results.
-class CLineaRisultati : public CLineaFisica {
-    DECLARE_DYNAMIC(CLineaRisultati)
-
-    using CLineaFisica::operator=;
-    CLineaRisultati& operator=(CLineaRisultati& altro) {
-        operator=(static_cast<CElemento&>(altro));
-        return *this;
-    }
-
-    // Draws the wanted diagrams of the line's results into the window's client area, or, with `bLettura`, the values at
-    // `punto`. Without results it draws nothing; the drawing itself comes with the analysis.
-    virtual void DisegnaDiagrammaTrave(CWnd* pWnd, int bN, int bV2, int bV3, int bT, int bM2, int bM3, int bNA,
-                                       int bM2W2, int bM3W3, int bLettura, CPoint punto);
-
-  protected:
-    explicit CLineaRisultati(unsigned tipo) : CLineaFisica(tipo) {}
 };

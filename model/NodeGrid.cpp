@@ -11,6 +11,13 @@ namespace {
 constexpr std::size_t maxLevels = 4; // a snap, a merge and an exact search at once, and one to spare
 constexpr double smallestCell = 1e-9;
 
+// The number of the cell of a coordinate. Round coordinates, which most are, would stand on the borders of cells that
+// began at 0, and each search for them would touch the cells on both sides.
+double cellAt(double coordinate, double perUnit) {
+    constexpr double shift = 0.382;
+    return std::floor(coordinate * perUnit + shift);
+}
+
 // The cells that a search touches on one axis. Beyond 2^53 cells from the origin neighbouring cells have the same
 // number.
 struct Span {
@@ -18,10 +25,10 @@ struct Span {
     int count = 0;
 };
 
-Span span(double centre, double tolerance, double cell) {
+Span span(double centre, double tolerance, double perUnit) {
     Span result;
-    const double last = std::floor((centre + tolerance) / cell);
-    for (double at = std::floor((centre - tolerance) / cell); at <= last && result.count < 4; at += 1) {
+    const double last = cellAt(centre + tolerance, perUnit);
+    for (double at = cellAt(centre - tolerance, perUnit); at <= last && result.count < 4; at += 1) {
         result.cells[result.count++] = at;
         if (at + 1 == at)
             break;
@@ -38,14 +45,14 @@ std::uint64_t mix(std::uint64_t value) {
 }
 
 // Hashes the cell numbers as doubles: coordinates of any size have one. Adding 0 turns -0 into 0.
-std::uint64_t hashCell(double x, double y, double z) {
+std::uint32_t hashCell(double x, double y, double z) {
     std::uint64_t hash = mix(std::bit_cast<std::uint64_t>(x + 0.0));
     hash = mix(hash ^ std::bit_cast<std::uint64_t>(y + 0.0));
-    return mix(hash ^ std::bit_cast<std::uint64_t>(z + 0.0));
+    return static_cast<std::uint32_t>(mix(hash ^ std::bit_cast<std::uint64_t>(z + 0.0)));
 }
 
-std::uint32_t bucketOf(std::uint64_t hash, std::size_t buckets) {
-    return static_cast<std::uint32_t>(hash & (buckets - 1));
+std::size_t bucketOf(std::uint32_t hash, std::size_t buckets) {
+    return hash & (buckets - 1);
 }
 
 } // namespace
@@ -119,12 +126,13 @@ void NodeGrid::link(Level& level, std::uint32_t slot) const {
     if (level.links.size() <= slot)
         level.links.resize(m_slots.capacity() > slot ? m_slots.capacity() : slot + 1);
     const CFPoint& p = m_slots[slot]->m_punto;
-    const std::uint64_t hash =
-        hashCell(std::floor(p.x / level.cell), std::floor(p.y / level.cell), std::floor(p.z / level.cell));
-    const std::uint32_t bucket = bucketOf(hash, level.buckets.size());
+    const std::uint32_t hash =
+        hashCell(cellAt(p.x, level.perUnit), cellAt(p.y, level.perUnit), cellAt(p.z, level.perUnit));
+    const std::size_t bucket = bucketOf(hash, level.buckets.size());
     const std::uint32_t head = level.buckets[bucket];
-    // The bucket is remembered: the node's coordinates may have been written past the grid when it leaves.
-    level.links[slot] = {head, kNone, bucket};
+    // The hash is remembered: a search passes nodes of other cells without looking at them, and the node's coordinates
+    // may have been written past the grid when it leaves.
+    level.links[slot] = {head, kNone, hash};
     if (head != kNone)
         level.links[head].previous = slot;
     level.buckets[bucket] = slot;
@@ -135,7 +143,7 @@ void NodeGrid::unlink(Level& level, std::uint32_t slot) {
     if (gone.previous != kNone)
         level.links[gone.previous].next = gone.next;
     else
-        level.buckets[gone.bucket] = gone.next;
+        level.buckets[bucketOf(gone.hash, level.buckets.size())] = gone.next;
     if (gone.next != kNone)
         level.links[gone.next].previous = gone.previous;
     level.links[slot] = {};
@@ -154,7 +162,7 @@ NodeGrid::Level& NodeGrid::levelFor(double tolerance) const {
     const double least = std::max(tolerance, smallestCell);
     Level* oldest = nullptr;
     for (Level& level : m_levels) {
-        if (level.cell >= least && level.cell <= 4 * least) {
+        if (level.cell >= 2 * least && level.cell <= 16 * least) {
             level.used = ++m_clock;
             return level;
         }
@@ -165,7 +173,8 @@ NodeGrid::Level& NodeGrid::levelFor(double tolerance) const {
         m_levels.emplace_back();
         oldest = &m_levels.back();
     }
-    oldest->cell = std::exp2(std::ceil(std::log2(least)));
+    oldest->cell = std::exp2(std::ceil(std::log2(least)) + 2);
+    oldest->perUnit = 1 / oldest->cell;
     oldest->used = ++m_clock;
     build(*oldest);
     return *oldest;
@@ -175,17 +184,19 @@ CNodo* NodeGrid::Find(const CFPoint& point, const CNodo* excluded, double tolera
     if (m_count == 0 || !point.IsFinite() || !(tolerance >= 0) || !std::isfinite(tolerance))
         return nullptr;
     const Level& level = levelFor(tolerance);
-    const Span xs = span(point.x, tolerance, level.cell);
-    const Span ys = span(point.y, tolerance, level.cell);
-    const Span zs = span(point.z, tolerance, level.cell);
+    const Span xs = span(point.x, tolerance, level.perUnit);
+    const Span ys = span(point.y, tolerance, level.perUnit);
+    const Span zs = span(point.z, tolerance, level.perUnit);
     CNodo* best = nullptr;
     double nearest = tolerance;
     for (int i = 0; i < xs.count; ++i)
         for (int j = 0; j < ys.count; ++j)
             for (int k = 0; k < zs.count; ++k) {
-                const std::uint64_t hash = hashCell(xs.cells[i], ys.cells[j], zs.cells[k]);
+                const std::uint32_t hash = hashCell(xs.cells[i], ys.cells[j], zs.cells[k]);
                 std::uint32_t slot = level.buckets[bucketOf(hash, level.buckets.size())];
                 for (; slot != kNone; slot = level.links[slot].next) {
+                    if (level.links[slot].hash != hash)
+                        continue;
                     CNodo* const node = m_slots[slot];
                     const double distance = (node->m_punto - point).GetMod();
                     if (node == excluded || !(distance <= nearest))

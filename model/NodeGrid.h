@@ -1,7 +1,8 @@
 // Nodes by position: the node within a tolerance of a point, in constant time for any number of nodes.
 //
-// Space is divided into cells about as large as the tolerance that is asked for. Each order of magnitude of tolerance
-// gets a division of its own, made when it is first asked for and kept while nodes come, move and go.
+// Space is divided into cells a few times as large as the tolerance that is asked for, so that most searches stay in
+// one of them. Each order of magnitude of tolerance gets a division of its own, made when it is first asked for and
+// kept while nodes come, move and go.
 #pragma once
 
 #include "model/FPoint.h"
@@ -37,13 +38,14 @@ class NodeGrid {
 
     // One division of space. A node is in the chain of the bucket that its cell hashes to.
     struct Level {
-        double cell = 0; // size of a cell, length units
+        double cell = 0;    // size of a cell, length units; a power of two
+        double perUnit = 0; // cells per length unit
         std::uint64_t used = 0;
         std::vector<std::uint32_t> buckets; // first slot of each chain; the size is a power of two
         struct Link {
             std::uint32_t next = kNone;
             std::uint32_t previous = kNone;
-            std::uint32_t bucket = kNone;
+            std::uint32_t hash = 0; // of the cell; its low bits are the bucket
         };
         std::vector<Link> links; // by slot
     };

@@ -89,7 +89,8 @@ void CNodo::Draw(Adv3d* pVista) {
 }
 
 void CNodo::DrawInformazioni(Adv3d* pVista) {
-    if (!CanDraw(pVista))
+    // Most nodes of a large model: not even projected.
+    if (!pVista || (!m_support && isBare(*pVista)) || !CanDraw(pVista))
         return;
     CElementoCarico::DrawInformazioni(pVista);
     if (!m_support)

@@ -1,7 +1,7 @@
 // A beam: hands forces and moments over at both ends, unless released.
 #pragma once
 
-#include "model/LineaFisica.h"
+#include "model/LineaRisultati.h"
 
 class CTrave : public CLineaRisultati {
     DECLARE_DYNCREATE(CTrave)

@@ -74,10 +74,15 @@ Copier::Copier(HostDocument& document, const std::vector<CElemento*>& selection)
     }
 }
 
+bool Copier::Accepts(int copies) const {
+    const std::size_t each = m_current.size() + m_items.size();
+    return each == 0 || static_cast<std::size_t>(copies) <= (mostCopies - m_made) / each;
+}
+
 bool Copier::Copy(const Motion& motion, int join) {
-    m_made += m_current.size() + m_items.size();
-    if (m_made > mostCopies)
+    if (!Accepts(1))
         return false;
+    m_made += m_current.size() + m_items.size();
     CopyNodes(motion);
     for (Item& item : m_items) {
         CopyItem(item, motion);

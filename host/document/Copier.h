@@ -24,6 +24,8 @@ class Copier {
     Copier(HostDocument& document, const std::vector<CElemento*>& selection);
 
     int Objects() const { return m_objects; } // selected objects: the steps of the wait bar that one copy takes
+    // Whether so many copies more stay within what a document can use.
+    bool Accepts(int copies) const;
     // False, and nothing made, when the document would grow beyond every use.
     bool Copy(const Motion& motion, int join);
 

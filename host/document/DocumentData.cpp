@@ -75,6 +75,8 @@ DocumentData::DocumentData() : m_grid(std::make_unique<NodeGrid>()) {
 
 // Whoever refers to others goes first, so that no node has to look for elements that still know it.
 DocumentData::~DocumentData() {
+    if (m_grid)          // null once the content was moved away
+        m_grid->Clear(); // at once, instead of node by node
     for (const Kind kind : {Kind::Beam, Kind::Truss, Kind::Wall, Kind::Slab, Kind::Node})
         list(kind).objects.clear();
 }
@@ -136,23 +138,29 @@ void DocumentData::leave(Kind kind, CElemento& object) {
 
 bool DocumentData::Append(std::unique_ptr<CElemento>& object) {
     Kind kind;
-    if (!object || !KindOf(*object, kind) || object->GetID() <= 0 || Find(kind, object->GetID()))
+    if (!object || !KindOf(*object, kind))
         return false;
-    if (counter(kind) == Kind::LoadCase &&
-        Find(kind == Kind::LoadCase ? Kind::Combination : Kind::LoadCase, object->GetID()))
+    const int id = object->GetID();
+    if (id <= 0 || Find(kind, id))
         return false;
-    Return(std::move(object));
+    if (counter(kind) == Kind::LoadCase && Find(kind == Kind::LoadCase ? Kind::Combination : Kind::LoadCase, id))
+        return false;
+    add(kind, std::move(object));
     return true;
 }
 
 void DocumentData::Return(std::unique_ptr<CElemento> object) {
     Kind kind;
-    if (!object || !KindOf(*object, kind))
-        return;
+    if (object && KindOf(*object, kind))
+        add(kind, std::move(object));
+}
+
+void DocumentData::add(Kind kind, std::unique_ptr<CElemento> object) {
     enter(kind, *object);
+    const int id = object->GetID();
     int& next = list(counter(kind)).next;
-    if (next != 0 && object->GetID() >= next)
-        next = object->GetID() < 0x7fffffff ? object->GetID() + 1 : 0;
+    if (next != 0 && id >= next)
+        next = id < 0x7fffffff ? id + 1 : 0;
     list(kind).objects.push_back(std::move(object));
 }
 

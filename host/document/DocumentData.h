@@ -141,6 +141,7 @@ class DocumentData : public CercaModello {
     const List& list(Kind kind) const { return m_lists[static_cast<std::size_t>(kind)]; }
     // The list whose counter numbers the kind.
     static Kind counter(Kind kind) { return kind == Kind::Combination ? Kind::LoadCase : kind; }
+    void add(Kind kind, std::unique_ptr<CElemento> object);
     void enter(Kind kind, CElemento& object);
     void grow(const CFPoint& place);
     void leave(Kind kind, CElemento& object);

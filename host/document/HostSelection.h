@@ -57,6 +57,9 @@ class HostSelection : public CQuovarSelection {
     bool IsEmpty() const { return m_all.empty(); }
     CObList* List();
 
+    // Whether the last command was refused or stopped, which the user was told; once for each.
+    bool TakeRefusal();
+
     Snapshot TakeSnapshot();
     void Restore(const Snapshot& snapshot);
     // Forgets without touching the elements, which may be gone.
@@ -74,5 +77,5 @@ class HostSelection : public CQuovarSelection {
     CObList m_list;
     bool m_listValid = false;
     std::unique_ptr<host::Copier> m_cycle; // between the start and the end of a copy cycle
-    bool m_cycleStopped = false;           // it would have become too large
+    bool m_refused = false;                // the last command, or its rest: too many copies
 };

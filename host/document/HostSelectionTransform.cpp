@@ -8,13 +8,16 @@
 
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace {
 
 using host::Motion;
 
-void RefuseTooMany() {
-    AfxMessageBox("Troppe copie: il comando è stato interrotto."_t, MB_OK);
+void TellTooMany(bool interrupted) {
+    AfxMessageBox(interrupted ? "Troppe copie: il comando è stato interrotto."_t
+                              : "Troppe copie: il comando non è stato eseguito."_t,
+                  MB_OK);
 }
 
 // The nodes that go along with the selection: those selected and those of the selected elements, each once.
@@ -73,15 +76,15 @@ void Move(HostDocument& document, const Motion& motion) {
     document.MoveNodes(places);
 }
 
-void Copy(HostDocument& document, const Motion& motion, int copies, int join, const CString& message) {
+// False, and nothing made, for too many.
+bool Copy(HostDocument& document, const Motion& motion, int copies, int join, const CString& message) {
     host::Copier copier(document, document.Selection().All());
+    if (!copier.Accepts(copies))
+        return false;
     WaitBar bar(message, static_cast<unsigned>(copies) * static_cast<unsigned>(copier.Objects()));
-    for (int i = 0; i < copies; ++i) {
-        if (!copier.Copy(motion, join)) {
-            RefuseTooMany();
-            return;
-        }
-    }
+    for (int i = 0; i < copies; ++i)
+        copier.Copy(motion, join);
+    return true;
 }
 
 } // namespace
@@ -92,10 +95,15 @@ void HostSelection::Transform(const Motion& motion, int copies, int join, const 
         return;
     UndoStep step(m_document.Undo(), stepName);
     m_document.Undo().Rename(stepName);
+    m_refused = copies > 0 && !Copy(m_document, motion, copies, join, message);
+    if (m_refused)
+        TellTooMany(false);
     if (copies == 0)
         Move(m_document, motion);
-    else
-        Copy(m_document, motion, copies, join, message);
+}
+
+bool HostSelection::TakeRefusal() {
+    return std::exchange(m_refused, false);
 }
 
 void HostSelection::TraslaSelezione(double dx, double dy, double dz, int nCopie, int unione) {
@@ -148,23 +156,23 @@ void HostSelection::InizioCicloTraslaSelezione(Adv3dRect&, CObList& oggetti) {
     for (CElemento* element : m_all)
         oggetti.AddTail(element);
     m_cycle = std::make_unique<host::Copier>(m_document, m_all);
-    m_cycleStopped = false;
+    m_refused = false;
     m_document.Undo().Rename("Copia Trasla");
 }
 
 void HostSelection::CicloTraslaSelezione(double dx, double dy, double dz, int unione, unsigned int& contatore,
                                          Adv3dRect&, CObList&, CObList&) {
     const CFPoint vector(dx, dy, dz);
-    if (!m_cycle || m_cycleStopped || !vector.IsFinite())
+    if (!m_cycle || m_refused || !vector.IsFinite())
         return;
     if (m_cycle->Copy(Motion::Translation(vector), unione))
         ++contatore;
     else
-        m_cycleStopped = true;
+        m_refused = true;
 }
 
 void HostSelection::FineCicloTraslaSelezione(Adv3dRect&, unsigned int) {
     m_cycle.reset();
-    if (m_cycleStopped)
-        RefuseTooMany();
+    if (m_refused)
+        TellTooMany(true);
 }

@@ -1,6 +1,7 @@
 #include "host/ui/AssignDialogs.h"
 
 #include "platform/Application.h"
+#include "platform/private/WindowPeer.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -117,7 +118,7 @@ class SpringForm {
             edit->setEnabled(row != none);
         const CMolla sample(row == rotational ? CMolla::Rotazionale : CMolla::Traslazionale, 0, {}, m_length, m_force);
         m_stiffnessLabel->setText(
-            QStringLiteral("Rigidezza (%1):").arg(QString::fromLatin1(sample.GetRigidezza().GetStringUnita())));
+            QStringLiteral("Rigidezza (%1):").arg(platform::toQString(sample.GetRigidezza().GetStringUnita())));
     }
 
     bool Read() {

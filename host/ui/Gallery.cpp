@@ -210,6 +210,7 @@ int WriteGalleryPictures(Workspace& workspace, const QString& folder, const QStr
         return fail("il progetto non si apre: " + shown);
     HostView& view = *workspace.ActiveView();
     bool ok = camera.Take(window, "finestra-principale");
+    showResults(view);
     ok = takeTools(camera, workspace, model.isEmpty()) && ok;
     ok = takeModals(camera, workspace, model.isEmpty()) && ok;
     view.SetDirection(Adv3d::Fronte);

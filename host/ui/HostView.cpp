@@ -30,7 +30,16 @@ namespace {
 constexpr int snapRadius = 12;          // pixels
 constexpr double degreesPerPixel = 0.4; // of orbit
 constexpr double firstScale = 50;       // pixels per metre of an empty document
+
+QString askPictureFile(QWidget* parent) {
+    return QFileDialog::getSaveFileName(
+        parent, QStringLiteral("Salva immagine"), QStringLiteral("immagine.png"),
+        QStringLiteral("Immagini PNG (*.png);;Immagini JPEG (*.jpg);;Immagini BMP (*.bmp)"));
+}
+
 } // namespace
+
+std::function<QString()> HostView::pictureFileHook;
 
 HostView::HostView(HostDocument& document, ViewOwner& owner, HWND frame, QWidget* parent)
     : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)) {
@@ -115,9 +124,7 @@ void HostView::CatturaImmagine() {
     if (picture.isNull())
         return;
     QApplication::clipboard()->setPixmap(picture);
-    QString path = QFileDialog::getSaveFileName(
-        m_widget->QWidget::window(), QStringLiteral("Salva immagine"), QStringLiteral("immagine.png"),
-        QStringLiteral("Immagini PNG (*.png);;Immagini JPEG (*.jpg);;Immagini BMP (*.bmp)"));
+    QString path = pictureFileHook ? pictureFileHook() : askPictureFile(m_widget->QWidget::window());
     if (path.isEmpty())
         return;
     if (QFileInfo(path).suffix().isEmpty())
@@ -293,6 +300,9 @@ void HostView::Redraw() {
 
 // Sent from inside the dialog's OK or Cancel: its window goes now, the object when those handlers have returned.
 LRESULT HostView::OnFineDialogo(WPARAM wParam, LPARAM lParam) {
+    // A refused command leaves its dialog open with what was typed, for another try.
+    if (wParam == FINEDIALOGO_CONFERMATO && m_document.Selection().TakeRefusal())
+        return 0;
     if (wParam == FINEDIALOGO_CONFERMATO || wParam == FINEDIALOGO_ANNULLATO)
         m_owner.EndTool(*this, reinterpret_cast<const CDialogDocument*>(lParam));
     return 0;

@@ -9,6 +9,7 @@
 
 #include <QPixmap>
 
+#include <functional>
 #include <optional>
 
 class HostDocument;
@@ -64,6 +65,8 @@ class HostView final : public CQuovarView, public DocumentObserver {
     Adv3d* GetVista() override { return &m_vista; }
     void SetRectImmagine(int left, int top, int right, int bottom) override;
     void CatturaImmagine() override;
+    // Stands for the user who names the captured picture's file while it is set; an empty path is none.
+    static std::function<QString()> pictureFileHook;
 
     void OnDocumentUpdate(CView* sender, long hint, CObject* pHint) override;
 

@@ -54,16 +54,6 @@ void drawPlanes(HostDocument& document, Adv3d& vista) {
         element->Draw(&vista);
 }
 
-void drawOne(CElemento& element, Adv3d& vista) {
-    if (element.CanDraw(&vista))
-        element.Draw(&vista);
-}
-
-void drawBeside(CElemento& element, Adv3d& vista) {
-    if (element.CanDraw(&vista))
-        element.DrawInformazioni(&vista);
-}
-
 } // namespace
 
 void DrawModel(HostDocument& document, Adv3d& vista, CDC& dc, int stride) {
@@ -72,20 +62,21 @@ void DrawModel(HostDocument& document, Adv3d& vista, CDC& dc, int stride) {
     stride = std::max(stride, 1);
     const DrawingScope scope(vista, dc);
     drawPlanes(document, vista);
+    // Lines and nodes ask themselves whether they are to be drawn.
     for (int i = 0; i < document.GetSizeTravi(); i += stride)
-        drawOne(*document.GetIndexTrave(i), vista);
+        document.GetIndexTrave(i)->Draw(&vista);
     for (int i = 0; i < document.GetSizeAste(); i += stride)
-        drawOne(*document.GetIndexAsta(i), vista);
+        document.GetIndexAsta(i)->Draw(&vista);
     for (int i = 0; i < document.GetSizeNodi(); i += stride)
-        drawOne(*document.GetIndexNodo(i), vista);
+        document.GetIndexNodo(i)->Draw(&vista);
     if (stride == 1) {
-        forPlanes(document, [&vista](CElemento& element) { drawBeside(element, vista); });
+        forPlanes(document, [&vista](CElemento& element) { element.DrawInformazioni(&vista); });
         for (int i = 0; i < document.GetSizeTravi(); ++i)
-            drawBeside(*document.GetIndexTrave(i), vista);
+            document.GetIndexTrave(i)->DrawInformazioni(&vista);
         for (int i = 0; i < document.GetSizeAste(); ++i)
-            drawBeside(*document.GetIndexAsta(i), vista);
+            document.GetIndexAsta(i)->DrawInformazioni(&vista);
         for (int i = 0; i < document.GetSizeNodi(); ++i)
-            drawBeside(*document.GetIndexNodo(i), vista);
+            document.GetIndexNodo(i)->DrawInformazioni(&vista);
     }
     vista.Flush();
 }

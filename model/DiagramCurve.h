@@ -1,0 +1,51 @@
+// One quantity along a line, with what its diagram needs to know of it.
+#pragma once
+
+#include "model/LineaRisultati.h"
+
+#include <vector>
+
+class DiagramCurve {
+  public:
+    struct Point {
+        double x;
+        double value;
+    };
+
+    DiagramCurve() = default;
+    // Stretches in order along the line, each beginning where the one before ends; those of no length are left out.
+    explicit DiagramCurve(std::vector<TrattoDiagramma> pieces);
+
+    bool IsEmpty() const { return m_pieces.empty(); }
+
+    // Where the curve jumps, `side` below 0 gives the value before the jump, otherwise the one after it. Outside the
+    // line the value of its end; 0 while empty.
+    double Value(double x, int side = 1) const;
+
+    // The first jump in [from, to]: its place, and true; false when there is none.
+    bool FindJump(double from, double to, double& place) const;
+
+    // Both ends, and between them every local extreme and both values of every jump, in order along the line.
+    std::vector<Point> Peaks() const;
+
+    // The smallest and the largest value, 0 included; and the larger of both sizes.
+    double Minimum() const { return m_minimum; }
+    double Maximum() const { return m_maximum; }
+    double Largest() const { return m_maximum > -m_minimum ? m_maximum : -m_minimum; }
+
+    // Points that straight strokes join to the curve, at most `step` apart where it is bent. Both values of a jump are
+    // there, one after the other.
+    void Sample(double step, std::vector<Point>& points) const;
+
+  private:
+    void findTurns();
+    const TrattoDiagramma& pieceAt(double x, int side) const;
+
+    bool same(double a, double b) const;
+
+    std::vector<TrattoDiagramma> m_pieces;
+    // The values at both ends of every piece and where its slope is 0: between two neighbours the curve is monotonic.
+    std::vector<Point> m_turns;
+    double m_minimum = 0;
+    double m_maximum = 0;
+};

@@ -1,0 +1,412 @@
+#include "model/DiagramSheet.h"
+
+#include "model/ElementoRisultati.h"
+#include "model/ElementoSettings.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr COLORREF white = RGB(255, 255, 255);
+constexpr COLORREF axisColor = RGB(0, 0, 0);
+constexpr COLORREF hairColor = RGB(90, 90, 90);
+constexpr int sideMargin = 8;         // from a panel's edge to the end of its axis
+constexpr double worthAColumn = 1.1;  // how much better panels must be seen for one more column
+constexpr int roomForLabels = 48;     // panels lower than this keep their height for the curve
+constexpr double widthToHeight = 2.5; // of a panel that is equally good either way
+constexpr double bendStep = 2;        // pixels between the points of a bent stretch
+constexpr std::size_t mostLabels = 16;
+
+struct Style {
+    int kind;
+    COLORREF color;
+    // Bending is drawn on the side of the stretched fibres, which for positive moments is below the axis.
+    bool below;
+};
+
+const Style styles[] = {
+    {CElementoSettings::N, RGB(0, 80, 200), false},    {CElementoSettings::V2, RGB(0, 130, 50), false},
+    {CElementoSettings::V3, RGB(0, 130, 140), false},  {CElementoSettings::T, RGB(130, 50, 170), false},
+    {CElementoSettings::M2, RGB(200, 20, 30), true},   {CElementoSettings::M3, RGB(210, 100, 0), true},
+    {CElementoSettings::N_A, RGB(60, 60, 150), false}, {CElementoSettings::M2_W2, RGB(150, 20, 90), true},
+    {CElementoSettings::M3_W3, RGB(120, 90, 0), true},
+};
+
+const Style& styleOf(int kind) {
+    const auto found =
+        std::find_if(std::begin(styles), std::end(styles), [kind](const Style& s) { return s.kind == kind; });
+    return found == std::end(styles) ? styles[0] : *found;
+}
+
+COLORREF paler(COLORREF color) {
+    const auto mix = [](int part) { return 255 - (255 - part) / 5; };
+    return RGB(mix(GetRValue(color)), mix(GetGValue(color)), mix(GetBValue(color)));
+}
+
+CString labelText(double value, double largest) {
+    const double size = std::abs(value);
+    CString text;
+    if (size <= 1e-9 * largest)
+        text = "0";
+    else if (size >= 1e6 || size < 1e-3)
+        text.Format("%.3e", value);
+    else if (size >= 1000)
+        text.Format("%.1f", value);
+    else
+        text.Format("%.4g", value);
+    return text;
+}
+
+CString readingText(double value, double largest) {
+    CString text;
+    text.Format("%.5g", std::abs(value) <= 1e-9 * largest ? 0.0 : value);
+    return text;
+}
+
+int roundDown(double value) {
+    return static_cast<int>(std::floor(value));
+}
+
+// Of the points that fall into one column of pixels, the first, the extremes and the last are what can be seen.
+class ColumnReducer {
+  public:
+    explicit ColumnReducer(std::vector<CPoint>& out) : m_out(out) {}
+    ~ColumnReducer() { flush(); }
+
+    void add(CPoint point) {
+        if (m_count == 0 || point.x != m_first.x) {
+            flush();
+            m_first = m_low = m_high = point;
+        }
+        if (point.y < m_low.y)
+            m_low = point;
+        if (point.y > m_high.y)
+            m_high = point;
+        m_last = point;
+        ++m_count;
+    }
+
+  private:
+    void flush() {
+        if (m_count == 0)
+            return;
+        m_count = 0;
+        put(m_first);
+        put(m_low);
+        put(m_high);
+        put(m_last);
+    }
+    void put(CPoint point) {
+        if (m_out.empty() || m_out.back() != point)
+            m_out.push_back(point);
+    }
+
+    std::vector<CPoint>& m_out;
+    CPoint m_first, m_low, m_high, m_last;
+    int m_count = 0;
+};
+
+// Leaves out the points that one straight stroke passes closely enough: it keeps between two slopes seen from its
+// beginning, which every further point narrows.
+class StrokeJoiner {
+  public:
+    explicit StrokeJoiner(ColumnReducer& out) : m_out(out) {}
+    ~StrokeJoiner() { end(); }
+
+    void add(double x, double y) {
+        if (m_begun && x > m_x) {
+            double slope = (y - m_startY) / (x - m_startX);
+            if (slope < m_low || slope > m_high) {
+                start(m_x, m_y);
+                slope = (y - m_startY) / (x - m_startX);
+            }
+            const double allowed = closeEnough / (x - m_startX);
+            m_low = std::max(m_low, slope - allowed);
+            m_high = std::min(m_high, slope + allowed);
+        } else { // the first point, or the far end of a jump
+            end();
+            start(x, y);
+        }
+        m_x = x;
+        m_y = y;
+    }
+
+  private:
+    static constexpr double closeEnough = 0.25; // pixels
+
+    void start(double x, double y) {
+        m_startX = x;
+        m_startY = y;
+        m_low = -std::numeric_limits<double>::infinity();
+        m_high = -m_low;
+        m_begun = true;
+        put(x, y);
+    }
+    void end() {
+        if (m_begun)
+            put(m_x, m_y);
+    }
+    void put(double x, double y) { m_out.add({roundDown(x + 0.5), roundDown(y + 0.5)}); }
+
+    ColumnReducer& m_out;
+    bool m_begun = false;
+    double m_x = 0, m_y = 0, m_startX = 0, m_startY = 0, m_low = 0, m_high = 0;
+};
+
+// The number of columns in which so many panels are best seen.
+int bestColumns(int panels, int width, int height) {
+    int best = 1;
+    double most = 0;
+    for (int columns = 1; columns <= panels; ++columns) {
+        const int rows = (panels + columns - 1) / columns;
+        const double good = std::min(static_cast<double>(height) / rows, width / widthToHeight / columns);
+        if (good > most * worthAColumn) {
+            most = good;
+            best = columns;
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+DiagramSheet::DiagramSheet(CDC& dc, const CRect& area, const std::vector<Diagram>& diagrams, const DiagramLine& line)
+    : m_dc(dc), m_area(area), m_line(line) {
+    m_font.CreatePointFont(80, "Arial");
+    TEXTMETRIC metrics;
+    const ObjectSelection font(m_dc, m_font);
+    m_dc.GetTextMetrics(&metrics);
+    m_textHeight = metrics.tmHeight;
+    layOut(diagrams);
+}
+
+// The last row of text belongs to the nodes.
+void DiagramSheet::layOut(const std::vector<Diagram>& diagrams) {
+    const int count = static_cast<int>(diagrams.size());
+    const int width = m_area.Width(), height = m_area.Height() - m_textHeight;
+    if (count == 0 || width <= 2 * sideMargin || height <= 0)
+        return;
+    m_columns = bestColumns(count, width, height);
+    const int rows = (count + m_columns - 1) / m_columns;
+    for (int i = 0; i < count; ++i) {
+        const int column = i % m_columns, row = i / m_columns;
+        const Diagram& diagram = diagrams[static_cast<std::size_t>(i)];
+        const Style& style = styleOf(diagram.kind);
+        Panel panel{&diagram, style.color, {}, 0, 0, 0, 0};
+        panel.cell = CRect(m_area.left + width * column / m_columns, m_area.top + height * row / rows,
+                           m_area.left + width * (column + 1) / m_columns, m_area.top + height * (row + 1) / rows);
+        place(panel, style.below);
+        m_panels.push_back(panel);
+    }
+}
+
+// The axis lies so that both the positive and the negative values use the room there is.
+void DiagramSheet::place(Panel& panel, bool below) const {
+    panel.left = panel.cell.left + sideMargin;
+    panel.right = std::max<int>(panel.left + 1, panel.cell.right - sideMargin - 1);
+    int top = panel.cell.top + m_textHeight + 1, bottom = std::max(top + 1, static_cast<int>(panel.cell.bottom) - 3);
+    double above = panel.diagram->curve.Maximum(), under = -panel.diagram->curve.Minimum();
+    if (below)
+        std::swap(above, under);
+    if (panel.cell.Height() >= roomForLabels) {
+        top += above > 0 ? m_textHeight : 0;
+        bottom -= under > 0 ? m_textHeight : 0;
+    }
+    const double range = above + under;
+    if (!(range > 0)) {
+        panel.axis = (top + bottom) / 2;
+        return;
+    }
+    const double scale = (bottom - top) / range;
+    panel.axis = top + static_cast<int>(std::lround(above * scale));
+    panel.scale = below ? -scale : scale;
+}
+
+int DiagramSheet::pixelX(const Panel& panel, double x) const {
+    const double part = m_line.length > 0 ? x / m_line.length : 0;
+    return panel.left + static_cast<int>(std::lround(part * (panel.right - panel.left)));
+}
+
+int DiagramSheet::pixelY(const Panel& panel, double value) {
+    return roundDown(panel.axis + 0.5 - value * panel.scale);
+}
+
+CPoint DiagramSheet::PointOf(int diagram, double x, double value) const {
+    const Panel& panel = m_panels.at(static_cast<std::size_t>(diagram));
+    return {pixelX(panel, x), pixelY(panel, value)};
+}
+
+void DiagramSheet::Draw() {
+    const ObjectSelection font(m_dc, m_font);
+    const int mode = m_dc.SetBkMode(TRANSPARENT);
+    for (const Panel& panel : m_panels) {
+        drawCurve(panel);
+        drawAxis(panel);
+        drawTitle(panel);
+        drawLabels(panel);
+    }
+    for (int column = 0; column < m_columns && !m_panels.empty(); ++column)
+        drawNodes(m_panels[static_cast<std::size_t>(column)]);
+    m_dc.SetBkMode(mode);
+}
+
+// Closed by the axis at both ends.
+void DiagramSheet::outline(const Panel& panel, std::vector<CPoint>& points) {
+    points.clear();
+    const double step = bendStep * m_line.length / (panel.right - panel.left);
+    panel.diagram->curve.Sample(step, m_samples);
+    points.emplace_back(panel.left, panel.axis);
+    {
+        ColumnReducer reducer(points);
+        StrokeJoiner joiner(reducer);
+        const double perUnit = (panel.right - panel.left) / m_line.length;
+        for (const DiagramCurve::Point& sample : m_samples)
+            joiner.add(panel.left + sample.x * perUnit, panel.axis - sample.value * panel.scale);
+    }
+    points.emplace_back(points.back().x, panel.axis);
+}
+
+void DiagramSheet::drawCurve(const Panel& panel) {
+    if (panel.scale == 0)
+        return;
+    outline(panel, m_points);
+    const int count = static_cast<int>(m_points.size());
+    {
+        CBrush brush(paler(panel.color));
+        const ObjectSelection pen(m_dc, NULL_PEN), fill(m_dc, brush);
+        m_dc.Polygon(m_points.data(), count);
+    }
+    CPen pen(PS_SOLID, 1, panel.color);
+    const ObjectSelection line(m_dc, pen);
+    m_dc.Polyline(m_points.data(), count);
+}
+
+void DiagramSheet::drawAxis(const Panel& panel) {
+    m_dc.FillSolidRect(panel.left, panel.axis, panel.right - panel.left + 1, 1, axisColor);
+    for (const int end : {panel.left, panel.right})
+        m_dc.FillSolidRect(end - 1, panel.axis - 1, 3, 3, axisColor);
+}
+
+void DiagramSheet::drawTitle(const Panel& panel) {
+    CString text = CElementoRisultati::_GetStringRisultato(panel.diagram->kind);
+    if (panel.diagram->curve.IsEmpty())
+        text += " non disponibile";
+    else
+        text += " [" + panel.diagram->unit + "]";
+    m_dc.SetTextColor(panel.color);
+    const CPoint at(panel.cell.left + 2, panel.cell.top);
+    m_dc.TextOut(at.x, at.y, text);
+    m_labels.emplace_back(at, m_dc.GetTextExtent(text));
+}
+
+// The largest value first, then the others by size: where there is no room left, the smallest go without.
+void DiagramSheet::drawLabels(const Panel& panel) {
+    std::vector<DiagramCurve::Point> peaks = panel.diagram->curve.Peaks();
+    const auto larger = [](const auto& a, const auto& b) { return std::abs(a.value) > std::abs(b.value); };
+    if (peaks.size() > mostLabels) {
+        std::partial_sort(peaks.begin(), peaks.begin() + mostLabels, peaks.end(), larger);
+        peaks.resize(mostLabels);
+    } else {
+        std::stable_sort(peaks.begin(), peaks.end(), larger);
+    }
+    const double largest = panel.diagram->curve.Largest();
+    const auto first = static_cast<std::ptrdiff_t>(m_labels.size()) - 1; // the panel's title
+    m_dc.SetTextColor(panel.color);
+    for (const DiagramCurve::Point& peak : peaks) {
+        const CString text = labelText(peak.value, largest);
+        const CSize size = m_dc.GetTextExtent(text);
+        const int x = pixelX(panel, peak.x), y = pixelY(panel, peak.value);
+        const bool above = peak.value * panel.scale >= 0;
+        // Beyond the curve, else across the axis; centred on the place, else beside it.
+        const int tops[] = {above ? y - size.cy : y + 1, above ? panel.axis + 2 : panel.axis - size.cy - 1};
+        const int centred = std::clamp<int>(x - size.cx / 2, panel.cell.left + 1,
+                                            std::max<int>(panel.cell.left + 1, panel.cell.right - 1 - size.cx));
+        const int lefts[] = {centred, x + 3, x - 2 - size.cx};
+        for (int i = 0; i < 6; ++i) {
+            const CRect place(CPoint(lefts[i % 3], tops[i / 3]), size);
+            const auto meets = [&place](const CRect& other) { return !(place & other).IsRectEmpty(); };
+            if ((place & panel.cell) != place || std::any_of(m_labels.begin() + first, m_labels.end(), meets))
+                continue;
+            m_dc.TextOut(place.left, place.top, text);
+            m_labels.push_back(place);
+            break;
+        }
+    }
+}
+
+// Below the column whose topmost panel this is.
+void DiagramSheet::drawNodes(const Panel& panel) {
+    CString first, last;
+    first.Format("Nodo %d", m_line.firstNode);
+    last.Format("Nodo %d", m_line.lastNode);
+    const int room = panel.cell.Width() - 4, gap = 8;
+    if (m_dc.GetTextExtent(first).cx + m_dc.GetTextExtent(last).cx + gap > room) {
+        first.Format("%d", m_line.firstNode);
+        last.Format("%d", m_line.lastNode);
+    }
+    m_dc.SetTextColor(axisColor);
+    const int top = m_area.bottom - m_textHeight;
+    m_dc.TextOut(panel.cell.left + 2, top, first);
+    m_dc.TextOut(panel.cell.right - 2 - m_dc.GetTextExtent(last).cx, top, last);
+}
+
+void DiagramSheet::DrawReading(CPoint at) {
+    if (m_panels.empty() || !m_area.PtInRect(at))
+        return;
+    const ObjectSelection font(m_dc, m_font);
+    const int mode = m_dc.SetBkMode(TRANSPARENT);
+    const int column = (at.x - m_area.left) * m_columns / m_area.Width();
+    const Panel& under =
+        m_panels[static_cast<std::size_t>(std::min<int>(column, static_cast<int>(m_panels.size()) - 1))];
+    const double part = static_cast<double>(at.x - under.left) / (under.right - under.left);
+    const double x = std::clamp(part, 0.0, 1.0) * m_line.length;
+    for (const Panel& panel : m_panels) {
+        m_dc.FillSolidRect(pixelX(panel, x), panel.cell.top + m_textHeight, 1, panel.cell.Height() - m_textHeight,
+                           hairColor);
+        if (!panel.diagram->curve.IsEmpty())
+            drawValue(panel, x);
+    }
+    CString text;
+    text.Format("x = %.4g %s", x, m_line.lengthUnit);
+    const CRect bottom(under.cell.left, m_area.bottom - m_textHeight - 1, under.cell.right, m_area.bottom);
+    drawBoxed(text, CPoint(pixelX(under, x) - m_dc.GetTextExtent(text).cx / 2, bottom.top), bottom, axisColor);
+    m_dc.SetBkMode(mode);
+}
+
+// Both values where a jump lies under the hair line.
+void DiagramSheet::drawValue(const Panel& panel, double x) {
+    const DiagramCurve& curve = panel.diagram->curve;
+    const double largest = curve.Largest(), halfPixel = m_line.length / (panel.right - panel.left) / 2;
+    double values[2] = {curve.Value(x), 0};
+    CString text = readingText(values[0], largest);
+    int count = 1;
+    double jump;
+    if (curve.FindJump(x - halfPixel, x + halfPixel, jump)) {
+        values[0] = curve.Value(jump, -1);
+        values[1] = curve.Value(jump, 1);
+        text = readingText(values[0], largest) + " / " + readingText(values[1], largest);
+        count = 2;
+    }
+    const int hair = pixelX(panel, x);
+    for (int i = 0; i < count; ++i)
+        m_dc.FillSolidRect(hair - 2, pixelY(panel, values[i]) - 2, 5, 5, panel.color);
+    text += " " + panel.diagram->unit;
+    const int width = m_dc.GetTextExtent(text).cx + 4, gap = 5;
+    const int left = hair + gap + width <= panel.cell.right ? hair + gap : hair - gap - width + 1;
+    drawBoxed(text, CPoint(left, pixelY(panel, values[0]) - m_textHeight / 2), panel.cell, panel.color);
+}
+
+// Moved into the bounds where it would leave them.
+void DiagramSheet::drawBoxed(const CString& text, CPoint at, const CRect& bounds, COLORREF color) {
+    const CSize size = m_dc.GetTextExtent(text) + CSize(4, 0);
+    at.x = std::clamp<int>(at.x, bounds.left, std::max<int>(bounds.left, bounds.right - size.cx));
+    at.y = std::clamp<int>(at.y, bounds.top, std::max<int>(bounds.top, bounds.bottom - size.cy));
+    const CRect box(at, size);
+    CBrush brush(color);
+    m_dc.FillSolidRect(&box, white);
+    m_dc.FrameRect(&box, &brush);
+    m_dc.SetTextColor(color);
+    m_dc.TextOut(box.left + 2, box.top, text);
+}

@@ -1,0 +1,71 @@
+// The picture of a line's diagrams: one panel for each, over the same axis from the first node to the second.
+#pragma once
+
+#include "model/DiagramCurve.h"
+#include "platform/DeviceContext.h"
+
+#include <vector>
+
+struct Diagram {
+    int kind;           // a CElementoSettings::Risultato
+    CString unit;       // of the curve's values
+    DiagramCurve curve; // empty while the section lacks what the quantity is divided by
+};
+
+// What the panels share.
+struct DiagramLine {
+    double length;
+    CString lengthUnit;
+    int firstNode; // identifiers
+    int lastNode;
+};
+
+class DiagramSheet {
+  public:
+    // Lays the panels out in the area, pixels. The context, the diagrams and the line outlive the sheet.
+    DiagramSheet(CDC& dc, const CRect& area, const std::vector<Diagram>& diagrams, const DiagramLine& line);
+
+    void Draw();
+    // A vertical hair line through every panel at the place on the line that the point is over, with the values there;
+    // nothing for a point outside the area.
+    void DrawReading(CPoint at);
+
+    // Where the sheet puts a value of a diagram, and where its titles and values stand once drawn.
+    CPoint PointOf(int diagram, double x, double value) const;
+    const std::vector<CRect>& Labels() const { return m_labels; }
+
+  private:
+    struct Panel {
+        const Diagram* diagram;
+        COLORREF color;
+        CRect cell;
+        int left; // of the axis, pixels
+        int right;
+        int axis;     // y of value 0
+        double scale; // pixels to one unit; below 0 for quantities whose positive values lie below the axis
+    };
+
+    void layOut(const std::vector<Diagram>& diagrams);
+    void place(Panel& panel, bool below) const;
+    int pixelX(const Panel& panel, double x) const;
+    static int pixelY(const Panel& panel, double value);
+    void outline(const Panel& panel, std::vector<CPoint>& points);
+    void drawCurve(const Panel& panel);
+    void drawAxis(const Panel& panel);
+    void drawTitle(const Panel& panel);
+    void drawLabels(const Panel& panel);
+    void drawNodes(const Panel& panel);
+    void drawValue(const Panel& panel, double x);
+    void drawBoxed(const CString& text, CPoint at, const CRect& bounds, COLORREF color);
+
+    CDC& m_dc;
+    CRect m_area;
+    const DiagramLine& m_line;
+    int m_columns = 1;
+    int m_textHeight = 0;
+    CFont m_font;
+    std::vector<Panel> m_panels;
+    std::vector<DiagramCurve::Point> m_samples; // reused from panel to panel
+    std::vector<CPoint> m_points;
+    std::vector<CRect> m_labels;
+};
