@@ -67,7 +67,7 @@ bool ReleasedAtBothEnds(CTrave& beam) {
     const int size = beam.GetSizeSpecifiche();
     if (size < 2)
         return false;
-    bool released[2] = {};
+    bool released[2][releases] = {};
     for (int i = 0; i < size; ++i) {
         const CSpecifiche* specification = beam.GetIndexSpecifica(i);
         if (!specification || !specification->IsKindOf(RUNTIME_CLASS(CSpecificheSvincoliTrave)))
@@ -75,9 +75,13 @@ bool ReleasedAtBothEnds(CTrave& beam) {
         const auto* end = static_cast<const CSpecificheSvincoliTrave*>(specification);
         for (int k = 0; k < releases; ++k)
             if (end->GetSvincolo(k))
-                released[end->GetEstremo() ? 1 : 0] = true;
+                released[end->GetEstremo() ? 1 : 0][k] = true;
     }
-    return released[0] && released[1];
+    // Only the same force let go at both ends leaves a movement free.
+    for (int k = 0; k < releases; ++k)
+        if (released[0][k] && released[1][k])
+            return true;
+    return false;
 }
 
 bool RotationCheck::Held(CNodo& node) {

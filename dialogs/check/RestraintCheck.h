@@ -26,7 +26,7 @@ class StructureRestraint {
     bool m_allFixed = true;
 };
 
-// The beam is released at both ends. Beams with fewer than two specifications are not.
+// The beam is released for the same force at both ends. One with fewer than two specifications is not examined.
 bool ReleasedAtBothEnds(CTrave& beam);
 
 // Whether the rotations of a node are held, by its restraint or by a beam or wall that meets there.

@@ -45,7 +45,7 @@ void CDialogCopiaRuota::CambiaDocumento() {
     CQuovarDoc* pDoc = GetDoc();
     if (!pDoc)
         return;
-    const UndoStep undo(*pDoc, UNDO_COPIA);
+    const CommandUndo undo(*pDoc, UNDO_COPIA);
     pDoc->m_pSelezione->RuotaSelezione(m_dX1, m_dY1, m_dZ1, m_dX2, m_dY2, m_dZ2, m_dAngolo, m_nCopie,
                                        JoinKind(m_nUnione));
 }

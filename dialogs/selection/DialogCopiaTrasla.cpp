@@ -385,7 +385,7 @@ void CDialogCopiaTrasla::CambiaDocumento() {
     CObList copie(blockSize);
     unsigned int contatore = 0;
     std::optional<WaitBar> wait; // before the undo step, so that the bar goes after the step is closed
-    const UndoStep undo(*pDoc, UNDO_COPIA);
+    const CommandUndo undo(*pDoc, UNDO_COPIA);
     CQuovarSelection& selection = *pDoc->m_pSelezione;
     selection.InizioCicloTraslaSelezione(rect, oggetti);
     wait.emplace("Attendere...Traslazione dei nodi/elementi selezionati.", StepsOfWait(m_nCopie, oggetti.GetCount()));

@@ -33,6 +33,6 @@ void CDialogMuovi::CambiaDocumento() {
     if (!pDoc)
         return;
     const CFPoint d = GetVettoreDiff();
-    const UndoStep undo(*pDoc, UNDO_SPOSTA, {d.x, d.y, d.z});
+    const CommandUndo undo(*pDoc, UNDO_SPOSTA, {d.x, d.y, d.z});
     pDoc->m_pSelezione->TraslaSelezione(d.x, d.y, d.z, 0, UNIONE_NIENTE);
 }

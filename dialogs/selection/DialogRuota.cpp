@@ -50,11 +50,11 @@ void CDialogRuota::CambiaDocumento() {
         return;
     CQuovarSelection& selection = *pDoc->m_pSelezione;
     if (m_nAsse == generalAxis) {
-        const UndoStep undo(*pDoc, UNDO_RUOTA, {1, m_dX1, m_dY1, m_dZ1, m_dX2, m_dY2, m_dZ2, m_dAngolo});
+        const CommandUndo undo(*pDoc, UNDO_RUOTA, {1, m_dX1, m_dY1, m_dZ1, m_dX2, m_dY2, m_dZ2, m_dAngolo});
         selection.RuotaSelezione(m_dX1, m_dY1, m_dZ1, m_dX2, m_dY2, m_dZ2, m_dAngolo, 0, UNIONE_NIENTE);
     } else if (m_nAsse >= 0) {
         const double radians = m_dAngolo * radiansPerDegree;
-        const UndoStep undo(*pDoc, UNDO_RUOTA, {0, radians, static_cast<double>(m_nAsse)});
+        const CommandUndo undo(*pDoc, UNDO_RUOTA, {0, radians, static_cast<double>(m_nAsse)});
         selection.RuotaSelezione(std::sin(radians), std::cos(radians), m_nAsse, 0, UNIONE_NIENTE);
     }
 }

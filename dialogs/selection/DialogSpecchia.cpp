@@ -51,7 +51,7 @@ void CDialogSpecchia::CambiaDocumento() {
     CQuovarDoc* pDoc = GetDoc();
     if (!pDoc)
         return;
-    const UndoStep undo(*pDoc, UNDO_COPIA);
+    const CommandUndo undo(*pDoc, UNDO_COPIA);
     pDoc->m_pSelezione->SpecchiaSelezione(m_dX, m_dY, m_dZ, m_nPiano);
 }
 

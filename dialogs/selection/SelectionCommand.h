@@ -12,14 +12,14 @@ class CWnd;
 
 // One step of the document's undo for as long as it lives: opened with the record of its kind, closed even when the
 // host operation inside it throws.
-class UndoStep {
+class CommandUndo {
   public:
     using Record = std::array<double, 10>;
 
-    UndoStep(CQuovarDoc& doc, unsigned int kind, const Record& record = {});
-    ~UndoStep();
-    UndoStep(const UndoStep&) = delete;
-    UndoStep& operator=(const UndoStep&) = delete;
+    CommandUndo(CQuovarDoc& doc, unsigned int kind, const Record& record = {});
+    ~CommandUndo();
+    CommandUndo(const CommandUndo&) = delete;
+    CommandUndo& operator=(const CommandUndo&) = delete;
 
   private:
     CQuovarUndo& m_undo;

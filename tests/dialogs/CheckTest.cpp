@@ -175,6 +175,7 @@ TEST_F(Check, BeamsReleasedAtBothEnds) {
     EXPECT_EQ(release(0, 0, 0, 1, 0), Closed({})) << "a single specification is not examined";
     EXPECT_EQ(release(0, 0, 0, 0, 1), Closed({})) << "both at the first end";
     EXPECT_EQ(release(1, 0, 0, 0, 0), Closed({})) << "the second end releases nothing";
+    EXPECT_EQ(release(1, 1, 1, 0, 0), Closed({})) << "other forces at the other end";
     EXPECT_EQ(release(1, 0, 0, 1, 0), Closed({"La Trave n.ro 2, è labile."})) << "once for the beam";
 }
 

@@ -12,6 +12,7 @@
 #include "model/Solaio.h"
 #include "model/Spessore.h"
 #include "model/Trave.h"
+#include "platform/Exception.h"
 #include "tests/support/RecordingHost.h"
 
 namespace {
@@ -82,7 +83,7 @@ T* MakeLine(std::vector<std::unique_ptr<T>>& list, const U& nodes, int node1, in
 } // namespace
 
 RecordingDoc::RecordingDoc(Journal& journal)
-    : analisi(journal), selezione(journal, selected), undo(journal), m_journal(journal) {
+    : analisi(journal, travi), selezione(journal, selected), undo(journal), m_journal(journal) {
     m_pAnalisi = &analisi;
     m_pProgetto = &progetto;
     m_pSelezione = &selezione;
@@ -341,6 +342,8 @@ int RecordingDoc::EliminaGruppo(int index) {
     if (!At(gruppi, index))
         return 0;
     gruppi.erase(gruppi.begin() + index);
+    if (onGroupGone)
+        onGroupGone();
     return 1;
 }
 void RecordingDoc::SelezionaGruppo(int id) {
@@ -348,8 +351,11 @@ void RecordingDoc::SelezionaGruppo(int id) {
 }
 int RecordingDoc::AddCombinazione(CCombinazione* pCombinazione, CCombinazione** pOut) {
     m_journal.Add("AddCombinazione", pCombinazione->GetNome());
+    if (addingThrows)
+        throw std::exchange(addingThrows, nullptr);
     if (!generated)
         return 0;
+    pCombinazione->SetID(100 + Size(combinazioni));
     combinazioni.emplace_back(pCombinazione);
     if (pOut)
         *pOut = pCombinazione;
@@ -388,8 +394,9 @@ int RecordingDoc::SelectIndexCasoCarico(int index) {
     currentCase = At(casi, index);
     return currentCase != nullptr;
 }
-int RecordingDoc::IsCasoCaricoSismicoDinamico(CString) {
-    return 0;
+int RecordingDoc::IsCasoCaricoSismicoDinamico(CString nome) {
+    CCasoCarico* found = ByName(casi, nome);
+    return found && found->GetTipo() == "Sismico dinamico";
 }
 CCombinazione* RecordingDoc::GetCombinazione(CString nome) {
     return ByName(combinazioni, nome);

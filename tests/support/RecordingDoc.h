@@ -7,13 +7,16 @@
 #include "dialogs/frame/QuovarProgetto.h"
 #include "dialogs/frame/QuovarSelection.h"
 #include "dialogs/frame/QuovarUndo.h"
+#include "model/ElementoRisultati.h"
 #include "platform/Collections.h"
 #include "tests/support/Journal.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
+class CException;
 class RecordingView;
 
 class RecordingUndo : public CQuovarUndo {
@@ -27,10 +30,19 @@ class RecordingUndo : public CQuovarUndo {
     Journal& m_journal;
 };
 
+// Keeps result records of beams by load case, and lends them to the beams as an analysis does.
 class RecordingAnalisi : public CQuovarAnalisi {
   public:
-    explicit RecordingAnalisi(Journal& journal) : m_journal(journal) {}
+    RecordingAnalisi(Journal& journal, std::vector<std::unique_ptr<CTrave>>& travi)
+        : m_journal(journal), m_travi(travi) {}
+    ~RecordingAnalisi() override;
+
     int result = 1; // of the next operations
+    int linked = 1; // of the next linking, when the others succeed
+    // Gives a beam results in a case: V1 of each of its records.
+    void Store(int idCaso, int idTrave, const std::vector<double>& v1);
+    std::vector<double> Stored(int idCaso, int idTrave) const; // empty for none
+
     int LeggiRisultati(int idCaso, CObArray& out, int flag) override;
     int AggiornaRiferimentiRisultati(CObArray& risultati) override;
     int CreaRisultati(int idCaso, CObArray& risultati, int flag) override;
@@ -38,6 +50,9 @@ class RecordingAnalisi : public CQuovarAnalisi {
 
   private:
     Journal& m_journal;
+    std::vector<std::unique_ptr<CTrave>>& m_travi;
+    std::map<int, std::vector<std::unique_ptr<CElementoRisultati>>> m_records;
+    std::map<CTrave*, CElementoRisultati*> m_own; // of the beams whose results are lent
 };
 
 class RecordingSelection : public CQuovarSelection {
@@ -84,12 +99,14 @@ class RecordingDoc : public CQuovarDoc {
     CObList selected;
     Lunghezza lunghezza{};
     // Results of what the dialogs ask for.
-    int generated = 1; // of the generation operations
+    int generated = 1;                  // of the generation operations
+    CException* addingThrows = nullptr; // by AddCombinazione
     int unica = 1;
     RecordingView* view = nullptr;
     CCombinazione* currentCombination = nullptr;
     CCasoCarico* currentCase = nullptr;
     std::function<void(CView*, long, CObject*)> onUpdate; // reaches the open tool dialogs
+    std::function<void()> onGroupGone;                    // before EliminaGruppo returns
 
     RecordingAnalisi analisi;
     CQuovarProgetto progetto;

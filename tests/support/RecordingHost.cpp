@@ -146,6 +146,8 @@ CString RecordingHost::GetFileInputVorm(int) {
 
 CCasoCarico* RecordingHost::CreaCasoCarico(CQuovarDoc* pDoc) {
     journal.Add("CreaCasoCarico", static_cast<const CObject*>(pDoc));
+    if (!createsCases)
+        return nullptr;
     auto entity = std::make_unique<CCasoCarico>();
     const int id = static_cast<int>(doc.casi.size()) + 1;
     CString name;

@@ -89,6 +89,7 @@ class RecordingHost : public CQuovarHost {
     RecordingDoc doc;
     bool hasDoc = true; // whether there is an active document
     bool hasFrame = true;
+    bool createsCases = true; // whether CreaCasoCarico succeeds
 
     RecordingView& View() { return *m_views.front(); }
     RecordingView& AddView();

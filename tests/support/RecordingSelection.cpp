@@ -12,23 +12,6 @@ void RecordingUndo::EndUndo(unsigned int tipo) {
     m_journal.Add("EndUndo", tipo);
 }
 
-int RecordingAnalisi::LeggiRisultati(int idCaso, CObArray&, int flag) {
-    m_journal.Add("LeggiRisultati", idCaso, flag);
-    return result;
-}
-int RecordingAnalisi::AggiornaRiferimentiRisultati(CObArray& risultati) {
-    m_journal.Add("AggiornaRiferimentiRisultati", risultati.GetSize());
-    return result;
-}
-int RecordingAnalisi::CreaRisultati(int idCaso, CObArray& risultati, int flag) {
-    m_journal.Add("CreaRisultati", idCaso, risultati.GetSize(), flag);
-    return result;
-}
-int RecordingAnalisi::RipristinaRisultati() {
-    m_journal.Add("RipristinaRisultati");
-    return result;
-}
-
 void RecordingSelection::Deseleziona(CView* pView) {
     m_journal.Add("Deseleziona", pView);
     for (POSITION pos = m_selected.GetHeadPosition(); pos;)

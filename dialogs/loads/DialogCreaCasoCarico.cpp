@@ -1,0 +1,33 @@
+#include "dialogs/loads/DialogCreaCasoCarico.h"
+
+#include "dialogs/frame/QuovarDoc.h"
+#include "platform/Application.h"
+#include "platform/DataExchange.h"
+
+CDialogCreaCasoCarico::CDialogCreaCasoCarico(CWnd* pParent) : CDialog(IDD, pParent) {
+}
+
+void CDialogCreaCasoCarico::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_Text(pDX, IDC_NOME, m_strNome);
+    DDX_Text(pDX, IDC_NUMERO, m_strNumero);
+}
+
+BOOL CDialogCreaCasoCarico::OnInitDialog() {
+    CDialog::OnInitDialog();
+    if (!m_strTitolo.IsEmpty())
+        SetWindowText(m_strTitolo);
+    return TRUE;
+}
+
+bool AskNewName(CDialogCreaCasoCarico& dialog, CQuovarDoc& doc) {
+    while (dialog.DoModal() == IDOK) {
+        if (doc.IsCasoCaricoNome(dialog.m_strNome))
+            AfxMessageBox("Il Caso Carico c'è già!"_t);
+        else if (!doc.IsValidoCasoCaricoNome(dialog.m_strNome))
+            AfxMessageBox("Il nome non è valido!"_t);
+        else
+            return true;
+    }
+    return false;
+}

@@ -1,0 +1,12 @@
+#include "dialogs/loads/ListSelection.h"
+
+#include "platform/ListBox.h"
+
+#include <algorithm>
+
+std::vector<int> SelectedRows(const CListBox& list) {
+    std::vector<int> rows(static_cast<std::size_t>(std::max(list.GetSelCount(), 0)));
+    if (!rows.empty())
+        list.GetSelItems(static_cast<int>(rows.size()), rows.data());
+    return rows;
+}

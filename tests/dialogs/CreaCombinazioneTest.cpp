@@ -1,0 +1,317 @@
+#include "dialogs/loads/DialogCreaCombinazione.h"
+#include "platform/Application.h"
+#include "platform/Exception.h"
+#include "tests/dialogs/LoadModel.h"
+#include "tests/support/DialogTest.h"
+
+#include <chrono>
+
+namespace {
+
+using Dialog = CDialogCreaCombinazione;
+constexpr int availableId = Dialog::IDC_LIST_CDCA;
+constexpr int combinedId = Dialog::IDC_LIST_CDCB;
+constexpr int fattoreId = Dialog::IDC_FATTORE;
+constexpr int fattoreCombinazioneId = Dialog::IDC_FATTORE_COMBINAZIONE;
+constexpr int nomeId = Dialog::IDC_NOME;
+
+class CreaCombinazione : public DialogTest {
+  protected:
+    CreaCombinazione() {
+        AddNamed(host.doc.casi, 1, "Permanenti");
+        AddNamed(host.doc.casi, 2, "Neve").SetTipo("Variabile");
+        AddNamed(host.doc.casi, 7, "Città");
+    }
+    // Runs the dialog, cancels it after the action unless that closed it, and gives its result.
+    int Run(Dialog::Tipo tipo, const std::function<void(DialogDriver&)>& action) {
+        Dialog dialog(tipo, &host.frame);
+        user.WhenDialogOpens([action](DialogDriver& driver) {
+            action(driver);
+            if (IsShown(driver))
+                driver.Click(IDCANCEL);
+        });
+        return dialog.DoModal();
+    }
+    int Create(const std::function<void(DialogDriver&)>& action) { return Run(Dialog::Crea, action); }
+    int Change(const std::function<void(DialogDriver&)>& action) { return Run(Dialog::Modifica, action); }
+    void MakeCurrent(CCombinazione& combination) { host.doc.currentCombination = &combination; }
+
+    // Buttons ">", ">>", "<", "<<", OK as a line of 0 and 1.
+    static std::string Enabled(const DialogDriver& driver) {
+        std::string line;
+        for (const int id : {+Dialog::IDC_VA, +Dialog::IDC_VATUTTO, +Dialog::IDC_VIENI, +Dialog::IDC_VIENITUTTO, +IDOK})
+            line += driver.Enabled(id) ? '1' : '0';
+        return line;
+    }
+    static void Fill(DialogDriver& driver, const std::string& name) {
+        driver.Click(Dialog::IDC_VATUTTO);
+        driver.SetText(nomeId, name);
+    }
+};
+
+TEST_F(CreaCombinazione, OpensEmptyForANewOne) {
+    Create([](DialogDriver& driver) {
+        EXPECT_EQ(driver.Caption(), "Crea Combinazione");
+        EXPECT_EQ(driver.Text(IDOK), "Crea");
+        EXPECT_EQ(driver.Rows(availableId), (Lines{"1 : Permanenti", "2 : Neve (Variabile)", "7 : Città"}));
+        EXPECT_TRUE(driver.Rows(combinedId).empty());
+        EXPECT_TRUE(driver.SelectedRows(availableId).empty());
+        EXPECT_EQ(driver.Text(fattoreId), "1");
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "");
+        EXPECT_EQ(driver.Text(nomeId), "");
+        EXPECT_EQ(Enabled(driver), "01000");
+        EXPECT_FALSE(driver.Enabled(1447));
+        EXPECT_FALSE(driver.Enabled(1448));
+    });
+    host.doc.casi.clear();
+    Create([](DialogDriver& driver) { EXPECT_EQ(Enabled(driver), "00000"); });
+    EXPECT_EQ(host.Take(), Lines{});
+}
+
+// Catches each row of the enabling table: a current entry, a factor, a name, a case.
+TEST_F(CreaCombinazione, ButtonsFollowListsFactorAndName) {
+    Create([](DialogDriver& driver) {
+        driver.ClickRow(availableId, 1);
+        EXPECT_EQ(Enabled(driver), "11000");
+        for (const char* none : {"0", "", "abc", "0.0", "1e999", "nan"}) {
+            driver.SetText(fattoreId, none);
+            EXPECT_EQ(Enabled(driver), "00000") << none;
+        }
+        driver.Type(fattoreId, "-1.5");
+        EXPECT_EQ(Enabled(driver), "11000");
+        driver.Type(nomeId, "S");
+        EXPECT_EQ(Enabled(driver), "11000") << "no case yet";
+        driver.Click(Dialog::IDC_VA);
+        EXPECT_EQ(Enabled(driver), "01011") << "no entry is current in either list";
+        driver.ClickRow(combinedId, 0);
+        EXPECT_EQ(Enabled(driver), "01111");
+        driver.Type(nomeId, "");
+        EXPECT_EQ(Enabled(driver), "01110");
+        driver.Click(Dialog::IDC_VATUTTO);
+        EXPECT_EQ(Enabled(driver), "00110");
+    });
+}
+
+// Catches items that keep a case's position instead of its number once the list has shrunk.
+TEST_F(CreaCombinazione, MovesCasesBetweenTheLists) {
+    Create([](DialogDriver& driver) {
+        driver.Type(fattoreId, "1.35");
+        driver.ClickRow(availableId, 0);
+        driver.Click(Dialog::IDC_VA);
+        driver.ClickRow(availableId, 1);
+        driver.Click(Dialog::IDC_VA);
+        EXPECT_EQ(driver.Rows(availableId), Lines{"2 : Neve (Variabile)"});
+        EXPECT_EQ(driver.Rows(combinedId), (Lines{"(1.35) 1 : Permanenti", "(1.35) 7 : Città"}));
+        driver.SetText(fattoreId, "2");
+        driver.Click(Dialog::IDC_VATUTTO);
+        EXPECT_TRUE(driver.Rows(availableId).empty());
+        EXPECT_EQ(driver.Rows(combinedId).back(), "(2) 2 : Neve (Variabile)");
+        // The entry that moves up is current, and its factor shown; behind the last there is none.
+        driver.ClickRow(combinedId, 1);
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "1.35");
+        driver.Click(Dialog::IDC_VIENI);
+        EXPECT_EQ(driver.SelectedRows(combinedId), std::vector<int>{1});
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "2");
+        driver.Click(Dialog::IDC_VIENI);
+        EXPECT_TRUE(driver.SelectedRows(combinedId).empty());
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "");
+        EXPECT_FALSE(driver.Enabled(Dialog::IDC_VIENI));
+        EXPECT_EQ(driver.Rows(availableId), (Lines{"2 : Neve (Variabile)", "7 : Città"})) << "document order";
+        driver.Click(Dialog::IDC_VIENITUTTO);
+        EXPECT_TRUE(driver.Rows(combinedId).empty());
+        EXPECT_EQ(driver.Rows(availableId).size(), 3u);
+    });
+    EXPECT_EQ(host.Take(), Lines{});
+}
+
+TEST_F(CreaCombinazione, AFactorThatDoesNotParseStopsTheButtons) {
+    Create([this](DialogDriver& driver) {
+        driver.ClickRow(availableId, 0);
+        driver.SetText(fattoreId, "1.5x"); // counts as 1.5 for the buttons
+        EXPECT_EQ(Enabled(driver), "11000");
+        user.ExpectMessage("Immettere un numero.");
+        driver.Click(Dialog::IDC_VA);
+        user.ExpectMessage("Immettere un numero.");
+        driver.Click(Dialog::IDC_VATUTTO);
+        EXPECT_TRUE(driver.Rows(combinedId).empty());
+        driver.SetText(fattoreId, "1");
+        Fill(driver, "SLU");
+        driver.SetText(fattoreId, "?");
+        user.ExpectMessage("Immettere un numero.");
+        driver.Click(IDOK);
+        EXPECT_TRUE(IsShown(driver));
+    });
+    EXPECT_EQ(host.Take(), Lines{});
+}
+
+// Catches an edit that is rewritten under the user's fingers, and a text that is no number keeping the old factor.
+TEST_F(CreaCombinazione, TheFactorFollowsEachKey) {
+    Create([](DialogDriver& driver) {
+        Fill(driver, "SLU");
+        driver.ClickRow(combinedId, 1);
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "1");
+        driver.Click(fattoreCombinazioneId);
+        driver.Press(VK_HOME);
+        driver.Press(VK_END, ShiftKey);
+        driver.TypeKeys("-");
+        EXPECT_EQ(driver.Rows(combinedId)[1], "(0) 2 : Neve (Variabile)");
+        EXPECT_FALSE(driver.Enabled(IDOK));
+        driver.TypeKeys("2.");
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "-2.");
+        EXPECT_EQ(driver.Rows(combinedId)[1], "(-2) 2 : Neve (Variabile)");
+        driver.TypeKeys("50");
+        EXPECT_EQ(driver.Rows(combinedId)[1], "(-2.5) 2 : Neve (Variabile)");
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "-2.50");
+        EXPECT_EQ(driver.SelectedRows(combinedId), std::vector<int>{1});
+        EXPECT_TRUE(driver.Enabled(IDOK));
+        driver.SetText(fattoreCombinazioneId, "abc");
+        EXPECT_EQ(driver.Rows(combinedId)[1], "(0) 2 : Neve (Variabile)");
+        EXPECT_FALSE(driver.Enabled(IDOK));
+        driver.ClickRow(combinedId, 0);
+        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "1");
+        EXPECT_EQ(driver.Rows(combinedId)[1], "(0) 2 : Neve (Variabile)");
+        driver.Click(Dialog::IDC_VIENITUTTO);
+        driver.SetText(fattoreCombinazioneId, "5"); // of no case
+        EXPECT_TRUE(driver.Rows(combinedId).empty());
+    });
+}
+
+TEST_F(CreaCombinazione, ConfirmingGivesTheDocumentANewOne) {
+    EXPECT_EQ(Create([](DialogDriver& driver) {
+                  driver.Type(fattoreId, "1.1");
+                  driver.ClickRow(availableId, 2);
+                  driver.Click(Dialog::IDC_VA);
+                  driver.Type(nomeId, "Perché");
+                  driver.Click(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(host.Take(), (Lines{"AddCombinazione \"Perché\"", "SelectCasoCarico 100"}));
+    ASSERT_EQ(host.doc.combinazioni.size(), 1u);
+    EXPECT_EQ(FactorsOf(*host.doc.combinazioni[0]), (std::vector<std::pair<int, double>>{{7, 1.1}}));
+}
+
+// Catches a dialog that closes, or forgets what was built, after a name that cannot be.
+TEST_F(CreaCombinazione, NamesThatCannotBeLeaveItOpen) {
+    AddCombination(host.doc, 9, "SLE");
+    Create([this](DialogDriver& driver) {
+        Fill(driver, "");
+        for (const char* taken : {"Città", "SLE"}) {
+            driver.SetText(nomeId, taken);
+            user.ExpectMessage("Esiste già un caso di carico (o combinazione) con lo stesso nome.", IDOK, MB_OK);
+            driver.Click(IDOK);
+        }
+        for (const std::string& name : kInvalidNames) {
+            driver.SetText(nomeId, name);
+            user.ExpectMessage("Il nome non è valido.\n(Non può contenere i caratteri '.`![]', ne avere spazi "
+                               "iniziali, ed avere una lunghezza massima di 64 caratteri)",
+                               IDOK, MB_OK);
+            driver.Press(VK_RETURN);
+            EXPECT_EQ(driver.Text(nomeId), name);
+        }
+        EXPECT_EQ(driver.Rows(combinedId).size(), 3u);
+        EXPECT_EQ(host.Take(), Lines{});
+        driver.SetText(nomeId, LongestName());
+        driver.Click(IDOK);
+        EXPECT_FALSE(IsShown(driver));
+    });
+    EXPECT_EQ(host.doc.combinazioni.back()->GetNome().ToUtf8(), LongestName());
+}
+
+// Catches a combination that leaks, or is deleted twice, when the document does not take it; the sanitizer sees both.
+TEST_F(CreaCombinazione, ARefusalLeavesItOpen) {
+    Create([this](DialogDriver& driver) {
+        Fill(driver, "SLU");
+        host.doc.generated = 0;
+        user.ExpectMessage("La combinazione non è stata aggiunta.", IDOK, MB_OK);
+        driver.Click(IDOK);
+        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"SLU\""});
+        host.doc.addingThrows = new CSimpleException("Memoria insufficiente.");
+        user.ExpectMessage("Memoria insufficiente.", IDOK, MB_OK);
+        driver.Click(IDOK);
+        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"SLU\""});
+        EXPECT_TRUE(IsShown(driver));
+        host.doc.generated = 1;
+        driver.Click(IDOK);
+    });
+    EXPECT_EQ(host.Take(), (Lines{"AddCombinazione \"SLU\"", "SelectCasoCarico 100"}));
+}
+
+// Catches factors rounded to what the edit shows, and a case that is lost because the document no longer has it.
+TEST_F(CreaCombinazione, ChangingKeepsWhatIsNotTouched) {
+    const std::vector<std::pair<int, double>> factors = {{7, 1.23456789012}, {99, 0.3}, {1, 1.0 / 3}};
+    CCombinazione& combination = AddCombination(host.doc, 5, "SLU.1", factors);
+    MakeCurrent(combination);
+    EXPECT_EQ(Change([](DialogDriver& driver) {
+                  EXPECT_EQ(driver.Caption(), "Modifica Combinazione");
+                  EXPECT_EQ(driver.Text(IDOK), "&Modifica");
+                  EXPECT_EQ(driver.Text(nomeId), "SLU.1");
+                  EXPECT_EQ(driver.Rows(availableId), Lines{"2 : Neve (Variabile)"});
+                  EXPECT_EQ(driver.Rows(combinedId), (Lines{"(1.23457) 7 : Città", "(0.333333) 1 : Permanenti"}));
+                  EXPECT_EQ(Enabled(driver), "01011");
+                  driver.ClickRow(combinedId, 1);
+                  driver.ClickRow(combinedId, 0);
+                  driver.Click(IDOK);
+              }),
+              IDOK);
+    EXPECT_EQ(host.Take(), Lines{"ModificaCombinazione 5 \"SLU.1\""}) << "a name is not tested in this mode";
+    EXPECT_EQ(FactorsOf(combination), factors);
+    Change([](DialogDriver& driver) {
+        driver.ClickRow(combinedId, 1);
+        driver.Type(fattoreCombinazioneId, "4");
+        driver.Type(nomeId, "Permanenti");
+        driver.Click(IDOK);
+    });
+    EXPECT_EQ(host.Take(), Lines{"ModificaCombinazione 5 \"Permanenti\""});
+    EXPECT_EQ(FactorsOf(combination).back(), (std::pair<int, double>{1, 4}));
+    // A case out of sight with factor 0 still keeps OK off.
+    combination.SetFattoreCDC(1, 0);
+    Change([](DialogDriver& driver) { EXPECT_FALSE(driver.Enabled(IDOK)); });
+}
+
+TEST_F(CreaCombinazione, ThereMustBeOneToChange) {
+    Dialog dialog(Dialog::Modifica, &host.frame);
+    user.ExpectMessage("Nessuna combinazione selezionata.", IDOK, MB_OK);
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    host.hasDoc = false;
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL) << "and no message";
+    Create([](DialogDriver& driver) { EXPECT_EQ(Enabled(driver), "00000"); });
+}
+
+TEST_F(CreaCombinazione, CancelLeavesTheDocument) {
+    CCombinazione& combination = AddCombination(host.doc, 5, "SLU", {{1, 1.3}, {2, 1.5}});
+    MakeCurrent(combination);
+    EXPECT_EQ(Change([](DialogDriver& driver) {
+                  driver.ClickRow(combinedId, 0);
+                  driver.Type(fattoreCombinazioneId, "9");
+                  driver.Click(Dialog::IDC_VIENI);
+                  driver.Click(Dialog::IDC_VATUTTO);
+                  driver.Type(nomeId, "Altro");
+                  driver.Press(VK_ESCAPE);
+              }),
+              IDCANCEL);
+    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(FactorsOf(combination), (std::vector<std::pair<int, double>>{{1, 1.3}, {2, 1.5}}));
+    EXPECT_EQ(combination.GetNome(), "SLU");
+}
+
+// Catches work that grows with the square of the cases at each key: every step here stays far below what a user feels.
+TEST_F(CreaCombinazione, FiveHundredCasesStayInstant) {
+    for (int id = 10; id < 510; ++id) {
+        AddNamed(host.doc.casi, id, "Caso " + std::to_string(id));
+        AddCombination(host.doc, 1000 + id, "Combinazione " + std::to_string(id), {{1, 1}});
+    }
+    Create([](DialogDriver& driver) {
+        const auto start = std::chrono::steady_clock::now();
+        Fill(driver, "Inviluppo");
+        driver.ClickRow(combinedId, 400);
+        for (int i = 1; i <= 100; ++i)
+            driver.SetText(fattoreCombinazioneId, std::to_string(i));
+        const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+        EXPECT_EQ(driver.Rows(combinedId)[400], "(100) 407 : Caso 407");
+        EXPECT_LT(seconds.count(), 10) << "100 keys, in unoptimised builds and with sanitizers";
+        driver.Click(IDOK);
+    });
+    EXPECT_EQ(host.doc.combinazioni.back()->GetSizeCDC(), 503);
+}
+
+} // namespace

@@ -1,0 +1,284 @@
+#include "dialogs/results/DialogDiagrammi.h"
+#include "model/ElementoSettings.h"
+#include "model/Trave.h"
+#include "platform/Application.h"
+#include "platform/DeviceContext.h"
+#include "platform/Menu.h"
+#include "tests/support/DialogTest.h"
+
+namespace {
+
+constexpr int areaId = 1302;
+constexpr COLORREF white = RGB(255, 255, 255);
+
+struct Item {
+    UINT command;
+    int kind;
+    const char* text;
+};
+const Item items[] = {{33110, 42, "N"},   {33111, 43, "V2"},    {33112, 44, "V3"},
+                      {33113, 45, "T"},   {33114, 32, "M2"},    {33115, 46, "M3"},
+                      {40006, 47, "N/A"}, {40007, 48, "M2/W2"}, {40008, 49, "M3/W3"}};
+
+// A beam that writes down what it is asked to draw, and marks the area.
+class RecordingTrave : public CTrave {
+  public:
+    RecordingTrave(Journal& journal, int id) : m_journal(journal) { SetID(id); }
+
+    void DisegnaDiagrammaTrave(CWnd* pWnd, int bN, int bV2, int bV3, int bT, int bM2, int bM3, int bNA, int bM2W2,
+                               int bM3W3, int bLettura, CPoint punto) override {
+        m_journal.Add("Disegna", GetID(), pWnd->GetDlgCtrlID(), bN, bV2, bV3, bT, bM2, bM3, bNA, bM2W2, bM3W3, bLettura,
+                      punto.x, punto.y);
+        CClientDC(pWnd).FillSolidRect(10, 10, 4, 4, RGB(255, 0, 0));
+    }
+
+  private:
+    Journal& m_journal;
+};
+
+// What the dialog shows its derived classes.
+class OpenDiagrammi : public CDialogDiagrammi {
+  public:
+    using CDialogDiagrammi::_bStaticCursor;
+    using CDialogDiagrammi::GetTrave;
+    using CDialogDiagrammi::IsRisultati;
+    using CDialogDiagrammi::OnSetCursor;
+};
+
+class Diagrammi : public DialogTest {
+  protected:
+    Diagrammi() {
+        for (int id : {7, 9}) {
+            host.doc.travi.push_back(std::make_unique<RecordingTrave>(host.journal, id));
+            beams.push_back(host.doc.travi.back().get());
+        }
+        host.doc.analisi.m_bRisultatiValidi = 1;
+    }
+    ~Diagrammi() override {
+        platform::popupMenuHook = nullptr;
+        dialog.DestroyWindow();
+    }
+
+    // Opens with the first beam selected.
+    void Open() {
+        host.doc.selected.AddTail(beams[0]);
+        host.Open(dialog);
+        Painted();
+    }
+    // What was drawn until everything is painted.
+    Lines Painted() {
+        CWinApp::PumpMessages();
+        return host.Take();
+    }
+    std::string Caption() { return DialogDriver(dialog).Caption(); }
+    std::string Flags() {
+        std::string flags;
+        for (const int flag : {dialog.GetN(), dialog.GetV2(), dialog.GetV3(), dialog.GetT(), dialog.GetM2(),
+                               dialog.GetM3(), dialog.GetNA(), dialog.GetM2W2(), dialog.GetM3W3()})
+            flags += std::to_string(flag);
+        return flags;
+    }
+    static std::string Call(int beam, const std::string& flags, const std::string& rest = "0 0 0") {
+        std::string line = "Disegna " + std::to_string(beam) + " 1302";
+        for (const char flag : flags)
+            line += std::string(" ") + flag;
+        return line + " " + rest;
+    }
+    // The right button's menu: its texts with a star where checked; then the user picks the command.
+    Lines Menu(UINT choose = 0) {
+        Lines shown;
+        platform::popupMenuHook = [&](CMenu& menu, CWnd* window) {
+            EXPECT_EQ(window, &dialog);
+            for (UINT i = 0; i < menu.GetMenuItemCount(); ++i) {
+                CString text;
+                menu.GetMenuString(i, text, MF_BYPOSITION);
+                shown.push_back((menu.GetMenuState(i, MF_BYPOSITION) & MF_CHECKED ? "*" : "") + text.ToUtf8());
+            }
+            return choose;
+        };
+        DialogDriver(dialog).RightClick(areaId);
+        return shown;
+    }
+    void Command(UINT command) { dialog.SendMessage(WM_COMMAND, command); }
+    void MoveTo(int x, int y) { dialog.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
+    COLORREF Pixel(int x, int y) { return CClientDC(dialog.GetDlgItem(areaId)).GetPixel(x, y); }
+
+    std::vector<CTrave*> beams;
+    OpenDiagrammi dialog;
+};
+
+TEST_F(Diagrammi, CaptionSaysWhatIsShown) {
+    host.Open(dialog);
+    EXPECT_EQ(Painted(), Lines{});
+    EXPECT_EQ(Caption(), "Ponte : Diagramma - (Nessuna trave selezionata)");
+    EXPECT_EQ(Pixel(100, 60), white);
+    // The selection is spoken of before the results.
+    host.doc.analisi.m_bRisultatiValidi = 0;
+    dialog.Update(nullptr, 0, nullptr);
+    Painted();
+    EXPECT_EQ(Caption(), "Ponte : Diagramma - (Nessuna trave selezionata)");
+    host.doc.selected.AddTail(beams[1]);
+    host.doc.selected.AddTail(beams[0]);
+    dialog.Update(nullptr, 0, nullptr);
+    EXPECT_EQ(Painted(), Lines{});
+    EXPECT_EQ(Caption(), "Ponte : Diagramma - (I risultati non sono validi)");
+    host.doc.analisi.m_bRisultatiValidi = 1;
+    dialog.Update(nullptr, 0, nullptr);
+    EXPECT_EQ(Painted(), Lines{Call(9, "000000000")}) << "the first of several, and without any diagram too";
+    EXPECT_EQ(Caption(), "Ponte : Diagramma - Trave 9");
+    EXPECT_EQ(Pixel(100, 60), white);
+    EXPECT_EQ(Pixel(11, 11), RGB(255, 0, 0)) << "what the beam drew is kept";
+}
+
+TEST_F(Diagrammi, EveryChangeOfTheDocumentRefreshes) {
+    Open();
+    for (const long hint : {0L, 5L, 42L, 62L, 97L, 0x700009L}) {
+        host.doc.UpdateAllViews(nullptr, hint);
+        const Lines lines = Painted();
+        ASSERT_EQ(lines.size(), 2u) << hint;
+        EXPECT_EQ(lines[1], Call(7, "000000000")) << hint;
+    }
+    host.doc.selected.RemoveAll();
+    host.doc.UpdateAllViews(nullptr, 62);
+    Painted();
+    EXPECT_EQ(dialog.GetTrave(), nullptr);
+    EXPECT_EQ(Pixel(11, 11), white) << "cleared before anything is drawn";
+    EXPECT_EQ(Painted(), Lines{}) << "painting must not ask for painting again";
+}
+
+TEST_F(Diagrammi, AreaFollowsTheWindow) {
+    Open();
+    const CWnd& area = *dialog.GetDlgItem(areaId);
+    for (const CSize size : {CSize(500, 300), CSize(260, 180)}) {
+        dialog.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOMOVE);
+        EXPECT_EQ(Painted(), Lines{Call(7, "000000000")});
+        CRect client, rect;
+        dialog.GetClientRect(client);
+        area.GetWindowRect(rect);
+        dialog.ScreenToClient(rect);
+        EXPECT_EQ(rect, CRect(CPoint(2, 3), CSize(client.Width() - 3, client.Height() - 3)));
+    }
+}
+
+// A crossed kind, flag or argument: each of the nine is on alone once.
+TEST_F(Diagrammi, MenuTogglesEachDiagram) {
+    Open();
+    for (int i = 0; i < 9; ++i) {
+        std::string flags(9, '0');
+        flags[static_cast<std::size_t>(i)] = '1';
+        Lines expected;
+        for (const Item& item : items)
+            expected.push_back(item.text);
+        expected.insert(expected.end(), {"", "Visualizza Valori rif. loc.", "", "Cattura &Immagine"});
+        EXPECT_EQ(Menu(items[i].command), expected);
+        EXPECT_EQ(Painted(), Lines{Call(7, flags)});
+        EXPECT_EQ(Flags(), flags);
+        expected[static_cast<std::size_t>(i)].insert(0, "*");
+        EXPECT_EQ(Menu(items[i].command), expected);
+        EXPECT_EQ(Painted(), Lines{Call(7, "000000000")});
+    }
+    Menu(0);
+    EXPECT_EQ(Painted(), Lines{}) << "a menu left without a choice";
+    dialog.GetT() = 5; // anything but 0 is on
+    Command(33113);
+    EXPECT_EQ(Flags(), "000000000");
+    EXPECT_FALSE(host.View().GetTraveSettings().IsRisultato(45)) << "the view's settings are not written";
+}
+
+TEST_F(Diagrammi, FlagsComeFromTheViewAndFromTheHost) {
+    for (const Item& item : items) {
+        std::string flags(9, '0');
+        flags[static_cast<std::size_t>(&item - items)] = '1';
+        host.View().GetTraveSettings().SetRisultato(item.kind, 1);
+        OpenDiagrammi other;
+        host.Open(other);
+        EXPECT_EQ(std::to_string(other.GetN()) + std::to_string(other.GetM2()),
+                  std::to_string(item.kind == 42) + std::to_string(item.kind == 32));
+        other.DestroyWindow();
+        host.View().GetTraveSettings().SetRisultato(item.kind, 0);
+        dialog.AggiornaRisultato(item.kind, 1);
+        EXPECT_EQ(Flags(), flags) << item.text;
+        dialog.AggiornaRisultato(item.kind, 0);
+        EXPECT_EQ(Flags(), "000000000") << item.text;
+    }
+    Open();
+    dialog.AggiornaRisultato(47, 1);
+    EXPECT_EQ(Painted(), Lines{Call(7, "000000100")});
+    dialog.AggiornaRisultato(50, 1);
+    EXPECT_EQ(Painted(), Lines{Call(7, "000000100")}) << "no flag, but drawn anew";
+}
+
+TEST_F(Diagrammi, AnotherViewBringsItsFlags) {
+    Open();
+    RecordingView& second = host.AddView();
+    second.GetTraveSettings().SetRisultato(CElementoSettings::M3, 1);
+    second.GetTraveSettings().SetRisultato(CElementoSettings::V2, 1);
+    Command(33110);
+    Painted();
+    dialog.Create(&host.View()); // the view that it has
+    EXPECT_EQ(Flags(), "100000000");
+    EXPECT_EQ(Painted(), Lines{});
+    host.CloseView(host.View());
+    EXPECT_EQ(Flags(), "100000000");
+    dialog.AggiornaVista(&second);
+    EXPECT_EQ(Flags(), "010001000");
+    EXPECT_EQ(Painted().back(), Call(7, "010001000"));
+    second.tool = &dialog;
+}
+
+TEST_F(Diagrammi, ReadingFollowsThePointer) {
+    Open();
+    Command(33114);
+    Painted();
+    MoveTo(50, 40);
+    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(Menu(33117)[10], "Visualizza Valori rif. loc.");
+    EXPECT_TRUE(dialog.IsRisultati());
+    EXPECT_EQ(Painted(), Lines{}) << "switching it on does not paint";
+    MoveTo(50, 40);
+    EXPECT_EQ(host.Take(), Lines{Call(7, "000010000", "1 50 40")}) << "the dialog's own coordinates";
+    MoveTo(0, 1); // beside the area
+    EXPECT_EQ(host.Take(), Lines{Call(7, "000010000", "1 0 1")});
+    host.doc.analisi.m_bRisultatiValidi = 0;
+    MoveTo(51, 40);
+    EXPECT_EQ(host.Take().size(), 1u) << "validity is not asked for";
+    EXPECT_EQ(Menu(33117)[10], "*Visualizza Valori rif. loc.");
+    MoveTo(52, 40);
+    EXPECT_EQ(host.Take(), Lines{});
+    Command(33117);
+    host.doc.selected.RemoveAll();
+    dialog.Update(nullptr, 0, nullptr);
+    Painted();
+    MoveTo(52, 40);
+    EXPECT_EQ(host.Take(), Lines{}) << "no beam is held";
+}
+
+TEST_F(Diagrammi, CrossOverTheAreaOnly) {
+    Open();
+    OpenDiagrammi::_bStaticCursor = 0;
+    MoveTo(0, 1);
+    EXPECT_EQ(OpenDiagrammi::_bStaticCursor, 0);
+    MoveTo(50, 40);
+    EXPECT_EQ(OpenDiagrammi::_bStaticCursor, 1);
+    EXPECT_TRUE(dialog.OnSetCursor(&dialog, HTCLIENT, WM_MOUSEMOVE)) << "the cross stays once";
+    EXPECT_EQ(OpenDiagrammi::_bStaticCursor, 0);
+    EXPECT_FALSE(dialog.OnSetCursor(&dialog, HTCLIENT, WM_MOUSEMOVE));
+}
+
+TEST_F(Diagrammi, CaptureAsksTheView) {
+    Open();
+    CRect rect;
+    dialog.GetDlgItem(areaId)->GetWindowRect(rect);
+    Menu(33119);
+    Journal expected;
+    expected.Add("SetRectImmagine", rect.left, rect.top, rect.right, rect.bottom);
+    expected.Add("CatturaImmagine");
+    EXPECT_EQ(host.Take(), expected.Lines());
+    host.AddView();
+    host.CloseView(host.View());
+    Command(33119);
+    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_STREQ(dialog.GetRuntimeClass()->m_lpszClassName, "CDialogDocument");
+}
+
+} // namespace
