@@ -55,28 +55,6 @@ class LoadCommandsTest : public WorkspaceTest {
         });
     }
 
-    // One step, named, whose undo and redo give both states back bit for bit; twice, because a first undo may leave
-    // damage behind.
-    void ExpectOneStep(const char* name, const std::function<void()>& command) {
-        SCOPED_TRACE(name);
-        HostUndo& undo = Document().Undo();
-        const std::string before = State();
-        const std::size_t steps = undo.UndoCount();
-        command();
-        ASSERT_EQ(undo.UndoCount(), steps + 1);
-        EXPECT_EQ(undo.UndoName().ToUtf8(), name);
-        const std::string after = State();
-        EXPECT_NE(before, after);
-        for (int round = 0; round < 2; ++round) {
-            workspace->Undo();
-            CWinApp::PumpMessages();
-            EXPECT_EQ(State(), before);
-            workspace->Redo();
-            CWinApp::PumpMessages();
-            EXPECT_EQ(State(), after);
-        }
-    }
-    std::string State() { return Dump(Document().Data()); }
     QComboBox& CaseBox() { return *workspace->Window().findChild<QComboBox*>("carico"); }
     int CurrentCase() { return Document().Data().CurrentCase(); }
 };

@@ -9,6 +9,7 @@
 #include "model/Solaio.h"
 #include "model/Trave.h"
 #include "platform/Application.h"
+#include "tests/host/Dump.h"
 #include "tests/support/DialogTest.h"
 
 #include <QAction>
@@ -108,4 +109,28 @@ CDialogDocument* WorkspaceTest::OpenLinear() {
     CDialogDocument* dialog = workspace->ToolOf(View());
     EXPECT_TRUE(dialog) << "the dialog does not open";
     return dialog;
+}
+
+std::string WorkspaceTest::State() {
+    return Dump(Document().Data());
+}
+
+void WorkspaceTest::ExpectOneStep(const char* name, const std::function<void()>& command) {
+    SCOPED_TRACE(name);
+    HostUndo& undo = Document().Undo();
+    const std::string before = State();
+    const std::size_t steps = undo.UndoCount();
+    command();
+    ASSERT_EQ(undo.UndoCount(), steps + 1);
+    EXPECT_EQ(undo.UndoName().ToUtf8(), name);
+    const std::string after = State();
+    EXPECT_NE(before, after);
+    for (int round = 0; round < 2; ++round) {
+        workspace->Undo();
+        CWinApp::PumpMessages();
+        EXPECT_EQ(State(), before);
+        workspace->Redo();
+        CWinApp::PumpMessages();
+        EXPECT_EQ(State(), after);
+    }
 }

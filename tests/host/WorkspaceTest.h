@@ -10,6 +10,9 @@
 
 #include <QPoint>
 
+#include <functional>
+#include <string>
+
 class CDialogDocument;
 class CNodo;
 class HostDocument;
@@ -34,6 +37,12 @@ class WorkspaceTest : public testing::Test {
 
     // The linear generation, opened from the menu.
     CDialogDocument* OpenLinear();
+
+    // The document as text; see Dump.
+    std::string State();
+    // One step, named, whose undo and redo give both states back bit for bit; twice, because a first undo may leave
+    // damage behind.
+    void ExpectOneStep(const char* name, const std::function<void()>& command);
 
     UserScript user;
     std::unique_ptr<Workspace> workspace;

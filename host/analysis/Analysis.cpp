@@ -1,0 +1,174 @@
+#include "host/analysis/Analysis.h"
+
+#include "host/analysis/FrameSystem.h"
+#include "host/analysis/Refusal.h"
+#include "model/CasoCarico.h"
+#include "model/Combinazione.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+Vector12 endMotions(const Member& member, const Eigen::VectorXd& all) {
+    Vector12 global;
+    global << all.segment<6>(6 * member.nodes[0]), all.segment<6>(6 * member.nodes[1]);
+    return member.ToLocal(global);
+}
+
+// One load case: from its loads to displacements, end forces and reactions.
+class CaseAnalysis {
+  public:
+    CaseAnalysis(const FrameModel& model, const FrameSystem& system, CaseLoads loads)
+        : m_model(model), m_system(system), m_loads(std::move(loads)) {}
+
+    CaseResults Run(int id) {
+        FixEnds();
+        const bool settles = !m_loads.displacements.isZero(0);
+        // What the held ends, moved where they must be, hand over to the nodes.
+        Eigen::VectorXd forces = m_loads.nodal - EndForces(settles ? &m_loads.displacements : nullptr);
+        if (settles)
+            forces += m_system.SpringForces(m_loads.displacements);
+        const Eigen::VectorXd displacements = m_system.Solve(forces, m_loads.displacements);
+        if (!displacements.allFinite())
+            throw Refusal("I risultati del caso di carico n.ro %d non sono numeri finiti.", id);
+        CaseResults results;
+        results.id = id;
+        React(results, displacements);
+        for (std::size_t i = 0; i < m_model.members.size(); ++i) {
+            double ends[12];
+            Eigen::Map<Vector12>(ends, 12) = m_ends[i];
+            m_loads.lines[i].SetForzeEstremi(ends);
+        }
+        results.lines = std::move(m_loads.lines);
+        results.displacements.resize(m_model.nodes.size());
+        for (std::size_t i = 0; i < m_model.nodes.size(); ++i)
+            std::copy_n(displacements.data() + 6 * i, 6, results.displacements[i].begin());
+        return results;
+    }
+
+  private:
+    void FixEnds() {
+        m_ends.resize(m_model.members.size());
+        for (std::size_t i = 0; i < m_ends.size(); ++i) {
+            const auto thermal = m_loads.thermal.find(static_cast<int>(i));
+            m_ends[i] = FixedEndForces(m_model.members[i], m_loads.lines[i],
+                                       thermal == m_loads.thermal.end() ? ThermalStrain() : thermal->second);
+        }
+    }
+
+    // The sum of the members' end forces at each node; with `motions`, of members whose ends have moved.
+    Eigen::VectorXd EndForces(const Eigen::VectorXd* motions) const {
+        Eigen::VectorXd sum = Eigen::VectorXd::Zero(m_loads.nodal.size());
+        for (std::size_t i = 0; i < m_ends.size(); ++i) {
+            const Member& member = m_model.members[i];
+            Vector12 ends = m_ends[i];
+            if (motions) {
+                const Vector12 moved = endMotions(member, *motions);
+                if (!moved.isZero(0))
+                    ends += Stiffness(member) * moved;
+            } else if (ends.isZero(0)) {
+                continue;
+            }
+            const Vector12 global = member.ToGlobal(ends);
+            sum.segment<6>(6 * member.nodes[0]) += global.head<6>();
+            sum.segment<6>(6 * member.nodes[1]) += global.tail<6>();
+        }
+        return sum;
+    }
+
+    // Completes the end forces; what the members then lack of equilibrium at a support is its reaction.
+    void React(CaseResults& results, const Eigen::VectorXd& displacements) {
+        for (std::size_t i = 0; i < m_ends.size(); ++i)
+            m_ends[i] += Stiffness(m_model.members[i]) * endMotions(m_model.members[i], displacements);
+        const Eigen::VectorXd needed = EndForces(nullptr) - m_loads.nodal;
+        const Eigen::VectorXd springs = m_system.SpringForces(displacements);
+        std::vector<bool> sprung(m_model.nodes.size());
+        for (const GroundSpring& spring : m_model.springs)
+            sprung[static_cast<std::size_t>(spring.node)] = true;
+        for (std::size_t i = 0; i < m_model.nodes.size(); ++i) {
+            if (!m_model.fixed[i] && !sprung[i])
+                continue;
+            CaseResults::Reaction reaction{static_cast<int>(i), {}};
+            for (int j = 0; j < 6; ++j) {
+                const auto place = static_cast<Eigen::Index>(6 * i) + j;
+                const double value = m_model.fixed[i] >> j & 1 ? needed(place) : springs(place);
+                reaction.values[static_cast<std::size_t>(j)] = value + 0.0;
+            }
+            results.reactions.push_back(reaction);
+        }
+    }
+
+    const FrameModel& m_model;
+    const FrameSystem& m_system;
+    CaseLoads m_loads;
+    std::vector<Vector12> m_ends; // forces on the members' ends, local
+};
+
+} // namespace
+
+unsigned AnalysisSteps(const DocumentData& data) {
+    return 3 + static_cast<unsigned>(data.Size(Kind::LoadCase));
+}
+
+AnalysisOutcome Analyse(DocumentData& data, const std::function<void()>& step) {
+    const auto advance = [&step] {
+        if (step)
+            step();
+    };
+    AnalysisOutcome outcome;
+    try {
+        FrameModel model = ReadFrame(data);
+        advance();
+        FrameSystem system(model);
+        advance();
+        system.Factor();
+        advance();
+        const LoadTable table(model);
+        for (int i = 0; i < data.Size(Kind::LoadCase); ++i) {
+            auto& loadCase = *data.As<CCasoCarico>(Kind::LoadCase, i);
+            CaseLoads loads = table.Gather(model, loadCase);
+            outcome.cases.push_back(CaseAnalysis(model, system, std::move(loads)).Run(loadCase.GetID()));
+            advance();
+        }
+        outcome.leftOut = std::move(model.leftOut);
+        outcome.done = true;
+    } catch (const Refusal& refusal) {
+        outcome.cases.clear();
+        outcome.message = refusal.message;
+    }
+    return outcome;
+}
+
+CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& cases) {
+    CaseResults sum;
+    sum.id = combination.GetID();
+    for (const CaseResults& each : cases) {
+        double factor = 0;
+        if (sum.lines.empty()) {
+            sum.displacements.resize(each.displacements.size());
+            sum.lines.resize(each.lines.size());
+            for (std::size_t i = 0; i < sum.lines.size(); ++i) {
+                sum.lines[i].SetID(each.lines[i].GetID());
+                sum.lines[i].SetLunghezzaLinea(each.lines[i].GetLunghezzaLinea());
+            }
+            sum.reactions = each.reactions;
+            for (CaseResults::Reaction& reaction : sum.reactions)
+                reaction.values = {};
+        }
+        if (!combination.GetFattoreCDC(combination.GetIndexCDC(each.id), factor))
+            continue;
+        for (std::size_t i = 0; i < sum.displacements.size(); ++i)
+            for (std::size_t j = 0; j < 6; ++j)
+                sum.displacements[i][j] += factor * each.displacements[i][j];
+        for (std::size_t i = 0; i < sum.lines.size(); ++i)
+            sum.lines[i].Somma(each.lines[i], factor);
+        for (std::size_t i = 0; i < sum.reactions.size(); ++i)
+            for (std::size_t j = 0; j < 6; ++j)
+                sum.reactions[i].values[j] += factor * each.reactions[i].values[j];
+    }
+    return sum;
+}
+
+} // namespace host

@@ -1,0 +1,44 @@
+// Linear static analysis of space frames: beams and truss members on restraints and springs.
+#pragma once
+
+#include "host/document/DocumentData.h"
+#include "model/LineaRisultati.h"
+
+#include <array>
+#include <functional>
+#include <vector>
+
+class CCombinazione;
+
+namespace host {
+
+// Everything in the document's units and, but for the lines, in global axes.
+struct CaseResults {
+    struct Reaction {
+        int node;                     // index in the document
+        std::array<double, 6> values; // forces and moments that the supports, springs included, act with on the node
+    };
+
+    int id = 0;                                       // of the load case or combination
+    std::vector<std::array<double, 6>> displacements; // by node, in document order; radians for the last three
+    std::vector<CTraveRisultati> lines;               // beams, then truss members, in document order
+    std::vector<Reaction> reactions;                  // of the nodes with a restraint or a spring
+};
+
+struct AnalysisOutcome {
+    bool done = false;
+    CString message;                // why it is not done, Italian; empty when it is
+    std::vector<CString> leftOut;   // what was not considered, one Italian sentence each
+    std::vector<CaseResults> cases; // one for each load case, in document order
+};
+
+// How often Analyse calls its step.
+unsigned AnalysisSteps(const DocumentData& data);
+
+// Analyses every load case; changes nothing in the document. `step`, unless empty, is called as the work goes on.
+AnalysisOutcome Analyse(DocumentData& data, const std::function<void()>& step = {});
+
+// The sum of the combination's cases times their factors. A case without results counts as 0.
+CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& cases);
+
+} // namespace host

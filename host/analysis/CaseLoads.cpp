@@ -1,0 +1,207 @@
+// Loads of a case: from the elements that carry them to numbers in the members' axes.
+#include "host/analysis/FrameModel.h"
+
+#include "host/analysis/Refusal.h"
+#include "model/CasoCarico.h"
+#include "model/Materiale.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+Eigen::Vector3d localVector(const Member& member, CCarico& load, const CFPoint& vector) {
+    const Eigen::Vector3d given(vector.x, vector.y, vector.z);
+    return load.GetRiferimento() == CCarico::Locale ? given : Eigen::Vector3d(member.axes * given);
+}
+
+void copy(const Eigen::Vector3d& from, double (&to)[3]) {
+    for (int i = 0; i < 3; ++i)
+        to[i] = from(i) + 0.0; // no negative zeros
+}
+
+void addUniform(CTraveRisultati& line, const Member& member, const Eigen::Vector3d& local) {
+    if (local.isZero(0))
+        return;
+    CTraveRisultati::Ripartito load;
+    load.a = member.length;
+    copy(local, load.inizio);
+    copy(local, load.fine);
+    line.AddCarico(load);
+}
+
+// Each axis of the load has a stretch of its own; what lies beyond the member's end is cut off there.
+void addTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoidale& load) {
+    for (int axis = 0; axis < 3; ++axis) {
+        const auto& part = load.GetTratto(axis);
+        const double from = std::max(part.da, 0.0), to = std::min(part.a, member.length);
+        if (!(to > from) || (part.inizio == 0 && part.fine == 0))
+            continue;
+        const double slope = (part.fine - part.inizio) / (part.a - part.da);
+        CFPoint direction;
+        (axis == 0 ? direction.x : axis == 1 ? direction.y : direction.z) = 1;
+        const Eigen::Vector3d along = localVector(member, load, direction);
+        CTraveRisultati::Ripartito stretch;
+        stretch.da = from;
+        stretch.a = to;
+        // The last value as it was given, unless it was cut: a triangle ends at exactly 0.
+        const double last = to == part.a ? part.fine : part.inizio + slope * (to - part.da);
+        copy(along * (part.inizio + slope * (from - part.da)), stretch.inizio);
+        copy(along * last, stretch.fine);
+        line.AddCarico(stretch);
+    }
+}
+
+void addConcentrated(CTraveRisultati& line, const Member& member, CCaricoConcentrato& load) {
+    CTraveRisultati::Concentrato point;
+    point.x = std::clamp(load.GetDistanza(), 0.0, member.length);
+    copy(localVector(member, load, load.GetVettoreForza()), point.forza);
+    copy(localVector(member, load, load.GetVettoreMomento()), point.momento);
+    line.AddCarico(point);
+}
+
+ThermalStrain strainOf(CCaricoTemperatura& load, const Member& member) {
+    const double alpha = load.GetAlfa() != 0 ? load.GetAlfa() : member.line->GetMateriale()->GetAlfa();
+    return {alpha * load.GetTemperatura(), alpha * load.GetGradiente2(), alpha * load.GetGradiente3()};
+}
+
+class Gatherer {
+  public:
+    Gatherer(FrameModel& model, CaseLoads& loads) : m_model(model), m_loads(loads) {
+        const auto size = static_cast<Eigen::Index>(6 * model.nodes.size());
+        loads.nodal = loads.displacements = Eigen::VectorXd::Zero(size);
+        loads.lines.resize(model.members.size());
+        for (std::size_t i = 0; i < model.members.size(); ++i) {
+            loads.lines[i].SetID(model.members[i].line->GetID());
+            loads.lines[i].SetLunghezzaLinea(model.members[i].length);
+        }
+    }
+
+    void Weight(const CFPoint& acceleration) {
+        const Eigen::Vector3d global(acceleration.x, acceleration.y, acceleration.z);
+        for (std::size_t i = 0; i < m_model.members.size(); ++i) {
+            const Member& member = m_model.members[i];
+            addUniform(m_loads.lines[i], member, member.axes * global * member.mass);
+        }
+    }
+
+    void OnMember(int index, CCarico& load) {
+        const Member& member = m_model.members[static_cast<std::size_t>(index)];
+        CTraveRisultati& line = m_loads.lines[static_cast<std::size_t>(index)];
+        switch (load.GetTipoElemento()) {
+        case TipoElemento::CaricoUniforme:
+            addUniform(line, member, localVector(member, load, static_cast<CCaricoUniforme&>(load).GetCarico()));
+            break;
+        case TipoElemento::CaricoTrapezoidale:
+            addTrapezoidal(line, member, static_cast<CCaricoTrapezoidale&>(load));
+            break;
+        case TipoElemento::CaricoConcentrato:
+            addConcentrated(line, member, static_cast<CCaricoConcentrato&>(load));
+            break;
+        case TipoElemento::CaricoTemperatura: {
+            const ThermalStrain strain = strainOf(static_cast<CCaricoTemperatura&>(load), member);
+            ThermalStrain& sum = m_loads.thermal[index];
+            sum.axial += strain.axial;
+            sum.curvature2 += strain.curvature2;
+            sum.curvature3 += strain.curvature3;
+            break;
+        }
+        default:
+            LeaveOut("Un carico di tipo non previsto sull'elemento n.ro %d non è considerato."_t, member.line->GetID());
+        }
+    }
+
+    void OnNode(int index, CCarico& load) {
+        if (load.GetTipoElemento() == TipoElemento::CaricoNodale) {
+            auto& nodal = static_cast<CCaricoNodale&>(load);
+            Force(index, {nodal.GetVettoreForza(), nodal.GetVettoreMomento()});
+        } else if (load.GetTipoElemento() == TipoElemento::CaricoSpostamento) {
+            auto& moved = static_cast<CCaricoSpostamento&>(load);
+            Displacement(index, {moved.GetSpostamento(), moved.GetRotazione()});
+        } else {
+            LeaveOut("Un carico di tipo non previsto sul nodo n.ro %d non è considerato."_t, IdOf(index));
+        }
+    }
+
+  private:
+    using Pair = std::pair<CFPoint, CFPoint>;
+
+    static double Component(const Pair& pair, int i) {
+        const CFPoint& half = i < 3 ? pair.first : pair.second;
+        return i % 3 == 0 ? half.x : i % 3 == 1 ? half.y : half.z;
+    }
+    int IdOf(int node) const { return m_model.nodes[static_cast<std::size_t>(node)]->GetID(); }
+    bool IsFixed(int node, int i) const { return m_model.fixed[static_cast<std::size_t>(node)] >> i & 1; }
+
+    void LeaveOut(const CString& format, int id) {
+        CString text;
+        text.Format(format, id);
+        if (std::find(m_model.leftOut.begin(), m_model.leftOut.end(), text) == m_model.leftOut.end())
+            m_model.leftOut.push_back(text);
+    }
+
+    void Force(int node, const Pair& values) {
+        for (int i = 0; i < 6; ++i) {
+            const double value = Component(values, i);
+            if (value != 0 && !m_model.active[static_cast<std::size_t>(node)] && !IsFixed(node, i))
+                LeaveOut("Il nodo n.ro %d non appartiene a travi o aste: i suoi carichi non sono considerati.",
+                         IdOf(node));
+            else
+                m_loads.nodal(6 * node + i) += value;
+        }
+    }
+
+    void Displacement(int node, const Pair& values) {
+        for (int i = 0; i < 6; ++i) {
+            const double value = Component(values, i);
+            if (IsFixed(node, i))
+                m_loads.displacements(6 * node + i) += value;
+            else if (value != 0)
+                LeaveOut("Uno spostamento imposto al nodo n.ro %d, non vincolato in quella direzione, non è "
+                         "considerato."_t,
+                         IdOf(node));
+        }
+    }
+
+    FrameModel& m_model;
+    CaseLoads& m_loads;
+};
+
+} // namespace
+
+LoadTable::LoadTable(const FrameModel& model) {
+    const auto enter = [this](CElementoCarico& carrier, int index, bool node) {
+        for (int i = 0; i < carrier.GetSizeCarichi(); ++i) {
+            CCarico* load = carrier.GetIndexCarico(i);
+            if (!load)
+                continue;
+            References& its = m_byCase[carrier.GetIndexIDCasoCarico(i)];
+            (node ? its.onNodes : its.onMembers).push_back({index, load});
+        }
+    };
+    for (std::size_t i = 0; i < model.members.size(); ++i)
+        enter(*model.members[i].line, static_cast<int>(i), false);
+    for (std::size_t i = 0; i < model.nodes.size(); ++i)
+        enter(*model.nodes[i], static_cast<int>(i), true);
+}
+
+CaseLoads LoadTable::Gather(FrameModel& model, CCasoCarico& loadCase) const {
+    CaseLoads loads;
+    Gatherer gatherer(model, loads);
+    for (int i = 0; i < loadCase.GetSizeCarichi(); ++i) {
+        CCarico* load = loadCase.GetIndexCarico(i);
+        if (load->GetTipoElemento() == TipoElemento::CaricoPesoProprio)
+            gatherer.Weight(static_cast<CCaricoPesoProprio*>(load)->GetAccelerazione());
+    }
+    const auto found = m_byCase.find(loadCase.GetID());
+    if (found == m_byCase.end())
+        return loads;
+    for (const Reference& each : found->second.onMembers)
+        gatherer.OnMember(each.index, *each.load);
+    for (const Reference& each : found->second.onNodes)
+        gatherer.OnNode(each.index, *each.load);
+    return loads;
+}
+
+} // namespace host

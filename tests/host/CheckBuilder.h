@@ -1,0 +1,63 @@
+// A model to check: a sound cantilever that a test completes, with the application's own commands.
+#pragma once
+
+#include "host/document/HostDocument.h"
+#include "host/ui/Assign.h"
+#include "model/Materiale.h"
+#include "model/Molla.h"
+#include "model/Sezione.h"
+#include "model/Spessore.h"
+#include "model/Trave.h"
+
+#include <initializer_list>
+
+class CheckBuilder {
+  public:
+    explicit CheckBuilder(HostDocument& document) : document(document) {
+        auto material = std::make_unique<CMateriale>();
+        material->SetNome("Calcestruzzo");
+        this->material = document.AddNew(std::move(material));
+        section = document.AddNew(std::make_unique<CSezione>());
+        thickness = document.AddNew(std::make_unique<CSpessore>());
+        // Fixed at one end: sound, whatever else hangs on its free end.
+        Fix(*Node(0, 0, 0), CVincolo::Tutti);
+        Node(3, 0, 0);
+        Beam(1, 2);
+    }
+
+    // Also where one lies already.
+    CNodo* Node(double x, double y, double z) {
+        CFPoint place(x, y, z);
+        return document.AddNodo(place, nullptr, 0);
+    }
+    void Fix(CNodo& node, unsigned mask) {
+        Select(node);
+        AssignRestraint(document, CVincolo(mask));
+    }
+    void Spring(CNodo& node, int kind, double stiffness, CFPoint direction) {
+        Select(node);
+        const CMolla spring(kind, stiffness, direction);
+        AssignSpring(document, &spring, true);
+    }
+    void Release(CTrave& beam, std::initializer_list<int> ends) {
+        EndReleases releases;
+        for (const int end : ends)
+            releases.released[end][CSpecificheSvincoliTrave::M3] = true;
+        Select(beam);
+        AssignReleases(document, releases);
+    }
+    CTrave* Beam(int a, int b) { return document.AddTrave(a, b, nullptr); }
+    void Truss(int a, int b) { document.AddAsta(a, b, nullptr); }
+    CNodo& At(int number) { return *document.Data().CercaNodo(number); }
+
+    HostDocument& document;
+    CMateriale* material;
+    CSezione* section;
+    CSpessore* thickness;
+
+  private:
+    void Select(CElemento& element) {
+        document.Selection().Clear();
+        document.Selection().Add(&element);
+    }
+};

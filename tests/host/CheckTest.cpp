@@ -1,0 +1,314 @@
+// The model check in the application: every message from a model that earns it, the windows
+// of the menu, and the check without windows.
+#include "dialogs/check/DialogCheck.h"
+#include "dialogs/check/DialogStrutture.h"
+#include "dialogs/frame/QuovarGlobal.h"
+#include "host/files/ProjectFile.h"
+#include "host/ui/CheckCommands.h"
+#include "host/ui/MainWindow.h"
+#include "platform/Application.h"
+#include "tests/host/CheckBuilder.h"
+#include "tests/host/WorkspaceTest.h"
+#include "tests/support/TestApp.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+using Rows = std::vector<std::string>;
+
+const char* const closing = "--- Fine Messaggi ---";
+const Rows sound = {"--- Check Modello --- ", "", "", closing};
+
+int CountOf(const Rows& rows, const std::string& message) {
+    return static_cast<int>(std::count(rows.begin(), rows.end(), message));
+}
+
+struct Case {
+    const char* message;
+    // Completes the sound cantilever; `faulty` makes the model that earns the message.
+    void (*build)(CheckBuilder& model, bool faulty);
+    int times = 1;
+};
+
+const Case structureCases[] = {
+    {"ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!",
+     [](CheckBuilder& m, bool faulty) {
+         m.Fix(*m.Node(0, 5, 0), CVincolo::Tutti);
+         m.Node(3, 5, 0);
+         m.Beam(3, 4);
+         if (!faulty)
+             m.Beam(2, 4);
+     }},
+    {"Attenzione nella Struttura n.ro 1 tutti i nodi sono incastrati, impossibile risolverla!",
+     [](CheckBuilder& m, bool faulty) {
+         if (faulty)
+             m.Fix(m.At(2), CVincolo::Tutti);
+     }},
+    {"Attenzione la Struttura n.ro 1, è labile",
+     [](CheckBuilder& m, bool faulty) {
+         m.Fix(m.At(1), CVincolo::Tx | CVincolo::Ty | CVincolo::Tz);
+         // Springs without stiffness hold nothing.
+         m.Spring(m.At(1), CMolla::Rotazionale, faulty ? 0 : 100, {1, 1, 0});
+         m.Spring(m.At(1), CMolla::Rotazionale, 100, {0, 0, 1});
+     }},
+    {"Attenzione la Struttura n.ro 1, è labile",
+     [](CheckBuilder& m, bool faulty) {
+         m.Fix(m.At(1), CVincolo::Tutti & ~CVincolo::Tz);
+         m.Spring(m.At(2), faulty ? CMolla::Rotazionale : CMolla::Traslazionale, 10, {0, 0, -1});
+     }},
+    {"La Trave n.ro 1, è labile.",
+     [](CheckBuilder& m, bool faulty) {
+         faulty ? m.Release(*m.document.GetIndexTrave(0), {0, 1}) : m.Release(*m.document.GetIndexTrave(0), {1});
+     }},
+    {"La biella n.ro 1, è labile.",
+     [](CheckBuilder& m, bool faulty) {
+         CNodo* node = m.Node(6, 0, 1);
+         m.Truss(2, 3);
+         if (!faulty)
+             m.Fix(*node, CVincolo::Rx | CVincolo::Ry | CVincolo::Rz);
+     }},
+    {"La membrana n.ro 1, è labile.",
+     [](CheckBuilder& m, bool faulty) {
+         CNodo* corners[] = {m.Node(3, 3, 0), m.Node(0, 3, 0)};
+         m.document.AddSolaio({1, 2, 3, 4});
+         for (CNodo* node : corners)
+             if (!faulty)
+                 m.Fix(*node, CVincolo::Rx | CVincolo::Ry | CVincolo::Rz);
+     },
+     2},
+};
+
+const Case elementCases[] = {
+    {"CNodo n.ro 3 Il nodo non appartiene a nessun elemento.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(6, 0, 0);
+         if (!faulty)
+             m.Beam(2, 3);
+     }},
+    {"CNodo n.ro 3 Il nodo coincide con il nodo n.ro 2.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(3, 0, faulty ? 0 : 1);
+         m.Beam(1, 3);
+     }},
+    {"CTrave n.ro 2 L'elemento ha lunghezza nulla.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(3, 0, faulty ? 0 : 1);
+         m.Beam(2, 3);
+     }},
+    {"CTrave n.ro 1 L'elemento non ha un materiale.",
+     [](CheckBuilder& m, bool faulty) {
+         if (faulty)
+             m.document.Remove({m.material});
+     }},
+    {"CTrave n.ro 1 L'elemento non ha una sezione.",
+     [](CheckBuilder& m, bool faulty) {
+         if (faulty)
+             m.document.Remove({m.section});
+     }},
+    {"CTrave n.ro 2 L'elemento ha gli stessi nodi dell'elemento CTrave n.ro 1.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(6, 0, 0);
+         m.Beam(2, faulty ? 1 : 3);
+         if (faulty)
+             m.Beam(2, 3);
+     }},
+    {"CSetto n.ro 1 Il setto non è piano.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(3, 3, 0);
+         m.Node(0, 3, faulty ? 1 : 0);
+         m.document.AddSetto({1, 2, 3, 4});
+     }},
+    {"CSetto n.ro 1 Il setto ha area nulla.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(6, faulty ? 0 : 1, 0);
+         m.document.AddSetto({1, 2, 3});
+     }},
+    {"CSetto n.ro 1 Il setto non ha 3 o 4 nodi.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(4, 2, 0);
+         m.Node(0, 3, 0);
+         m.Node(-1, 1, 0);
+         faulty ? m.document.AddSetto({1, 2, 3, 4, 5}) : m.document.AddSetto({1, 2, 3, 4});
+         m.Beam(4, 5);
+     }},
+    {"CSetto n.ro 1 L'elemento non ha uno spessore.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(0, 3, 0);
+         m.document.AddSetto({1, 2, 3});
+         if (faulty)
+             m.document.Remove({m.thickness});
+     }},
+    {"CSolaio n.ro 1 Il solaio è degenere: i suoi nodi non formano una superficie.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(6, faulty ? 0 : 1, 0);
+         m.Beam(2, 3);
+         m.document.AddSolaio({1, 2, 3});
+     }},
+    {"CSetto n.ro 2 L'elemento ha gli stessi nodi dell'elemento CSetto n.ro 1.",
+     [](CheckBuilder& m, bool faulty) {
+         m.Node(3, 3, 0);
+         m.Node(0, 3, 0);
+         m.document.AddSetto({1, 2, 3});
+         m.document.AddSetto(faulty ? std::vector<int>{3, 1, 2} : std::vector<int>{3, 4, 1});
+         m.Beam(3, 4);
+     }},
+};
+
+} // namespace
+
+class CheckTest : public WorkspaceTest {
+  protected:
+    Rows Check() {
+        Trigger("strumenti.Check Modello");
+        CDialogDocument* dialog = workspace->ToolOf(View());
+        EXPECT_TRUE(dialog) << "the check does not open";
+        return dialog ? DialogDriver(*dialog).Rows(CDialogCheck::IDC_LIST_ERRORS) : Rows();
+    }
+    void ExpectMessageAndTwin(const Case& each) {
+        SCOPED_TRACE(each.message);
+        for (const bool faulty : {true, false}) {
+            workspace->NewDocument();
+            CheckBuilder model(Document());
+            each.build(model, faulty);
+            CWinApp::PumpMessages();
+            const Rows rows = Check();
+            EXPECT_EQ(CountOf(rows, each.message), faulty ? each.times : 0) << testing::PrintToString(rows);
+            if (!faulty) {
+                EXPECT_EQ(rows, sound) << testing::PrintToString(rows);
+            }
+        }
+    }
+    // Rows and exit status of the check without windows.
+    std::pair<int, Rows> Printed(const QString& path) {
+        std::unique_ptr<std::FILE, int (*)(std::FILE*)> out(std::tmpfile(), &std::fclose);
+        const int status = PrintCheck(*workspace, path, out.get());
+        std::rewind(out.get());
+        Rows rows(1);
+        for (int c; (c = std::fgetc(out.get())) != EOF;)
+            if (c == '\n')
+                rows.emplace_back();
+            else
+                rows.back().push_back(static_cast<char>(c));
+        EXPECT_EQ(rows.back(), "") << "the last line is not ended";
+        rows.pop_back();
+        return {status, rows};
+    }
+    QString Saved(const char* name) {
+        const QString path = folder.filePath(name);
+        SaveProject(Document().Data(), QFile::encodeName(path).toStdString(), "prova");
+        return path;
+    }
+
+    QTemporaryDir folder;
+};
+
+// Catches a fault that the application cannot produce, a message about the wrong object, and a sound model that gets
+// one.
+TEST_F(CheckTest, StructureMessagesAndTheirTwins) {
+    for (const Case& each : structureCases)
+        ExpectMessageAndTwin(each);
+}
+
+TEST_F(CheckTest, ElementMessagesAndTheirTwins) {
+    for (const Case& each : elementCases)
+        ExpectMessageAndTwin(each);
+}
+
+// Catches rows that select one object at a time with a notification each, and a request that reaches another document.
+TEST_F(CheckTest, PickingAllRowsSelectsAllWithOneNotification) {
+    constexpr int beams = 500;
+    CheckBuilder model(Document());
+    for (int i = 0; i < beams; ++i)
+        model.Node(6 + 3 * i, 0, 1);
+    for (int i = 0; i < beams; ++i)
+        model.Beam(i + 2, i + 3);
+    model.document.Remove({model.material});
+    CWinApp::PumpMessages();
+    Check();
+    struct Counter : DocumentObserver {
+        void OnDocumentUpdate(CView*, long hint, CObject*) override { ends += hint == MODIFICA_SELEZIONE_FINE; }
+        int ends = 0;
+    } counter;
+    Document().AddObserver(&counter);
+    HostView& checked = View();
+    HostView& other = workspace->NewDocument();
+    workspace->Window().ShowView(checked);
+    DialogDriver driver(*workspace->ToolOf(checked));
+    driver.ClickRow(CDialogCheck::IDC_LIST_ERRORS, 0);
+    driver.Press(VK_END, ShiftKey);
+    CWinApp::PumpMessages();
+    EXPECT_EQ(checked.Document().GetSizeTraviSelect(), beams + 1);
+    EXPECT_EQ(counter.ends, 1);
+    checked.Document().RemoveObserver(&counter);
+    RequestCheck(other.Document()); // another document's
+    EXPECT_EQ(static_cast<int>(driver.Rows(CDialogCheck::IDC_LIST_ERRORS).size()), beams + 3);
+}
+
+// The window stands under the view, on the screen, and is not moved over it.
+TEST_F(CheckTest, WindowsOfTheMenu) {
+    CheckBuilder model(Document());
+    model.Fix(*model.Node(0, 5, 0), CVincolo::Tutti);
+    model.Node(3, 5, 0);
+    CTrave* second = model.Beam(3, 4);
+    CWinApp::PumpMessages();
+    Check();
+    CRect window, around;
+    workspace->ToolOf(View())->GetWindowRect(window);
+    View().GetParent()->GetWindowRect(around);
+    EXPECT_EQ(window.left, std::max(around.left, 0));
+    EXPECT_GE(window.top, around.top + around.Height() / 2);
+    EXPECT_LT(window.Height(), around.Height() / 2);
+
+    Trigger("strumenti.Strutture");
+    auto* dialog = dynamic_cast<CDialogStrutture*>(workspace->ToolOf(View()));
+    ASSERT_TRUE(dialog);
+    auto& tree = dynamic_cast<CTreeCtrl&>(*dialog->GetDlgItem(CDialogStrutture::IDC_TREE_STRUTTURE));
+    const HTREEITEM last = tree.GetNextSiblingItem(tree.GetRootItem());
+    ASSERT_TRUE(last);
+    EXPECT_STREQ(tree.GetItemText(last), "Struttura n.ro 2");
+    tree.SetCheck(last, TRUE);
+    dialog->SendMessage(WM_TIMER, 0, 0);
+    CWinApp::PumpMessages();
+    EXPECT_EQ(Document().Selection().All(), std::vector<CElemento*>{second});
+}
+
+// Catches an exit status that says sound where the list has no end, and rows in another encoding.
+TEST_F(CheckTest, PrintedRowsAndExitStatus) {
+    {
+        CheckBuilder model(Document());
+        EXPECT_EQ(Printed(Saved("sano.asg")), std::pair(0, sound));
+        model.Fix(model.At(1), CVincolo::Tx | CVincolo::Ty | CVincolo::Tz);
+    }
+    Rows labile = sound;
+    labile.insert(labile.begin() + 2, "Attenzione la Struttura n.ro 1, è labile");
+    workspace->ViewActivated(*workspace->Views().front());
+    EXPECT_EQ(Printed(Saved("labile.asg")), std::pair(0, labile)) << "the closing row decides";
+    workspace->ViewActivated(*workspace->Views().front());
+    Document().Remove({Document().GetIndexMateriale(0)});
+    labile.resize(3);
+    labile.push_back("CTrave n.ro 1 L'elemento non ha un materiale.");
+    EXPECT_EQ(Printed(Saved("guasto.asg")), std::pair(1, labile));
+    TestApp::instance().messageHandler = [](const CString&, UINT) { return IDOK; };
+    EXPECT_EQ(PrintCheck(*workspace, folder.filePath("manca.asg"), stderr), 2);
+}
+
+#ifdef QUOVAR_SHARED_DIR
+// What other people's models are told. They are all one structure whose supports hold it, and their elements are sound.
+TEST_F(CheckTest, ModelsOfAPeer) {
+    const std::filesystem::path folder = std::filesystem::path(QUOVAR_SHARED_DIR) / "data" / "frame3dd";
+    if (!std::filesystem::exists(folder))
+        GTEST_SKIP() << "the models are not here";
+    TestApp::instance().messageHandler = [](const CString&, UINT) { return IDOK; }; // what the import left out
+    for (const char* name : {"exA", "exB", "exC", "exH"}) {
+        SCOPED_TRACE(name);
+        const auto [status, rows] = Printed(QString::fromStdString((folder / (std::string(name) + ".3dd")).string()));
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(rows, sound);
+    }
+}
+#endif

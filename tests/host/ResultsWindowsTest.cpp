@@ -1,0 +1,107 @@
+// The windows of results on a model that is really analysed, and the capture of their pictures.
+#include "dialogs/results/DialogDiagrammi.h"
+#include "dialogs/results/DialogNodoReazioniVincolari.h"
+#include "host/document/ExampleModel.h"
+#include "host/document/HostDocument.h"
+#include "host/ui/Commands.h"
+#include "host/ui/HostView.h"
+#include "host/ui/MainWindow.h"
+#include "model/Nodo.h"
+#include "model/Trave.h"
+#include "platform/Application.h"
+#include "platform/DeviceContext.h"
+#include "tests/host/WorkspaceTest.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+namespace {
+
+class ResultsWindows : public WorkspaceTest {
+  protected:
+    template <class Dialog>
+    Dialog* Open(const std::string& caption) {
+        for (const ToolCommand& command : ToolCommands())
+            if (command.caption == caption)
+                return dynamic_cast<Dialog*>(workspace->Run(command));
+        return nullptr;
+    }
+    CNodo* Support() {
+        for (int i = 0; i < Document().GetSizeNodi(); ++i)
+            if (Document().GetIndexNodo(i)->GetReazioniVincolari())
+                return Document().GetIndexNodo(i);
+        return nullptr;
+    }
+    // Captures as the menu does, with a file named so; an empty path is none.
+    void Capture(CDialogDiagrammi& diagrams, const QString& path) {
+        HostView::pictureFileHook = [&path] { return path; };
+        diagrams.SendMessage(WM_COMMAND, CDialogDiagrammi::ID_DIAGRAMMI_CATTURAIMMAGINE);
+        HostView::pictureFileHook = nullptr;
+    }
+};
+
+// Faults: diagrams and reactions of results that the model no longer has, kinds of the menu that miss the open window.
+TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
+    BuildExample(Document());
+    CTrave* beam = Document().GetIndexTrave(0);
+    Document().Selection().Add(beam);
+    auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
+    ASSERT_TRUE(diagrams);
+    CWinApp::PumpMessages();
+    DialogDriver driver(*diagrams);
+    EXPECT_TRUE(driver.Caption().ends_with("Diagramma - (I risultati non sono validi)")) << driver.Caption();
+    ASSERT_TRUE(Document().EseguiAnalisi().done);
+    CWinApp::PumpMessages();
+    EXPECT_TRUE(driver.Caption().ends_with("Diagramma - Trave " + std::to_string(beam->GetID()))) << driver.Caption();
+    diagrams->GetM2() = 0;
+    View().SetResultShown(CElementoSettings::M2, true);
+    EXPECT_EQ(diagrams->GetM2(), 1);
+    Trigger("analisi.mostra_risultato.M2");
+    EXPECT_EQ(diagrams->GetM2(), 0);
+
+    CNodo* support = Support();
+    ASSERT_TRUE(support);
+    Document().Selection().Add(support);
+    auto* reactions = Open<CDialogNodoReazioniVincolari>("Nodo Reazioni Vincolari");
+    ASSERT_TRUE(reactions);
+    const std::string title = "Nodo n.ro " + std::to_string(support->GetID());
+    EXPECT_EQ(DialogDriver(*reactions).Text(1118), title);
+    EXPECT_FALSE(DialogDriver(*reactions).Text(1114).empty());
+    CFPoint place(50, 50, 0);
+    Document().AddNodo(place, nullptr, 1);
+    CWinApp::PumpMessages();
+    EXPECT_EQ(DialogDriver(*reactions).Text(1118), title + " non disponibili");
+}
+
+// Faults: a picture of the wrong place, one that reaches only the clipboard or only the file, a cancelled file name
+// that loses the clipboard's, a picture that could not be written and nobody said so.
+TEST_F(ResultsWindows, CaptureGoesToClipboardAndFile) {
+    auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
+    ASSERT_TRUE(diagrams);
+    CWinApp::PumpMessages();
+    CWnd* area = diagrams->GetDlgItem(CDialogDiagrammi::IDC_DIAGRAMMA);
+    CRect rect;
+    area->GetClientRect(rect);
+    CClientDC(area).FillSolidRect(rect, RGB(0, 200, 0));
+    CClientDC(area).FillSolidRect(0, 0, 10, 10, RGB(200, 0, 0));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("figura");
+    Capture(*diagrams, path);
+    const QImage saved(path + ".png"), copied = QApplication::clipboard()->image();
+    for (const QImage& picture : {saved, copied}) {
+        ASSERT_EQ(picture.deviceIndependentSize().toSize(), QSize(rect.Width(), rect.Height()));
+        EXPECT_EQ(picture.pixel(2, 2), qRgb(200, 0, 0));
+        EXPECT_EQ(picture.pixel(picture.width() - 1, picture.height() - 1), qRgb(0, 200, 0));
+    }
+    QApplication::clipboard()->clear();
+    Capture(*diagrams, {});
+    EXPECT_EQ(QApplication::clipboard()->image().size(), copied.size());
+    user.ExpectMessage("Impossibile scrivere l'immagine \"" + folder.filePath("figura.nonso").toStdString() + "\".");
+    Capture(*diagrams, folder.filePath("figura.nonso"));
+}
+
+} // namespace

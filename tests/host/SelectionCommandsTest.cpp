@@ -1,0 +1,290 @@
+// Copying, moving, rotating and mirroring in the application: what the user does in the dialogs and in the view ends up
+// at the right places of the document, as one step that undo and redo give back exactly.
+#include "dialogs/selection/DialogCopiaRuota.h"
+#include "dialogs/selection/DialogCopiaTrasla.h"
+#include "dialogs/selection/DialogMuovi.h"
+#include "dialogs/selection/DialogRuota.h"
+#include "dialogs/selection/DialogSpecchia.h"
+#include "host/document/HostDocument.h"
+#include "host/ui/MainWindow.h"
+#include "model/Asta.h"
+#include "model/Carico.h"
+#include "model/Nodo.h"
+#include "model/Setto.h"
+#include "model/Trave.h"
+#include "platform/Application.h"
+#include "tests/host/WorkspaceTest.h"
+
+namespace {
+
+using CopiaTrasla = CDialogCopiaTrasla;
+using CopiaRuota = CDialogCopiaRuota;
+
+class SelectionCommandsTest : public WorkspaceTest {
+  protected:
+    void SetUp() override { BuildSmallModel(); }
+
+    void Select(const std::vector<CElemento*>& elements) {
+        Document().Selection().Clear();
+        Document().Selection().Add(elements);
+        CWinApp::PumpMessages();
+    }
+    // From the menu, as the only tool of the view.
+    CDialogDocument& Open(const char* caption) {
+        Trigger((std::string("selezione.") + caption).c_str());
+        CDialogDocument* dialog = workspace->ToolOf(View());
+        if (!dialog)
+            throw std::runtime_error(std::string("the dialog does not open: ") + caption);
+        return *dialog;
+    }
+    void Pick(const CFPoint& node) { Click(PixelOf(node)); }
+    CNodo* Find(double x, double y, double z) {
+        CFPoint place(x, y, z);
+        return Document().GetNodo(place, nullptr, 1e-6);
+    }
+    // How many elements of a kind have these two nodes.
+    int Joined(Kind kind, const CFPoint& from, const CFPoint& to) {
+        CNodo* first = Find(from.x, from.y, from.z);
+        CNodo* second = Find(to.x, to.y, to.z);
+        if (!first || !second)
+            return -1;
+        int count = 0;
+        for (int i = 0; i < first->GetSizeElementi(); ++i) {
+            CElemento* element = first->GetIndexElemento(i);
+            Kind its;
+            count += KindOf(*element, its) && its == kind &&
+                     (element->GetIndexNodo(0) == second || element->GetIndexNodo(1) == second);
+        }
+        return count;
+    }
+    // Beams, truss members, walls, slabs and nodes.
+    std::vector<int> Sizes() {
+        HostDocument& document = Document();
+        return {document.GetSizeTravi(), document.GetSizeAste(), document.GetSizeSetti(), document.GetSizeSolai(),
+                document.GetSizeNodi()};
+    }
+    static std::vector<int> Plus(std::vector<int> sizes, const std::vector<int>& more) {
+        for (std::size_t i = 0; i < sizes.size(); ++i)
+            sizes[i] += more[i];
+        return sizes;
+    }
+    CElemento* Column() { return Document().GetIndexAsta(0); } // from (0, 0, 0) to (0, 0, 3)
+};
+
+// Catches steps counted from the selection instead of from the copy before, joins that skip a copy or miss a node, and
+// picks that do not reach the fields.
+TEST_F(SelectionCommandsTest, CopiesAlongAPickedVectorWithStepsOfTheirOwn) {
+    Select({Column()});
+    const std::vector<int> before = Sizes();
+    ExpectOneStep("Copia Trasla", [this] {
+        DialogDriver driver(Open("Copia Trasla"));
+        Pick({0, 0, 0});
+        Pick({4, 0, 0});
+        EXPECT_EQ(driver.Text(CopiaTrasla::IDC_SPAZIATURA), "4");
+        driver.Type(CopiaTrasla::IDC_COPIE, "3");
+        driver.Click(CopiaTrasla::IDC_UNIONE_TRAVI);
+        driver.ClickRow(CopiaTrasla::IDC_LISTA_PASSI, 0);
+        for (const UINT digit : {'1', '2', '3'}) {
+            driver.Press(digit);
+            driver.Press(VK_RETURN);
+            driver.Press(VK_DOWN);
+        }
+        driver.Press(VK_RETURN);
+        CWinApp::PumpMessages();
+        EXPECT_FALSE(driver.IsOpen());
+    });
+    EXPECT_FALSE(View().IsDefinisciVettore());
+    EXPECT_EQ(Sizes(), Plus(before, {6, 3, 0, 0, 6}));
+    double last = 0;
+    for (const double x : {1.0, 3.0, 6.0}) {
+        EXPECT_EQ(Joined(Kind::Truss, {x, 0, 0}, {x, 0, 3}), 1) << x;
+        EXPECT_EQ(Joined(Kind::Beam, {last, 0, 0}, {x, 0, 0}), 1) << x;
+        EXPECT_EQ(Joined(Kind::Beam, {last, 0, 3}, {x, 0, 3}), 1) << x;
+        last = x;
+    }
+    EXPECT_EQ(Document().Selection().All(), std::vector<CElemento*>{Column()}) << "the original stays selected";
+}
+
+// Catches a ring that does not close: the last copy must meet the nodes and elements that are there.
+TEST_F(SelectionCommandsTest, CopiesRoundAnAxis) {
+    CElemento* beam = Document().GetIndexTrave(1); // from (4, 0, 0) to (8, 0, 0)
+    Select({beam});
+    const std::vector<int> before = Sizes();
+    for (const int copies : {3, 4}) {
+        SCOPED_TRACE(copies);
+        ExpectOneStep("Copia Ruota", [&] {
+            DialogDriver driver(Open("Copia Ruota"));
+            Pick({0, 0, 0});
+            Pick({0, 0, 3});
+            EXPECT_EQ(driver.Text(CopiaRuota::IDC_X2 + 2), "3");
+            driver.Type(CopiaRuota::IDC_COPIE, std::to_string(copies));
+            driver.Type(CopiaRuota::IDC_ANGOLO, "90");
+            driver.Click(CopiaRuota::IDC_UNIONE_TRAVI + 1); // truss members
+            driver.Press(VK_RETURN);
+            CWinApp::PumpMessages();
+            EXPECT_FALSE(driver.IsOpen());
+        });
+        EXPECT_EQ(Sizes(), Plus(before, {3, 2 * copies, 0, 0, 6}));
+        EXPECT_EQ(Joined(Kind::Beam, {0, 4, 0}, {0, 8, 0}), 1);
+        EXPECT_EQ(Joined(Kind::Beam, {-4, 0, 0}, {-8, 0, 0}), 1);
+        EXPECT_EQ(Joined(Kind::Beam, {0, -4, 0}, {0, -8, 0}), 1);
+        EXPECT_EQ(Joined(Kind::Truss, {4, 0, 0}, {0, 4, 0}), 1);
+        EXPECT_EQ(Joined(Kind::Truss, {-8, 0, 0}, {0, -8, 0}), 1);
+        EXPECT_EQ(Joined(Kind::Truss, {0, -8, 0}, {8, 0, 0}), copies - 3);
+        workspace->Undo();
+        CWinApp::PumpMessages();
+        EXPECT_EQ(Sizes(), before);
+    }
+}
+
+// Catches a dialog that waits for OK after the second pick, or is touched after it was closed by it.
+TEST_F(SelectionCommandsTest, TheSecondPickMovesAtOnce) {
+    CSetto* wall = Document().GetIndexSetto(0); // from (6, 0, 4) to (8, 0, 6)
+    Select({wall});
+    const std::vector<int> before = Sizes();
+    ExpectOneStep("Muovi", [this] {
+        DialogDriver driver(Open("Muovi"));
+        Pick({0, 0, 3});
+        EXPECT_EQ(driver.Text(CDialogMuovi::IDC_X1 + 2), "3");
+        Pick({4, 0, 0});
+        EXPECT_FALSE(driver.IsOpen());
+    });
+    EXPECT_EQ(Sizes(), before) << "moved, not copied";
+    EXPECT_EQ(wall->GetIndexNodo(0), Find(10, 0, 1));
+    EXPECT_EQ(wall->GetIndexNodo(2), Find(12, 0, 3));
+    // Two equal points are no move and no step.
+    const std::size_t steps = Document().Undo().UndoCount();
+    DialogDriver driver(Open("Muovi"));
+    driver.Press(VK_RETURN);
+    EXPECT_FALSE(driver.IsOpen());
+    EXPECT_EQ(Document().Undo().UndoCount(), steps);
+}
+
+// Catches degrees taken for radians, the wrong axis, and neighbours that stay behind.
+TEST_F(SelectionCommandsTest, RotatesAboutAGlobalAndAGeneralAxis) {
+    CTrave* beam = Document().GetIndexTrave(1);
+    Select({beam});
+    ExpectOneStep("Ruota", [this] {
+        DialogDriver driver(Open("Ruota"));
+        driver.Click(CDialogRuota::IDC_RUOTA_Z);
+        EXPECT_FALSE(driver.Enabled(CDialogRuota::IDC_X1));
+        driver.Type(CDialogRuota::IDC_ANGOLO, "90");
+        driver.Press(VK_RETURN);
+        EXPECT_FALSE(driver.IsOpen());
+    });
+    EXPECT_EQ(beam->GetNodoIniziale(), Find(0, 4, 0));
+    EXPECT_EQ(beam->GetNodoFinale(), Find(0, 8, 0));
+    EXPECT_EQ(Document().GetIndexTrave(0)->GetNodoFinale(), beam->GetNodoIniziale());
+    workspace->Undo();
+    // Half a turn about the vertical through the beam's first node.
+    ExpectOneStep("Ruota", [this] {
+        DialogDriver driver(Open("Ruota"));
+        Pick({4, 0, 0});
+        Pick({4, 0, 4});
+        driver.Type(CDialogRuota::IDC_ANGOLO, "180");
+        driver.Press(VK_RETURN);
+    });
+    EXPECT_EQ(beam->GetNodoIniziale(), Find(4, 0, 0));
+    EXPECT_EQ(*beam->GetNodoFinale()->GetPunto(), CFPoint(0, 0, 0)) << "quarter turns are exact";
+}
+
+// Catches a mirror in the typed point where the origin was asked for, and a doubled node in the mirror itself.
+TEST_F(SelectionCommandsTest, MirrorsInTheOriginAndInAPlane) {
+    Select({Column()});
+    const std::vector<int> before = Sizes();
+    ExpectOneStep("Specchia", [this] {
+        DialogDriver driver(Open("Specchia"));
+        EXPECT_EQ(workspace->Window().PromptText(), "Definisci il punto del piano.");
+        Pick({8, 0, 4});
+        EXPECT_EQ(driver.Text(CDialogSpecchia::IDC_X) + driver.Text(CDialogSpecchia::IDC_Z), "84");
+        driver.Click(CDialogSpecchia::IDC_ORIGINE);
+        EXPECT_FALSE(driver.Enabled(CDialogSpecchia::IDC_X));
+        driver.Press(VK_RETURN);
+        EXPECT_FALSE(driver.IsOpen());
+    });
+    EXPECT_EQ(Sizes(), Plus(before, {0, 1, 0, 0, 1}));
+    EXPECT_EQ(Joined(Kind::Truss, {0, 0, 0}, {0, 0, -3}), 1);
+    ExpectOneStep("Specchia", [this] {
+        DialogDriver driver(Open("Specchia"));
+        Pick({4, 0, 0});
+        driver.Click(CDialogSpecchia::IDC_PIANO_YZ);
+        driver.Press(VK_RETURN);
+    });
+    EXPECT_EQ(Joined(Kind::Truss, {8, 0, 0}, {8, 0, 3}), 1);
+}
+
+// The whole command without the pointer. Catches a mnemonic, a tab stop or an arrow key that leads elsewhere.
+TEST_F(SelectionCommandsTest, CopiesByKeyboardAlone) {
+    Select({Column()});
+    const std::vector<int> before = Sizes();
+    ExpectOneStep("Copia Trasla", [this] {
+        DialogDriver driver(Open("Copia Trasla"));
+        driver.Press('C', AltKey);
+        driver.TypeKeys("2");
+        driver.Press('S', AltKey);
+        driver.TypeKeys("2.5");
+        driver.Press('U', AltKey);
+        driver.Press(VK_UP);
+        EXPECT_TRUE(driver.Checked(CopiaTrasla::IDC_UNIONE_TRAVI + 1));
+        driver.Press('D', AltKey);
+        driver.Press(VK_UP);
+        EXPECT_TRUE(driver.Checked(CopiaTrasla::IDC_DIREZIONE_Y));
+        for (int tabs = 0; tabs < 30 && driver.Focus() != CopiaTrasla::IDC_LISTA_PASSI; ++tabs)
+            driver.Press(VK_TAB);
+        ASSERT_EQ(driver.Focus(), CopiaTrasla::IDC_LISTA_PASSI);
+        driver.Press(VK_END);
+        driver.Press(VK_SPACE);
+        driver.Press('4');
+        driver.Press(VK_OEM_PERIOD);
+        driver.Press('5');
+        driver.Press(VK_RETURN);
+        EXPECT_EQ(driver.Rows(CopiaTrasla::IDC_LISTA_PASSI).back(), "2            4.5");
+        driver.Press(VK_RETURN);
+        EXPECT_FALSE(driver.IsOpen());
+    });
+    EXPECT_EQ(Sizes(), Plus(before, {0, 6, 0, 0, 4}));
+    EXPECT_EQ(Joined(Kind::Truss, {0, 2.5, 0}, {0, 2.5, 3}), 1);
+    EXPECT_EQ(Joined(Kind::Truss, {0, 2.5, 3}, {0, 7, 3}), 1);
+    // Escape leaves everything as it is and ends the picking.
+    const std::string state = State();
+    DialogDriver driver(Open("Copia Trasla"));
+    EXPECT_TRUE(View().IsDefinisciVettore());
+    driver.Press(VK_ESCAPE);
+    EXPECT_FALSE(driver.IsOpen());
+    EXPECT_FALSE(View().IsDefinisciVettore());
+    EXPECT_EQ(State(), state);
+}
+
+// Ten million copies are refused at once where the host knows their number, with everything typed still there; a
+// smaller number then goes through. Catches an endless command and a dialog that closes on a refusal.
+TEST_F(SelectionCommandsTest, TooManyCopiesAreRefused) {
+    Select({Column()});
+    const std::string before = State();
+    DialogDriver driver(Open("Copia Ruota"));
+    driver.Type(CopiaRuota::IDC_X2 + 2, "1");
+    driver.Type(CopiaRuota::IDC_X1, "0.25");
+    driver.Type(CopiaRuota::IDC_X2, "0.25");
+    driver.Type(CopiaRuota::IDC_ANGOLO, "1.5");
+    driver.Type(CopiaRuota::IDC_COPIE, "10000000");
+    user.ExpectMessage("Troppe copie: il comando non è stato eseguito.", IDOK, MB_OK);
+    driver.Press(VK_RETURN);
+    ASSERT_TRUE(driver.IsOpen());
+    EXPECT_EQ(State(), before);
+    EXPECT_EQ(Document().Undo().UndoCount(), 0u);
+    EXPECT_EQ(driver.Text(CopiaRuota::IDC_COPIE) + driver.Text(CopiaRuota::IDC_ANGOLO), "100000001.5");
+    user.ExpectMessage("Numero copie non valido.", IDOK, MB_OK);
+    driver.Type(CopiaRuota::IDC_COPIE, "0");
+    driver.Press(VK_RETURN);
+    ASSERT_TRUE(driver.IsOpen());
+    user.ExpectMessage("Immettere un numero intero.");
+    driver.Type(CopiaRuota::IDC_COPIE, "tre");
+    driver.Press(VK_RETURN);
+    ASSERT_TRUE(driver.IsOpen());
+    EXPECT_EQ(driver.Text(CopiaRuota::IDC_X1), "0.25");
+    driver.Type(CopiaRuota::IDC_COPIE, "3");
+    driver.Press(VK_RETURN);
+    EXPECT_FALSE(driver.IsOpen());
+    EXPECT_EQ(Document().GetSizeAste(), 4);
+}
+
+} // namespace
