@@ -1,12 +1,7 @@
-// The factor of a sparse symmetric positive definite matrix, A = L Lt, by dense fronts.
-//
-// Columns of L with the same pattern are eliminated together as one dense block, so nearly all of the work runs in the
-// dense kernels of the matrix library: an order of magnitude faster on frames than one column at a time.
+// The factor of a sparse symmetric positive definite matrix, with its least pivot: small ones betray a mechanism.
 #pragma once
 
-#include <Eigen/SparseCore>
-
-#include <vector>
+#include <Eigen/SparseCholesky>
 
 namespace host {
 
@@ -21,24 +16,7 @@ class SparseCholesky {
     Eigen::VectorXd Solve(const Eigen::VectorXd& right) const;
 
   private:
-    using Sparse = Eigen::SparseMatrix<double>;
-    using Permutation = Eigen::PermutationMatrix<Eigen::Dynamic, Eigen::Dynamic, int>;
-
-    // Columns eliminated together, and the rows below them that they reach.
-    struct Front {
-        int first = 0, count = 0;
-        int parent = -1;
-        std::vector<int> rows;  // below the columns, increasing
-        Eigen::MatrixXd factor; // of the columns, their rows first
-    };
-
-    Sparse Order(const Sparse& lower);
-    void FindFronts(const std::vector<int>& parent, const std::vector<int>& heights);
-    void FindRows(const Sparse& matrix);
-    bool Eliminate(Front& front, Eigen::MatrixXd& whole);
-
-    Permutation m_order; // from the caller's places to the factor's
-    std::vector<Front> m_fronts;
+    Eigen::SimplicialLDLT<Eigen::SparseMatrix<double>> m_factor; // ordered by minimum degree
     double m_leastPivot = 1;
 };
 

@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QScreen>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -104,13 +105,25 @@ void HostView::SetRectImmagine(int left, int top, int right, int bottom) {
     m_captureRect.NormalizeRect();
 }
 
+// The application's window that holds the place, the active one before others; null for none.
+static QWidget* windowAround(const QRect& place) {
+    const auto holds = [&place](const QWidget* window) {
+        return window && window->isVisible() && window->geometry().contains(place);
+    };
+    if (holds(QApplication::activeWindow()))
+        return QApplication::activeWindow();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), holds);
+    return found == windows.end() ? QApplication::topLevelAt(place.center()) : *found;
+}
+
 // What lies in the rectangle: of the application's own window there, which another program's may cover and a menu that
 // has just closed may still be over, or of the screen.
 QPixmap HostView::CapturedPicture() const {
     if (m_captureRect.IsRectEmpty())
         return m_widget->grab();
     const QRect place(m_captureRect.left, m_captureRect.top, m_captureRect.Width(), m_captureRect.Height());
-    if (QWidget* window = QApplication::topLevelAt(place.center()))
+    if (QWidget* window = windowAround(place))
         return window->grab(QRect(window->mapFromGlobal(place.topLeft()), place.size()));
     QScreen* screen = m_widget->screen();
     return screen ? screen->grabWindow(0, place.x(), place.y(), place.width(), place.height()) : QPixmap();

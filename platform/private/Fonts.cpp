@@ -20,18 +20,12 @@ struct Substitute {
 
 // The families on the right have the advances of the faces on the left. Tahoma and Verdana have no such family here.
 constexpr Substitute substitutes[] = {
-    {"arial", "Liberation Sans", 0, 100},
-    {"arial black", "Liberation Sans", 900, 100},
-    {"helvetica", "Liberation Sans", 0, 100},
-    {"helv", "Liberation Sans", 0, 100},
-    {"ms sans serif", "Liberation Sans", 0, 100},
-    {"ms shell dlg", "Liberation Sans", 0, 100},
-    {"ms shell dlg 2", "Liberation Sans", 0, 100},
-    {"system", "Liberation Sans", 700, 100},
-    {"courier new", "Liberation Mono", 0, 100},
-    {"courier", "Liberation Mono", 0, 100},
-    {"fixedsys", "Liberation Mono", 0, 100},
-    {"times new roman", "Liberation Serif", 0, 100},
+    {"arial", "Liberation Sans", 0, 100},          {"arial black", "Liberation Sans", 900, 100},
+    {"helvetica", "Liberation Sans", 0, 100},      {"helv", "Liberation Sans", 0, 100},
+    {"ms sans serif", "Liberation Sans", 0, 100},  {"ms shell dlg", "Liberation Sans", 0, 100},
+    {"ms shell dlg 2", "Liberation Sans", 0, 100}, {"system", "Liberation Sans", 700, 100},
+    {"courier new", "Liberation Mono", 0, 100},    {"courier", "Liberation Mono", 0, 100},
+    {"fixedsys", "Liberation Mono", 0, 100},       {"times new roman", "Liberation Serif", 0, 100},
     {"ms serif", "Liberation Serif", 0, 100},
 };
 

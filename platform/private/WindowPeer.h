@@ -23,7 +23,7 @@ enum DialogCode : UINT {
     WantsArrows = 0x01,
     WantsTab = 0x02,
     WantsAllKeys = 0x04, // Enter and Escape too
-    WantsReturn = 0x08, // Enter alone: a field of several lines
+    WantsReturn = 0x08,  // Enter alone: a field of several lines
     WantsCharacters = 0x80,
     IsPushButton = 0x20,
     IsRadioButton = 0x40,

@@ -219,16 +219,19 @@ TEST_F(SelectionCommandsTest, CopiesByKeyboardAlone) {
     const std::vector<int> before = Sizes();
     ExpectOneStep("Copia Trasla", [this] {
         DialogDriver driver(Open("Copia Trasla"));
+        // The arrows go round in a group, wherever its mnemonic puts the focus.
+        const auto choose = [&driver](UINT mnemonic, int button) {
+            driver.Press(mnemonic, AltKey);
+            for (int presses = 0; presses < 4 && !driver.Checked(button); ++presses)
+                driver.Press(VK_DOWN);
+            EXPECT_TRUE(driver.Checked(button));
+        };
+        choose('D', CopiaTrasla::IDC_DIREZIONE_Y); // first: passing by "Vettore" sets the spacing
+        choose('U', CopiaTrasla::IDC_UNIONE_TRAVI + 1);
         driver.Press('C', AltKey);
         driver.TypeKeys("2");
         driver.Press('S', AltKey);
         driver.TypeKeys("2.5");
-        driver.Press('U', AltKey);
-        driver.Press(VK_UP);
-        EXPECT_TRUE(driver.Checked(CopiaTrasla::IDC_UNIONE_TRAVI + 1));
-        driver.Press('D', AltKey);
-        driver.Press(VK_UP);
-        EXPECT_TRUE(driver.Checked(CopiaTrasla::IDC_DIREZIONE_Y));
         for (int tabs = 0; tabs < 30 && driver.Focus() != CopiaTrasla::IDC_LISTA_PASSI; ++tabs)
             driver.Press(VK_TAB);
         ASSERT_EQ(driver.Focus(), CopiaTrasla::IDC_LISTA_PASSI);

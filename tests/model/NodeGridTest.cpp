@@ -107,7 +107,6 @@ TEST(NodeGridTest, ForgetsNodesAndEndures) {
     EXPECT_TRUE(next.Insert(&far)); // both grids let their nodes go
 }
 
-
 // Faults: a wild number that makes the table as large as itself; a number given again while undo still holds its
 // bearer.
 TEST(IdIndexTest, FindsDenseAndWildNumbers) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace {
 
 // The framework's exceptions are pointers: runs the operation and says which kind was thrown, ending it.

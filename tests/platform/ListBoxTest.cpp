@@ -3,7 +3,6 @@
 
 #include "platform/ListBox.h"
 
-
 namespace {
 
 constexpr DWORD Plain = LBS_NOTIFY | WS_TABSTOP | WS_VSCROLL | WS_BORDER;
