@@ -14,7 +14,7 @@
 
 namespace {
 
-// Seven storeys of 100 by 10 columns: 20,370 members.
+// Seven storeys of 100 by 10 columns: 20,230 members.
 constexpr int alongX = 100, alongY = 10, storeys = 7;
 
 class Building {

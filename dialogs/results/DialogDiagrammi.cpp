@@ -167,7 +167,8 @@ void CDialogDiagrammi::OnMouseMove(UINT nFlags, CPoint point) {
         _bStaticCursor = 1;
         SetCursor(StandardCursor::Cross);
     }
-    if (IsRisultati() && GetTrave())
+    // Without a document the beam may be gone with it.
+    if (IsRisultati() && GetDoc() && GetTrave())
         DrawBeam(1, point);
     CDialogDocument::OnMouseMove(nFlags, point);
 }

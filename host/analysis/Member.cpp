@@ -183,10 +183,11 @@ Vector12 FixedEndForces(const Member& member, const CTraveRisultati& loads, cons
         const CString kind = member.truss ? "l'asta" : "la trave";
         if (component % 6 < 3)
             throw Refusal(
-                "La struttura è labile: %s n.ro %d, svincolata ai due estremi, scorre lungo il proprio asse."_t, kind,
-                member.line->GetID());
-        throw Refusal("La struttura è labile: %s n.ro %d, svincolata ai due estremi, ruota attorno al proprio asse."_t,
-                      kind, member.line->GetID());
+                "La struttura è labile: %s n.ro %d, svincolata ai due estremi, scorre lungo il proprio asse al nodo n.ro %d."_t,
+                kind, member.line->GetID(), member.line->GetIDNodoIniziale());
+        throw Refusal(
+            "La struttura è labile: %s n.ro %d, svincolata ai due estremi, ruota attorno al proprio asse al nodo n.ro %d."_t,
+            kind, member.line->GetID(), member.line->GetIDNodoIniziale());
     };
     if (member.truss) {
         lost(3, f(3));

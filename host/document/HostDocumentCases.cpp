@@ -4,6 +4,7 @@
 #include "model/CasoCarico.h"
 #include "model/Combinazione.h"
 #include "model/Gruppo.h"
+#include "platform/Application.h"
 
 namespace {
 
@@ -143,11 +144,23 @@ void HostDocument::ModificaCombinazione(int id, CCombinazione& valori) {
     auto* combination = m_data.FindAs<CCombinazione>(Kind::Combination, id);
     if (!combination || combination == &valori)
         return;
-    UndoStep step(m_undo, "Modifica combinazione");
-    Modify(*combination, [&] {
-        *combination = valori;
-        combination->SetID(id);
-    });
+    // A name that the rule forbids, or that another one bears, could not be read back from the project.
+    const CString former = combination->GetNome();
+    const CString wanted = valori.GetNome();
+    const CElemento* other = IsCasoCaricoNome(wanted);
+    const bool refused = wanted != former && ((other && other != combination) || !IsValidoCasoCaricoNome(wanted));
+    {
+        UndoStep step(m_undo, "Modifica combinazione");
+        Modify(*combination, [&] {
+            *combination = valori;
+            combination->SetID(id);
+            if (refused)
+                combination->SetNome(former);
+        });
+    }
+    if (refused)
+        AfxMessageBox("Il nome \"" + wanted + "\" non è ammesso o è già usato: la combinazione conserva il nome \""_t +
+                      former + "\".");
 }
 
 CCarico* HostDocument::AddCarico(CCasoCarico& loadCase, std::unique_ptr<CCarico> load) {

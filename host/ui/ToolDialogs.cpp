@@ -2,6 +2,7 @@
 
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/QuovarGlobal.h"
 #include "host/ui/DeferredDelete.h"
 #include "host/ui/HostView.h"
 #include "host/ui/ViewWidget.h"
@@ -81,8 +82,11 @@ void ToolDialogs::ViewActivated(HostView& view) {
         if (!entry.view && Of(view))
             continue;
         entry.dialog->AggiornaVista(&view);
-        if (!entry.view)
+        if (!entry.view) {
             entry.view = &view;
+            // What it shows belongs to another document, which may be gone: before it paints, it looks anew.
+            entry.dialog->Update(nullptr, MODIFICA_RISULTATI_CASO, nullptr);
+        }
     }
 }
 

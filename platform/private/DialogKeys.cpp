@@ -133,10 +133,7 @@ bool DialogPeer::pressMnemonic(WindowPeer* focused, char character) {
 // A label's mnemonic is the next tab stop's; a button's clicks it.
 void DialogPeer::activate(WindowPeer& labelled) {
     if (labelled.dialogCode() & IsStatic) {
-        const auto at = std::find(children.begin(), children.end(), &labelled);
-        const auto next = std::find_if(at, children.end(), [](const WindowPeer* child) { return child->isTabStop(); });
-        if (next != children.end())
-            (*next)->focusByKeyboard();
+        focusNext(&labelled, false); // a group of radio buttons at the one that is checked
         return;
     }
     const QPointer<QWidget> alive = labelled.widget;

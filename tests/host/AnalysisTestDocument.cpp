@@ -108,7 +108,8 @@ TEST(AnalysisRefusal, LoadsThatNothingCarries) {
         EXPECT_EQ(Said(m.Refusal()), "");
         m.On(beam, CCaricoUniforme({0.1, 0, 0}, CCarico::Globale));
         EXPECT_EQ(Said(m.Refusal()), "La struttura è labile: la trave n.ro 1, svincolata ai due estremi, scorre lungo "
-                                     "il proprio asse.");
+                                     "il proprio asse al nodo n.ro " +
+                                         std::to_string(beam->GetIDNodoIniziale()) + ".");
     }
 }
 

@@ -197,6 +197,16 @@ TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
         driver.Click(IDCANCEL);
     });
     EXPECT_EQ(State(), before) << "Cancel leaves the document bit for bit";
+    // Catches a name that a case bears already: the project would be saved and could not be read again.
+    const std::string taken = Document().GetIndexCasoCarico(0)->GetNome().ToUtf8();
+    const std::string kept = made->GetNome().ToUtf8();
+    user.ExpectMessage("Il nome \"" + taken + "\" non è ammesso o è già usato: la combinazione conserva il nome \"" +
+                       kept + "\".");
+    Run("carichi.Modifica Combinazione", [&taken](DialogDriver& driver) {
+        driver.Type(CDialogCreaCombinazione::IDC_NOME, taken);
+        driver.Click(IDOK);
+    });
+    EXPECT_EQ(made->GetNome().ToUtf8(), kept);
     Document().SelectIndexCasoCarico(0);
     user.ExpectMessage("Nessuna combinazione selezionata.");
     Trigger("carichi.Modifica Combinazione");

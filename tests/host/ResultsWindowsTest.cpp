@@ -77,6 +77,28 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
     EXPECT_EQ(DialogDriver(*reactions).Text(1118), title + " non disponibili");
 }
 
+// Faults: a window that goes on drawing the beam of a document that is gone, seen by the memory checkers, or that shows
+// the former document's beam in the next one.
+TEST_F(ResultsWindows, OutlivesItsDocument) {
+    BuildExample(Document());
+    Document().Selection().Add(Document().GetIndexTrave(0));
+    ASSERT_TRUE(Document().EseguiAnalisi().done);
+    auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
+    ASSERT_TRUE(diagrams);
+    diagrams->SendMessage(WM_COMMAND, CDialogDiagrammi::ID_DIAGRAMMI_VISUALIZZAVALORI);
+    CWinApp::PumpMessages();
+    DialogDriver driver(*diagrams);
+    driver.MoveTo(60, 40);
+    Document().MarkSaved(); // nobody asks whether to keep it
+    ASSERT_TRUE(workspace->CloseView(View()));
+    CWinApp::PumpMessages();
+    driver.MoveTo(80, 50);
+    workspace->NewDocument();
+    CWinApp::PumpMessages();
+    driver.MoveTo(100, 60);
+    EXPECT_TRUE(driver.Caption().ends_with("Diagramma - (Nessuna trave selezionata)")) << driver.Caption();
+}
+
 // Faults: a picture of the wrong place, one that reaches only the clipboard or only the file, a cancelled file name
 // that loses the clipboard's, a picture that could not be written and nobody said so.
 TEST_F(ResultsWindows, CaptureGoesToClipboardAndFile) {

@@ -257,8 +257,12 @@ TEST(Dialog, MnemonicsGoToTheNextTabStopAndClickButtons) {
                                   .label("n.ro &Copie :")
                                   .edit(100)
                                   .button("&Altro", 200)
-                                  .button("OK", IDOK, BS_DEFPUSHBUTTON));
+                                  .label("&Gruppo")
+                                  .radio("X", 301, true)
+                                  .radio("Y", 302)
+                                  .button("OK", IDOK, BS_DEFPUSHBUTTON | WS_GROUP));
     LoggedDialog dialog;
+    dialog.onInit = [&] { dialog.CheckRadioButton(301, 302, 302); };
     ASSERT_TRUE(dialog.Open());
     DialogDriver user(dialog);
     user.Press('C', AltKey);
