@@ -7,7 +7,7 @@
 class CElementoSpecifiche : public CElementoCarico {
     DECLARE_DYNAMIC(CElementoSpecifiche)
 
-    // Takes the specification over and gives it a number of its own when its number is 0 or taken. 0 for null.
+    // Takes the object over and gives it a number of its own when its number is 0 or taken. 0 for null.
     virtual int AddSpecifica(CSpecifiche* pSpecifica);
     // Replaces each specification that the array has too, by number, with a copy of the array's; returns how many.
     virtual int AggiornaSpecifiche(CObArray* pSpecifiche);
