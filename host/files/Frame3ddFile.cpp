@@ -9,8 +9,9 @@ namespace host {
 namespace {
 
 constexpr int mostRows = 10'000'000;
-constexpr double farthest = 1e12; // beyond it, neighbouring nodes would merge
-constexpr int mostLoadCases = 30; // the format's own limit
+constexpr double farthest = 1e12;          // beyond it, neighbouring nodes would merge
+constexpr int mostLoadCases = 30;          // the format's own limit
+constexpr std::size_t longestTitle = 4096; // bytes; beyond it the file is no text
 
 // Reads the tables in the order of the format.
 class Parser {
@@ -19,6 +20,8 @@ class Parser {
 
     Frame3ddModel Parse() {
         m_model.title = std::string(m_reader.Line());
+        if (m_model.title.size() > longestTitle)
+            m_reader.Fail("il titolo è troppo lungo.");
         ReadNodes();
         ReadRestraints();
         ReadElements();
@@ -108,6 +111,8 @@ class Parser {
         element.inertiaZ = Positive("atteso il momento d'inerzia z");
         element.young = Positive("atteso il modulo di elasticità");
         element.shearModulus = Positive("atteso il modulo di taglio");
+        if (!std::isfinite(element.Poisson()))
+            m_reader.Fail("il modulo di taglio è troppo piccolo per il modulo di elasticità.");
         element.roll = m_reader.Real("atteso l'angolo di rotazione dell'elemento");
         element.density = NotNegative("attesa la densità");
     }
@@ -210,6 +215,8 @@ class Parser {
                 *change = m_reader.Real("attesa la variazione di temperatura");
             if ((row.depthY == 0 && row.plusY != row.minusY) || (row.depthZ == 0 && row.plusZ != row.minusZ))
                 m_reader.Fail("la variazione termica richiede un'altezza della sezione maggiore di zero.");
+            if (!std::isfinite(row.Mean()) || !std::isfinite(row.GradientY()) || !std::isfinite(row.GradientZ()))
+                m_reader.Fail("la variazione termica è troppo grande.");
         }
     }
 

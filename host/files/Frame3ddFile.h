@@ -17,6 +17,8 @@ struct Frame3ddElement {
     double young = 0, shearModulus = 0;
     double roll = 0;    // degrees
     double density = 0; // mass per volume
+
+    double Poisson() const { return young / (2 * shearModulus) - 1; }
 };
 
 // Numbers of nodes and elements are those of the file, from 1.
@@ -45,6 +47,11 @@ struct Frame3ddTemperature {
     double alpha = 0;
     double depthY = 0, depthZ = 0;
     double plusY = 0, minusY = 0, plusZ = 0, minusZ = 0; // change of temperature of the four faces
+
+    // Their mean lengthens the axis, their differences over the depths bend it.
+    double Mean() const { return (plusY + minusY + plusZ + minusZ) / 4; }
+    double GradientY() const { return depthY > 0 ? (plusY - minusY) / depthY : 0; }
+    double GradientZ() const { return depthZ > 0 ? (plusZ - minusZ) / depthZ : 0; }
 };
 
 struct Frame3ddLoadCase {

@@ -132,7 +132,7 @@ class Builder {
             material->SetNome(name);
             material->SetE(element.young);
             material->SetG(element.shearModulus);
-            material->SetPoisson(element.young / (2 * element.shearModulus) - 1);
+            material->SetPoisson(element.Poisson());
             material->SetDensita(element.density);
         }
         return material;
@@ -203,13 +203,12 @@ class Builder {
         return load;
     }
 
-    // The four faces' changes: their mean lengthens the axis, their differences over the depths bend it.
     static std::unique_ptr<CCarico> Temperature(const Frame3ddTemperature& row) {
         auto load = std::make_unique<CCaricoTemperatura>();
         load->SetRiferimento(CCarico::Locale);
-        load->GetTemperatura() = (row.plusY + row.minusY + row.plusZ + row.minusZ) / 4;
-        load->GetGradiente2() = row.depthY > 0 ? (row.plusY - row.minusY) / row.depthY : 0;
-        load->GetGradiente3() = row.depthZ > 0 ? (row.plusZ - row.minusZ) / row.depthZ : 0;
+        load->GetTemperatura() = row.Mean();
+        load->GetGradiente2() = row.GradientY();
+        load->GetGradiente3() = row.GradientZ();
         load->GetAlfa() = row.alpha;
         return load;
     }

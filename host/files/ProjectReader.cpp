@@ -20,6 +20,8 @@ using namespace host;
 
 // More corners than any real wall; a bound, because each vertex is compared with those before it.
 constexpr int mostVertices = 1000;
+// More than the two that any line needs; a bound for the same reason.
+constexpr int mostReleases = 1000;
 
 // Refuses everything but the tables of this format exactly: no trigger, view, index or column that could do or hide
 // something. The pages behind them are checked while their rows are read.
@@ -37,6 +39,12 @@ void CheckSchema(Database& database) {
             throw FileError(std::string("Le tabelle del progetto non sono quelle attese (") + table->name + ").");
     if (statement.Step())
         throw FileError("Il progetto contiene tabelle o dati estranei.");
+}
+
+// A name of the file, short enough for a message box.
+std::string Shown(const CString& name) {
+    constexpr int longest = 60;
+    return name.GetLength() > longest ? name.Left(longest).ToUtf8() + "..." : name.ToUtf8();
 }
 
 class Reader {
@@ -128,7 +136,7 @@ class Reader {
             *text = row.Text();
         m_data.Units().length = static_cast<Lunghezza>(row.Int(0, kNumeroLunghezze - 1));
         m_data.Units().force = static_cast<Forza>(row.Int(0, kNumeroForze - 1));
-        m_data.Tolerance() = row.Real(0, 1e6);
+        m_data.Tolerance() = row.Real(0, std::numeric_limits<double>::max());
         m_data.CurrentCase() = row.Reference();
         row.Text(); // the version that saved the file: for people, not for this reader
         m_expectedRows = row.Int(0, std::numeric_limits<int>::max());
@@ -165,7 +173,7 @@ class Reader {
         std::unordered_set<CString> names;
         const auto takeName = [&](RowReader& row, CElementoStrutturale& entity) {
             if (!names.insert(entity.GetNome()).second)
-                row.Fail("il nome \"" + entity.GetNome().ToUtf8() + "\" è già usato.");
+                row.Fail("il nome \"" + Shown(entity.GetNome()) + "\" è già usato.");
         };
         ForEach(tables::loadCases, [&](RowReader& row) { takeName(row, ReadNamed<CCasoCarico>(row)); });
         ForEach(tables::combinations, [&](RowReader& row) { takeName(row, ReadNamed<CCombinazione>(row)); });
@@ -182,12 +190,15 @@ class Reader {
     }
 
     void ReadNodes() {
-        ForEach(tables::nodes, [this](RowReader& row) {
+        // The limit is the same length whatever the unit: a model that reaches it in metres may be shown in
+        // millimetres. A conversion may round it up.
+        const double metres = CGrandezza::_FattoreLunghezza(m_data.Units().length, Lunghezza::Metri) / (1 + 1e-9);
+        ForEach(tables::nodes, [this, metres](RowReader& row) {
             const int id = row.Id();
             CFPoint place;
             for (double* coordinate : {&place.x, &place.y, &place.z})
                 *coordinate = row.Real();
-            if (!IsUsablePlace(place))
+            if (!IsUsablePlace(place * metres))
                 row.Fail("le coordinate del nodo sono troppo grandi.");
             CNodo& node = Append(row, std::make_unique<CNodo>(place), id);
             if (const int mask = row.Int(0, CVincolo::Tutti); mask != 0) {
@@ -229,6 +240,8 @@ class Reader {
         ForEach(tables::releases, [this](RowReader& row) {
             auto& line = Required<CElementoSpecifiche>(row, ReadKind(row, IsLineKind, "solo le linee hanno svincoli."));
             const int id = row.Id();
+            if (line.GetSizeSpecifiche() == mostReleases)
+                row.Fail("la linea ha troppi svincoli.");
             if (line.IsIDSpecifica(id))
                 row.Fail("lo svincolo è ripetuto.");
             const bool end = row.Flag();

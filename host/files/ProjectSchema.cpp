@@ -47,7 +47,14 @@ std::string CreationSql(const Table& table) {
 }
 
 RowWriter::RowWriter(Database& database, const Table& table, int& rows)
-    : m_statement(database, InsertSql(table)), m_rows(rows) {
+    : m_table(table), m_statement(database, InsertSql(table)), m_rows(rows) {
+}
+
+RowWriter& RowWriter::Put(double value) {
+    if (!std::isfinite(value))
+        throw FileError(std::string("Tabella ") + m_table.name + ": un valore è troppo grande per essere salvato.");
+    m_statement.Bind(++m_column, value);
+    return *this;
 }
 
 RowWriter& RowWriter::Put(const CString& value) {

@@ -62,10 +62,8 @@ class RowWriter {
         return *this;
     }
     RowWriter& Put(unsigned value) { return Put(static_cast<int>(value)); }
-    RowWriter& Put(double value) {
-        m_statement.Bind(++m_column, value);
-        return *this;
-    }
+    // Throws FileError for a value that is not finite: saved, it would make the whole file unreadable.
+    RowWriter& Put(double value);
     RowWriter& Put(const CString& value);        // a row has at most four texts
     RowWriter& PutUtf8(std::string_view value) { // must live until End
         m_statement.Bind(++m_column, value);
@@ -74,6 +72,7 @@ class RowWriter {
     void End();
 
   private:
+    const Table& m_table;
     Statement m_statement;
     int& m_rows;
     std::string m_texts[4]; // the database reads them at the end of the row

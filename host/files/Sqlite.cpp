@@ -8,7 +8,8 @@ namespace host {
 
 namespace {
 
-// No row of a project is longer; a file that claims one is not ours.
+// In bytes. No row of a project is longer: a file that claims one is not ours, and none is written that could not be
+// read again.
 constexpr int longestRow = 1 << 20;
 
 // A path as a database address: what the address syntax gives a meaning to is escaped.
@@ -33,7 +34,6 @@ void Distrust(sqlite3* db) {
     sqlite3_db_config(db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     sqlite3_db_config(db, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
-    sqlite3_limit(db, SQLITE_LIMIT_LENGTH, longestRow);
 }
 
 } // namespace
@@ -49,6 +49,7 @@ Database::Database(const std::string& path, Mode mode) {
     try {
         if (sqlite3_open_v2(address.c_str(), &m_db, flags, nullptr) != SQLITE_OK)
             Fail();
+        sqlite3_limit(m_db, SQLITE_LIMIT_LENGTH, longestRow);
         if (reading) {
             Distrust(m_db);
         } else {

@@ -133,6 +133,12 @@ TEST(Import, MalformedTextIsRefusedWithItsLine) {
               "Riga 13: attesa l'area della sezione maggiore di zero.");
     EXPECT_EQ(RefusalOf(Replaced(model, "-7 1.5", "-7 4.5")), "Riga 25: il carico è oltre la fine dell'elemento.");
     EXPECT_NE(RefusalOf(Replaced(model, "2 # casi", "31 # casi")), "");
+    // Every number of the file is finite, but not what follows from them: such a model would be saved and never read.
+    EXPECT_EQ(RefusalOf(Replaced(model, "3e7 1.25e7 30", "1e300 1e-300 30")),
+              "Riga 13: il modulo di taglio è troppo piccolo per il modulo di elasticità.");
+    EXPECT_EQ(RefusalOf(Replaced(model, "0.3 0.3 20 10 30 -10", "1e-308 0.3 20 10 30 -10")),
+              "Riga 27: la variazione termica è troppo grande.");
+    EXPECT_EQ(RefusalOf(Replaced(model, "Un portale", std::string(5000, 'x'))), "Riga 1: il titolo è troppo lungo.");
     EXPECT_NE(RefusalOf(Replaced(model, "1 1 1 1 1 1 1", "1 1 1 2 1 1 1")), "");
 }
 

@@ -3,17 +3,20 @@
 #include "host/document/HostDocument.h"
 #include "host/files/FileError.h"
 #include "host/files/Sqlite.h"
+#include "model/Materiale.h"
 #include "tests/host/Dump.h"
 #include "tests/host/TestModel.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <random>
+#include <sqlite3.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -58,6 +61,7 @@ class ProjectFileTest : public testing::Test {
         Save();
         {
             host::Database database(file.string(), host::Database::Mode::WritePrivate);
+            sqlite3_limit(database.Handle(), SQLITE_LIMIT_LENGTH, 100 << 20); // a hostile file keeps to no limit
             database.Execute("PRAGMA writable_schema = ON");
             database.Execute(sql);
         }
@@ -82,6 +86,29 @@ TEST_F(ProjectFileTest, RoundTripIsExact) {
     HostDocument empty;
     SaveProject(empty.Data(), file.string(), "1.2.3");
     EXPECT_EQ(Loaded(), Dump(empty.Data()));
+}
+
+// Catches limits of the reader that a model passes by being shown in another unit, or by its own settings.
+TEST_F(ProjectFileTest, WhatIsSavedCanBeRead) {
+    document.MoveNodes({{document.GetIndexNodo(0), CFPoint(-1e12, 0, 1e12)}});
+    document.SetTolleranza(1e7);
+    document.ChangeUnits(Lunghezza::Millimetri, Forza::Newton);
+    Save();
+    EXPECT_EQ(Loaded(), Dump(document.Data()));
+}
+
+// A project that could not be read again is not written, and the old file stays.
+TEST_F(ProjectFileTest, WhatCannotBeReadIsNotSaved) {
+    Save();
+    const std::string before = Bytes(file);
+    document.Data().Info().notes = CString(std::string((1 << 20) + 1, 'n'));
+    EXPECT_THROW(Save(), FileError);
+    document.Data().Info().notes = "";
+    document.Data().As<CMateriale>(Kind::Material, 0)->SetE(1e307);
+    document.ChangeUnits(Lunghezza::Metri, Forza::Newton);
+    EXPECT_FALSE(std::isfinite(document.Data().As<CMateriale>(Kind::Material, 0)->GetE()));
+    EXPECT_THROW(Save(), FileError);
+    EXPECT_EQ(Bytes(file), before);
 }
 
 TEST_F(ProjectFileTest, SavingKeepsLinksAndPermissions) {
@@ -173,6 +200,14 @@ TEST_F(ProjectFileTest, HostileContentIsRefusedWithItsPlace) {
          "Le tabelle del progetto non sono quelle attese (nodi)."},
         {"UPDATE materiali SET nome = replace(hex(zeroblob(1100000)), '0', 'a') WHERE pos = 1",
          "Il file contiene un dato troppo grande."},
+        // The message stays fit for a box.
+        {"UPDATE casi SET nome = printf('%.*c', 100000, 'n')",
+         "Tabella casi, riga 2: il nome \"nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn...\" è già "
+         "usato."},
+        // Each one is compared with those before it: without a bound a short file keeps the reader busy for minutes.
+        {"WITH RECURSIVE n(i) AS (SELECT 3 UNION ALL SELECT i + 1 FROM n WHERE i < 1100) INSERT INTO svincoli "
+         "SELECT i, genere, elemento, 1000 + i, 0, 0, 0, 0, 0 FROM svincoli, n WHERE pos = 1",
+         "Tabella svincoli, riga 1001: la linea ha troppi svincoli."},
     };
     for (const auto& [sql, message] : cases)
         EXPECT_EQ(RefusalAfter(sql), message) << sql;
