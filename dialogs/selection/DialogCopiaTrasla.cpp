@@ -21,6 +21,7 @@ constexpr int joinNothing = 2;
 constexpr double defaultSpacing = 3.0;
 constexpr int rowNumberWidth = 44; // pixels of a row that the editor leaves free
 constexpr int blockSize = 10;
+constexpr int mostRows = 1'000'000; // a number typed by mistake must not fill the memory; all rows from 101 are alike
 
 // The leading whole number of a text as atoi reads it; one that no int holds becomes the nearest that it does.
 int LeadingInteger(const CString& text) {
@@ -137,7 +138,7 @@ void CDialogCopiaTrasla::ResetListBox() {
     constexpr int rowsPerStep = 100'000;
     m_listPassi.ResetContent();
     // Read before the redraw rests: a field that does not parse shows its message.
-    const int rows = GetNPass();
+    const int rows = std::min(GetNPass(), mostRows);
     const RedrawLock lock(m_listPassi);
     std::optional<WaitBar> wait;
     if (rows > rowsPerStep)
@@ -343,7 +344,7 @@ BOOL CDialogCopiaTrasla::PreTranslateMessage(MSG* pMsg) {
 }
 
 bool CDialogCopiaTrasla::AcceptSteps() {
-    for (int i = 0; i < m_nCopie; ++i) {
+    for (int i = 0; i < std::min(m_nCopie, GetMaxPass()); ++i) { // the steps beyond are the first one
         if (GetIndexPass(i) != 0)
             continue;
         AfxMessageBox("Passo non valido.");

@@ -61,11 +61,8 @@ QAction* MainMenu::Add(QMenu& menu, const QString& name, const QString& text, co
     action->setObjectName(name);
     action->setShortcut(keys);
     menu.addAction(action);
-    // While a command runs nothing else starts, however the request comes.
-    QObject::connect(action, &QAction::triggered, &m_window, [this, run = std::move(run)] {
-        if (!m_workspace.IsWaiting())
-            run();
-    });
+    QObject::connect(action, &QAction::triggered, &m_window,
+                     [this, run = std::move(run)] { m_workspace.Execute(run); });
     m_items.push_back({action, needs, {}});
     return action;
 }
@@ -108,7 +105,7 @@ void MainMenu::BuildFile() {
                [this](HostView& view) { m_workspace.CloseView(view); });
     menu.addSeparator();
     Add(menu, "file.esci", "&Esci", QKeySequence("Ctrl+Q"), Needs::Nothing,
-        [this] { m_window.Frame().SendMessage(WM_CLOSE); });
+        [this] { m_window.Frame().PostMessage(WM_CLOSE); }); // which is a command of its own
 }
 
 void MainMenu::BuildEdit() {

@@ -10,6 +10,7 @@
 #include "model/Combinazione.h"
 #include "model/Units.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -17,6 +18,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMimeData>
 #include <QStatusBar>
 #include <QTimer>
@@ -37,6 +39,9 @@ class ViewWindow final : public QMdiSubWindow {
     ViewWindow(HostView& view, Workspace& workspace) : m_view(&view), m_workspace(workspace) {
         setAttribute(Qt::WA_DeleteOnClose, false);
         setWidget(&view.Widget());
+        // The toolkit's own commands share keys with the menu, and of two commands with one key neither runs.
+        for (QAction* each : systemMenu()->actions())
+            each->setShortcuts(QList<QKeySequence>());
     }
     HostView* View() const { return m_view; }
     void Forget() { m_view = nullptr; }
@@ -44,8 +49,8 @@ class ViewWindow final : public QMdiSubWindow {
   protected:
     void closeEvent(QCloseEvent* event) override {
         event->ignore();
-        if (m_view && !m_workspace.IsWaiting())
-            m_workspace.CloseView(*m_view);
+        if (m_view)
+            m_workspace.Execute([this] { m_workspace.CloseView(*m_view); });
     }
 
   private:
@@ -67,8 +72,10 @@ CRect& HostFrame::GetRectClientTabella() {
 }
 
 void HostFrame::OnClose() {
-    if (!m_workspace.IsWaiting() && m_workspace.CloseAll())
-        QCoreApplication::exit(0); // quit() would ask the windows once more
+    m_workspace.Execute([this] {
+        if (m_workspace.CloseAll())
+            QCoreApplication::exit(0); // quit() would ask the windows once more
+    });
 }
 
 MainWindow::MainWindow(Workspace& workspace)

@@ -10,6 +10,7 @@
 #include "platform/Application.h"
 
 #include <QCoreApplication>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -154,6 +155,13 @@ void Workspace::ViewActivated(HostView& view) {
     view.Document().SetActiveView(&view);
     m_tools.ViewActivated(view);
     m_window->ScheduleRefresh();
+}
+
+void Workspace::Execute(const std::function<void()>& command) {
+    if (m_executing || IsWaiting())
+        return;
+    const QScopedValueRollback<bool> executing(m_executing, true);
+    command();
 }
 
 CDialogDocument* Workspace::Run(const ToolCommand& command) {

@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -50,6 +51,10 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     HostView* ActiveView() const { return m_active; } // null when there is none
     void ViewActivated(HostView& view);
     const std::vector<std::unique_ptr<HostView>>& Views() const { return m_views; }
+
+    // Runs what the user asks for, unless a command is at work still: one that shows a dialog goes on when the dialog
+    // is gone, and a request that was already waiting behind the dialog's last key may come before that.
+    void Execute(const std::function<void()>& command);
 
     // ---- Commands on the active view; without one nothing happens.
     CDialogDocument* Run(const ToolCommand& command); // null when the dialog could not be opened
@@ -103,4 +108,5 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     HostView* m_active = nullptr;
     ToolDialogs m_tools;
     int m_untitled = 0;
+    bool m_executing = false;
 };

@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <new>
 
 namespace platform {
 
@@ -29,6 +30,8 @@ LRESULT guarded(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam) {
         if (!exception->IsKindOf(RUNTIME_CLASS(CUserException)))
             exception->ReportError();
         exception->Delete();
+    } catch (const std::bad_alloc&) {
+        CMemoryException(FALSE).ReportError();
     }
     return 0;
 }

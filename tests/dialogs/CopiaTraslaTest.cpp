@@ -328,6 +328,10 @@ TEST_F(CopiaTrasla, CopiesBeyondTheHundredthShareTheFirstStep) {
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "CicloTraslaSelezione 0 0 4 0 101"), 1);
     driver.Type(copies, "250000"); // a long fill shows that it is alive
     EXPECT_EQ(host.Take(), (Lines{"InizioAttesa \"Attendere...\" 2", "StepBar", "StepBar", "FineAttesa"}));
+    // Catches a list that fills the memory with a row for each of the copies of a slip of the keyboard.
+    driver.SetText(copies, "2147483647");
+    EXPECT_EQ(dialog.GetNPass(), 2147483647);
+    EXPECT_EQ(driver.Rows(list).size(), 1'000'000u);
 }
 
 TEST_F(CopiaTrasla, NullVectorAndTextAreRefused) {

@@ -149,6 +149,32 @@ TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
     EXPECT_FALSE(CQuovarGlobal::_GetActiveDoc());
 }
 
+// Catches a key that the toolkit's own window commands share with the menu: neither would run.
+TEST_F(MainWindowTest, ClosingByKey) {
+    for (const char* arrangement : {"finestra.schede", "finestra.affianca"}) {
+        workspace->NewView(Document());
+        Trigger(arrangement);
+        const std::size_t views = workspace->Views().size();
+        QTest::keyClick(View().Widget().QWidget::window()->windowHandle(), Qt::Key_W, Qt::ControlModifier);
+        CWinApp::PumpMessages();
+        EXPECT_EQ(workspace->Views().size(), views - 1) << arrangement;
+    }
+}
+
+// Two quick keys: the dialog has gone with the first, its command has not. Catches a document that is closed under it.
+TEST_F(MainWindowTest, NoCommandStartsInsideAnother) {
+    user.WhenDialogOpens([this](DialogDriver& dialog) {
+        dialog.Press(VK_RETURN);
+        workspace->Window().Command("file.chiudi")->trigger();
+        workspace->Window().Frame().SendMessage(WM_CLOSE);
+        EXPECT_EQ(workspace->Views().size(), 1u);
+    });
+    const int cases = Document().GetSizeCasiCarico();
+    Trigger("carichi.Crea Caso di Carico");
+    ASSERT_EQ(workspace->Views().size(), 1u);
+    EXPECT_EQ(Document().GetSizeCasiCarico(), cases + 1);
+}
+
 // Catches a menu that shows a command without a dialog or leaves one out, and undo that does not name its step.
 TEST_F(MainWindowTest, MenusShowWhatThereIs) {
     QStringList titles;

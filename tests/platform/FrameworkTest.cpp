@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -347,9 +348,12 @@ TEST(Framework, AnExceptionEndsWithItsMessage) {
     dialog.onButton = [] { AfxThrowUserException(); }; // has told the user itself
     user.Click(200);
     EXPECT_EQ(boxes.texts.size(), 1u);
+    dialog.onButton = [] { throw std::bad_alloc(); };
+    user.Click(200);
+    EXPECT_EQ(boxes.texts.back(), "Memoria esaurita.");
     dialog.onButton = nullptr;
     user.Click(200); // and the dialog goes on
-    EXPECT_EQ(countOf(dialog.log, "button"), 3);
+    EXPECT_EQ(countOf(dialog.log, "button"), 4);
 }
 
 TEST(Framework, MessageBoxesHaveTheirIconsCaptionAndButtons) {
