@@ -2,21 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace {
 
 // Values that differ by less than this part of the largest one are the same: sums of loads leave such differences.
 constexpr double sameValue = 1e-9;
-
-double valueAt(const TrattoDiagramma& piece, double x) {
-    const double s = x - piece.da;
-    return piece.c[0] + s * (piece.c[1] + s * (piece.c[2] + s * piece.c[3]));
-}
-
-bool isStraight(const TrattoDiagramma& piece) {
-    return piece.c[2] == 0 && piece.c[3] == 0;
-}
 
 } // namespace
 
@@ -41,33 +33,42 @@ double DiagramCurve::Value(double x, int side) const {
     if (m_pieces.empty())
         return 0;
     const TrattoDiagramma& piece = pieceAt(x, side);
-    return valueAt(piece, std::clamp(x, piece.da, piece.a));
+    return piece.GetValore(std::clamp(x, piece.da, piece.a));
+}
+
+// A stretch that goes on the way of the one before leaves no turn between them.
+void DiagramCurve::addTurn(double x, double value) {
+    const std::size_t count = m_turns.size();
+    if (count > 1) {
+        const Point &before = m_turns[count - 2], &last = m_turns[count - 1];
+        const bool jump = before.x == last.x || last.x == x;
+        if (!jump && (last.value - before.value) * (value - last.value) > 0)
+            m_turns.pop_back();
+    }
+    m_turns.push_back({x, value});
+    m_minimum = std::min(m_minimum, value);
+    m_maximum = std::max(m_maximum, value);
 }
 
 void DiagramCurve::findTurns() {
-    m_turns.reserve(m_pieces.size() + 1);
-    const auto add = [this](double x, double value) {
-        m_turns.push_back({x, value});
-        m_minimum = std::min(m_minimum, value);
-        m_maximum = std::max(m_maximum, value);
-    };
     for (const TrattoDiagramma& piece : m_pieces) {
         if (m_turns.empty() || m_turns.back().value != piece.c[0])
-            add(piece.da, piece.c[0]);
+            addTurn(piece.da, piece.c[0]);
         double places[2];
-        const int count = isStraight(piece) ? 0 : piece.GetEstremi(places);
+        const int count = piece.IsRetta() ? 0 : piece.GetEstremi(places);
         for (int i = 0; i < count; ++i)
-            add(places[i], valueAt(piece, places[i]));
-        add(piece.a, valueAt(piece, piece.a));
+            addTurn(places[i], piece.GetValore(places[i]));
+        addTurn(piece.a, piece.GetValore(piece.a));
     }
 }
 
 bool DiagramCurve::FindJump(double from, double to, double& place) const {
-    for (std::size_t i = 1; i < m_pieces.size() && m_pieces[i].da <= to; ++i) {
-        const double at = m_pieces[i].da;
-        if (at < from || same(m_pieces[i].c[0], valueAt(m_pieces[i - 1], at)))
+    const auto before = [](const TrattoDiagramma& piece, double x) { return piece.da < x; };
+    auto piece = std::lower_bound(m_pieces.begin(), m_pieces.end(), from, before);
+    for (; piece != m_pieces.end() && piece->da <= to; ++piece) {
+        if (piece == m_pieces.begin() || same(piece->c[0], std::prev(piece)->GetValore(piece->da)))
             continue;
-        place = at;
+        place = piece->da;
         return true;
     }
     return false;
@@ -100,21 +101,4 @@ std::vector<DiagramCurve::Point> DiagramCurve::Peaks() const {
     if (!all.empty())
         peaks.push_back(all.back());
     return peaks;
-}
-
-void DiagramCurve::Sample(double step, std::vector<Point>& points) const {
-    points.clear();
-    const auto add = [&points](double x, double value) {
-        if (points.empty() || points.back().value != value || points.back().x != x)
-            points.push_back({x, value});
-    };
-    for (const TrattoDiagramma& piece : m_pieces) {
-        const double length = piece.a - piece.da;
-        const int parts = isStraight(piece) ? 1 : std::max(1, static_cast<int>(std::ceil(length / step)));
-        add(piece.da, piece.c[0]);
-        for (int i = 1; i <= parts; ++i) {
-            const double x = i == parts ? piece.a : piece.da + length * i / parts;
-            add(x, valueAt(piece, x));
-        }
-    }
 }

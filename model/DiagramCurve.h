@@ -3,6 +3,8 @@
 
 #include "model/LineaRisultati.h"
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 class DiagramCurve {
@@ -33,19 +35,39 @@ class DiagramCurve {
     double Maximum() const { return m_maximum; }
     double Largest() const { return m_maximum > -m_minimum ? m_maximum : -m_minimum; }
 
-    // Points that straight strokes join to the curve, at most `step` apart where it is bent. Both values of a jump are
-    // there, one after the other.
-    void Sample(double step, std::vector<Point>& points) const;
+    // Calls `take(x, value)` for points that straight strokes join to the curve, at most `step` apart where it is bent.
+    // Both values of a jump are there, one after the other.
+    template <class Take>
+    void Sample(double step, Take take) const;
 
   private:
     void findTurns();
     const TrattoDiagramma& pieceAt(double x, int side) const;
 
     bool same(double a, double b) const;
+    void addTurn(double x, double value);
 
     std::vector<TrattoDiagramma> m_pieces;
-    // The values at both ends of every piece and where its slope is 0: between two neighbours the curve is monotonic.
+    // Where the curve begins, ends, jumps or turns, and maybe others: between two neighbours it goes one way.
     std::vector<Point> m_turns;
     double m_minimum = 0;
     double m_maximum = 0;
 };
+
+template <class Take>
+void DiagramCurve::Sample(double step, Take take) const {
+    double last = 0;
+    for (const TrattoDiagramma& piece : m_pieces) {
+        if (&piece == m_pieces.data() || piece.c[0] != last)
+            take(piece.da, piece.c[0]);
+        if (!piece.IsRetta()) {
+            const double length = piece.a - piece.da;
+            const int parts = std::max(1, static_cast<int>(std::ceil(length / step)));
+            for (int i = 1; i < parts; ++i) {
+                const double x = piece.da + length * i / parts;
+                take(x, piece.GetValore(x));
+            }
+        }
+        take(piece.a, last = piece.GetValore(piece.a));
+    }
+}

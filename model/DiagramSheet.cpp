@@ -1,11 +1,11 @@
 #include "model/DiagramSheet.h"
 
+#include "model/DiagramOutline.h"
 #include "model/ElementoRisultati.h"
 #include "model/ElementoSettings.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -13,10 +13,12 @@ constexpr COLORREF white = RGB(255, 255, 255);
 constexpr COLORREF axisColor = RGB(0, 0, 0);
 constexpr COLORREF hairColor = RGB(90, 90, 90);
 constexpr int sideMargin = 8;         // from a panel's edge to the end of its axis
+constexpr int sideGap = 2;            // from a panel's edge to its texts
 constexpr double worthAColumn = 1.1;  // how much better panels must be seen for one more column
 constexpr int roomForLabels = 48;     // panels lower than this keep their height for the curve
 constexpr double widthToHeight = 2.5; // of a panel that is equally good either way
 constexpr double bendStep = 2;        // pixels between the points of a bent stretch
+constexpr double closeEnough = 0.1;   // pixels between the curve and the strokes that stand for it
 constexpr std::size_t mostLabels = 16;
 
 struct Style {
@@ -45,12 +47,15 @@ COLORREF paler(COLORREF color) {
     return RGB(mix(GetRValue(color)), mix(GetGValue(color)), mix(GetBValue(color)));
 }
 
-CString labelText(double value, double largest) {
+// What is small against the largest value is rounding.
+double shown(double value, double largest) {
+    return std::abs(value) <= 1e-9 * largest ? 0 : value;
+}
+
+CString labelText(double value) {
     const double size = std::abs(value);
     CString text;
-    if (size <= 1e-9 * largest)
-        text = "0";
-    else if (size >= 1e6 || size < 1e-3)
+    if (size >= 1e6 || (size < 1e-3 && size > 0))
         text.Format("%.3e", value);
     else if (size >= 1000)
         text.Format("%.1f", value);
@@ -61,99 +66,13 @@ CString labelText(double value, double largest) {
 
 CString readingText(double value, double largest) {
     CString text;
-    text.Format("%.5g", std::abs(value) <= 1e-9 * largest ? 0.0 : value);
+    text.Format("%.5g", shown(value, largest));
     return text;
 }
 
 int roundDown(double value) {
     return static_cast<int>(std::floor(value));
 }
-
-// Of the points that fall into one column of pixels, the first, the extremes and the last are what can be seen.
-class ColumnReducer {
-  public:
-    explicit ColumnReducer(std::vector<CPoint>& out) : m_out(out) {}
-    ~ColumnReducer() { flush(); }
-
-    void add(CPoint point) {
-        if (m_count == 0 || point.x != m_first.x) {
-            flush();
-            m_first = m_low = m_high = point;
-        }
-        if (point.y < m_low.y)
-            m_low = point;
-        if (point.y > m_high.y)
-            m_high = point;
-        m_last = point;
-        ++m_count;
-    }
-
-  private:
-    void flush() {
-        if (m_count == 0)
-            return;
-        m_count = 0;
-        put(m_first);
-        put(m_low);
-        put(m_high);
-        put(m_last);
-    }
-    void put(CPoint point) {
-        if (m_out.empty() || m_out.back() != point)
-            m_out.push_back(point);
-    }
-
-    std::vector<CPoint>& m_out;
-    CPoint m_first, m_low, m_high, m_last;
-    int m_count = 0;
-};
-
-// Leaves out the points that one straight stroke passes closely enough: it keeps between two slopes seen from its
-// beginning, which every further point narrows.
-class StrokeJoiner {
-  public:
-    explicit StrokeJoiner(ColumnReducer& out) : m_out(out) {}
-    ~StrokeJoiner() { end(); }
-
-    void add(double x, double y) {
-        if (m_begun && x > m_x) {
-            double slope = (y - m_startY) / (x - m_startX);
-            if (slope < m_low || slope > m_high) {
-                start(m_x, m_y);
-                slope = (y - m_startY) / (x - m_startX);
-            }
-            const double allowed = closeEnough / (x - m_startX);
-            m_low = std::max(m_low, slope - allowed);
-            m_high = std::min(m_high, slope + allowed);
-        } else { // the first point, or the far end of a jump
-            end();
-            start(x, y);
-        }
-        m_x = x;
-        m_y = y;
-    }
-
-  private:
-    static constexpr double closeEnough = 0.25; // pixels
-
-    void start(double x, double y) {
-        m_startX = x;
-        m_startY = y;
-        m_low = -std::numeric_limits<double>::infinity();
-        m_high = -m_low;
-        m_begun = true;
-        put(x, y);
-    }
-    void end() {
-        if (m_begun)
-            put(m_x, m_y);
-    }
-    void put(double x, double y) { m_out.add({roundDown(x + 0.5), roundDown(y + 0.5)}); }
-
-    ColumnReducer& m_out;
-    bool m_begun = false;
-    double m_x = 0, m_y = 0, m_startX = 0, m_startY = 0, m_low = 0, m_high = 0;
-};
 
 // The number of columns in which so many panels are best seen.
 int bestColumns(int panels, int width, int height) {
@@ -197,6 +116,9 @@ void DiagramSheet::layOut(const std::vector<Diagram>& diagrams) {
         Panel panel{&diagram, style.color, {}, 0, 0, 0, 0};
         panel.cell = CRect(m_area.left + width * column / m_columns, m_area.top + height * row / rows,
                            m_area.left + width * (column + 1) / m_columns, m_area.top + height * (row + 1) / rows);
+        panel.left = panel.cell.left + sideMargin;
+        panel.right = std::max<int>(panel.left + 1, panel.cell.right - sideMargin - 1);
+        panel.cell.DeflateRect(sideGap, 0);
         place(panel, style.below);
         m_panels.push_back(panel);
     }
@@ -204,8 +126,6 @@ void DiagramSheet::layOut(const std::vector<Diagram>& diagrams) {
 
 // The axis lies so that both the positive and the negative values use the room there is.
 void DiagramSheet::place(Panel& panel, bool below) const {
-    panel.left = panel.cell.left + sideMargin;
-    panel.right = std::max<int>(panel.left + 1, panel.cell.right - sideMargin - 1);
     int top = panel.cell.top + m_textHeight + 1, bottom = std::max(top + 1, static_cast<int>(panel.cell.bottom) - 3);
     double above = panel.diagram->curve.Maximum(), under = -panel.diagram->curve.Minimum();
     if (below)
@@ -242,6 +162,7 @@ void DiagramSheet::Draw() {
     const ObjectSelection font(m_dc, m_font);
     const int mode = m_dc.SetBkMode(TRANSPARENT);
     for (const Panel& panel : m_panels) {
+        outline(panel);
         drawCurve(panel);
         drawAxis(panel);
         drawTitle(panel);
@@ -253,25 +174,24 @@ void DiagramSheet::Draw() {
 }
 
 // Closed by the axis at both ends.
-void DiagramSheet::outline(const Panel& panel, std::vector<CPoint>& points) {
-    points.clear();
-    const double step = bendStep * m_line.length / (panel.right - panel.left);
-    panel.diagram->curve.Sample(step, m_samples);
-    points.emplace_back(panel.left, panel.axis);
+void DiagramSheet::outline(const Panel& panel) {
+    m_points.clear();
+    if (panel.scale == 0)
+        return;
+    const double perUnit = (panel.right - panel.left) / m_line.length, axis = panel.axis;
+    m_points.push_back({static_cast<double>(panel.left), axis});
     {
-        ColumnReducer reducer(points);
-        StrokeJoiner joiner(reducer);
-        const double perUnit = (panel.right - panel.left) / m_line.length;
-        for (const DiagramCurve::Point& sample : m_samples)
-            joiner.add(panel.left + sample.x * perUnit, panel.axis - sample.value * panel.scale);
+        DiagramOutline strokes(m_points, closeEnough);
+        panel.diagram->curve.Sample(bendStep / perUnit, [&](double x, double value) {
+            strokes.Add({panel.left + x * perUnit, axis - value * panel.scale});
+        });
     }
-    points.emplace_back(points.back().x, panel.axis);
+    m_points.push_back({m_points.back().x, axis});
 }
 
 void DiagramSheet::drawCurve(const Panel& panel) {
-    if (panel.scale == 0)
+    if (m_points.empty())
         return;
-    outline(panel, m_points);
     const int count = static_cast<int>(m_points.size());
     {
         CBrush brush(paler(panel.color));
@@ -289,16 +209,65 @@ void DiagramSheet::drawAxis(const Panel& panel) {
         m_dc.FillSolidRect(end - 1, panel.axis - 1, 3, 3, axisColor);
 }
 
+// As much of it as there is room for.
 void DiagramSheet::drawTitle(const Panel& panel) {
-    CString text = CElementoRisultati::_GetStringRisultato(panel.diagram->kind);
-    if (panel.diagram->curve.IsEmpty())
-        text += " non disponibile";
-    else
-        text += " [" + panel.diagram->unit + "]";
+    const CString name = CElementoRisultati::_GetStringRisultato(panel.diagram->kind);
+    CString text = panel.diagram->curve.IsEmpty() ? name + " non disponibile" : name + " [" + panel.diagram->unit + "]";
+    if (m_dc.GetTextExtent(text).cx > panel.cell.Width())
+        text = panel.diagram->curve.IsEmpty() ? name + ": n.d." : name;
     m_dc.SetTextColor(panel.color);
-    const CPoint at(panel.cell.left + 2, panel.cell.top);
-    m_dc.TextOut(at.x, at.y, text);
-    m_labels.emplace_back(at, m_dc.GetTextExtent(text));
+    const CPoint at = panel.cell.TopLeft();
+    const CSize size = m_dc.GetTextExtent(text);
+    if (size.cx > panel.cell.Width())
+        m_dc.ExtTextOut(at.x, at.y, ETO_CLIPPED, panel.cell, text);
+    else
+        m_dc.TextOut(at.x, at.y, text);
+    m_labels.emplace_back(at, size);
+}
+
+// Whether the curve or the axis runs through a text there, its empty rows left aside.
+bool DiagramSheet::isCrossed(const Panel& panel, const CRect& place) const {
+    constexpr int emptyRows = 2;
+    const double top = place.top + emptyRows, bottom = place.bottom - emptyRows;
+    if (panel.axis >= place.top && panel.axis < place.bottom)
+        return true;
+    const auto leftOf = [](const FinePoint& point, double x) { return point.x < x; };
+    auto point = std::lower_bound(m_points.begin(), m_points.end(), static_cast<double>(place.left), leftOf);
+    if (point != m_points.begin())
+        --point;
+    for (; point != m_points.end() && point + 1 != m_points.end() && point->x <= place.right; ++point) {
+        const FinePoint &from = point[0], &to = point[1];
+        const double slope = to.x > from.x ? (to.y - from.y) / (to.x - from.x) : 0;
+        const auto at = [&](double x, double end) { return slope == 0 ? end : from.y + slope * (x - from.x); };
+        const double first = at(std::max<double>(from.x, place.left), from.y);
+        const double last = at(std::min<double>(to.x, place.right), to.y);
+        if (to.x >= place.left && std::min(first, last) < bottom && std::max(first, last) > top)
+            return true;
+    }
+    return false;
+}
+
+// Beyond the curve, else across the axis, else beside the place: the first that is free.
+bool DiagramSheet::drawLabel(const Panel& panel, const DiagramCurve::Point& peak, const CString& text, bool overCurve) {
+    const CSize size = m_dc.GetTextExtent(text);
+    const int x = pixelX(panel, peak.x), y = pixelY(panel, peak.value);
+    const bool above = peak.value * panel.scale >= 0;
+    const int tops[] = {above ? y - size.cy : y + 1, above ? panel.axis + 2 : panel.axis - size.cy - 1,
+                        y - size.cy / 2};
+    const int centred =
+        std::clamp<int>(x - size.cx / 2, panel.cell.left, std::max<int>(panel.cell.left, panel.cell.right - size.cx));
+    const int lefts[] = {centred, x + 4, x - 3 - size.cx};
+    for (int i = 0; i < 9; ++i) {
+        const CRect place(CPoint(lefts[i % 3], tops[i / 3]), size);
+        const auto meets = [&place](const CRect& other) { return !(place & other).IsRectEmpty(); };
+        if ((place & panel.cell) != place || (!overCurve && isCrossed(panel, place)) ||
+            std::any_of(m_labels.begin() + m_firstLabel, m_labels.end(), meets))
+            continue;
+        m_dc.TextOut(place.left, place.top, text);
+        m_labels.push_back(place);
+        return true;
+    }
+    return false;
 }
 
 // The largest value first, then the others by size: where there is no room left, the smallest go without.
@@ -311,28 +280,14 @@ void DiagramSheet::drawLabels(const Panel& panel) {
     } else {
         std::stable_sort(peaks.begin(), peaks.end(), larger);
     }
-    const double largest = panel.diagram->curve.Largest();
-    const auto first = static_cast<std::ptrdiff_t>(m_labels.size()) - 1; // the panel's title
+    m_firstLabel = static_cast<std::ptrdiff_t>(m_labels.size()) - 1; // the panel's title
     m_dc.SetTextColor(panel.color);
-    for (const DiagramCurve::Point& peak : peaks) {
-        const CString text = labelText(peak.value, largest);
-        const CSize size = m_dc.GetTextExtent(text);
-        const int x = pixelX(panel, peak.x), y = pixelY(panel, peak.value);
-        const bool above = peak.value * panel.scale >= 0;
-        // Beyond the curve, else across the axis; centred on the place, else beside it.
-        const int tops[] = {above ? y - size.cy : y + 1, above ? panel.axis + 2 : panel.axis - size.cy - 1};
-        const int centred = std::clamp<int>(x - size.cx / 2, panel.cell.left + 1,
-                                            std::max<int>(panel.cell.left + 1, panel.cell.right - 1 - size.cx));
-        const int lefts[] = {centred, x + 3, x - 2 - size.cx};
-        for (int i = 0; i < 6; ++i) {
-            const CRect place(CPoint(lefts[i % 3], tops[i / 3]), size);
-            const auto meets = [&place](const CRect& other) { return !(place & other).IsRectEmpty(); };
-            if ((place & panel.cell) != place || std::any_of(m_labels.begin() + first, m_labels.end(), meets))
-                continue;
-            m_dc.TextOut(place.left, place.top, text);
-            m_labels.push_back(place);
-            break;
-        }
+    for (DiagramCurve::Point& peak : peaks) {
+        peak.value = shown(peak.value, panel.diagram->curve.Largest());
+        const CString text = labelText(peak.value);
+        const bool free = drawLabel(panel, peak, text, false);
+        if (!free && &peak == peaks.data())
+            drawLabel(panel, peak, text, true);
     }
 }
 
@@ -341,15 +296,15 @@ void DiagramSheet::drawNodes(const Panel& panel) {
     CString first, last;
     first.Format("Nodo %d", m_line.firstNode);
     last.Format("Nodo %d", m_line.lastNode);
-    const int room = panel.cell.Width() - 4, gap = 8;
+    const int room = panel.cell.Width(), gap = 8;
     if (m_dc.GetTextExtent(first).cx + m_dc.GetTextExtent(last).cx + gap > room) {
         first.Format("%d", m_line.firstNode);
         last.Format("%d", m_line.lastNode);
     }
     m_dc.SetTextColor(axisColor);
     const int top = m_area.bottom - m_textHeight;
-    m_dc.TextOut(panel.cell.left + 2, top, first);
-    m_dc.TextOut(panel.cell.right - 2 - m_dc.GetTextExtent(last).cx, top, last);
+    m_dc.TextOut(panel.cell.left, top, first);
+    m_dc.TextOut(panel.cell.right - m_dc.GetTextExtent(last).cx, top, last);
 }
 
 void DiagramSheet::DrawReading(CPoint at) {

@@ -49,11 +49,13 @@ class DiagramSheet {
     void place(Panel& panel, bool below) const;
     int pixelX(const Panel& panel, double x) const;
     static int pixelY(const Panel& panel, double value);
-    void outline(const Panel& panel, std::vector<CPoint>& points);
+    void outline(const Panel& panel);
     void drawCurve(const Panel& panel);
     void drawAxis(const Panel& panel);
     void drawTitle(const Panel& panel);
     void drawLabels(const Panel& panel);
+    bool drawLabel(const Panel& panel, const DiagramCurve::Point& peak, const CString& text, bool overCurve);
+    bool isCrossed(const Panel& panel, const CRect& place) const;
     void drawNodes(const Panel& panel);
     void drawValue(const Panel& panel, double x);
     void drawBoxed(const CString& text, CPoint at, const CRect& bounds, COLORREF color);
@@ -65,7 +67,7 @@ class DiagramSheet {
     int m_textHeight = 0;
     CFont m_font;
     std::vector<Panel> m_panels;
-    std::vector<DiagramCurve::Point> m_samples; // reused from panel to panel
-    std::vector<CPoint> m_points;
+    std::vector<FinePoint> m_points; // the outline of the panel that is drawn, from left to right; empty for none
     std::vector<CRect> m_labels;
+    std::ptrdiff_t m_firstLabel = 0; // of the panel that is drawn: its title
 };

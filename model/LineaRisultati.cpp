@@ -77,11 +77,6 @@ void appendScaled(Loads& to, const Loads& from, double factor) {
 
 // ---- Stretches
 
-double TrattoDiagramma::GetValore(double x) const {
-    const double s = x - da;
-    return c[0] + s * (c[1] + s * (c[2] + s * c[3]));
-}
-
 int TrattoDiagramma::GetEstremi(double (&x)[2]) const {
     const double a2 = 3 * c[3], a1 = 2 * c[2], a0 = c[1];
     double roots[2];
@@ -153,6 +148,28 @@ void CTraveRisultati::SetForzeEstremi(const double (&forze)[12]) {
         GetNodoRisultati(0)->GetIndice(i) = endSign(i) * forze[i] + 0.0;
         GetNodoRisultati(1)->GetIndice(i) = -endSign(i) * forze[6 + i] + 0.0;
     }
+}
+
+double CTraveRisultati::GetForzaMassima() const {
+    double largest = 0;
+    if (!(m_dLunghezza > 0))
+        return 0;
+    const auto see = [&largest](double force) { largest = std::max(largest, std::abs(force)); };
+    for (int i = 0; i < 3; ++i) {
+        for (int end = 0; end < 2; ++end) {
+            see(GetNodoRisultati(end)->GetIndice(i));
+            see(GetNodoRisultati(end)->GetIndice(i + 3) / m_dLunghezza);
+        }
+        for (const Ripartito& load : m_ripartiti) {
+            see(load.inizio[i] * (load.a - load.da));
+            see(load.fine[i] * (load.a - load.da));
+        }
+        for (const Concentrato& load : m_concentrati) {
+            see(load.forza[i]);
+            see(load.momento[i] / m_dLunghezza);
+        }
+    }
+    return largest;
 }
 
 void CTraveRisultati::Somma(const CTraveRisultati& altro, double fattore) {

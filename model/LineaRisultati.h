@@ -18,7 +18,11 @@ struct TrattoDiagramma {
     double a = 0;
     double c[4] = {}; // c0 + c1 s + c2 s^2 + c3 s^3 with s = x - da
 
-    double GetValore(double x) const;
+    double GetValore(double x) const {
+        const double s = x - da;
+        return c[0] + s * (c[1] + s * (c[2] + s * c[3]));
+    }
+    bool IsRetta() const { return c[2] == 0 && c[3] == 0; }
     // Places strictly inside the stretch where the diagram is level, in increasing order; returns how many.
     int GetEstremi(double (&x)[2]) const;
     // Places where the diagram crosses or reaches zero, both ends included; none for a diagram that is zero all along.
@@ -60,6 +64,10 @@ class CTraveRisultati : public CElementoRisultati {
     void AddCarico(const Concentrato& carico) { m_concentrati.push_back(carico); }
     const std::vector<Ripartito>& GetRipartiti() const { return m_ripartiti; }
     const std::vector<Concentrato>& GetConcentrati() const { return m_concentrati; }
+
+    // What the sizes of the forces are to be judged by: the largest on the ends or between them, a moment counting as a
+    // force at the length of the line. 0 for a line without length.
+    double GetForzaMassima() const;
 
     // Adds another case's results of the same line, times a factor: that is how combinations are made.
     void Somma(const CTraveRisultati& altro, double fattore);

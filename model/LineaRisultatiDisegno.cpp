@@ -53,8 +53,10 @@ std::vector<TrattoDiagramma> joinRecords(CLineaRisultati& line, const Quantity& 
     return pieces;
 }
 
-// The largest force in the line's results, a moment counting as a force at the length of the line.
+// A moment counts as a force at the length of the line.
 double largestForce(CLineaRisultati& line) {
+    if (const CTraveRisultati* results = line.GetRisultatiLinea())
+        return results->GetForzaMassima();
     const CElementoRisultati& records = *line.GetRisultati();
     double force = 0, moment = 0;
     for (int i = 0; i < records.GetSizeNodiRisultati(); ++i) {

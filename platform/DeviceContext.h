@@ -153,6 +153,7 @@ class CDC : public CObject {
     BOOL LineTo(int x, int y);
     BOOL LineTo(CPoint point) { return LineTo(point.x, point.y); }
     BOOL Polyline(const CPoint* points, int count);
+    BOOL Polyline(const FinePoint* points, int count); // its last point included
     // `counts[i]` points for each of the `polylines`; by far the fastest way to draw many lines of one pen.
     BOOL PolyPolyline(const CPoint* points, const DWORD* counts, int polylines);
     BOOL Arc(int left, int top, int right, int bottom, int startX, int startY, int endX, int endY);
@@ -169,6 +170,7 @@ class CDC : public CObject {
     BOOL Pie(LPCRECT rect, CPoint start, CPoint end);
     BOOL Chord(LPCRECT rect, CPoint start, CPoint end);
     BOOL Polygon(const CPoint* points, int count);
+    BOOL Polygon(const FinePoint* points, int count);
     BOOL PolyPolygon(const CPoint* points, const int* counts, int polygons);
 
     // Fills, without regard to the pen and the drawing mode.

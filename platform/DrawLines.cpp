@@ -31,7 +31,8 @@ void fillGaps(Surface& surface, QPainter& painter, const QPointF* points, int co
     painter.setPen(broken);
 }
 
-void drawJoined(Surface& surface, QPainter& painter, const CPoint* points, int count) {
+template <class Point>
+void drawJoined(Surface& surface, QPainter& painter, const Point* points, int count) {
     std::vector<QPointF> path;
     path.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
@@ -102,6 +103,13 @@ BOOL CDC::LineTo(int x, int y) {
 BOOL CDC::Polyline(const CPoint* points, int count) {
     const auto length = static_cast<DWORD>(count);
     return count >= 2 && PolyPolyline(points, &length, 1);
+}
+
+BOOL CDC::Polyline(const FinePoint* points, int count) {
+    QPainter* painter = count >= 2 && m_surface->hasPen() ? m_surface->shaping() : nullptr;
+    if (painter)
+        drawJoined(*m_surface, *painter, points, count);
+    return count >= 2 && m_surface->hasTarget();
 }
 
 BOOL CDC::PolyPolyline(const CPoint* points, const DWORD* counts, int polylines) {

@@ -79,6 +79,21 @@ ArcSpan arcSpan(const Surface& surface, const CRect& rect, CPoint start, CPoint 
     return span;
 }
 
+Qt::FillRule fillRule(const Surface& surface) {
+    return surface.state.fillMode == WINDING ? Qt::WindingFill : Qt::OddEvenFill;
+}
+
+template <class Point>
+BOOL drawPolygon(const Surface& surface, QPainter& painter, const Point* points, int count) {
+    QPolygonF polygon;
+    polygon.reserve(count);
+    for (int i = 0; i < count; ++i)
+        polygon << surface.outlinePoint(points[i], false);
+    if (polygon.size() >= 2)
+        painter.drawPolygon(polygon, fillRule(surface));
+    return polygon.size() >= 2;
+}
+
 } // namespace
 
 BOOL CDC::Rectangle(int left, int top, int right, int bottom) {
@@ -186,22 +201,19 @@ BOOL CDC::Polygon(const CPoint* points, int count) {
     return PolyPolygon(points, &count, 1);
 }
 
+BOOL CDC::Polygon(const FinePoint* points, int count) {
+    QPainter* painter = m_surface->shaping();
+    return painter ? drawPolygon(*m_surface, *painter, points, count) : m_surface->hasTarget();
+}
+
 BOOL CDC::PolyPolygon(const CPoint* points, const int* counts, int polygons) {
     QPainter* painter = m_surface->shaping();
     if (!painter)
         return m_surface->hasTarget();
-    const Qt::FillRule rule = m_surface->state.fillMode == WINDING ? Qt::WindingFill : Qt::OddEvenFill;
-    if (polygons == 1) { // a path costs several times as much
-        QPolygonF polygon;
-        polygon.reserve(counts[0]);
-        for (int i = 0; i < counts[0]; ++i)
-            polygon << m_surface->outlinePoint(points[i], false);
-        if (polygon.size() >= 2)
-            painter->drawPolygon(polygon, rule);
-        return polygon.size() >= 2;
-    }
+    if (polygons == 1) // a path costs several times as much
+        return drawPolygon(*m_surface, *painter, points, counts[0]);
     QPainterPath path;
-    path.setFillRule(rule);
+    path.setFillRule(fillRule(*m_surface));
     for (int i = 0; i < polygons; points += counts[i++]) {
         QPolygonF polygon;
         for (int j = 0; j < counts[i]; ++j)

@@ -59,6 +59,12 @@ struct CPoint {
     constexpr CPoint& operator-=(CPoint point) { return *this = CPoint(*this - point); }
 };
 
+// A point between pixels, for curves: whole pixels leave kinks in them.
+struct FinePoint {
+    double x = 0;
+    double y = 0;
+};
+
 struct CRect {
     LONG left = 0;
     LONG top = 0;

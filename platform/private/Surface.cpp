@@ -174,9 +174,9 @@ QPainter* Surface::shaping() {
 // The toolkit rounds thin strokes at 100 % to whole pixels by itself. All others cover the pixels whose middle lies
 // inside, so they must run through the middles too; a hair less, so that pens of even width lie to the left and top of
 // it.
-QPointF Surface::outlinePoint(CPoint point, bool thin) const {
+double Surface::outlineShift(bool thin) const {
     const bool rounded = m_scale == 1 && (thin || penWidth() == 1);
-    return shifted(point, (!thin && !hasPen()) || rounded ? 0 : 0.5 - 1.0 / 64);
+    return (!thin && !hasPen()) || rounded ? 0 : 0.5 - 1.0 / 64;
 }
 
 bool Surface::solidPen() const {

@@ -72,9 +72,15 @@ class Surface {
     const QFontMetricsF& metrics();
 
     // A straight stroke through the middle of the pixel at this point.
-    QPointF strokePoint(CPoint point) const { return shifted(point, 0.5 - 0.5 / m_scale); }
+    template <class Point>
+    QPointF strokePoint(Point point) const {
+        return shifted(point, 0.5 - 0.5 / m_scale);
+    }
     // A point of an outline for the current pen, or for a thin one instead of none.
-    QPointF outlinePoint(CPoint point, bool thin) const;
+    template <class Point>
+    QPointF outlinePoint(Point point, bool thin) const {
+        return shifted(point, outlineShift(thin));
+    }
     QRect target(const CRect& rect) const {
         return {rect.left + state.origin.x, rect.top + state.origin.y, rect.Width(), rect.Height()};
     }
@@ -97,9 +103,11 @@ class Surface {
     friend class ::CDC;
 
     void setScale(double scale) { m_scale = scale > 0 ? scale : 1; }
-    QPointF shifted(CPoint point, double by) const {
+    template <class Point>
+    QPointF shifted(Point point, double by) const {
         return {point.x + state.origin.x + by, point.y + state.origin.y + by};
     }
+    double outlineShift(bool thin) const;
     bool bind();
     QPainter* prepared(QPainter::CompositionMode mode);
 

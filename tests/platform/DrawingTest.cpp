@@ -173,6 +173,24 @@ TEST(Shapes, PolygonsFillByTheirMode) {
     }
 }
 
+// Faults: points between pixels rounded to whole ones, a last point left out, the origin forgotten.
+TEST(Shapes, PointsBetweenPixels) {
+    const CPoint whole[] = {{1, 1}, {8, 1}, {8, 6}};
+    const FinePoint same[] = {{0, 0}, {7, 0}, {7, 5}};
+    CBrush brush(red);
+    Sheet first(12, 12), second(12, 12);
+    second->SetViewportOrg(1, 1);
+    for (Sheet* sheet : {&first, &second})
+        (*sheet)->SelectObject(&brush);
+    first->Polygon(whole, 3);
+    second->Polygon(same, 3);
+    EXPECT_EQ(second.rows(), first.rows());
+    Sheet doubled(12, 12, 2);
+    const FinePoint level[] = {{2, 3.5}, {6, 3.5}};
+    EXPECT_TRUE(doubled->Polyline(level, 2));
+    EXPECT_EQ(doubled.box(), CRect(4, 7, 14, 9)) << "device pixels";
+}
+
 TEST(Fills, FramesAndBevels) {
     Sheet sheet(6, 5);
     CBrush brush(red);
