@@ -6,7 +6,7 @@ set -euo pipefail
 
 group_packages() {
     case "$1" in
-    build) echo build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libsqlite3-dev libeigen3-dev libgtest-dev fonts-liberation ;;
+    build) echo build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libsqlite3-dev libeigen3-dev libsuitesparse-dev libopenblas-dev libgtest-dev fonts-liberation ;;
     wayland) echo qt6-wayland ;;
     test) echo xvfb xauth openbox locales ;;
     bench) echo libbenchmark-dev qt6-tools-dev ;;

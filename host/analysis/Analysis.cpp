@@ -1,11 +1,14 @@
 #include "host/analysis/Analysis.h"
 
+#include "dialogs/frame/MainFrame.h"
 #include "host/analysis/FrameSystem.h"
 #include "host/analysis/Refusal.h"
 #include "model/CasoCarico.h"
 #include "model/Combinazione.h"
 
 #include <algorithm>
+#include <chrono>
+#include <future>
 
 namespace host {
 
@@ -20,7 +23,7 @@ Vector12 endMotions(const Member& member, const Eigen::VectorXd& all) {
 // One load case: from its loads to displacements, end forces and reactions.
 class CaseAnalysis {
   public:
-    CaseAnalysis(const FrameModel& model, const FrameSystem& system, CaseLoads loads)
+    CaseAnalysis(FrameModel& model, const FrameSystem& system, CaseLoads loads)
         : m_model(model), m_system(system), m_loads(std::move(loads)) {}
 
     CaseResults Run(int id) {
@@ -31,11 +34,15 @@ class CaseAnalysis {
         if (settles)
             forces += m_system.SpringForces(m_loads.displacements);
         const Eigen::VectorXd displacements = m_system.Solve(forces, m_loads.displacements);
-        if (!displacements.allFinite())
-            throw Refusal("I risultati del caso di carico n.ro %d non sono numeri finiti.", id);
         CaseResults results;
         results.id = id;
-        React(results, displacements);
+        CompleteEnds(displacements);
+        const Eigen::VectorXd needed = EndForces(nullptr) - m_loads.nodal;
+        const Eigen::VectorXd springs = m_system.SpringForces(displacements);
+        if (!displacements.allFinite() || !needed.allFinite() || !springs.allFinite())
+            throw Refusal("I risultati del caso di carico n.ro %d non sono numeri finiti.", id);
+        CheckBalance(id, needed, springs);
+        React(results, needed, springs);
         for (std::size_t i = 0; i < m_model.members.size(); ++i) {
             double ends[12];
             Eigen::Map<Vector12>(ends, 12) = m_ends[i];
@@ -78,12 +85,39 @@ class CaseAnalysis {
         return sum;
     }
 
-    // Completes the end forces; what the members then lack of equilibrium at a support is its reaction.
-    void React(CaseResults& results, const Eigen::VectorXd& displacements) {
+    void CompleteEnds(const Eigen::VectorXd& displacements) {
         for (std::size_t i = 0; i < m_ends.size(); ++i)
             m_ends[i] += Stiffness(m_model.members[i]) * endMotions(m_model.members[i], displacements);
-        const Eigen::VectorXd needed = EndForces(nullptr) - m_loads.nodal;
-        const Eigen::VectorXd springs = m_system.SpringForces(displacements);
+    }
+
+    // What the ends of members on a node need beyond its loads, its springs must give, unless a support does. What is
+    // missing tells how many digits the solution has lost, as with very short members or very long chains of them.
+    void CheckBalance(int id, const Eigen::VectorXd& needed, const Eigen::VectorXd& springs) {
+        constexpr double tolerable = 1e-6;
+        double largest = 0, missing = 0;
+        std::size_t worst = 0;
+        for (Eigen::Index i = 0; i < needed.size(); ++i) {
+            const auto node = static_cast<std::size_t>(i / 6);
+            const double unit = i % 6 < 3 ? 1 : m_model.extent; // of moments as forces
+            largest = std::max({largest, std::abs(needed(i)) / unit, std::abs(m_loads.nodal(i)) / unit});
+            if (!m_model.active[node] || m_model.fixed[node] >> (i % 6) & 1)
+                continue;
+            if (const double lack = std::abs(needed(i) - springs(i)) / unit; lack > missing) {
+                missing = lack;
+                worst = node;
+            }
+        }
+        if (missing <= tolerable * largest)
+            return;
+        CString text;
+        text.Format("I risultati del caso di carico n.ro %d sono poco precisi: al nodo n.ro %d l'equilibrio manca di "
+                    "%.1g volte la forza massima.",
+                    id, m_model.nodes[worst]->GetID(), missing / largest);
+        m_model.Note(text);
+    }
+
+    // What the members lack of equilibrium at a support is its reaction.
+    void React(CaseResults& results, const Eigen::VectorXd& needed, const Eigen::VectorXd& springs) {
         std::vector<bool> sprung(m_model.nodes.size());
         for (const GroundSpring& spring : m_model.springs)
             sprung[static_cast<std::size_t>(spring.node)] = true;
@@ -100,39 +134,42 @@ class CaseAnalysis {
         }
     }
 
-    const FrameModel& m_model;
+    FrameModel& m_model;
     const FrameSystem& m_system;
     CaseLoads m_loads;
     std::vector<Vector12> m_ends; // forces on the members' ends, local
 };
 
-} // namespace
-
-unsigned AnalysisSteps(const DocumentData& data) {
-    return 3 + static_cast<unsigned>(data.Size(Kind::LoadCase));
+// The long part: done aside, so that the window stays alive.
+void factor(FrameSystem& system) {
+    constexpr std::chrono::milliseconds refresh(50);
+    const WaitBar wait("Attendere...Soluzione delle equazioni.", 0);
+    std::future<void> done = std::async(std::launch::async, [&system] { system.Factor(); });
+    while (done.wait_for(refresh) != std::future_status::ready)
+        CMainFrame::_StepBar();
+    done.get();
 }
 
-AnalysisOutcome Analyse(DocumentData& data, const std::function<void()>& step) {
-    const auto advance = [&step] {
-        if (step)
-            step();
-    };
+} // namespace
+
+AnalysisOutcome Analyse(DocumentData& data) {
     AnalysisOutcome outcome;
     try {
+        const int count = data.Size(Kind::LoadCase);
+        if (count == 0)
+            throw Refusal("Il modello non ha casi di carico.");
         FrameModel model = ReadFrame(data);
-        advance();
         FrameSystem system(model);
-        advance();
-        system.Factor();
-        advance();
+        factor(system);
         const LoadTable table(model);
-        for (int i = 0; i < data.Size(Kind::LoadCase); ++i) {
+        const WaitBar wait("Attendere...Analisi dei casi di carico.", static_cast<unsigned>(count));
+        for (int i = 0; i < count; ++i) {
             auto& loadCase = *data.As<CCasoCarico>(Kind::LoadCase, i);
             CaseLoads loads = table.Gather(model, loadCase);
             outcome.cases.push_back(CaseAnalysis(model, system, std::move(loads)).Run(loadCase.GetID()));
-            advance();
+            CMainFrame::_StepBar();
         }
-        outcome.leftOut = std::move(model.leftOut);
+        outcome.notes = std::move(model.notes);
         outcome.done = true;
     } catch (const Refusal& refusal) {
         outcome.cases.clear();

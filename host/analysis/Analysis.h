@@ -5,7 +5,6 @@
 #include "model/LineaRisultati.h"
 
 #include <array>
-#include <functional>
 #include <vector>
 
 class CCombinazione;
@@ -28,15 +27,12 @@ struct CaseResults {
 struct AnalysisOutcome {
     bool done = false;
     CString message;                // why it is not done, Italian; empty when it is
-    std::vector<CString> leftOut;   // what was not considered, one Italian sentence each
+    std::vector<CString> notes;     // what was not considered or is not exact, one Italian sentence each
     std::vector<CaseResults> cases; // one for each load case, in document order
 };
 
-// How often Analyse calls its step.
-unsigned AnalysisSteps(const DocumentData& data);
-
-// Analyses every load case; changes nothing in the document. `step`, unless empty, is called as the work goes on.
-AnalysisOutcome Analyse(DocumentData& data, const std::function<void()>& step = {});
+// Analyses every load case, under the host's wait bar; changes nothing in the document. Throws std::bad_alloc.
+AnalysisOutcome Analyse(DocumentData& data);
 
 // The sum of the combination's cases times their factors. A case without results counts as 0.
 CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& cases);

@@ -31,12 +31,25 @@ void addUniform(CTraveRisultati& line, const Member& member, const Eigen::Vector
     line.AddCarico(load);
 }
 
-// Each axis of the load has a stretch of its own; what lies beyond the member's end is cut off there.
-void addTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoidale& load) {
+// How far beyond an end a load may lie and still belong to it, against the length: coordinates are rounded.
+constexpr double sameEnd = 1e-6;
+
+// Each axis of the load has a stretch of its own. False when a part of it lies beyond the member's ends, and is cut
+// off.
+bool addTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoidale& load) {
+    bool inside = true;
+    const double slack = sameEnd * member.length;
     for (int axis = 0; axis < 3; ++axis) {
-        const auto& part = load.GetTratto(axis);
+        auto part = load.GetTratto(axis);
+        if (part.inizio == 0 && part.fine == 0)
+            continue;
+        if (part.a < part.da) {
+            std::swap(part.da, part.a);
+            std::swap(part.inizio, part.fine);
+        }
         const double from = std::max(part.da, 0.0), to = std::min(part.a, member.length);
-        if (!(to > from) || (part.inizio == 0 && part.fine == 0))
+        inside = inside && from - part.da <= slack && part.a - to <= slack;
+        if (!(to > from))
             continue;
         const double slope = (part.fine - part.inizio) / (part.a - part.da);
         CFPoint direction;
@@ -51,14 +64,19 @@ void addTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoi
         copy(along * last, stretch.fine);
         line.AddCarico(stretch);
     }
+    return inside;
 }
 
-void addConcentrated(CTraveRisultati& line, const Member& member, CCaricoConcentrato& load) {
+// False, and nothing added, for a load beyond the member's ends.
+bool addConcentrated(CTraveRisultati& line, const Member& member, CCaricoConcentrato& load) {
     CTraveRisultati::Concentrato point;
     point.x = std::clamp(load.GetDistanza(), 0.0, member.length);
+    if (!(std::abs(point.x - load.GetDistanza()) <= sameEnd * member.length))
+        return false;
     copy(localVector(member, load, load.GetVettoreForza()), point.forza);
     copy(localVector(member, load, load.GetVettoreMomento()), point.momento);
     line.AddCarico(point);
+    return true;
 }
 
 ThermalStrain strainOf(CCaricoTemperatura& load, const Member& member) {
@@ -94,10 +112,12 @@ class Gatherer {
             addUniform(line, member, localVector(member, load, static_cast<CCaricoUniforme&>(load).GetCarico()));
             break;
         case TipoElemento::CaricoTrapezoidale:
-            addTrapezoidal(line, member, static_cast<CCaricoTrapezoidale&>(load));
+            if (!addTrapezoidal(line, member, static_cast<CCaricoTrapezoidale&>(load)))
+                LeaveOutBeyond(member);
             break;
         case TipoElemento::CaricoConcentrato:
-            addConcentrated(line, member, static_cast<CCaricoConcentrato&>(load));
+            if (!addConcentrated(line, member, static_cast<CCaricoConcentrato&>(load)))
+                LeaveOutBeyond(member);
             break;
         case TipoElemento::CaricoTemperatura: {
             const ThermalStrain strain = strainOf(static_cast<CCaricoTemperatura&>(load), member);
@@ -137,8 +157,11 @@ class Gatherer {
     void LeaveOut(const CString& format, int id) {
         CString text;
         text.Format(format, id);
-        if (std::find(m_model.leftOut.begin(), m_model.leftOut.end(), text) == m_model.leftOut.end())
-            m_model.leftOut.push_back(text);
+        m_model.Note(text);
+    }
+    void LeaveOutBeyond(const Member& member) {
+        LeaveOut("Un carico dell'elemento n.ro %d va oltre la sua lunghezza: la parte fuori non è considerata."_t,
+                 member.line->GetID());
     }
 
     void Force(int node, const Pair& values) {

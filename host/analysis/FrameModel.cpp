@@ -5,6 +5,8 @@
 #include "model/Sezione.h"
 #include "model/Trave.h"
 
+#include <Eigen/Geometry>
+
 namespace host {
 
 namespace {
@@ -27,16 +29,26 @@ class Reader {
             ReadMember(*m_data.As<CLineaRisultati>(Kind::Beam, i), false);
         for (int i = 0; i < trusses; ++i)
             ReadMember(*m_data.As<CLineaRisultati>(Kind::Truss, i), true);
-        double sum = 0;
-        for (const Member& member : m_model.members)
-            sum += member.length;
-        m_model.typicalLength = sum / static_cast<double>(m_model.members.size());
+        Measure();
+        LeaveOutLooseSprings();
         LeaveOut(Kind::Wall, "I setti non sono analizzati: %d nel modello, esclusi con il loro peso e i loro carichi.");
         LeaveOut(Kind::Slab, "I solai non sono analizzati: %d nel modello, esclusi con il loro peso e i loro carichi.");
         return std::move(m_model);
     }
 
   private:
+    void Measure() {
+        double sum = 0;
+        Eigen::AlignedBox3d box;
+        for (const Member& member : m_model.members) {
+            sum += member.length;
+            for (const int node : member.nodes)
+                box.extend(vectorOf(*m_model.nodes[static_cast<std::size_t>(node)]->GetPunto()));
+        }
+        m_model.typicalLength = sum / static_cast<double>(m_model.members.size());
+        m_model.extent = box.diagonal().norm();
+    }
+
     void ReadNodes() {
         const int count = m_data.Size(Kind::Node);
         m_model.nodes.reserve(static_cast<std::size_t>(count));
@@ -69,7 +81,18 @@ class Reader {
             return;
         m_model.springs.push_back(
             {node, spring.GetTipo() == CMolla::Rotazionale ? 3 : 0, direction.normalized(), stiffness.GetValore()});
-        m_model.active[static_cast<std::size_t>(node)] = true;
+    }
+
+    // Where only springs hold a node, most of its ways to move are nobody's.
+    void LeaveOutLooseSprings() {
+        for (const GroundSpring& spring : m_model.springs) {
+            if (m_model.active[static_cast<std::size_t>(spring.node)])
+                continue;
+            CString text;
+            text.Format("Il nodo n.ro %d non appartiene a travi o aste: le sue molle non sono considerate.",
+                        m_model.nodes[static_cast<std::size_t>(spring.node)]->GetID());
+            m_model.Note(text);
+        }
     }
 
     void ReadMember(CLineaRisultati& line, bool truss) {
@@ -79,7 +102,7 @@ class Reader {
         CNodo* ends[2] = {line.GetNodoIniziale(), line.GetNodoFinale()};
         CFPoint axes[3];
         if (!ends[0] || !ends[1] || !line.GetAssiLocali(axes[0], axes[1], axes[2]))
-            Refuse(line, truss, "la lunghezza è nulla.");
+            Refuse(line, truss, "la lunghezza è nulla."_t);
         for (int i = 0; i < 2; ++i) {
             member.nodes[i] = m_index.at(ends[i]);
             m_model.active[static_cast<std::size_t>(member.nodes[i])] = true;
@@ -141,7 +164,7 @@ class Reader {
             return;
         CString text;
         text.Format(what, m_data.Size(kind));
-        m_model.leftOut.push_back(text);
+        m_model.Note(text);
     }
 
     DocumentData& m_data;
@@ -150,6 +173,11 @@ class Reader {
 };
 
 } // namespace
+
+void FrameModel::Note(const CString& sentence) {
+    if (m_noted.insert(sentence.ToUtf8()).second)
+        notes.push_back(sentence);
+}
 
 FrameModel ReadFrame(DocumentData& data) {
     return Reader(data).Read();

@@ -4,7 +4,9 @@
 #include "host/analysis/Member.h"
 #include "host/document/DocumentData.h"
 
+#include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 class CCarico;
@@ -23,11 +25,18 @@ struct GroundSpring {
 struct FrameModel {
     std::vector<CNodo*> nodes;   // in document order
     std::vector<unsigned> fixed; // by node: bit i, component i is restrained
-    std::vector<bool> active;    // by node: a member or a spring holds it
+    std::vector<bool> active;    // by node: a member ends there; others are not analysed
     std::vector<Member> members; // beams, then truss members, in document order
     std::vector<GroundSpring> springs;
-    std::vector<CString> leftOut; // what the analysis does not consider, one sentence each
-    double typicalLength = 1;     // the members' mean
+    double typicalLength = 1; // the members' mean
+    double extent = 1;        // the diagonal of the box around the members
+
+    // What the user must know of the results: what is not considered, what is not exact. Once each.
+    void Note(const CString& sentence);
+    std::vector<CString> notes;
+
+  private:
+    std::unordered_set<std::string> m_noted;
 };
 
 // Throws Refusal when there is nothing to analyse, or something lacks what the analysis needs.
@@ -46,7 +55,7 @@ class LoadTable {
   public:
     explicit LoadTable(const FrameModel& model);
 
-    // Adds what it leaves out to the model's list.
+    // Notes in the model what it leaves out.
     CaseLoads Gather(FrameModel& model, CCasoCarico& loadCase) const;
 
   private:

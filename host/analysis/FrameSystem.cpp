@@ -183,10 +183,20 @@ void FrameSystem::Refuse(const Eigen::VectorXd& motion) const {
     }
     const bool turns = moved.value < 1e-6 * turned.value * m_model.typicalLength;
     const Largest& found = turns ? turned : moved;
-    const int id = m_model.nodes[static_cast<std::size_t>(found.node)]->GetID();
-    if (turns)
-        throw Refusal("La struttura è labile: il nodo n.ro %d ruota attorno all'asse %s."_t, id, axisNames[found.axis]);
-    throw Refusal("La struttura è labile: il nodo n.ro %d si sposta in direzione %s."_t, id, axisNames[found.axis]);
+    throw Refusal("La struttura è labile%s: il nodo n.ro %d %s %s."_t, OrTooShort(),
+                  m_model.nodes[static_cast<std::size_t>(found.node)]->GetID(),
+                  CString(turns ? "ruota attorno all'asse" : "si sposta in direzione"), CString(axisNames[found.axis]));
+}
+
+// Numbers cannot tell a mechanism from a member so short that it is as good as rigid against the others.
+CString FrameSystem::OrTooShort() const {
+    constexpr double veryShort = 1e-3; // of the mean
+    const auto shorter = [](const Member& a, const Member& b) { return a.length < b.length; };
+    const auto shortest = std::min_element(m_model.members.begin(), m_model.members.end(), shorter);
+    CString text;
+    if (shortest != m_model.members.end() && shortest->length < veryShort * m_model.typicalLength)
+        text.Format(", oppure l'elemento n.ro %d è troppo corto rispetto agli altri"_t, shortest->line->GetID());
+    return text;
 }
 
 Eigen::VectorXd FrameSystem::Solve(const Eigen::VectorXd& forces, const Eigen::VectorXd& prescribed) const {

@@ -38,6 +38,7 @@ class FrameSystem {
     void HoldIdleTurns();
     void HoldIdleTurnsOf(int node, const Eigen::Matrix3d& stiffness);
     Eigen::VectorXd SoftestMotion(double& energy) const;
+    CString OrTooShort() const;
     [[noreturn]] void Refuse(const Eigen::VectorXd& motion) const;
     int& Unknown(int node, int component) { return m_unknowns[static_cast<std::size_t>(6 * node + component)]; }
     int Unknown(int node, int component) const { return m_unknowns[static_cast<std::size_t>(6 * node + component)]; }

@@ -5,9 +5,9 @@
 
 using host::CaseResults;
 
-host::AnalysisOutcome HostAnalisi::Run(const std::function<void()>& step) {
+host::AnalysisOutcome HostAnalisi::Run() {
     Clear();
-    host::AnalysisOutcome outcome = host::Analyse(m_data, step);
+    host::AnalysisOutcome outcome = host::Analyse(m_data);
     if (!outcome.done)
         return outcome;
     m_cases = std::move(outcome.cases);

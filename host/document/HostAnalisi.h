@@ -12,7 +12,7 @@ class HostAnalisi : public CQuovarAnalisi {
 
     // Analyses the model and shows the current case; former results go either way. The cases of the outcome have moved
     // in here.
-    host::AnalysisOutcome Run(const std::function<void()>& step);
+    host::AnalysisOutcome Run();
     // Makes the elements show the results of a load case or combination; without such results, none.
     void Show(int caseId);
     // Takes the results away. True when there were valid ones.

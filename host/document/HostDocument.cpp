@@ -130,9 +130,9 @@ void HostDocument::InvalidateResults() {
     m_pendingResults |= m_analysis.Clear();
 }
 
-host::AnalysisOutcome HostDocument::EseguiAnalisi(const std::function<void()>& step) {
+host::AnalysisOutcome HostDocument::EseguiAnalisi() {
     Idle(); // a step that is still open would make the results invalid when it ends
-    host::AnalysisOutcome outcome = m_analysis.Run(step);
+    host::AnalysisOutcome outcome = m_analysis.Run();
     m_pendingResults = false;
     UpdateAllViews(nullptr, outcome.done ? MODIFICA_RISULTATI : MODIFICA_RISULTATI_ELIMINATI, nullptr);
     return outcome;

@@ -198,8 +198,8 @@ class HostDocument : public CQuovarDoc {
     void SetTolleranza(double tolerance);
 
     // Analyses the model. Then the results are valid, until the next change, and the elements show the current case; or
-    // the outcome tells why not. `step`, unless empty, is called host::AnalysisSteps times at most.
-    host::AnalysisOutcome EseguiAnalisi(const std::function<void()>& step = {});
+    // the outcome tells why not. Throws std::bad_alloc.
+    host::AnalysisOutcome EseguiAnalisi();
     const HostAnalisi& Analysis() const { return m_analysis; }
     // Results no longer belong to the model.
     void InvalidateResults();

@@ -1,6 +1,5 @@
 #include "host/ui/AnalysisCommand.h"
 
-#include "dialogs/frame/MainFrame.h"
 #include "host/document/HostDocument.h"
 #include "platform/Application.h"
 
@@ -22,11 +21,6 @@ CString joined(const CString& first, const std::vector<CString>& sentences) {
     return text;
 }
 
-host::AnalysisOutcome analyse(HostDocument& document) {
-    const WaitBar wait("Attendere...Analisi della struttura.", host::AnalysisSteps(document.Data()));
-    return document.EseguiAnalisi([] { CMainFrame::_StepBar(); });
-}
-
 } // namespace
 
 bool RunAnalysis(HostDocument& document) {
@@ -36,7 +30,7 @@ bool RunAnalysis(HostDocument& document) {
     }
     host::AnalysisOutcome outcome;
     try {
-        outcome = analyse(document);
+        outcome = document.EseguiAnalisi();
     } catch (const std::bad_alloc&) {
         outcome.message = "Memoria insufficiente.";
     }
@@ -46,8 +40,8 @@ bool RunAnalysis(HostDocument& document) {
     }
     const CQuovarAnalisi& asked = *document.m_pAnalisi;
     if (asked.m_bAnalisiModale || asked.m_bAnalisiSpettro || asked.m_bAnalisiInstabilita)
-        outcome.leftOut.push_back("Solo l'analisi statica è disponibile."_t);
-    if (!outcome.leftOut.empty())
-        AfxMessageBox(joined("Analisi eseguita con queste limitazioni:", outcome.leftOut), MB_OK | MB_ICONINFORMATION);
+        outcome.notes.push_back("Solo l'analisi statica è disponibile."_t);
+    if (!outcome.notes.empty())
+        AfxMessageBox(joined("Analisi eseguita con queste limitazioni:", outcome.notes), MB_OK | MB_ICONINFORMATION);
     return true;
 }

@@ -105,16 +105,18 @@ void HostView::SetRectImmagine(int left, int top, int right, int bottom) {
     m_captureRect.NormalizeRect();
 }
 
-// The application's window that holds the place, the active one before others; null for none.
+// The application's window that holds the place: a dialog before the main window that it lies over, the active one
+// before others; null for none.
 static QWidget* windowAround(const QRect& place) {
-    const auto holds = [&place](const QWidget* window) {
-        return window && window->isVisible() && window->geometry().contains(place);
+    const auto rank = [&place](const QWidget* window) {
+        if (!window->isVisible() || window->windowType() == Qt::Popup || !window->geometry().contains(place))
+            return 0;
+        return 1 + (window->windowType() == Qt::Window ? 0 : 2) + (window->isActiveWindow() ? 1 : 0);
     };
-    if (holds(QApplication::activeWindow()))
-        return QApplication::activeWindow();
     const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found = std::find_if(windows.begin(), windows.end(), holds);
-    return found == windows.end() ? QApplication::topLevelAt(place.center()) : *found;
+    const auto best = std::max_element(windows.begin(), windows.end(),
+                                       [&rank](const QWidget* a, const QWidget* b) { return rank(a) < rank(b); });
+    return best == windows.end() || rank(*best) == 0 ? QApplication::topLevelAt(place.center()) : *best;
 }
 
 // What lies in the rectangle: of the application's own window there, which another program's may cover and a menu that

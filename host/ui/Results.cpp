@@ -30,7 +30,7 @@ int printAll(HostDocument& document) {
         tell(outcome.message);
         return refused;
     }
-    for (const CString& each : outcome.leftOut)
+    for (const CString& each : outcome.notes)
         tell(each);
     std::vector<const host::CaseResults*> all;
     for (const host::CaseResults& each : document.Analysis().Cases())

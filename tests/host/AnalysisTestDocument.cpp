@@ -140,6 +140,76 @@ TEST(AnalysisRefusal, WhatIsMissingIsNamed) {
     EXPECT_EQ(Said(m.Refusal()), "Trave n.ro 1: un momento d'inerzia della sezione non è maggiore di zero.");
     EXPECT_FALSE(m.document.m_pAnalisi->m_bRisultatiValidi);
     EXPECT_EQ(m.beam->GetRisultati(), nullptr);
+    m.document.Undo().Undo();
+    m.document.Modify(*m.tip, [&] { m.tip->SetPunto(CFPoint(0, 0, 0)); });
+    EXPECT_EQ(Said(m.Refusal()), "Trave n.ro 1: la lunghezza è nulla.");
+    m.document.Undo().Undo();
+    m.document.Modify(*m.load, [&] { m.load->GetVettoreForza() = CFPoint(0, 1e308, 1e308); });
+    m.On(m.beam, CCaricoUniforme({0, 0, 1e308}, CCarico::Globale));
+    EXPECT_EQ(Said(m.Refusal()), "I risultati del caso di carico n.ro 1 non sono numeri finiti.");
+    ASSERT_TRUE(m.document.EliminaCasoCarico(m.firstCase->GetID()));
+    EXPECT_EQ(Said(m.Refusal()), "Il modello non ha casi di carico.");
+}
+
+// What the digits of the solution do not reach is said: a soft piece that is no mechanism, results that are not exact.
+// Catches a false verdict on a sound structure, and wrong numbers that look like others.
+TEST(AnalysisRefusal, LostDigitsAreTold) {
+    {
+        Model m; // 8 m with a piece of a tenth of a millimetre
+        CNodo *root = m.Node(0, 0, 0, all), *near = m.Node(4, 0, 0), *far = m.Node(4.0001, 0, 0);
+        m.Beam(root, near);
+        m.Beam(near, far);
+        m.Beam(far, m.Node(8, 0, 0));
+        const std::string said = Said(m.Refusal());
+        EXPECT_NE(said.find("oppure l'elemento n.ro 2 è troppo corto rispetto agli altri"), std::string::npos) << said;
+    }
+    Model m;
+    CNodo* last = m.Node(0, 0, 0, all);
+    for (int i = 1; i <= 3000; ++i) {
+        CNodo* next = m.Node(i * 0.01, 0, 0);
+        m.Beam(last, next);
+        last = next;
+    }
+    m.Force(last, {0, 0, -1});
+    const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
+    ASSERT_TRUE(outcome.done) << Said(outcome.message);
+    ASSERT_EQ(outcome.notes.size(), 1u);
+    EXPECT_EQ(Said(outcome.notes[0]).rfind("I risultati del caso di carico n.ro 1 sono poco precisi: al nodo n.ro ", 0),
+              0u);
+}
+
+// Catches loads that vanish or move without a word, and one that is refused because its ends are exchanged.
+TEST(AnalysisOutcomes, LoadsBeyondTheEndsAreSaid) {
+    const auto trapezoid = [](double from, double to) {
+        CCaricoTrapezoidale load;
+        load.SetRiferimento(CCarico::Globale);
+        load.GetTratto(2) = {from, to, -6, -12};
+        return load;
+    };
+    const std::string beyond =
+        "Un carico dell'elemento n.ro 1 va oltre la sua lunghezza: la parte fuori non è considerata.";
+    struct {
+        double from, to, reaction;
+        bool inside;
+    } const cases[] = {
+        {1, 3, 18, true}, {3, 1, 18, true}, {3, 5, 7.5, false}, {5, 6, 0, false}, {0, 4 + 1e-9, 36, true}};
+    for (const auto& each : cases) {
+        Cantilever m;
+        m.document.Modify(*m.load, [&] { m.load->GetVettoreForza() = CFPoint(); });
+        m.On(m.beam, trapezoid(each.from, each.to));
+        const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
+        ASSERT_TRUE(outcome.done);
+        EXPECT_NEAR(m.Reaction(m.root, 2), each.reaction, 1e-7) << each.from;
+        EXPECT_EQ(outcome.notes.empty() ? "" : Said(outcome.notes[0]), each.inside ? "" : beyond) << each.from;
+    }
+    Cantilever m;
+    for (const double place : {0.0, 4.0, 4.5})
+        m.On(m.beam, CCaricoConcentrato({0, 0, -1}, place, CCarico::Globale));
+    const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
+    EXPECT_NEAR(m.Reaction(m.root, 2), 12, 1e-9) << "the tip's load, and those at both ends of the beam";
+    EXPECT_NEAR(m.Reaction(m.root, 4), -44, 1e-9);
+    ASSERT_EQ(outcome.notes.size(), 1u);
+    EXPECT_EQ(Said(outcome.notes[0]), beyond);
 }
 
 // Walls and slabs, loads on nodes without members, and displacements of free components.
@@ -151,14 +221,18 @@ TEST(AnalysisOutcomes, WhatIsLeftOutIsSaid) {
     m.document.AddSolaio(corners);
     m.Force(m.document.GetIndexNodo(2), {0, 0, -5});
     m.On(m.tip, CCaricoSpostamento({0, 0, 1}, {}));
+    CNodo* sprung = m.Node(9, 9, 9);
+    m.document.Modify(*sprung, [&] { sprung->AddMolla(CMolla(CMolla::Traslazionale, 100, {0, 0, 1})); });
     const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
     ASSERT_TRUE(outcome.done);
-    ASSERT_EQ(outcome.leftOut.size(), 3u);
-    EXPECT_EQ(Said(outcome.leftOut[0]),
+    ASSERT_EQ(outcome.notes.size(), 4u);
+    EXPECT_EQ(Said(outcome.notes[0]),
+              "Il nodo n.ro 7 non appartiene a travi o aste: le sue molle non sono considerate.");
+    EXPECT_EQ(Said(outcome.notes[1]),
               "I solai non sono analizzati: 1 nel modello, esclusi con il loro peso e i loro carichi.");
-    EXPECT_EQ(Said(outcome.leftOut[1]), "Uno spostamento imposto al nodo n.ro 2, non vincolato in quella direzione, "
-                                        "non è considerato.");
-    EXPECT_EQ(Said(outcome.leftOut[2]),
+    EXPECT_EQ(Said(outcome.notes[2]), "Uno spostamento imposto al nodo n.ro 2, non vincolato in quella direzione, "
+                                      "non è considerato.");
+    EXPECT_EQ(Said(outcome.notes[3]),
               "Il nodo n.ro 3 non appartiene a travi o aste: i suoi carichi non sono considerati.");
 }
 

@@ -296,7 +296,7 @@ TEST_F(LoadCommandsTest, SwapsTheSignsOfRealResults) {
     BuildExample(Document());
     CCasoCarico* seismic = Document().GetIndexCasoCarico(0);
     Document().Modify(*seismic, [seismic] { seismic->SetTipo(CASO_SISMICO_DINAMICO); });
-    ASSERT_TRUE(Document().EseguiAnalisi([] {}).done);
+    ASSERT_TRUE(Document().EseguiAnalisi().done);
     CTrave* column = Document().GetIndexTrave(0);
     const auto axial = [column](int end) { return column->GetRisultati()->GetNodoRisultati(end)->GetV1(); };
     const double near = axial(0), far = axial(1);

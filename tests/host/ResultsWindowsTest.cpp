@@ -99,8 +99,8 @@ TEST_F(ResultsWindows, OutlivesItsDocument) {
     EXPECT_TRUE(driver.Caption().ends_with("Diagramma - (Nessuna trave selezionata)")) << driver.Caption();
 }
 
-// Faults: a picture of the wrong place, one that reaches only the clipboard or only the file, a cancelled file name
-// that loses the clipboard's, a picture that could not be written and nobody said so.
+// Faults: a picture of the wrong place or window, one that reaches only the clipboard or only the file, a cancelled
+// file name that loses the clipboard's, a picture that could not be written and nobody said so.
 TEST_F(ResultsWindows, CaptureGoesToClipboardAndFile) {
     auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
     ASSERT_TRUE(diagrams);
@@ -119,8 +119,10 @@ TEST_F(ResultsWindows, CaptureGoesToClipboardAndFile) {
         EXPECT_EQ(picture.pixel(2, 2), qRgb(200, 0, 0));
         EXPECT_EQ(picture.pixel(picture.width() - 1, picture.height() - 1), qRgb(0, 200, 0));
     }
+    workspace->Window().activateWindow();
     QApplication::clipboard()->clear();
     Capture(*diagrams, {});
+    EXPECT_EQ(QApplication::clipboard()->image().pixel(2, 2), qRgb(200, 0, 0)) << "the dialog, not what it lies over";
     EXPECT_EQ(QApplication::clipboard()->image().size(), copied.size());
     user.ExpectMessage("Impossibile scrivere l'immagine \"" + folder.filePath("figura.nonso").toStdString() + "\".");
     Capture(*diagrams, folder.filePath("figura.nonso"));
