@@ -1,6 +1,7 @@
 #include "model/CasoCarico.h"
 
 #include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CCasoCarico, CElementoStrutturale)
 
@@ -72,6 +73,11 @@ std::unique_ptr<CCarico> CCasoCarico::StaccaCarico(int id) {
     m_carichi.erase(m_carichi.begin() + place);
     m_posizioni.Rebuild(m_carichi, [](const auto& c) { return c->GetID(); });
     return load;
+}
+
+std::vector<std::unique_ptr<CCarico>> CCasoCarico::StaccaCarichi() {
+    m_posizioni.Clear();
+    return std::exchange(m_carichi, {});
 }
 
 int CCasoCarico::EliminaCarico(int id) {

@@ -36,6 +36,8 @@ class CCasoCarico : public CElementoStrutturale {
     void EliminaCarichi();
     // Gives a load back to the caller, who owns it then; null when there is none.
     std::unique_ptr<CCarico> StaccaCarico(int id);
+    // The same for all, in their order; AddCarico takes them back one by one under the numbers that they have.
+    std::vector<std::unique_ptr<CCarico>> StaccaCarichi();
 
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void ChangeForza(Forza forza) override;

@@ -1,55 +1,16 @@
 #include "host/ui/AssignDialogs.h"
 
-#include "platform/Application.h"
+#include "host/ui/AssignForm.h"
 #include "platform/private/WindowPeer.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QVBoxLayout>
-
-#include <cmath>
-#include <functional>
 
 namespace {
-
-// A titled dialog with rows above OK and Annulla.
-class Form final : public QDialog {
-  public:
-    Form(QWidget& parent, const QString& title) : QDialog(&parent) {
-        setWindowTitle(title);
-        auto* all = new QVBoxLayout(this);
-        m_content = new QVBoxLayout;
-        all->addLayout(m_content);
-        auto* buttons = new QDialogButtonBox;
-        buttons->addButton("OK", QDialogButtonBox::AcceptRole)->setDefault(true);
-        buttons->addButton("Annulla", QDialogButtonBox::RejectRole);
-        all->addWidget(buttons);
-        all->setSizeConstraint(QLayout::SetFixedSize);
-        QObject::connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
-        QObject::connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
-    }
-
-    QVBoxLayout& Content() { return *m_content; }
-    // Answers whether what was entered can be used, after telling the user why not.
-    void SetCheck(std::function<bool()> check) { m_check = std::move(check); }
-    bool Ask() { return exec() == Accepted; }
-
-    void accept() override {
-        if (!m_check || m_check())
-            QDialog::accept();
-    }
-
-  private:
-    QVBoxLayout* m_content;
-    std::function<bool()> m_check;
-};
 
 QCheckBox* checkBox(const QString& name, const QString& text, bool checked) {
     auto* box = new QCheckBox(text);
@@ -58,38 +19,17 @@ QCheckBox* checkBox(const QString& name, const QString& text, bool checked) {
     return box;
 }
 
-// The decimal separator is the full stop, as everywhere in the application.
-QLineEdit* numberField(const QString& name, double value) {
-    auto* edit = new QLineEdit(QString::number(value, 'g', 15));
-    edit->setObjectName(name);
-    edit->setMaximumWidth(140);
-    return edit;
-}
-
-bool refuse(QLineEdit& edit, const CString& message) {
-    AfxMessageBox(message);
-    edit.setFocus();
-    edit.selectAll();
-    return false;
-}
-
-bool readNumber(QLineEdit& edit, double& value) {
-    bool ok = false;
-    value = edit.text().trimmed().toDouble(&ok);
-    return (ok && std::isfinite(value)) || refuse(edit, "Immettere un numero.");
-}
-
 class SpringForm {
   public:
     SpringForm(QWidget& parent, const CMolla& present, Lunghezza length, Forza force)
         : m_form(parent, "Molla"), m_length(length), m_force(force) {
         m_kind->setObjectName("tipo");
         m_kind->addItems({"Traslazionale", "Rotazionale", "Nessuna (togli le molle)"});
-        m_stiffness = numberField("rigidezza", present.GetRigidezza().GetValore());
+        m_stiffness = NumberField("rigidezza", present.GetRigidezza().GetValore());
         const CFPoint& d = present.GetDirezione();
-        m_direction[0] = numberField("x", d.x);
-        m_direction[1] = numberField("y", d.y);
-        m_direction[2] = numberField("z", d.z);
+        m_direction[0] = NumberField("x", d.x);
+        m_direction[1] = NumberField("y", d.y);
+        m_direction[2] = NumberField("z", d.z);
         auto* rows = new QFormLayout;
         rows->addRow("Tipo:", m_kind);
         rows->addRow(m_stiffnessLabel, m_stiffness);
@@ -126,22 +66,22 @@ class SpringForm {
         if (m_kind->currentIndex() == none)
             return true;
         double stiffness, d[3];
-        if (!readNumber(*m_stiffness, stiffness))
+        if (!ReadNumber(*m_stiffness, stiffness))
             return false;
         if (stiffness < 0)
-            return refuse(*m_stiffness, "La rigidezza non può essere negativa."_t);
+            return RefuseField(*m_stiffness, "La rigidezza non può essere negativa."_t);
         for (int i = 0; i < 3; ++i)
-            if (!readNumber(*m_direction[i], d[i]))
+            if (!ReadNumber(*m_direction[i], d[i]))
                 return false;
         if (d[0] == 0 && d[1] == 0 && d[2] == 0)
-            return refuse(*m_direction[0], "La direzione non può essere nulla."_t);
+            return RefuseField(*m_direction[0], "La direzione non può essere nulla."_t);
         m_choice.spring.emplace(m_kind->currentIndex() == rotational ? CMolla::Rotazionale : CMolla::Traslazionale,
                                 stiffness, CFPoint(d[0], d[1], d[2]), m_length, m_force);
         m_choice.keep = m_keep->isChecked();
         return true;
     }
 
-    Form m_form;
+    AssignForm m_form;
     Lunghezza m_length;
     Forza m_force;
     SpringChoice m_choice;
@@ -159,7 +99,7 @@ std::optional<CVincolo> AskRestraint(QWidget& parent, const CVincolo& present) {
     constexpr int components = 6;
     const char* const names[components] = {"Traslazione X", "Traslazione Y", "Traslazione Z",
                                            "Rotazione X",   "Rotazione Y",   "Rotazione Z"};
-    Form form(parent, "Vincolo");
+    AssignForm form(parent, "Vincolo");
     auto* grid = new QGridLayout;
     QCheckBox* boxes[components];
     for (int i = 0; i < components; ++i) {
@@ -183,7 +123,7 @@ std::optional<SpringChoice> AskSpring(QWidget& parent, const CMolla& present, Lu
 std::optional<EndReleases> AskReleases(QWidget& parent, const EndReleases& present) {
     const char* const names[] = {"N", "T", "M2", "M3"};
     const char* const ends[] = {"Estremo iniziale", "Estremo finale"};
-    Form form(parent, "Svincoli");
+    AssignForm form(parent, "Svincoli");
     auto* grid = new QGridLayout;
     QCheckBox* boxes[2][4];
     for (int end = 0; end < 2; ++end) {

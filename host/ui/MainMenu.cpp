@@ -3,6 +3,7 @@
 #include "host/document/HostDocument.h"
 #include "host/ui/AnalysisCommand.h"
 #include "host/ui/Assign.h"
+#include "host/ui/AssignLoad.h"
 #include "host/ui/Commands.h"
 #include "host/ui/HostView.h"
 #include "host/ui/Icons.h"
@@ -220,12 +221,15 @@ void MainMenu::BuildAssign() {
     const struct {
         const char* name;
         const char* text;
+        Needs needs;
         void (*run)(HostDocument&, QWidget&);
-    } commands[] = {{"assegna.vincolo", "&Vincolo\u2026", RunAssignRestraint},
-                    {"assegna.molla", "&Molla\u2026", RunAssignSpring},
-                    {"assegna.svincoli", "&Svincoli\u2026", RunAssignReleases}};
+    } commands[] = {{"assegna.vincolo", "&Vincolo\u2026", Needs::Selection, RunAssignRestraint},
+                    {"assegna.molla", "&Molla\u2026", Needs::Selection, RunAssignSpring},
+                    {"assegna.svincoli", "&Svincoli\u2026", Needs::Selection, RunAssignReleases},
+                    {"assegna.carico", "&Carico\u2026", Needs::View, RunAssignLoad}, // a self weight has no place
+                    {"assegna.elimina_carichi", "&Elimina Carichi", Needs::Selection, RunRemoveLoads}};
     for (const auto& each : commands)
-        Add(menu, each.name, QString::fromUtf8(each.text), {}, Needs::Selection, [this, run = each.run] {
+        Add(menu, each.name, QString::fromUtf8(each.text), {}, each.needs, [this, run = each.run] {
             if (HostView* view = m_workspace.ActiveView())
                 run(view->Document(), m_window);
         });
