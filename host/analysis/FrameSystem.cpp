@@ -130,17 +130,24 @@ void FrameSystem::Factor() {
 // units, rounding alone for a mechanism.
 Eigen::VectorXd FrameSystem::SoftestMotion(double& energy) const {
     const Eigen::VectorXd diagonal = m_stiffness.diagonal();
-    Sparse shifted = m_stiffness;
     for (Eigen::Index i = 0; i < diagonal.size(); ++i) {
         // A component with no stiffness at all moves by itself.
         if (!(diagonal(i) > 0)) {
             energy = 0;
             return Eigen::VectorXd::Unit(diagonal.size(), i);
         }
-        shifted.coeffRef(i, i) += 1e-12 * diagonal(i);
     }
+    // A little more stiffness everywhere, so that there is a factor: as little as rounding allows.
     SparseCholesky solver;
-    if (!solver.Factor(shifted)) {
+    Sparse shifted = m_stiffness;
+    double shift = 1e-12;
+    for (; shift < 1e-3; shift *= 100) {
+        for (Eigen::Index i = 0; i < diagonal.size(); ++i)
+            shifted.coeffRef(i, i) = (1 + shift) * diagonal(i);
+        if (solver.Factor(shifted))
+            break;
+    }
+    if (shift >= 1e-3) {
         energy = 0;
         return Eigen::VectorXd::Ones(diagonal.size());
     }
