@@ -17,8 +17,8 @@ class CheckBuilder {
         auto material = std::make_unique<CMateriale>();
         material->SetNome("Calcestruzzo");
         this->material = document.AddNew(std::move(material));
-        section = document.AddNew(std::make_unique<CSezione>());
-        thickness = document.AddNew(std::make_unique<CSpessore>());
+        document.AddNew(std::make_unique<CSezione>());
+        document.AddNew(std::make_unique<CSpessore>());
         // Fixed at one end: sound, whatever else hangs on its free end.
         Fix(*Node(0, 0, 0), CVincolo::Tutti);
         Node(3, 0, 0);
@@ -47,13 +47,10 @@ class CheckBuilder {
         AssignReleases(document, releases);
     }
     CTrave* Beam(int a, int b) { return document.AddTrave(a, b, nullptr); }
-    void Truss(int a, int b) { document.AddAsta(a, b, nullptr); }
     CNodo& At(int number) { return *document.Data().CercaNodo(number); }
 
     HostDocument& document;
     CMateriale* material;
-    CSezione* section;
-    CSpessore* thickness;
 
   private:
     void Select(CElemento& element) {

@@ -1,5 +1,6 @@
 #include "tests/host/Dump.h"
 
+#include "host/document/HostDocument.h"
 #include "host/files/LoadValues.h"
 #include "model/CasoCarico.h"
 #include "model/Combinazione.h"
@@ -10,6 +11,8 @@
 #include "model/Sezione.h"
 #include "model/Spessore.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
 
 namespace {
@@ -17,13 +20,10 @@ namespace {
 class Dumper {
   public:
     std::string Text(const DocumentData& data) {
-        Number(static_cast<int>(data.Units().length));
-        Number(static_cast<int>(data.Units().force));
-        Real(data.Tolerance());
-        Number(data.CurrentCase());
+        Add(data.Units().length, data.Units().force, data.Tolerance(), data.CurrentCase());
         for (const Kind kind : allKinds) {
             m_text += "\n== ";
-            Number(data.NextId(kind));
+            Add(data.NextId(kind));
             for (int i = 0; i < data.Size(kind); ++i)
                 Object(kind, *data.At(kind, i));
         }
@@ -31,24 +31,24 @@ class Dumper {
     }
 
   private:
-    void Number(int value) { m_text += std::to_string(value) + " "; }
-    void Real(double value) {
+    template <class... Values>
+    void Add(const Values&... values) {
+        (One(values), ...);
+    }
+    template <class Whole> // or an enumerator
+    void One(const Whole& value) {
+        m_text += std::to_string(static_cast<long>(value)) + " ";
+    }
+    void One(const double& value) {
         char buffer[40];
         std::snprintf(buffer, sizeof buffer, "%a ", value);
         m_text += buffer;
     }
-    void Point(const CFPoint& point) {
-        Real(point.x);
-        Real(point.y);
-        Real(point.z);
-    }
+    void One(const CFPoint& point) { Add(point.x, point.y, point.z); }
 
     void Object(Kind kind, CElemento& object) {
         m_text += "\n";
-        Number(object.GetID());
-        Number(static_cast<int>(object.GetLunghezza()));
-        Number(static_cast<int>(object.GetForza()));
-        Number(object.IsVisible());
+        Add(object.GetID(), object.GetLunghezza(), object.GetForza(), object.IsVisible());
         if (auto* entity = DYNAMIC_DOWNCAST(CElementoStrutturale, &object))
             m_text += entity->GetNome().ToUtf8() + "|" + entity->GetTipo().ToUtf8() + "|";
         if (auto* carrier = DYNAMIC_DOWNCAST(CElementoCarico, &object))
@@ -65,47 +65,36 @@ class Dumper {
 
     void Carrier(CElementoCarico& carrier) {
         for (int i = 0; i < carrier.GetSizeGruppi(); ++i)
-            Number(carrier.GetIDGruppo(i));
-        for (int i = 0; i < carrier.GetSizeCarichi(); ++i) {
-            Number(carrier.GetIndexIDCasoCarico(i));
-            Number(carrier.GetIndexIDCarico(i));
-            Number(carrier.GetIndexCarico(i) != nullptr);
-        }
+            Add(carrier.GetIDGruppo(i));
+        for (int i = 0; i < carrier.GetSizeCarichi(); ++i)
+            Add(carrier.GetIndexIDCasoCarico(i), carrier.GetIndexIDCarico(i), carrier.GetIndexCarico(i) != nullptr);
     }
 
     void Node(CNodo& node) {
-        Point(*node.GetPunto());
-        Number(node.GetVincolo() ? static_cast<int>(node.GetVincolo()->GetMaschera()) : -1);
+        Add(*node.GetPunto(), node.GetVincolo() ? static_cast<int>(node.GetVincolo()->GetMaschera()) : -1);
         for (int i = 0; i < node.GetSizeMolle(); ++i) {
-            Number(node.GetIndexMolla(i)->GetTipo());
-            Real(node.GetIndexMolla(i)->GetRigidezza().GetValore());
-            Point(node.GetIndexMolla(i)->GetDirezione());
+            CMolla& spring = *node.GetIndexMolla(i);
+            Add(spring.GetTipo(), spring.GetRigidezza().GetValore(), spring.GetDirezione());
         }
-        Number(node.GetSizeElementi());
+        Add(node.GetSizeElementi());
     }
 
     void Line(CLineaFisica& line) {
-        Number(line.GetIDNodoIniziale());
-        Number(line.GetIDNodoFinale());
-        Number(line.GetIDMateriale());
-        Number(line.GetIDSezione());
-        Number(line.GetMateriale() ? line.GetMateriale()->GetID() : 0);
-        Number(line.GetSezione() ? line.GetSezione()->GetID() : 0);
-        Real(line.GetBeta());
+        Add(line.GetIDNodoIniziale(), line.GetIDNodoFinale(), line.GetIDMateriale(), line.GetIDSezione(),
+            line.GetMateriale() ? line.GetMateriale()->GetID() : 0, line.GetSezione() ? line.GetSezione()->GetID() : 0,
+            line.GetBeta());
         for (int i = 0; i < line.GetSizeSpecifiche(); ++i) {
             auto* release = static_cast<CSpecificheSvincoliTrave*>(line.GetIndexSpecifica(i));
-            Number(release->GetID());
-            Number(release->GetEstremo());
+            Add(release->GetID(), release->GetEstremo());
             for (int j = 0; j < 4; ++j)
-                Number(release->GetSvincolo(j));
+                Add(release->GetSvincolo(j));
         }
     }
 
     void Polygon(CPoligonoFisico& polygon) {
         for (int i = 0; i < polygon.GetSize(); ++i)
-            Number(polygon.GetIDVertice(i));
-        Number(polygon.GetIDMateriale());
-        Number(polygon.GetIDSpessore());
+            Add(polygon.GetIDVertice(i));
+        Add(polygon.GetIDMateriale(), polygon.GetIDSpessore());
     }
 
     void Entity(Kind kind, CElemento& object) {
@@ -113,32 +102,27 @@ class Dumper {
             Loads(static_cast<CCasoCarico&>(object));
         if (kind == Kind::Material) {
             auto& m = static_cast<CMateriale&>(object);
-            for (const double value : {m.GetE(), m.GetG(), m.GetPoisson(), m.GetDensita(), m.GetAlfa()})
-                Real(value);
+            Add(m.GetE(), m.GetG(), m.GetPoisson(), m.GetDensita(), m.GetAlfa());
         }
         if (kind == Kind::Section) {
             auto& s = static_cast<CSezione&>(object);
-            for (const double value : {s.GetArea(), s.GetArea2(), s.GetArea3(), s.GetJ(), s.GetI2(), s.GetI3(),
-                                       s.GetW2(), s.GetW3(), s.GetBase(), s.GetAltezza()})
-                Real(value);
+            Add(s.GetArea(), s.GetArea2(), s.GetArea3(), s.GetJ(), s.GetI2(), s.GetI3(), s.GetW2(), s.GetW3(),
+                s.GetBase(), s.GetAltezza());
         }
         if (kind == Kind::Thickness)
-            Real(static_cast<CSpessore&>(object).GetSpessore());
+            Add(static_cast<CSpessore&>(object).GetSpessore());
         if (kind == Kind::Combination) {
             auto& combination = static_cast<CCombinazione&>(object);
             for (int i = 0; i < combination.GetSizeCDC(); ++i) {
                 double factor = 0;
                 combination.GetFattoreCDC(i, factor);
-                Number(combination.GetIDCDC(i));
-                Real(factor);
+                Add(combination.GetIDCDC(i), factor);
             }
         }
         if (kind == Kind::Group) {
             auto& group = static_cast<CGruppo&>(object);
-            for (int i = 0; i < group.GetSizeElementi(); ++i) {
-                Number(static_cast<int>(group.GetTipoIndexElemento(i)));
-                Number(group.GetIDIndexElemento(i));
-            }
+            for (int i = 0; i < group.GetSizeElementi(); ++i)
+                Add(group.GetTipoIndexElemento(i), group.GetIDIndexElemento(i));
         }
     }
 
@@ -146,22 +130,43 @@ class Dumper {
         for (int i = 0; i < loadCase.GetSizeCarichi(); ++i) {
             CCarico& load = *loadCase.GetIndexCarico(i);
             m_text += "\n  ";
-            Number(load.GetID());
-            Number(load.GetIDCasoCarico());
-            Number(static_cast<int>(load.GetTipoElemento()));
-            Number(load.GetRiferimento());
-            Number(load.GetIDInsieme());
+            Add(load.GetID(), load.GetIDCasoCarico(), load.GetTipoElemento(), load.GetRiferimento(),
+                load.GetIDInsieme());
             const host::LoadValues list = host::ValuesOf(load);
             for (int j = 0; j < list.count; ++j)
-                Real(*list.values[static_cast<std::size_t>(j)]);
+                Add(*list.values[static_cast<std::size_t>(j)]);
         }
     }
 
     std::string m_text;
 };
 
+std::string WithSelection(HostDocument& document) {
+    std::string text = Dump(document.Data()) + "\nselected";
+    for (CElemento* element : document.Selection().All())
+        text +=
+            " " + std::to_string(static_cast<int>(element->GetTipoElemento())) + ":" + std::to_string(element->GetID());
+    return text;
+}
+
 } // namespace
 
 std::string Dump(const DocumentData& data) {
     return Dumper().Text(data);
+}
+
+void ExpectExact(HostDocument& document, const std::function<void()>& command, const std::function<void()>& undo,
+                 const std::function<void()>& redo) {
+    const std::string before = WithSelection(document);
+    const std::size_t steps = document.Undo().UndoCount();
+    command();
+    ASSERT_EQ(document.Undo().UndoCount(), steps + 1);
+    const std::string after = WithSelection(document);
+    EXPECT_NE(before, after);
+    for (int round = 0; round < 2; ++round) {
+        undo();
+        EXPECT_EQ(WithSelection(document), before);
+        redo();
+        EXPECT_EQ(WithSelection(document), after);
+    }
 }

@@ -17,8 +17,6 @@
 #include <QImage>
 #include <QTemporaryDir>
 
-#include <algorithm>
-
 namespace {
 
 class ResultsWindows : public WorkspaceTest {

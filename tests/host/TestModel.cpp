@@ -5,8 +5,6 @@
 #include "model/Asta.h"
 #include "model/Carico.h"
 #include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
 #include "model/Trave.h"
 
 namespace {

@@ -117,20 +117,7 @@ std::string WorkspaceTest::State() {
 
 void WorkspaceTest::ExpectOneStep(const char* name, const std::function<void()>& command) {
     SCOPED_TRACE(name);
-    HostUndo& undo = Document().Undo();
-    const std::string before = State();
-    const std::size_t steps = undo.UndoCount();
-    command();
-    ASSERT_EQ(undo.UndoCount(), steps + 1);
-    EXPECT_EQ(undo.UndoName().ToUtf8(), name);
-    const std::string after = State();
-    EXPECT_NE(before, after);
-    for (int round = 0; round < 2; ++round) {
-        workspace->Undo();
-        CWinApp::PumpMessages();
-        EXPECT_EQ(State(), before);
-        workspace->Redo();
-        CWinApp::PumpMessages();
-        EXPECT_EQ(State(), after);
-    }
+    ExpectExact(
+        Document(), command, [this] { Trigger("modifica.annulla"); }, [this] { Trigger("modifica.ripristina"); });
+    EXPECT_EQ(Document().Undo().UndoName().ToUtf8(), name);
 }

@@ -40,8 +40,7 @@ class WorkspaceTest : public testing::Test {
 
     // The document as text; see Dump.
     std::string State();
-    // One step, named, whose undo and redo give both states back bit for bit; twice, because a first undo may leave
-    // damage behind.
+    // One step of that name; see ExpectExact.
     void ExpectOneStep(const char* name, const std::function<void()>& command);
 
     UserScript user;
