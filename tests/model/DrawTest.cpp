@@ -6,13 +6,12 @@
 #include "platform/DeviceContext.h"
 #include "tests/model/SmallModel.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 namespace {
 
 constexpr COLORREF white = RGB(255, 255, 255);
+constexpr auto info = &CElemento::DrawInformazioni;
 
 class DrawTest : public testing::Test {
   protected:
@@ -39,6 +38,12 @@ class DrawTest : public testing::Test {
         return count;
     }
     int inked() { return inked(CRect(0, 0, 400, 300)); }
+    // The same of what is drawn on an empty picture.
+    int inkOf(CElemento& element, void (CElemento::*draw)(Adv3d*), const CRect& rect = CRect(0, 0, 400, 300)) {
+        clear();
+        (element.*draw)(&view);
+        return inked(rect);
+    }
 
     SmallModel m;
     CDC dc;
@@ -50,13 +55,10 @@ class DrawTest : public testing::Test {
 TEST_F(DrawTest, LinesAndNodes) {
     CNodo& left = m.node(-5, 0, 0);
     CTrave& beam = m.beam(left, m.node(5, 0, 0));
-    beam.Draw(&view);
-    EXPECT_NEAR(inked(), 100, 2);
+    EXPECT_NEAR(inkOf(beam, &CElemento::Draw), 100, 2);
     EXPECT_EQ(dc.GetPixel(200, 150), view.GetSettings(TipoElemento::Trave).GetColore());
-    clear();
     beam.SetSelect(1);
-    beam.Draw(&view);
-    view.Flush();
+    inkOf(beam, &CElemento::Draw);
     EXPECT_EQ(dc.GetPixel(200, 150), view.GetColoreSelezione());
     clear();
     beam.SetVisible(0);
@@ -64,12 +66,9 @@ TEST_F(DrawTest, LinesAndNodes) {
     beam.DrawInformazioni(&view);
     beam.Draw(nullptr);
     EXPECT_EQ(inked(), 0);
-    left.Draw(&view);
-    EXPECT_GT(inked(CRect(145, 145, 156, 156)), 8);
+    EXPECT_GT(inkOf(left, &CElemento::Draw, CRect(145, 145, 156, 156)), 8);
     view.GetSettings(TipoElemento::Nodo).SetVoce(CElementoSettings::Oggetto, 0);
-    clear();
-    left.Draw(&view);
-    EXPECT_EQ(inked(), 0);
+    EXPECT_EQ(inkOf(left, &CElemento::Draw), 0);
 }
 
 // Faults: coordinates beyond an integer's range wrapping round into the picture, a line through the picture lost
@@ -101,20 +100,14 @@ TEST_F(DrawTest, LoadsPointWhereTheyAct) {
     beam.AddCarico(down, 1);
     left.AddCarico(push, 1);
 
-    beam.DrawCarichi(&view);
-    EXPECT_GT(inked(CRect(140, 100, 260, 149)), 100); // it comes from above
+    EXPECT_GT(inkOf(beam, &CElemento::DrawCarichi, CRect(140, 100, 260, 149)), 100); // it comes from above
     EXPECT_EQ(inked(CRect(140, 152, 260, 300)), 0);
-    clear();
     view.SetCasoCarico(2);
-    beam.DrawInformazioni(&view);
-    EXPECT_EQ(inked(), 0);
-    left.DrawInformazioni(&view);
-    EXPECT_GT(inked(CRect(100, 140, 150, 160)), 30); // it pushes from the left
+    EXPECT_EQ(inkOf(beam, info), 0);
+    EXPECT_GT(inkOf(left, info, CRect(100, 140, 150, 160)), 30); // it pushes from the left
     EXPECT_EQ(inked(CRect(152, 140, 250, 160)), 0);
-    clear();
     view.GetSettings(TipoElemento::Nodo).SetVoce(CElementoSettings::Carichi, 0);
-    left.DrawInformazioni(&view);
-    EXPECT_EQ(inked(), 0);
+    EXPECT_EQ(inkOf(left, info), 0);
 
     // A local load follows the line's axes: along local 3 of a column it comes from the side.
     clear();
@@ -130,52 +123,46 @@ TEST_F(DrawTest, SupportsSpringsAndReleases) {
     CTrave& beam = m.beam(node, m.node(10, 0, 0));
     std::vector<int> seen;
     for (unsigned mask : {7u, 63u, 4u, 32u}) {
-        clear();
         const CVincolo restraint(mask);
         node.SetVincolo(&restraint);
-        node.DrawInformazioni(&view);
-        seen.push_back(inked());
+        seen.push_back(inkOf(node, info));
         EXPECT_GT(seen.back(), 0);
         EXPECT_EQ(std::count(seen.begin(), seen.end(), seen.back()), 1);
     }
     node.SetVincolo(nullptr);
     for (int kind : {CMolla::Traslazionale, CMolla::Rotazionale}) {
-        clear();
         node.EliminaMolle();
         node.AddMolla(CMolla(kind, 100, CFPoint(0, 0, 1)));
-        node.DrawInformazioni(&view);
-        EXPECT_GT(inked(CRect(180, 151, 220, 190)), 10);
+        EXPECT_GT(inkOf(node, info, CRect(180, 151, 220, 190)), 10);
     }
-    clear();
     node.EliminaMolle();
     node.AddMolla(CMolla(0, 0, CFPoint(0, 0, 1))); // a spring without stiffness holds nothing
-    node.DrawInformazioni(&view);
-    EXPECT_EQ(inked(), 0);
+    EXPECT_EQ(inkOf(node, info), 0);
     beam.AddSpecifica(new CSpecificheSvincoliTrave(1, 0, 0, 1, 0));
-    beam.DrawInformazioni(&view);
-    EXPECT_GT(inked(CRect(280, 140, 300, 160)), 8);
+    EXPECT_GT(inkOf(beam, info, CRect(280, 140, 300, 160)), 8);
     EXPECT_EQ(inked(CRect(190, 140, 270, 160)), 0);
 }
 
 // Fault: the far wall painted over the near one.
 TEST_F(DrawTest, NearFacesHideFarOnes) {
-    CSetto& near = m.polygon<CSetto>({&m.node(-2, -1, -2), &m.node(2, -1, -2), &m.node(2, -1, 2), &m.node(-2, -1, 2)});
-    CSolaio& far = m.polygon<CSolaio>({&m.node(-4, 5, -4), &m.node(4, 5, -4), &m.node(4, 5, 4), &m.node(-4, 5, 4)});
+    CSetto& near = m.polygon<CSetto>({CFPoint{-2, -1, -2}, {2, -1, -2}, {2, -1, 2}, {-2, -1, 2}});
+    CSolaio& far = m.polygon<CSolaio>({CFPoint{-4, 5, -4}, {4, 5, -4}, {4, 5, 4}, {-4, 5, 4}});
     FaceElemento faces[2];
-    FaceElemento* next = faces;
-    ASSERT_EQ(near.SetFacesArray(&next, &view, nullptr), 1);
-    ASSERT_EQ(far.SetFacesArray(&next, &view, nullptr), 1);
+    FaceElemento* next;
+    const auto draw = [&] {
+        next = faces;
+        EXPECT_EQ(near.SetFacesArray(&next, &view, nullptr), 1);
+        EXPECT_EQ(far.SetFacesArray(&next, &view, nullptr), 1);
+        view.DrawFaces(faces, 2);
+    };
+    draw();
     ASSERT_EQ(next, faces + 2);
-    view.DrawFaces(faces, 2);
     const COLORREF middle = dc.GetPixel(200, 150), border = dc.GetPixel(200, 150 - 35);
     EXPECT_NE(middle, white);
     EXPECT_NE(border, white);
     EXPECT_NE(middle, border);
     view.vista_ruotay(180);
-    next = faces;
-    near.SetFacesArray(&next, &view, nullptr);
-    far.SetFacesArray(&next, &view, nullptr);
-    view.DrawFaces(faces, 2);
+    draw();
     EXPECT_EQ(dc.GetPixel(200, 150), border);
     view.GetSettings(TipoElemento::Setto).SetVoce(CElementoSettings::Facce, 0);
     EXPECT_EQ(near.GetSizeFaccie(&view), 0);
@@ -185,16 +172,12 @@ TEST_F(DrawTest, NearFacesHideFarOnes) {
 // Faults: identifiers that are not drawn when asked for, and that are when not.
 TEST_F(DrawTest, Labels) {
     CTrave& beam = m.beam(m.node(-5, 0, 0), m.node(5, 0, 0));
-    beam.DrawInformazioni(&view);
-    EXPECT_EQ(inked(), 0);
+    EXPECT_EQ(inkOf(beam, info), 0);
     view.GetSettings(TipoElemento::Trave).SetVoce(CElementoSettings::Identificatore, 1);
-    beam.DrawInformazioni(&view);
-    EXPECT_GT(inked(CRect(195, 130, 230, 165)), 3);
-    clear();
+    EXPECT_GT(inkOf(beam, info, CRect(195, 130, 230, 165)), 3);
     CElementoSettings quiet; // an object's own settings come before the view's
     beam.SetSettings(&quiet);
-    beam.DrawInformazioni(&view);
-    EXPECT_EQ(inked(), 0);
+    EXPECT_EQ(inkOf(beam, info), 0);
 }
 
 // Faults: the old weight kept, another face or height taken, black for a coloured pen.

@@ -2,8 +2,6 @@
 #include "model/IdIndex.h"
 #include "tests/model/SmallModel.h"
 
-#include <gtest/gtest.h>
-
 #include <malloc.h>
 
 namespace {
@@ -32,8 +30,8 @@ TEST(MemoryTest, APairOfNodeAndBeamIsSmall) {
         grid.Insert(nodes.back().get());
         byId.Insert(i + 1, nodes.back().get());
     }
-    for (int i = 0; i < count;
-         ++i) { // three beams a node in a chain with short cuts: the lists outgrow their inside places
+    // Three beams a node in a chain with short cuts: the lists outgrow their inside places.
+    for (int i = 0; i < count; ++i) {
         beams.push_back(std::make_unique<CTrave>());
         beams.back()->SetID(i + 1);
         beams.back()->SetMateriale(1, &material);

@@ -1,8 +1,6 @@
 // Polygons: areas, axes and planes.
 #include "tests/model/SmallModel.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 double area(CPoligono& polygon) {
@@ -21,14 +19,12 @@ double share(CPoligono& polygon, int i) {
 // do not add up to the whole.
 TEST(PolygonTest, AreasAndShares) {
     SmallModel m;
-    auto& square =
-        m.polygon<CSolaio>({&m.node(1e6, 0, 3), &m.node(1e6 + 2, 0, 3), &m.node(1e6 + 2, 3, 3), &m.node(1e6, 3, 3)});
+    auto& square = m.polygon<CSolaio>({CFPoint{1e6, 0, 3}, {1e6 + 2, 0, 3}, {1e6 + 2, 3, 3}, {1e6, 3, 3}});
     EXPECT_DOUBLE_EQ(area(square), 6);
     for (int i = 0; i < 4; ++i)
         EXPECT_DOUBLE_EQ(share(square, i), 1.5);
 
-    auto& angle = m.polygon<CSolaio>(
-        {&m.node(0, 0, 0), &m.node(2, 0, 0), &m.node(2, 1, 0), &m.node(1, 1, 0), &m.node(1, 2, 0), &m.node(0, 2, 0)});
+    auto& angle = m.polygon<CSolaio>({CFPoint{0, 0, 0}, {2, 0, 0}, {2, 1, 0}, {1, 1, 0}, {1, 2, 0}, {0, 2, 0}});
     EXPECT_DOUBLE_EQ(area(angle), 3);
     double sum = 0;
     for (int i = 0; i < 6; ++i)
@@ -49,7 +45,7 @@ TEST(PolygonTest, AreasAndShares) {
 // Faults: a normal that depends on where the polygon starts, a left-handed triad, axes that are no unit vectors.
 TEST(PolygonTest, LocalAxes) {
     SmallModel m;
-    auto& wall = m.polygon<CSetto>({&m.node(0, 1, 0), &m.node(4, 1, 0), &m.node(4, 1, 3), &m.node(0, 1, 3)});
+    auto& wall = m.polygon<CSetto>({CFPoint{0, 1, 0}, {4, 1, 0}, {4, 1, 3}, {0, 1, 3}});
     double v[12];
     ASSERT_TRUE(wall.GetVersoriLocali(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8], v[9], v[10], v[11]));
     const double wanted[12] = {1, 0, 0, 0, 0, 1, 0, -1, 0, 2, 1, 1.5};
@@ -70,7 +66,7 @@ TEST(PolygonTest, LocalAxes) {
 // Fault: a plane made of three points on a line, with a normal out of rounding.
 TEST(PolygonTest, DegeneratePolygonsHaveNoAxes) {
     SmallModel m;
-    auto& line = m.polygon<CSolaio>({&m.node(0, 0, 0), &m.node(1, 1e-12, 0), &m.node(2, 0, 0)});
+    auto& line = m.polygon<CSolaio>({CFPoint{0, 0, 0}, {1, 1e-12, 0}, {2, 0, 0}});
     CFPoint axis;
     EXPECT_FALSE(line.GetDir(axis, 2));
     EXPECT_EQ(area(line), 0);

@@ -11,7 +11,11 @@
 #include "model/Spessore.h"
 #include "model/Trave.h"
 
+#include <gtest/gtest.h>
+
+#include <cmath>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class SmallModel {
@@ -58,6 +62,15 @@ class SmallModel {
         return result;
     }
 
+    // The same with nodes of its own.
+    template <typename Polygon>
+    Polygon& polygon(std::initializer_list<CFPoint> corners) {
+        auto& result = polygon<Polygon>(std::initializer_list<CNodo*>{});
+        for (const CFPoint& corner : corners)
+            result.AggiungiVertice(&node(corner.x, corner.y, corner.z));
+        return result;
+    }
+
     CMateriale material;
     CSezione section;
     CSpessore thickness;
@@ -73,4 +86,10 @@ inline std::string check(CElemento& element) {
     for (const CString& message : messages)
         text += message.ToUtf8() + "\n";
     return text;
+}
+
+// Pairs of what came out and what is right, to twelve digits.
+inline void expectNumbers(std::initializer_list<std::pair<double, double>> pairs) {
+    for (const auto& [got, wanted] : pairs)
+        EXPECT_NEAR(got, wanted, std::abs(wanted) * 1e-12);
 }

@@ -39,12 +39,10 @@ TEST(Array, InsertsRemovesAndGrows) {
     EXPECT_EQ(joined(array), "a|x|x|b|e|a|");
     array.SetSize(2);
     EXPECT_EQ(array.Append(array), 2);
-    EXPECT_EQ(joined(array), "a|x|a|x|");
     CStringArray copy;
     copy.Copy(array);
-    array.ElementAt(0) = "changed";
-    EXPECT_EQ(copy.GetAt(0), "a");
     array.RemoveAll();
+    EXPECT_EQ(joined(copy), "a|x|a|x|");
     EXPECT_EQ(array.GetUpperBound(), -1);
     EXPECT_EQ(array.GetData(), nullptr);
     CUIntArray numbers;
@@ -90,27 +88,24 @@ TEST(List, WalksInsertsAndRemoves) {
     list.InsertAfter(b, "c");
     list.InsertBefore(b, "+");
     CString text;
-    for (POSITION at = list.GetHeadPosition(); at;)
-        text += list.GetNext(at);
-    EXPECT_EQ(text, "a+bcd");
     // A walk that removes the element it has just got is the framework's usual loop.
     for (POSITION at = list.GetHeadPosition(); at;) {
         const POSITION current = at;
-        if (list.GetNext(at) == "b")
+        text += list.GetNext(at);
+        if (current == b)
             list.RemoveAt(current);
     }
-    text.Empty();
     for (POSITION at = list.GetTailPosition(); at;)
         text += list.GetPrev(at);
-    EXPECT_EQ(text, "dc+a");
+    EXPECT_EQ(text, "a+bcddc+a");
     EXPECT_EQ(list.RemoveHead() + list.RemoveTail(), "ad");
     EXPECT_EQ(list.GetAt(list.FindIndex(1)), "c");
     EXPECT_EQ(list.FindIndex(2), nullptr);
     list.AddTail(&list); // itself: must end
     EXPECT_EQ(list.GetCount(), 4);
-    const POSITION first = list.Find("c");
-    EXPECT_NE(list.Find("c", first), nullptr);
-    EXPECT_EQ(list.Find("c", list.Find("c", first)), nullptr);
+    const POSITION second = list.Find("c", list.Find("c"));
+    EXPECT_NE(second, nullptr);
+    EXPECT_EQ(list.Find("c", second), nullptr);
     list.RemoveAll();
     EXPECT_TRUE(list.IsEmpty() && !list.GetHeadPosition() && !list.GetTailPosition());
     EXPECT_EQ(thrownBy([&] { list.GetHead(); }), "CInvalidArgException");

@@ -12,11 +12,11 @@
 #include <vector>
 
 class ControlDialog : public CDialog {
+    TestTemplate m_template;
+
   public:
-    explicit ControlDialog(const ControlRows& rows) : CDialog(1), m_template(rows) {
-        Create(1);
-        TestApp::PumpMessages();
-    }
+    // Open and active; the log is empty.
+    explicit ControlDialog(const ControlRows& rows) : CDialog(1), m_template(rows), user(opened()) { log.clear(); }
     ~ControlDialog() override { DestroyWindow(); }
 
     // "command 100:768" or "notify 100:-2" or "scroll 4:17", in the order in which they came.
@@ -24,12 +24,15 @@ class ControlDialog : public CDialog {
     std::function<LRESULT(int code)> onNotify; // its value is the notification's result
     std::function<void()> onCommand;
     const void* scrollBar = nullptr; // of the last scroll message
+    DialogDriver user;
 
     std::vector<std::string> take() { return std::exchange(log, {}); }
     template <class Control>
     Control& control(int id) {
         return dynamic_cast<Control&>(*GetDlgItem(id));
     }
+    // A click of the left button on a point of the control's surface, pixels.
+    static void clickOn(const CWnd& control, CPoint at, bool twice = false);
 
   protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
@@ -51,7 +54,11 @@ class ControlDialog : public CDialog {
     DECLARE_MESSAGE_MAP()
 
   private:
-    TestTemplate m_template;
+    CWnd& opened() {
+        Create(1);
+        TestApp::PumpMessages();
+        return *this;
+    }
 };
 
 // "command 100:768" of one control's code.

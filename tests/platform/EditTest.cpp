@@ -3,22 +3,28 @@
 
 #include "platform/Edit.h"
 
+#include <QApplication>
+#include <QClipboard>
+
 namespace {
 
 ControlRows oneEdit(DWORD style = 0) {
     return ControlRows().edit(100, style).edit(101).button("OK", IDOK, BS_DEFPUSHBUTTON);
 }
 
+class Edit : public testing::Test {
+  protected:
+    ControlDialog dialog{oneEdit()};
+    CEdit& edit = dialog.control<CEdit>(100);
+    DialogDriver& user = dialog.user;
+};
+
 } // namespace
 
-TEST(Edit, EveryChangeTellsUpdateAndThenChange) {
-    ControlDialog dialog(oneEdit());
-    auto& edit = dialog.control<CEdit>(100);
+TEST_F(Edit, EveryChangeTellsUpdateAndThenChange) {
     const Log change{told(100, EN_UPDATE), told(100, EN_CHANGE)};
-    dialog.take();
     edit.SetWindowText("abc"); // a dialog that follows its own writing relies on it
     EXPECT_EQ(withoutFocus(dialog.take()), change);
-    DialogDriver user(dialog);
     user.Click(100);
     dialog.take();
     user.TypeKeys("d");
@@ -29,18 +35,14 @@ TEST(Edit, EveryChangeTellsUpdateAndThenChange) {
     EXPECT_EQ(withoutFocus(dialog.take()), change);
 }
 
-TEST(Edit, AHandlerMayEndTheDialogInTheMiddle) {
+TEST_F(Edit, AHandlerMayEndTheDialogInTheMiddle) {
     // A second notification to a dialog that the first one destroyed would be a use after its end.
-    ControlDialog dialog(oneEdit());
     dialog.onCommand = [&] { dialog.DestroyWindow(); };
-    dialog.take();
-    dialog.GetDlgItem(100)->SetWindowText("x");
+    edit.SetWindowText("x");
     EXPECT_EQ(withoutFocus(dialog.take()), Log{told(100, EN_UPDATE)});
 }
 
-TEST(Edit, TheFocusIsToldAlsoWhileTheDialogCloses) {
-    ControlDialog dialog(oneEdit());
-    DialogDriver user(dialog);
+TEST_F(Edit, TheFocusIsToldAlsoWhileTheDialogCloses) {
     user.Click(100);
     dialog.take();
     user.Press(VK_TAB);
@@ -49,9 +51,7 @@ TEST(Edit, TheFocusIsToldAlsoWhileTheDialogCloses) {
     EXPECT_EQ(dialog.take(), Log{told(101, EN_KILLFOCUS)});
 }
 
-TEST(Edit, SelectionsReachFromByteToByte) {
-    ControlDialog dialog(oneEdit());
-    auto& edit = dialog.control<CEdit>(100);
+TEST_F(Edit, SelectionsReachFromByteToByteAndSentKeysMoveTheCaret) {
     edit.SetWindowText("perch\xE9 no");
     int start = 0;
     int end = 0;
@@ -60,46 +60,37 @@ TEST(Edit, SelectionsReachFromByteToByte) {
     EXPECT_EQ(std::pair(start, end), std::pair(0, 9));
     edit.SetSel(5, 6);
     edit.ReplaceSel("e'");
-    EXPECT_EQ(edit.GetWindowText(), CString("perche' no"));
+    EXPECT_EQ(user.Text(100), "perche' no");
     edit.SetSel(-1, 0);
     edit.GetSel(start, end);
     EXPECT_EQ(start, end);
-}
-
-TEST(Edit, KeysThatTheProgramSendsMoveTheCaret) {
-    ControlDialog dialog(oneEdit());
-    auto& edit = dialog.control<CEdit>(100);
-    edit.SetWindowText("12");
     edit.SetSel(0, 0);
-    edit.SendMessage(WM_KEYDOWN, VK_END);
+    edit.SendMessage(WM_KEYDOWN, VK_END); // by the program
     edit.SendMessage(WM_CHAR, '3');
-    EXPECT_EQ(edit.GetWindowText(), CString("123"));
+    EXPECT_EQ(user.Text(100), "perche' no3");
 }
 
-TEST(Edit, StylesDecideWhatCanBeTyped) {
+TEST(EditStyles, DecideWhatCanBeTyped) {
     ControlDialog dialog(ControlRows()
                              .edit(100, ES_NUMBER)
                              .edit(101, ES_UPPERCASE)
                              .edit(102, ES_READONLY)
                              .edit(103)
                              .button("OK", IDOK, BS_DEFPUSHBUTTON));
-    DialogDriver user(dialog);
-    user.Type(100, "1a-2");
-    EXPECT_EQ(user.Text(100), "12");
-    user.Type(101, "via è");
-    EXPECT_EQ(user.Text(101), "VIA È");
     dialog.SetDlgItemText(102, "fisso");
-    user.Type(102, "x");
-    EXPECT_EQ(user.Text(102), "fisso");
-    user.Type(103, "aΩ€"); // Ω is not in the code page and would be read as a question mark
-    EXPECT_EQ(user.Text(103), "a€");
+    struct Case {
+        int id;
+        const char *typed, *shown;
+    };
+    for (const Case& each :
+         {Case{100, "1a-2", "12"}, {101, "via è", "VIA È"}, {102, "x", "fisso"}, {103, "aΩ€", "a€"}}) {
+        dialog.user.Type(each.id, each.typed); // Ω is not in the code page and would be read as a question mark
+        EXPECT_EQ(dialog.user.Text(each.id), each.shown);
+    }
 }
 
-TEST(Edit, TheLimitIsTheUsersOnly) {
-    ControlDialog dialog(oneEdit());
-    auto& edit = dialog.control<CEdit>(100);
+TEST_F(Edit, TheLimitIsTheUsersOnly) {
     edit.LimitText(3);
-    DialogDriver user(dialog);
     user.Type(100, "12345");
     EXPECT_EQ(user.Text(100), "123");
     edit.SetWindowText("123456");
@@ -111,7 +102,7 @@ TEST(Edit, TheLimitIsTheUsersOnly) {
     EXPECT_FALSE(edit.GetModify());
 }
 
-TEST(Edit, AFieldOfSeveralLinesKeepsItsLineEndsAndLeavesTheDialogItsKeys) {
+TEST(EditStyles, AFieldOfSeveralLinesKeepsItsLineEndsAndLeavesTheDialogItsKeys) {
     ControlDialog dialog(oneEdit(ES_MULTILINE | ES_WANTRETURN));
     auto& edit = dialog.control<CEdit>(100);
     edit.SetWindowText("uno\r\ndue");
@@ -119,21 +110,36 @@ TEST(Edit, AFieldOfSeveralLinesKeepsItsLineEndsAndLeavesTheDialogItsKeys) {
     EXPECT_EQ(edit.GetLineCount(), 2);
     edit.SetSel(5, 8);
     edit.ReplaceSel("tre");
-    EXPECT_EQ(edit.GetWindowText(), CString("uno\r\ntre"));
-    DialogDriver user(dialog);
-    user.Click(100);
+    dialog.user.Click(100);
     edit.SetSel(8, 8);
-    user.Press(VK_RETURN); // must not press OK
-    user.TypeKeys("q");
+    dialog.user.Press(VK_RETURN); // must not press OK
+    dialog.user.TypeKeys("q");
     EXPECT_EQ(edit.GetWindowText(), CString("uno\r\ntre\r\nq"));
-    user.Press(VK_TAB);
-    EXPECT_EQ(user.Focus(), 101);
+    dialog.user.Press(VK_TAB);
+    EXPECT_EQ(dialog.user.Focus(), 101);
 }
 
-TEST(Edit, WithoutAWindowEverythingIsHarmless) {
-    CEdit edit;
-    edit.SetSel(0, -1);
-    edit.ReplaceSel("x");
-    EXPECT_FALSE(edit.GetModify());
-    EXPECT_EQ(edit.GetLineCount(), 0);
+// Cells copied from a sheet bring line ends; a clipboard may hold anything.
+TEST(EditStyles, PastedTextsAreCutToTheirField) {
+    ControlDialog dialog(ControlRows().edit(100).edit(102, ES_MULTILINE));
+    auto& line = dialog.control<CEdit>(100);
+    auto& lines = dialog.control<CEdit>(102);
+    QApplication::clipboard()->setText("12.5\r\n");
+    line.Paste();
+    EXPECT_EQ(line.GetWindowText(), CString("12.5"));
+    QApplication::clipboard()->setText(QString(1 << 20, QLatin1Char('x')));
+    line.SetWindowText("");
+    line.Paste();
+    EXPECT_EQ(line.GetWindowTextLength(), 32767); // what a field takes from the user without a limit of its own
+    lines.LimitText(10);
+    lines.SetWindowText("abcdef");
+    lines.SetSel(0, 2);
+    lines.Paste();
+    EXPECT_EQ(lines.GetWindowText(), CString("xxxxxxcdef"));
+    lines.Paste();
+    EXPECT_EQ(lines.GetWindowTextLength(), 10);
+    line.SetWindowText(CString('7', 1 << 20)); // the program's own text is never cut
+    EXPECT_EQ(line.GetWindowTextLength(), 1 << 20);
+    EXPECT_EQ(dialog.GetDlgItemInt(100), 0u); // out of range, and no crash
+    QApplication::clipboard()->clear();
 }

@@ -3,18 +3,26 @@
 #include "platform/Edit.h"
 #include "tests/platform/TestDialogs.h"
 #include "tests/support/DialogDriver.h"
-#include "tests/support/TestApp.h"
 
 #include <gtest/gtest.h>
 
 #include <clocale>
-#include <functional>
 
 namespace {
 
 class ExchangeDialog : public CDialog {
+    TestTemplate m_source{ControlRows()
+                              .edit(100)
+                              .edit(101)
+                              .edit(102)
+                              .radio("X", 301, true)
+                              .radio("Y", 302)
+                              .add("STATIC", "nel gruppo", -1, 0)
+                              .radio("Z", 303)
+                              .button("Segno", 400, BS_AUTOCHECKBOX | WS_GROUP)};
+
   public:
-    ExchangeDialog() : CDialog(1) { m_source.emplace(rows()); }
+    ExchangeDialog() : CDialog(1) { EXPECT_TRUE(Create(1)); }
 
     int integer = 7;
     double number = 0.1;
@@ -24,20 +32,7 @@ class ExchangeDialog : public CDialog {
     int changes = 0;
     CEdit edit;
 
-    BOOL Open() { return Create(1); }
-
   protected:
-    static ControlRows rows() {
-        return ControlRows()
-            .edit(100)
-            .edit(101)
-            .edit(102)
-            .radio("X", 301, true)
-            .radio("Y", 302)
-            .add("STATIC", "nel gruppo", -1, 0)
-            .radio("Z", 303)
-            .button("Segno", 400, BS_AUTOCHECKBOX | WS_GROUP);
-    }
     void DoDataExchange(CDataExchange* pDX) override {
         DDX_Control(pDX, 102, edit);
         DDX_Text(pDX, 100, integer);
@@ -49,8 +44,6 @@ class ExchangeDialog : public CDialog {
     }
     void OnChange() { ++changes; }
 
-  private:
-    std::optional<TestTemplate> m_source;
     DECLARE_MESSAGE_MAP()
 };
 
@@ -59,66 +52,53 @@ BEGIN_MESSAGE_MAP(ExchangeDialog, CDialog)
     ON_EN_CHANGE(101, OnChange)
 END_MESSAGE_MAP()
 
-// The message box that reading the dialog brings, empty for none.
-std::string messageOf(ExchangeDialog& dialog) {
-    std::string shown;
-    TestApp::instance().messageHandler = [&](const CString& message, UINT) {
-        shown = message.ToUtf8();
-        return IDOK;
-    };
-    const BOOL read = dialog.UpdateData(TRUE);
-    TestApp::instance().messageHandler = nullptr;
-    EXPECT_EQ(read, shown.empty());
-    return shown;
-}
+class Exchange : public testing::Test {
+  protected:
+    // The message box that reading the dialog brings, empty for none.
+    std::string message() {
+        const Boxes boxes;
+        const BOOL read = dialog.UpdateData(TRUE);
+        EXPECT_EQ(read, boxes.texts.empty());
+        return boxes.texts.empty() ? "" : boxes.texts.front();
+    }
+
+    ExchangeDialog dialog;
+};
 
 } // namespace
 
-TEST(Exchange, NumbersAreReadWhole) {
-    ExchangeDialog dialog;
-    ASSERT_TRUE(dialog.Open());
-    struct Case {
-        const char* typed;
-        bool accepted;
-        int value;
-    };
-    const Case cases[] = {{"12", true, 12},         {"  12  ", true, 12},
-                          {"-5", true, -5},         {"+8", true, 8},
-                          {"", false, 0},           {"   ", false, 0},
-                          {"12a", false, 0},        {"1 2", false, 0},
-                          {"0x10", false, 0},       {"1.0", false, 0},
-                          {"--1", false, 0},        {"+-1", false, 0},
-                          {"4294967297", false, 0}, {"99999999999999999999", false, 0}};
-    for (const Case& each : cases) {
-        dialog.SetDlgItemText(100, each.typed);
-        const int before = dialog.integer;
-        const std::string message = messageOf(dialog);
-        EXPECT_EQ(message, each.accepted ? "" : "Immettere un numero intero.") << "'" << each.typed << "'";
-        EXPECT_EQ(dialog.integer, each.accepted ? each.value : before) << each.typed;
-        EXPECT_STREQ(dialog.GetDlgItem(100)->GetWindowText(), each.typed); // what was typed is kept
+TEST_F(Exchange, NumbersAreReadWhole) {
+    const std::pair<const char*, int> good[] = {{"12", 12}, {"  12  ", 12}, {"-5", -5}, {"+8", 8}};
+    for (const auto& [typed, value] : good) {
+        dialog.SetDlgItemText(100, typed);
+        EXPECT_EQ(message(), "") << typed;
+        EXPECT_EQ(dialog.integer, value) << typed;
+    }
+    for (const char* typed :
+         {"", "   ", "12a", "1 2", "0x10", "1.0", "--1", "+-1", "4294967297", "99999999999999999999"}) {
+        dialog.SetDlgItemText(100, typed);
+        EXPECT_EQ(message(), "Immettere un numero intero.") << typed;
+        EXPECT_EQ(dialog.integer, 8) << typed;
+        EXPECT_STREQ(dialog.GetDlgItem(100)->GetWindowText(), typed); // what was typed is kept
     }
 }
 
-TEST(Exchange, DoublesKnowOnlyTheFullStop) {
-    ExchangeDialog dialog;
-    ASSERT_TRUE(dialog.Open());
+TEST_F(Exchange, DoublesKnowOnlyTheFullStop) {
     const std::pair<const char*, double> good[] = {{"1.5", 1.5}, {" -2 ", -2},  {".5", .5},
                                                    {"3.", 3},    {"1e3", 1000}, {"+0.25", .25}};
     for (const auto& [typed, value] : good) {
         dialog.SetDlgItemText(101, typed);
-        EXPECT_EQ(messageOf(dialog), "") << typed;
+        EXPECT_EQ(message(), "") << typed;
         EXPECT_EQ(dialog.number, value) << typed;
     }
     for (const char* typed : {"", "1,5", "1.5m", "1.2.3", "nan", "inf", "1e999", "e5", "0x1p3"}) {
         dialog.SetDlgItemText(101, typed);
-        EXPECT_EQ(messageOf(dialog), "Immettere un numero.") << typed;
+        EXPECT_EQ(message(), "Immettere un numero.") << typed;
     }
     EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C"); // the toolkit must not leave the machine's
 }
 
-TEST(Exchange, DoublesAreWrittenWithFifteenDigits) {
-    ExchangeDialog dialog;
-    ASSERT_TRUE(dialog.Open());
+TEST_F(Exchange, DoublesAreWrittenWithFifteenDigits) {
     const std::pair<double, const char*> cases[] = {{0.1, "0.1"},    {0.1 + 0.2, "0.3"}, {1.0 / 3, "0.333333333333333"},
                                                     {1e20, "1e+20"}, {-0.5, "-0.5"},     {3, "3"}};
     for (const auto& [value, shown] : cases) {
@@ -128,32 +108,27 @@ TEST(Exchange, DoublesAreWrittenWithFifteenDigits) {
     }
 }
 
-TEST(Exchange, ARangeIsCheckedOnReadingOnlyAndTheFieldIsSelected) {
-    ExchangeDialog dialog;
+TEST_F(Exchange, ARangeIsCheckedOnReadingOnlyAndTheFieldIsSelected) {
     dialog.integer = 5000;
-    ASSERT_TRUE(dialog.Open()); // writing a value out of range says nothing
+    dialog.UpdateData(FALSE); // writing a value out of range says nothing
     dialog.GetDlgItem(101)->SetFocus();
-    EXPECT_EQ(messageOf(dialog), "Immettere un numero compreso tra -5 e 1000.");
+    EXPECT_EQ(message(), "Immettere un numero compreso tra -5 e 1000.");
     DialogDriver user(dialog);
     EXPECT_EQ(user.Focus(), 100);
     user.TypeKeys("9"); // over the selected text
     EXPECT_EQ(user.Text(100), "9");
 }
 
-TEST(Exchange, TheFirstFieldThatFailsEndsIt) {
-    ExchangeDialog dialog;
-    ASSERT_TRUE(dialog.Open());
+TEST_F(Exchange, TheFirstFieldThatFailsEndsIt) {
     dialog.SetDlgItemText(100, "3");
     dialog.SetDlgItemText(101, "x");
     dialog.SetDlgItemText(102, "nuovo");
-    EXPECT_EQ(messageOf(dialog), "Immettere un numero.");
+    EXPECT_EQ(message(), "Immettere un numero.");
     EXPECT_EQ(dialog.integer, 3);
     EXPECT_EQ(dialog.text, CString("testo"));
 }
 
-TEST(Exchange, WritingFieldsNeverReachesTheirChangeHandlers) {
-    ExchangeDialog dialog;
-    ASSERT_TRUE(dialog.Open());
+TEST_F(Exchange, WritingFieldsNeverReachesTheirChangeHandlers) {
     EXPECT_EQ(dialog.changes, 0);
     dialog.number = 44;
     dialog.integer = 3;
@@ -166,9 +141,7 @@ TEST(Exchange, WritingFieldsNeverReachesTheirChangeHandlers) {
     EXPECT_GE(dialog.changes, 3);
 }
 
-TEST(Exchange, ARadioFieldBindsTheWholeGroup) {
-    ExchangeDialog dialog;
-    ASSERT_TRUE(dialog.Open());
+TEST_F(Exchange, ARadioFieldBindsTheWholeGroup) {
     EXPECT_TRUE(dialog.IsDlgButtonChecked(302));
     dialog.radio = 2; // behind a label in the middle of the group
     dialog.check = 1;
@@ -179,9 +152,9 @@ TEST(Exchange, ARadioFieldBindsTheWholeGroup) {
     dialog.radio = -1;
     dialog.UpdateData(FALSE);
     EXPECT_EQ(dialog.GetCheckedRadioButton(301, 303), 0);
-    EXPECT_EQ(messageOf(dialog), "");
+    EXPECT_EQ(message(), "");
     EXPECT_EQ(dialog.radio, -1);
     DialogDriver(dialog).Click(301);
-    EXPECT_EQ(messageOf(dialog), "");
+    EXPECT_EQ(message(), "");
     EXPECT_EQ(dialog.radio, 0);
 }

@@ -17,36 +17,24 @@ constexpr platform::MenuItemTemplate Items[] = {
 };
 constexpr platform::MenuTemplate Template{351, 1, Items};
 
-class MenuResources {
-  public:
-    MenuResources() { platform::AppendResources(&m_module, &m_module); }
-    ~MenuResources() { platform::RemoveResources(&m_module); }
-    HINSTANCE handle() const { return &m_module; }
-
-  private:
-    platform::ResourceModule m_module{"menus", {}, {&Template, 1}, {}, {}};
-};
-
-// Answers tracked menus with a command while it lives.
-class Chooser {
-  public:
-    explicit Chooser(UINT command) {
-        platform::popupMenuHook = [command](CMenu&, CWnd*) { return command; };
+class Menu : public testing::Test {
+  protected:
+    Menu() {
+        platform::AppendResources(&module, &module);
+        EXPECT_TRUE(menu.LoadMenu(351));
     }
-    ~Chooser() { platform::popupMenuHook = nullptr; }
-};
+    ~Menu() override {
+        platform::popupMenuHook = nullptr;
+        platform::RemoveResources(&module);
+    }
 
-ControlRows oneButton() {
-    return ControlRows().button("OK", IDOK, BS_DEFPUSHBUTTON);
-}
+    platform::ResourceModule module{"menus", {}, {&Template, 1}, {}, {}};
+    CMenu menu;
+};
 
 } // namespace
 
-TEST(Menu, LoadsNestedItemsAlongTheChainOrByHandle) {
-    const MenuResources resources;
-    CMenu menu;
-    EXPECT_FALSE(menu.LoadMenu(999));
-    ASSERT_TRUE(menu.LoadMenu(351));
+TEST_F(Menu, LoadsNestedItemsAlongTheChainOrByHandle) {
     CMenu* popup = menu.GetSubMenu(0);
     ASSERT_TRUE(popup);
     EXPECT_EQ(popup->GetMenuItemCount(), 3u); // the items of the inner pop-up are not its own
@@ -58,28 +46,22 @@ TEST(Menu, LoadsNestedItemsAlongTheChainOrByHandle) {
     EXPECT_EQ(text, CString("M&3"));
 
     CMenu second;
+    EXPECT_FALSE(second.LoadMenu(999));
     ASSERT_TRUE(second.Attach(LoadMenu(AfxFindResourceHandle(351, RT_MENU), 351)));
     EXPECT_EQ(second.GetMenuItemCount(), 1u);
-    EXPECT_EQ(LoadMenu(resources.handle(), 1), nullptr);
+    EXPECT_EQ(LoadMenu(&module, 1), nullptr);
 }
 
-TEST(Menu, StatesAreFoundByCommandInPopupsAsWell) {
-    const MenuResources resources;
-    CMenu menu;
-    ASSERT_TRUE(menu.LoadMenu(351));
+TEST_F(Menu, StatesAreFoundByCommandInPopupsAsWell) {
     EXPECT_EQ(menu.CheckMenuItem(502, MF_BYCOMMAND | MF_UNCHECKED), UINT{MF_CHECKED});
     EXPECT_EQ(menu.CheckMenuItem(501, MF_CHECKED), UINT{MF_UNCHECKED});
     EXPECT_EQ(menu.GetMenuState(501, MF_BYCOMMAND), UINT{MF_CHECKED});
     EXPECT_EQ(menu.CheckMenuItem(777, MF_CHECKED), static_cast<UINT>(-1));
 }
 
-TEST(Menu, TheChoiceReachesTheWindowUnlessItIsDisabled) {
-    const MenuResources resources;
-    ControlDialog dialog(oneButton());
-    dialog.take();
-    CMenu menu;
-    ASSERT_TRUE(menu.LoadMenu(351));
-    const Chooser choose(502);
+TEST_F(Menu, TheChoiceReachesTheWindowUnlessItIsDisabled) {
+    ControlDialog dialog(ControlRows().button("OK", IDOK));
+    platform::popupMenuHook = [](CMenu&, CWnd*) { return UINT{502}; };
     menu.GetSubMenu(0)->TrackPopupMenu(TPM_RIGHTBUTTON, 10, 10, &dialog);
     EXPECT_EQ(dialog.take(), Log{told(502, 0)});
     EXPECT_EQ(menu.TrackPopupMenu(TPM_RETURNCMD, 10, 10, &dialog), 502);
@@ -89,15 +71,13 @@ TEST(Menu, TheChoiceReachesTheWindowUnlessItIsDisabled) {
     EXPECT_EQ(dialog.take(), Log{});
 }
 
-TEST(Menu, TheShownMenuIsUsedByKeyboard) {
-    ControlDialog dialog(oneButton());
-    DialogDriver user(dialog);
-    dialog.take();
-    CMenu menu;
-    menu.CreatePopupMenu();
-    menu.AppendMenu(MF_STRING, 11, "&Apri");
-    menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING, 12, "&Elimina");
+TEST_F(Menu, TheShownMenuIsUsedByKeyboard) {
+    ControlDialog dialog(ControlRows().button("OK", IDOK));
+    CMenu made;
+    made.CreatePopupMenu();
+    made.AppendMenu(MF_STRING, 11, "&Apri");
+    made.AppendMenu(MF_SEPARATOR);
+    made.AppendMenu(MF_STRING, 12, "&Elimina");
     QTimer::singleShot(0, [] {
         auto* shown = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         ASSERT_TRUE(shown);
@@ -106,6 +86,6 @@ TEST(Menu, TheShownMenuIsUsedByKeyboard) {
         QTest::keyClick(shown, Qt::Key_Down); // over the separator
         QTest::keyClick(shown, Qt::Key_Return);
     });
-    EXPECT_TRUE(menu.TrackPopupMenu(0, 20, 20, &dialog));
+    EXPECT_TRUE(made.TrackPopupMenu(0, 20, 20, &dialog));
     EXPECT_EQ(withoutFocus(dialog.take()), Log{told(12, 0)});
 }

@@ -6,8 +6,6 @@
 #include "platform/private/Picture.h"
 #include "platform/private/WindowPeer.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 constexpr COLORREF red = RGB(255, 0, 0), blue = RGB(0, 0, 255);
@@ -20,17 +18,27 @@ class Shown : public CWnd {
         settle();
     }
 
+    int painted = 0;
+
     // What the window shows on the screen.
     QRgb shown(int x, int y) {
         CWinApp::PumpMessages();
         const QImage image = m_hWnd->widget->grab().toImage();
         return image.pixel((QPointF(x, y) * image.devicePixelRatio()).toPoint());
     }
+    void update(BOOL erase) {
+        Invalidate(erase);
+        UpdateWindow();
+    }
 
   protected:
     void settle() {
         CWinApp::PumpMessages();
         UpdateWindow();
+    }
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
+        painted += message == WM_PAINT;
+        return CWnd::OnWndMsg(message, wParam, lParam, result);
     }
 };
 
@@ -39,13 +47,10 @@ class Painting : public Shown {
   public:
     Painting() { settle(); }
 
-    int painted = 0;
-
   private:
     void OnPaint() {
         CPaintDC(this).FillSolidRect(20, 0, 5, 5, blue);
         CClientDC(this).FillSolidRect(30, 0, 5, 5, blue);
-        ++painted;
     }
     DECLARE_MESSAGE_MAP()
 };
@@ -60,8 +65,9 @@ COLORREF pixel(CWnd& window, int x, int y) {
 
 } // namespace
 
-// Catches drawing outside paint messages that is lost, or shows only after the next resize.
-TEST(Picture, KeepsWhatIsDrawnUntilErased) {
+// Catches drawing outside paint messages that is lost or shows only after the next resize, that flickers away with the
+// next exposure, or stays under a new drawing.
+TEST(Picture, KeepsWhatIsDrawnUntilInvalidateErasesIt) {
     Shown window;
     CClientDC(&window).FillSolidRect(0, 0, 5, 5, red);
     EXPECT_EQ(window.shown(2, 2), qRgb(255, 0, 0));
@@ -69,8 +75,21 @@ TEST(Picture, KeepsWhatIsDrawnUntilErased) {
     window.MoveWindow(0, 0, 60, 60);
     CClientDC(&window).FillSolidRect(50, 50, 5, 5, red);
     EXPECT_EQ(pixel(window, 52, 52), red) << "the picture grows with its window";
+    CWinApp::PumpMessages();
+    window.UpdateWindow(); // the resizing's own painting, which erases
+    CClientDC(&window).FillSolidRect(50, 50, 5, 5, red);
+    window.m_hWnd->widget->repaint();
+    EXPECT_EQ(pixel(window, 52, 52), red);
+    const int before = window.painted;
+    window.UpdateWindow(); // nothing is invalid
+    EXPECT_EQ(window.painted, before);
+    window.update(FALSE);
+    EXPECT_EQ(window.painted, before + 1);
+    EXPECT_EQ(pixel(window, 52, 52), red);
     window.Invalidate();
+    EXPECT_EQ(pixel(window, 52, 52), red) << "not before it is painted";
     window.UpdateWindow();
+    EXPECT_EQ(window.painted, before + 2);
     EXPECT_NE(pixel(window, 52, 52), red) << "erased before it returns";
 }
 
@@ -82,11 +101,8 @@ TEST(Picture, ServesSeveralContextsAtOnce) {
     first.SelectObject(&redPen);
     second.SelectObject(&bluePen);
     second.IntersectClipRect(0, 0, 10, 30);
-    for (int y = 0; y < 4; ++y) {
-        CDC& dc = y % 2 ? second : first;
-        dc.MoveTo(0, y);
-        dc.LineTo(20, y);
-    }
+    for (int y = 0; y < 4; ++y)
+        drawLine(y % 2 ? second : first, 0, y, 20, y);
     EXPECT_EQ(pixel(window, 15, 2), red);
     EXPECT_EQ(pixel(window, 5, 3), blue);
     EXPECT_NE(pixel(window, 15, 3), blue);
@@ -102,8 +118,7 @@ TEST(Picture, OutlivesAndIsOutlived) {
     Shown window;
     CClientDC dc(&window);
     dc.FillSolidRect(0, 0, 5, 5, red);
-    window.Invalidate();
-    window.UpdateWindow(); // erased under the open context
+    window.update(TRUE); // erased under the open context
     EXPECT_NE(dc.GetPixel(2, 2), red);
     dc.FillSolidRect(0, 0, 5, 5, red);
     EXPECT_EQ(dc.GetPixel(2, 2), red);
@@ -121,11 +136,9 @@ TEST(Picture, InvertsOverTheBackground) {
     CClientDC dc(&window);
     const COLORREF background = dc.GetPixel(3, 3);
     dc.SetROP2(R2_NOT);
-    dc.MoveTo(0, 3);
-    dc.LineTo(9, 3);
+    drawLine(dc, 0, 3, 9, 3);
     EXPECT_EQ(dc.GetPixel(3, 3), background ^ 0xffffff);
-    dc.MoveTo(0, 3);
-    dc.LineTo(9, 3);
+    drawLine(dc, 0, 3, 9, 3);
     EXPECT_EQ(dc.GetPixel(3, 3), background);
 }
 

@@ -39,60 +39,50 @@ std::string CaptionOf(int id) {
     return found ? found->caption : "none";
 }
 
-// Two modules as a program that is linked with them sees them; each can be told to refuse.
-AFX_EXTENSION_MODULE g_firstState;
-int g_firstStarts = 0;
+// Two modules as a program that is linked with them sees them.
+struct TestModule {
+    const ResourceModule* resources;
+    AFX_EXTENSION_MODULE state{};
+    int starts = 0;
+    bool refusesLate = false; // after its link was made
+};
+TestModule g_first{&kFirst}, g_second{&kSecond};
 
-int FirstEntry(HINSTANCE module, UINT reason) {
-    if (reason == DLL_PROCESS_ATTACH) {
-        if (!AfxInitExtensionModule(g_firstState, module, &kFirst))
-            return 0;
-        ++g_firstStarts;
-        new CDynLinkLibrary(g_firstState);
-    } else if (reason == DLL_PROCESS_DETACH) {
-        AfxTermExtensionModule(g_firstState);
-    }
-    return 1;
-}
-
-AFX_EXTENSION_MODULE g_secondState;
-bool g_secondRefusesLate = false;
-
-int SecondEntry(HINSTANCE module, UINT reason) {
+template <TestModule& module>
+int Entry(HINSTANCE handle, UINT reason) {
     if (reason == DLL_PROCESS_DETACH) {
-        AfxTermExtensionModule(g_secondState);
+        AfxTermExtensionModule(module.state);
         return 1;
     }
-    if (!AfxInitExtensionModule(g_secondState, module, &kSecond))
+    if (!AfxInitExtensionModule(module.state, handle, module.resources))
         return 0;
-    new CDynLinkLibrary(g_secondState);
-    if (!g_secondRefusesLate)
-        return 1;
-    g_secondState = {};
-    return 0;
+    ++module.starts;
+    new CDynLinkLibrary(module.state);
+    if (module.refusesLate)
+        module.state = {};
+    return !module.refusesLate;
 }
+constexpr auto FirstEntry = &Entry<g_first>, SecondEntry = &Entry<g_second>;
 
 class ResourceChain : public testing::Test {
   protected:
     void SetUp() override { platform::SetHostResources(&kHost); }
     void TearDown() override {
-        AfxDetachLinkedModule(&FirstEntry);
-        AfxDetachLinkedModule(&SecondEntry);
+        AfxDetachLinkedModule(FirstEntry);
+        AfxDetachLinkedModule(SecondEntry);
         platform::SetHostResources(nullptr);
-        g_secondRefusesLate = false;
+        g_second.refusesLate = false;
     }
 };
 
 // Catches a search that asks a module before the host, or modules in another order than they were loaded.
 TEST_F(ResourceChain, HostFirstThenModulesInLoadOrder) {
-    const HINSTANCE first = AfxAttachLinkedModule(&FirstEntry);
-    const HINSTANCE second = AfxAttachLinkedModule(&SecondEntry);
+    const HINSTANCE first = AfxAttachLinkedModule(FirstEntry);
+    const HINSTANCE second = AfxAttachLinkedModule(SecondEntry);
     ASSERT_TRUE(first && second && first != second);
-    EXPECT_EQ(CaptionOf(60001), "host");
-    EXPECT_EQ(CaptionOf(60002), "host");
-    EXPECT_EQ(CaptionOf(60003), "first");
-    EXPECT_EQ(CaptionOf(60004), "second");
-    EXPECT_EQ(CaptionOf(60005), "none");
+    const char* const captions[] = {"host", "host", "first", "second", "none"};
+    for (int id = 0; id < 5; ++id)
+        EXPECT_EQ(CaptionOf(60001 + id), captions[id]);
 
     // Host resources that come late still go in front.
     platform::SetHostResources(nullptr);
@@ -103,7 +93,7 @@ TEST_F(ResourceChain, HostFirstThenModulesInLoadOrder) {
 
 // Catches a handle that names the wrong module, kinds of resources mixed up, and a null handle for what is missing.
 TEST_F(ResourceChain, HandlesNameTheModuleThatHoldsTheResource) {
-    const HINSTANCE first = AfxAttachLinkedModule(&FirstEntry);
+    const HINSTANCE first = AfxAttachLinkedModule(FirstEntry);
     const HINSTANCE host = platform::HostInstance();
     EXPECT_EQ(AfxFindResourceHandle(60376, RT_MENU), first);
     EXPECT_EQ(AfxFindResourceHandle(60376, RT_DIALOG), host);
@@ -120,28 +110,23 @@ TEST_F(ResourceChain, HandlesNameTheModuleThatHoldsTheResource) {
     EXPECT_EQ(GetModuleHandle("third"), nullptr);
 }
 
-// Catches a module that stays in the chain after its end, or takes a neighbour's resources along.
-TEST_F(ResourceChain, DetachTakesOutOneModuleAndOnlyIt) {
-    AfxAttachLinkedModule(&FirstEntry);
-    AfxAttachLinkedModule(&SecondEntry);
-    EXPECT_TRUE(AfxDetachLinkedModule(&FirstEntry));
-    EXPECT_FALSE(AfxDetachLinkedModule(&FirstEntry));
-    EXPECT_FALSE(g_firstState.bInitialized);
+// Catches a module that stays in the chain after its end or takes a neighbour's resources along, and a second start of
+// a running one, which would put its resources into the chain twice.
+TEST_F(ResourceChain, AModuleStartsOnceAndDetachTakesOutOnlyIt) {
+    const int before = g_first.starts;
+    const HINSTANCE first = AfxAttachLinkedModule(FirstEntry);
+    EXPECT_EQ(AfxAttachLinkedModule(FirstEntry), first);
+    EXPECT_EQ(g_first.starts, before + 1);
+    AFX_EXTENSION_MODULE again = g_first.state;
+    EXPECT_FALSE(AfxInitExtensionModule(again, first, &kFirst));
+    AfxAttachLinkedModule(SecondEntry);
+    EXPECT_TRUE(AfxDetachLinkedModule(FirstEntry));
+    EXPECT_FALSE(AfxDetachLinkedModule(FirstEntry));
+    EXPECT_FALSE(g_first.state.bInitialized);
     EXPECT_EQ(CaptionOf(60003), "second");
     EXPECT_EQ(platform::FindMenu(60376), nullptr);
     EXPECT_EQ(CaptionOf(60001), "host");
-}
-
-// Catches a second start of a running module, which would put its resources into the chain twice.
-TEST_F(ResourceChain, AModuleStartsOnce) {
-    const int before = g_firstStarts;
-    const HINSTANCE first = AfxAttachLinkedModule(&FirstEntry);
-    EXPECT_EQ(AfxAttachLinkedModule(&FirstEntry), first);
-    EXPECT_EQ(g_firstStarts, before + 1);
-    AFX_EXTENSION_MODULE again = g_firstState;
-    EXPECT_FALSE(AfxInitExtensionModule(again, first, &kFirst));
-    EXPECT_TRUE(AfxDetachLinkedModule(&FirstEntry));
-    EXPECT_TRUE(AfxAttachLinkedModule(&FirstEntry)); // a detached one may start again
+    EXPECT_TRUE(AfxAttachLinkedModule(FirstEntry)); // a detached one may start again
 }
 
 // Catches a refusal that is ignored, or that leaves resources of the refusing module behind.
@@ -152,15 +137,15 @@ TEST_F(ResourceChain, ARefusedStartLeavesTheChainAsItWas) {
     EXPECT_FALSE(empty.bInitialized);
     { const CDynLinkLibrary harmless(empty); }
 
-    g_firstState = {TRUE, &g_firstState, &kFirst}; // as if it ran already
-    EXPECT_EQ(AfxAttachLinkedModule(&FirstEntry), nullptr);
+    g_first.state = {TRUE, &g_first.state, &kFirst}; // as if it ran already
+    EXPECT_EQ(AfxAttachLinkedModule(FirstEntry), nullptr);
     EXPECT_EQ(CaptionOf(60003), "none");
-    g_firstState = {};
+    g_first.state = {};
 
-    g_secondRefusesLate = true; // after its link was made
-    EXPECT_EQ(AfxAttachLinkedModule(&SecondEntry), nullptr);
+    g_second.refusesLate = true;
+    EXPECT_EQ(AfxAttachLinkedModule(SecondEntry), nullptr);
     EXPECT_EQ(CaptionOf(60004), "none");
-    EXPECT_FALSE(AfxDetachLinkedModule(&SecondEntry));
+    EXPECT_FALSE(AfxDetachLinkedModule(SecondEntry));
     EXPECT_EQ(AfxAttachLinkedModule(nullptr), nullptr);
 }
 
@@ -207,11 +192,6 @@ class Compiler : public testing::Test {
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("errors"), Get("out.cpp")};
     }
 
-    // A script with one dialog, whose controls start in line 4.
-    Result CompileDialog(const std::string& controls) {
-        return Compile("9001 DIALOG 0, 0, 100, 50\nCAPTION \"C\"\nBEGIN\n" + controls + "\nEND\n");
-    }
-
     std::filesystem::path folder_;
 };
 
@@ -254,7 +234,8 @@ TEST_F(Compiler, WritesWhatTheScriptSays) {
 
 // Catches a broken script that compiles, or a message without its place.
 TEST_F(Compiler, FaultsEndTheBuildWithTheirPlace) {
-    const std::array<std::pair<const char*, const char*>, 10> faults = {{
+    Put("bad.h", "\n#define IDC_X (1 + 2)\n");
+    const std::pair<const char*, const char*> inDialogs[] = {
         {"LTEXT \"a\", 5, 0, 0, 9, 8\nLTEXT \"b\", 5, 9, 0, 9, 8", "t.rc:5: control 5 is there twice in dialog 9001"},
         {"EDITTEXT 5, 95, 0, 6, 8", "t.rc:4: control 5 reaches out of dialog 9001"},
         {"EDITTEXT 5, 9, 0, 6, 8, ES_LEFTISH", "t.rc:4: unknown style ES_LEFTISH"},
@@ -265,19 +246,8 @@ TEST_F(Compiler, FaultsEndTheBuildWithTheirPlace) {
         {"EDITTEXT IDC_NONE, 0, 0, 9, 8", "t.rc:4: expected a number or a defined name instead of \"IDC_NONE\""},
         {"LTEXT \"a, 5, 0, 0, 9, 8", "t.rc:4: text without closing quote"},
         {"EDITTEXT 5, 0, 0, 9", "t.rc:5: expected a comma instead of \"END\""},
-    }};
-    for (const auto& [controls, message] : faults) {
-        const Result result = CompileDialog(controls);
-        EXPECT_EQ(result.status, 1) << controls;
-        EXPECT_EQ(result.errors, std::string(message) + "\n");
-        EXPECT_EQ(result.output, "") << "an output was left for " << controls;
-    }
-}
-
-// The same for what stands outside dialogs, with the name of a faulty header.
-TEST_F(Compiler, FaultsOutsideDialogs) {
-    Put("bad.h", "\n#define IDC_X (1 + 2)\n");
-    const std::array<std::pair<const char*, const char*>, 7> faults = {{
+    };
+    const std::pair<const char*, const char*> outside[] = {
         {"7 BITMAP \"b.svg\"", "t.rc:1: cannot read b.svg"},
         {"7 BITMAP \"ids.h\"", "t.rc:1: ids.h is no SVG picture"},
         {"1 DIALOG 0,0,9,9 {}\n1 DIALOG 0,0,9,9 {}", "t.rc:2: dialog 1 is there twice"},
@@ -285,12 +255,17 @@ TEST_F(Compiler, FaultsOutsideDialogs) {
         {"1 CURSOR \"c\"", "t.rc:1: unknown kind of resource \"CURSOR\""},
         {"#include \"bad.h\"", "bad.h:2: IDC_X is not defined as a number"},
         {"#include \"none.h\"", "t.rc:1: cannot read none.h"},
-    }};
-    for (const auto& [script, message] : faults) {
+    };
+    const auto expectFault = [this](const std::string& script, const char* message) {
         const Result result = Compile(script);
         EXPECT_EQ(result.status, 1) << script;
         EXPECT_EQ(result.errors, std::string(message) + "\n");
-    }
+        EXPECT_EQ(result.output, "") << "an output was left for " << script;
+    };
+    for (const auto& [controls, message] : inDialogs)
+        expectFault("9001 DIALOG 0, 0, 100, 50\nCAPTION \"C\"\nBEGIN\n" + std::string(controls) + "\nEND\n", message);
+    for (const auto& [script, message] : outside)
+        expectFault(script, message);
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include "platform/private/GdiData.h"
 #include "platform/private/PainterDC.h"
 
+#include <gtest/gtest.h>
+
 #include <QImage>
 #include <QPainter>
 
@@ -35,6 +37,11 @@ inline CRect drawnBox(const QImage& image) {
     return box;
 }
 
+inline void drawLine(CDC& dc, int x1, int y1, int x2, int y2) {
+    dc.MoveTo(x1, y1);
+    dc.LineTo(x2, y2);
+}
+
 class Sheet {
   public:
     explicit Sheet(int width, int height, double scale = 1)
@@ -47,6 +54,8 @@ class Sheet {
 
     CDC* operator->() { return &*m_dc; }
     CDC& dc() { return *m_dc; }
+    void line(int x1, int y1, int x2, int y2) { drawLine(*m_dc, x1, y1, x2, y2); }
+    QRgb pixel(int x, int y) const { return m_image.pixel(x, y); }
     std::string rows() const { return drawnRows(m_image); }
     CRect box() const { return drawnBox(m_image); }
     const QImage& image() const { return m_image; }

@@ -11,19 +11,28 @@ namespace {
 
 constexpr DWORD Attached = UDS_SETBUDDYINT | UDS_AUTOBUDDY | UDS_ARROWKEYS | UDS_NOTHOUSANDS;
 
-ControlRows spinBeside(DWORD style = Attached) {
-    return ControlRows().edit(50).edit(100).add("msctls_updown32", "", 200, style).button("OK", IDOK, BS_DEFPUSHBUTTON);
+ControlRows spinBeside(DWORD style) {
+    return ControlRows()
+        .edit(50)
+        .edit(100)
+        .add("msctls_updown32", "", 200, style)
+        .button("OK", IDOK, BS_DEFPUSHBUTTON)
+        .add("COMBOBOX", "", 300, CBS_DROPDOWNLIST | WS_TABSTOP);
 }
+
+class Spin : public testing::Test {
+  protected:
+    ControlDialog dialog{spinBeside(Attached)};
+    CSpinButtonCtrl& spin = dialog.control<CSpinButtonCtrl>(200);
+    DialogDriver& user = dialog.user;
+};
 
 } // namespace
 
-TEST(Spin, AStepReadsTheBuddyThenWritesItThenScrolls) {
-    ControlDialog dialog(spinBeside());
-    auto& spin = dialog.control<CSpinButtonCtrl>(200);
+TEST_F(Spin, AStepReadsTheBuddyThenWritesItThenScrolls) {
     spin.SetRange(1, 100);
     EXPECT_EQ(spin.SetPos(1), 0);
-    EXPECT_EQ(dialog.GetDlgItem(100)->GetWindowText(), CString("1"));
-    DialogDriver user(dialog);
+    EXPECT_EQ(user.Text(100), "1");
     user.Type(100, "41");
     dialog.take();
     user.ClickSpinUp(200);
@@ -33,18 +42,14 @@ TEST(Spin, AStepReadsTheBuddyThenWritesItThenScrolls) {
     EXPECT_EQ(user.Text(100), "42");
 }
 
-TEST(Spin, TypedNumbersCountAndStayAsTyped) {
-    ControlDialog dialog(spinBeside());
-    auto& spin = dialog.control<CSpinButtonCtrl>(200);
+TEST_F(Spin, TypedNumbersCountAndStayAsTyped) {
     spin.SetRange(1, 100);
-    DialogDriver user(dialog);
     user.Type(100, "37");
     EXPECT_EQ(spin.GetPos(), 37);
     user.Type(100, "250"); // beyond the range
     (void)spin.GetPos();
     EXPECT_EQ(user.Text(100), "250");
     user.ClickSpinUp(200);
-    EXPECT_EQ(user.Text(100), "100");
     user.ClickSpinUp(200);
     EXPECT_EQ(user.Text(100), "100");
     user.Type(100, "abc"); // no number: the position before it
@@ -55,26 +60,22 @@ TEST(Spin, TypedNumbersCountAndStayAsTyped) {
     EXPECT_EQ(user.Text(100), "-1234");
 }
 
-TEST(Spin, TheRangesEndsAreMetOrWrapped) {
+TEST(SpinStyles, TheRangesEndsAreMetOrWrapped) {
     ControlDialog dialog(spinBeside(Attached | UDS_WRAP));
     auto& spin = dialog.control<CSpinButtonCtrl>(200);
     spin.SetRange(1, 3);
     spin.SetPos(77);
     EXPECT_EQ(spin.GetPos(), 3);
-    DialogDriver user(dialog);
-    user.ClickSpinUp(200);
+    dialog.user.ClickSpinUp(200);
     EXPECT_EQ(spin.GetPos(), 1);
     spin.SetRange(100, 0); // up goes towards the second number, the smaller one here
     spin.SetPos(50);
-    user.ClickSpinUp(200);
+    dialog.user.ClickSpinUp(200);
     EXPECT_EQ(spin.GetPos(), 49);
 }
 
-TEST(Spin, ArrowKeysInTheBuddyStepAndAHandlerMayRefuse) {
-    ControlDialog dialog(spinBeside());
-    auto& spin = dialog.control<CSpinButtonCtrl>(200);
+TEST_F(Spin, ArrowKeysInTheBuddyStepAndAHandlerMayRefuse) {
     spin.SetPos(10);
-    DialogDriver user(dialog);
     user.Click(100);
     user.Press(VK_UP);
     user.Press(VK_UP);
@@ -85,37 +86,31 @@ TEST(Spin, ArrowKeysInTheBuddyStepAndAHandlerMayRefuse) {
     EXPECT_EQ(user.Text(100), "11");
 }
 
-TEST(Spin, TheBuddyIsTheControlBeforeItOrTheOneThatTheProgramNames) {
-    ControlDialog dialog(spinBeside());
-    auto& spin = dialog.control<CSpinButtonCtrl>(200);
+TEST_F(Spin, TheBuddyIsTheControlBeforeItOrTheOneThatTheProgramNames) {
     EXPECT_EQ(spin.GetBuddy(), dialog.GetDlgItem(100));
     EXPECT_EQ(spin.SetBuddy(dialog.GetDlgItem(50)), dialog.GetDlgItem(100));
     spin.SetPos(7);
-    EXPECT_EQ(dialog.GetDlgItem(50)->GetWindowText(), CString("7"));
-    EXPECT_EQ(dialog.GetDlgItem(100)->GetWindowText(), CString(""));
+    EXPECT_EQ(user.Text(50), "7");
+    EXPECT_EQ(user.Text(100), "");
     dialog.GetDlgItem(50)->DestroyWindow();
     spin.SetPos(8); // the buddy is gone
     EXPECT_EQ(spin.GetPos(), 8);
     EXPECT_EQ(spin.GetBuddy(), nullptr);
 }
 
-TEST(Spin, AttachedToTheRightItTakesItsPlaceFromTheBuddy) {
+TEST(SpinStyles, AttachedToTheRightItTakesItsPlaceFromTheBuddy) {
     ControlDialog dialog(spinBeside(Attached | UDS_ALIGNRIGHT));
-    CRect edit;
-    CRect spin;
+    CRect edit, spin, plain;
     dialog.GetDlgItem(100)->GetWindowRect(edit);
     dialog.GetDlgItem(200)->GetWindowRect(spin);
-    CRect plain;
     dialog.GetDlgItem(50)->GetWindowRect(plain);
     EXPECT_EQ(edit.right, spin.left);
     EXPECT_EQ(spin.right, plain.right);
     EXPECT_EQ(spin.top, edit.top);
 }
 
-TEST(Spin, TheWheelChangesNothingWithoutTheFocus) {
-    ControlDialog dialog(spinBeside().add("COMBOBOX", "", 300, CBS_DROPDOWNLIST | WS_TABSTOP));
-    dialog.control<CSpinButtonCtrl>(200).SetPos(5);
-    DialogDriver user(dialog);
+TEST_F(Spin, TheWheelChangesNothingWithoutTheFocus) {
+    spin.SetPos(5);
     user.Click(50);
     dialog.take();
     for (const int id : {100, 200, 300}) {

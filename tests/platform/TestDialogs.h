@@ -3,7 +3,10 @@
 
 #include "platform/Dialog.h"
 #include "platform/Resource.h"
+#include "tests/support/TestApp.h"
 
+#include <functional>
+#include <string>
 #include <vector>
 
 // Puts one dialog template, number 1, at the head of the resource chain while it lives.
@@ -54,4 +57,22 @@ class ControlRows {
   private:
     std::vector<platform::ControlTemplate> m_controls;
     int m_y = 5;
+};
+
+// Collects the texts of message boxes while it lives, and runs `during` while one is up.
+class Boxes {
+  public:
+    explicit Boxes(std::function<void()> during = {}) {
+        TestApp::instance().messageHandler = [this, during](const CString& text, UINT) {
+            texts.push_back(text.ToUtf8());
+            if (during)
+                during();
+            return int{IDOK};
+        };
+    }
+    ~Boxes() { TestApp::instance().messageHandler = nullptr; }
+    Boxes(const Boxes&) = delete;
+    Boxes& operator=(const Boxes&) = delete;
+
+    std::vector<std::string> texts;
 };
