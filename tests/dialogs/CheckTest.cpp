@@ -1,45 +1,27 @@
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/QuovarGlobal.h"
-#include "model/Asta.h"
-#include "model/Materiale.h"
-#include "model/Nodo.h"
-#include "model/Sezione.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
 #include "tests/dialogs/CheckModel.h"
-#include "tests/support/DialogTest.h"
+#include "tests/dialogs/ToolTest.h"
 
 namespace {
 
 constexpr int list = 1086;
 const char* const severalStructures = "ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!";
 
-class Check : public DialogTest {
+class Check : public ToolTest<CDialogCheck> {
   protected:
-    ~Check() override { dialog.DestroyWindow(); }
-
-    void Open() {
-        dialog.DestroyWindow();
-        ASSERT_NE(host.Open(dialog), 0);
-        host.Take();
-    }
     // Opens the window on the model as it is, asks for the check and gives its rows without the two of the heading.
     Lines Rows() {
-        Open();
+        driver = Reopen();
         return Recheck();
     }
     Lines Recheck() {
         host.doc.UpdateAllViews(nullptr, MODIFICA_CHECK);
         host.Take();
-        Lines rows = DialogDriver(dialog).Rows(list);
-        EXPECT_GE(rows.size(), 2u);
-        if (rows.size() >= 2) {
-            EXPECT_EQ(rows[0], "--- Check Modello --- ");
-            EXPECT_EQ(rows[1], "");
-            rows.erase(rows.begin(), rows.begin() + 2);
-        }
-        return rows;
+        Lines rows = driver.Rows(list);
+        const Lines heading{"--- Check Modello --- ", ""};
+        EXPECT_TRUE(rows.size() >= 2 && std::equal(heading.begin(), heading.end(), rows.begin()));
+        return Lines(rows.begin() + std::min<std::ptrdiff_t>(2, std::ssize(rows)), rows.end());
     }
     // These rows and the two that close a list without faults.
     static Lines Closed(Lines rows) {
@@ -51,20 +33,19 @@ class Check : public DialogTest {
     }
 
     CheckModel model{host.doc};
-    CDialogCheck dialog;
 };
 
 TEST_F(Check, OpensBelowTheViewAndWaitsForTheRequest) {
     model.Frame();
     model.Frame();
     host.frame.table = CRect(0, 0, 400, 130);
-    ASSERT_NE(host.Open(dialog), 0);
+    dialog.DestroyWindow();
+    host.Open(dialog);
     // Seeded by the first node not reached yet, one step of the bar for each node.
     EXPECT_EQ(host.Take(),
               (Lines{"SelezionaStruttura CNodo 1", "InizioAttesa \"Attendere...Ricerca delle strutture\" 4", "StepBar",
                      "StepBar", "StepBar", "SelezionaStruttura CNodo 3", "StepBar", "FineAttesa"}));
-    const DialogDriver driver(dialog);
-    EXPECT_EQ(driver.Caption(), "Check Modello");
+    driver = DialogDriver(dialog);
     EXPECT_TRUE(driver.Rows(list).empty());
     CRect around, place, client, box;
     host.frame.GetWindowRect(around);
@@ -83,21 +64,15 @@ TEST_F(Check, OpensBelowTheViewAndWaitsForTheRequest) {
     EXPECT_TRUE(driver.Rows(list).empty());
 }
 
-TEST_F(Check, OpensWithoutMainWindowAndOnAnEmptyModel) {
+TEST_F(Check, OpensWithoutMainWindow) {
     host.hasFrame = false;
     EXPECT_EQ(Rows(), Closed({}));
-    dialog.DestroyWindow();
-    host.Open(dialog);
-    EXPECT_EQ(host.Take(), Lines{}) << "no node, no search";
 }
 
-TEST_F(Check, EnterKeepsItOpenAndEscapeClosesIt) {
-    Open();
-    DialogDriver driver(dialog);
+TEST_F(Check, EnterKeepsItOpen) {
     driver.Press(VK_RETURN);
     EXPECT_EQ(host.Take(), Lines{});
-    driver.Press(VK_ESCAPE);
-    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 2"});
+    EXPECT_TRUE(driver.IsOpen());
 }
 
 TEST_F(Check, SoundFramesAndSeveralStructures) {
@@ -107,61 +82,66 @@ TEST_F(Check, SoundFramesAndSeveralStructures) {
     host.doc.unica = 0;
     EXPECT_EQ(Rows(), Closed({severalStructures}));
     EXPECT_EQ(Recheck(), Closed({severalStructures})) << "a second check starts from an empty list";
+    model.Frame();
+    host.doc.nodi[0]->SetVincolo(nullptr);
+    host.doc.nodi[4]->SetVincolo(nullptr);
+    EXPECT_EQ(Rows(), Closed({severalStructures, Labile(1), Labile(3)})) << "numbered in the order found";
 }
 
 TEST_F(Check, RestraintsThatHoldAStructureAndThoseThatDoNot) {
     const auto [first, second] = model.Frame();
-    const auto rows = [&](CVincolo a, CVincolo b) {
-        first->SetVincolo(&a);
-        second->SetVincolo(&b);
-        return Rows();
+    const CVincolo none, pinned(1, 1, 1, 0, 0, 0), fixed(CVincolo::Tutti), noTorsion(1, 1, 1, 1, 1, 0);
+    const CVincolo freeX(0, 1, 1, 1, 1, 1), freeY(1, 0, 1, 1, 1, 1), freeZ(1, 1, 0, 1, 1, 1);
+    const std::string allFixed =
+        "Attenzione nella Struttura n.ro 1 tutti i nodi sono incastrati, impossibile risolverla!";
+    const struct {
+        CVincolo first, second;
+        Lines rows;
+        const char* why;
+    } cases[] = {
+        {fixed, none, {}, "three translations and six components in one node"},
+        {pinned, none, {Labile(1)}, "three components are not six"},
+        {pinned, pinned, {}, "components of several nodes add up"},
+        {freeX, freeX, {Labile(1)}, "ten components, none along x"},
+        {freeY, freeY, {Labile(1)}, "none along y"},
+        {freeZ, freeZ, {Labile(1)}, "none along z"},
+        {noTorsion, none, {Labile(1)}, "five components"},
+        {noTorsion, CVincolo(0, 0, 0, 0, 0, 1), {}, "the sixth in another node"},
+        {fixed, fixed, {allFixed}, "nothing is left to solve"},
+        {fixed, noTorsion, {}, "one free component in one node is enough"},
     };
-    const CVincolo none, pinned(1, 1, 1, 0, 0, 0), fixed(CVincolo::Tutti);
-    EXPECT_EQ(rows(fixed, none), Closed({})) << "three translations and six components in one node";
-    EXPECT_EQ(rows(pinned, none), Closed({Labile(1)})) << "three components are not six";
-    EXPECT_EQ(rows(pinned, pinned), Closed({})) << "components of several nodes add up";
-    EXPECT_EQ(rows(CVincolo(1, 1, 0, 1, 1, 1), CVincolo(1, 1, 0, 1, 1, 1)), Closed({Labile(1)}))
-        << "ten components, none along z";
-    EXPECT_EQ(rows(CVincolo(0, 1, 1, 1, 1, 1), CVincolo(0, 1, 1, 1, 1, 1)), Closed({Labile(1)}));
-    EXPECT_EQ(rows(CVincolo(1, 0, 1, 1, 1, 1), CVincolo(1, 0, 1, 1, 1, 1)), Closed({Labile(1)}));
-    EXPECT_EQ(rows(CVincolo(1, 1, 1, 1, 1, 0), none), Closed({Labile(1)})) << "five components";
-    EXPECT_EQ(rows(CVincolo(1, 1, 1, 1, 1, 0), CVincolo(0, 0, 0, 0, 0, 1)), Closed({}));
-    EXPECT_EQ(rows(fixed, fixed), Closed({"Attenzione nella Struttura n.ro 1 tutti i nodi sono incastrati, impossibile "
-                                          "risolverla!"}));
-    EXPECT_EQ(rows(fixed, CVincolo(1, 1, 1, 1, 1, 0)), Closed({})) << "one free component in one node is enough";
+    for (const auto& each : cases) {
+        first->SetVincolo(&each.first);
+        second->SetVincolo(&each.second);
+        EXPECT_EQ(Rows(), Closed(each.rows)) << each.why;
+    }
 }
 
 TEST_F(Check, SpringsCountByDirection) {
     const auto [first, second] = model.Frame();
     first->SetVincolo(nullptr);
     second->SetVincolo(nullptr);
-    using M = CMolla;
-    const auto rows = [&](std::initializer_list<CMolla> springs) {
-        first->EliminaMolle();
-        for (const CMolla& spring : springs)
-            first->AddMolla(spring);
-        return Rows();
+    const CMolla along(CMolla::Traslazionale, 10, CFPoint(1, -1, 0.5)),
+        about(CMolla::Rotazionale, 10, CFPoint(1, 2, 3));
+    const CMolla aboutY(CMolla::Rotazionale, 5, CFPoint(0, 1, 0)), aboutZ(CMolla::Rotazionale, 5, CFPoint(0, 0, 1));
+    const struct {
+        std::vector<CMolla> springs;
+        bool held;
+        const char* why;
+    } cases[] = {
+        {{along, about}, true, "six components"},
+        {{along}, false, "three components"},
+        {{about, about}, false, "rotational springs hold no translation"},
+        {{along, CMolla(CMolla::Traslazionale, 0, CFPoint(1, 1, 1))}, false, "without stiffness it holds nothing"},
+        {{CMolla(CMolla::Traslazionale, 10, CFPoint(1, 1, 0)), about, about}, false, "z is free"},
+        {{along, aboutZ, aboutY, aboutZ}, true, "each non-zero component is one"},
     };
-    const CMolla along(M::Traslazionale, 10, CFPoint(1, -1, 0.5)), about(M::Rotazionale, 10, CFPoint(1, 2, 3));
-    EXPECT_EQ(rows({along, about}), Closed({}));
-    EXPECT_EQ(rows({along}), Closed({Labile(1)})) << "three components";
-    EXPECT_EQ(rows({about, about}), Closed({Labile(1)})) << "rotational springs hold no translation";
-    EXPECT_EQ(rows({along, CMolla(M::Traslazionale, 0, CFPoint(1, 1, 1))}), Closed({Labile(1)}))
-        << "without stiffness it holds nothing";
-    EXPECT_EQ(rows({CMolla(M::Traslazionale, 10, CFPoint(1, 1, 0)), about, about}), Closed({Labile(1)})) << "z is free";
-    EXPECT_EQ(rows({along, CMolla(M::Rotazionale, 5, CFPoint(0, 0, 1)), CMolla(M::Rotazionale, 5, CFPoint(0, 1, 0)),
-                    CMolla(M::Rotazionale, 5, CFPoint(0, 0, 1))}),
-              Closed({}))
-        << "each non-zero component is one";
-}
-
-TEST_F(Check, StructuresAreNumberedInTheOrderFound) {
-    model.Frame();
-    host.doc.nodi[0]->SetVincolo(nullptr);
-    model.Frame();
-    model.Frame();
-    host.doc.nodi[4]->SetVincolo(nullptr);
-    EXPECT_EQ(Rows(), Closed({Labile(1), Labile(3)}));
+    for (const auto& each : cases) {
+        first->EliminaMolle();
+        for (const CMolla& spring : each.springs)
+            first->AddMolla(spring);
+        EXPECT_EQ(Rows(), Closed(each.held ? Lines{} : Lines{Labile(1)})) << each.why;
+    }
 }
 
 TEST_F(Check, BeamsReleasedAtBothEnds) {
@@ -180,23 +160,20 @@ TEST_F(Check, BeamsReleasedAtBothEnds) {
 }
 
 TEST_F(Check, TrussMembersAndMembranesAtFreeNodes) {
+    const std::string member = "La biella n.ro 1, è labile.", membrane = "La membrana n.ro 1, è labile.";
     CNodo* const a = model.Node();
     CNodo* const b = model.Node();
     model.Truss(*a, *b);
     a->SetVincolo(&CheckModel::fixed);
     b->SetVincolo(&CheckModel::pinned);
-    EXPECT_EQ(Rows(), Closed({"La biella n.ro 1, è labile."})) << "b is free to rotate";
-    a->SetVincolo(&CheckModel::pinned);
-    EXPECT_EQ(Rows(), Closed({"La biella n.ro 1, è labile.", "La biella n.ro 1, è labile."})) << "one row a node";
+    EXPECT_EQ(Rows(), Closed({member})) << "b is free to rotate";
     const CVincolo twoRotations(1, 1, 1, 1, 1, 0);
     a->SetVincolo(&twoRotations);
-    EXPECT_EQ(Rows().size(), 4u) << "all three rotations are needed";
+    EXPECT_EQ(Rows(), Closed({member, member})) << "one row a node; all three rotations are needed";
     // A beam or a wall at the node passes; a membrane or another member does not.
     CNodo* const c = model.Node();
     model.Slab({a, b, c});
-    EXPECT_EQ(Rows(),
-              Closed({"La biella n.ro 1, è labile.", "La biella n.ro 1, è labile.", "La membrana n.ro 1, è labile.",
-                      "La membrana n.ro 1, è labile.", "La membrana n.ro 1, è labile."}));
+    EXPECT_EQ(Rows(), Closed({member, member, membrane, membrane, membrane}));
     CNodo* const d = model.Node();
     model.Beam(*a, *d);
     model.Wall({b, c, d});
@@ -220,30 +197,6 @@ TEST_F(Check, NodesWithManyElementsAreAskedOnce) {
     EXPECT_EQ(std::count(rows.begin(), rows.end(), "La biella n.ro 2, è labile."), 0);
 }
 
-TEST_F(Check, ElementsReportThemselves) {
-    model.Frame();
-    model.Node();
-    host.doc.nodi[2]->SetVincolo(&CheckModel::fixed);
-    CNodo& a = *host.doc.nodi[0];
-    CNodo& b = *host.doc.nodi[1];
-    host.doc.NewAsta(1, 2); // neither material nor section
-    CNodo* const c = model.Node();
-    model.Slab({&a, &b, c}).SetSpessore(0, nullptr);
-    model.Wall({&a, &b, c}).SetSpessore(0, nullptr);
-    const Lines rows = Rows();
-    // Structure 2 is the node alone. Nodes come before elements, elements in document order, and no closing rows.
-    const Lines expected{
-        "Attenzione nella Struttura n.ro 2 tutti i nodi sono incastrati, impossibile risolverla!",
-        "CNodo n.ro 3 Il nodo non appartiene a nessun elemento.",
-    };
-    ASSERT_GE(rows.size(), 6u);
-    EXPECT_EQ(Lines(rows.begin(), rows.begin() + 2), expected);
-    EXPECT_NE(std::find(rows.begin(), rows.end(), "CAsta n.ro 1 L'elemento non ha un materiale."), rows.end());
-    EXPECT_NE(std::find(rows.begin(), rows.end(), "CSetto n.ro 1 L'elemento non ha uno spessore."), rows.end());
-    EXPECT_NE(std::find(rows.begin(), rows.end(), "CSolaio n.ro 1 L'elemento non ha uno spessore."), rows.end());
-    EXPECT_EQ(std::find(rows.begin(), rows.end(), "--- Fine Messaggi ---"), rows.end());
-}
-
 // Catches checks that run, or report, in another order.
 TEST_F(Check, RowsComeInTheirOrder) {
     host.doc.unica = 0;
@@ -256,20 +209,19 @@ TEST_F(Check, RowsComeInTheirOrder) {
     model.Truss(*a, *b);
     model.Slab({a, b, c}).SetSpessore(0, nullptr);
     model.Node()->SetVincolo(&CheckModel::fixed);
-    const Lines expected{
-        "ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!",
-        Labile(1),
-        Labile(2),
-        "Attenzione nella Struttura n.ro 3 tutti i nodi sono incastrati, impossibile risolverla!",
-        "La Trave n.ro 1, è labile.",
-        "La biella n.ro 1, è labile.",
-        "La biella n.ro 1, è labile.",
-        "La membrana n.ro 1, è labile.",
-        "La membrana n.ro 1, è labile.",
-        "La membrana n.ro 1, è labile.",
-        "CNodo n.ro 6 Il nodo non appartiene a nessun elemento.",
-        "CSolaio n.ro 1 L'elemento non ha uno spessore.",
-    };
+    const std::string member = "La biella n.ro 1, è labile.", membrane = "La membrana n.ro 1, è labile.";
+    const Lines expected{severalStructures,
+                         Labile(1),
+                         Labile(2),
+                         "Attenzione nella Struttura n.ro 3 tutti i nodi sono incastrati, impossibile risolverla!",
+                         "La Trave n.ro 1, è labile.",
+                         member,
+                         member,
+                         membrane,
+                         membrane,
+                         membrane,
+                         "CNodo n.ro 6 Il nodo non appartiene a nessun elemento.",
+                         "CSolaio n.ro 1 L'elemento non ha uno spessore."};
     EXPECT_EQ(Rows(), expected);
 }
 
@@ -284,7 +236,6 @@ TEST_F(Check, PickingRowsSelectsTheirObjects) {
     host.doc.NewAsta(3, 4)->SetSezione(1, &model.section);
     model.Slab({a, b, c}).SetSpessore(0, nullptr);
     Rows();
-    DialogDriver driver(dialog);
     const Lines rows = driver.Rows(list);
     std::vector<std::pair<std::string, std::string>> expected{
         {"CNodo n.ro 1", "SelezionaNodo 1 null"},          {"CTrave n.ro 1", "SelezionaTrave 1 null null"},
@@ -327,9 +278,7 @@ TEST_F(Check, ManyRowsAtOnce) {
     constexpr int nodes = 20'000;
     for (int i = 0; i < nodes; ++i)
         host.doc.NewNodo(i, 0, 0);
-    Open();
-    host.doc.UpdateAllViews(nullptr, MODIFICA_CHECK);
-    host.Take();
+    Rows();
     auto& box = dynamic_cast<CListBox&>(*dialog.GetDlgItem(list));
     EXPECT_EQ(box.GetCount(), 2 + 2 * nodes) << "each node is a labile structure and belongs to no element";
     EXPECT_EQ(box.GetItemData(2 + nodes), 2u + nodes);

@@ -13,11 +13,13 @@
 #include "dialogs/selection/DialogSpecchia.h"
 #include "platform/Application.h"
 #include "platform/Resource.h"
+#include "platform/Styles.h"
 #include "tests/support/DialogTest.h"
 
 #include <algorithm>
 #include <memory>
 #include <set>
+#include <span>
 
 // Lets a test read the message map of any window.
 struct platform::MessageMapAccess {
@@ -30,6 +32,8 @@ struct ToolDialog {
     const char* name;
     int templateId;
     const char* caption; // on a document called "Ponte"
+    const char* opening; // the one line that the host receives, "" for none
+    const char* fields;  // what its edits and radio buttons show at every opening, see Shown
     std::unique_ptr<CDialogDocument> (*make)();
 };
 
@@ -38,20 +42,29 @@ std::unique_ptr<CDialogDocument> Make() {
     return std::make_unique<T>();
 }
 
+constexpr const char* picking = "StartDefinisciVettore \"\" \"\"";
+constexpr const char* pickingPlane = "StartDefinisciVettore \"Definisci il punto del piano.\" \"\"";
+
 const ToolDialog toolDialogs[] = {
-    {"CDialogGenNodiLineare", 9015, "Ponte : Generazione Nodi Lineare", &Make<CDialogGenNodiLineare>},
-    {"CDialogGenNodi2P", 9011, "Ponte : Generazione Nodi 2 Punti", &Make<CDialogGenNodi2P>},
-    {"CDialogCopiaTrasla", 9006, "Ponte : Copia Trasla", &Make<CDialogCopiaTrasla>},
-    {"CDialogCopiaRuota", 9005, "Ponte : Copia Ruota", &Make<CDialogCopiaRuota>},
-    {"CDialogMuovi", 9027, "Ponte : Muovi", &Make<CDialogMuovi>},
-    {"CDialogRuota", 9032, "Ponte : Ruota", &Make<CDialogRuota>},
-    {"CDialogSpecchia", 9038, "Ponte : Specchia", &Make<CDialogSpecchia>},
-    {"CDialogCheck", 109, "Check Modello", &Make<CDialogCheck>},
-    {"CDialogStrutture", 110, "Strutture ", &Make<CDialogStrutture>},
-    {"CDialogDiagrammi", 9009, "Ponte : Diagramma - (Nessuna trave selezionata)", &Make<CDialogDiagrammi>},
-    {"CDialogNodoReazioniVincolari", 113, "Ponte : Nodo Reazioni Vincolari", &Make<CDialogNodoReazioniVincolari>},
-    {"CDialogListaGruppi", 9021, "Ponte : Gruppi", &Make<CDialogListaGruppi>},
+    {"CDialogGenNodiLineare", 9015, "Ponte : Generazione Nodi Lineare", picking, "[X] 1 1 0 0 0 -0 -0 -0 -0 -0 -0",
+     &Make<CDialogGenNodiLineare>},
+    {"CDialogGenNodi2P", 9011, "Ponte : Generazione Nodi 2 Punti", picking, "0 0 0 0 0 0 1", &Make<CDialogGenNodi2P>},
+    {"CDialogCopiaTrasla", 9006, "Ponte : Copia Trasla", picking, "[Z] 1 3 [Niente] -0 -0 -0 -0 -0 -0",
+     &Make<CDialogCopiaTrasla>},
+    {"CDialogCopiaRuota", 9005, "Ponte : Copia Ruota", picking, "0 0 0 0 0 0 1 0 [Niente]", &Make<CDialogCopiaRuota>},
+    {"CDialogMuovi", 9027, "Ponte : Muovi", picking, "0 0 0 0 0 0", &Make<CDialogMuovi>},
+    {"CDialogRuota", 9032, "Ponte : Ruota", picking, "[Asse Generico] 0 0 0 0 0 0 0", &Make<CDialogRuota>},
+    {"CDialogSpecchia", 9038, "Ponte : Specchia", pickingPlane, "[// XY] 0 0 0", &Make<CDialogSpecchia>},
+    {"CDialogCheck", 109, "Check Modello", "", "", &Make<CDialogCheck>},
+    {"CDialogStrutture", 110, "Strutture ", "Deseleziona null", "", &Make<CDialogStrutture>},
+    {"CDialogDiagrammi", 9009, "Ponte : Diagramma - (Nessuna trave selezionata)", "", "", &Make<CDialogDiagrammi>},
+    {"CDialogNodoReazioniVincolari", 113, "Ponte : Nodo Reazioni Vincolari", "", "",
+     &Make<CDialogNodoReazioniVincolari>},
+    {"CDialogListaGruppi", 9021, "Ponte : Gruppi", "", "", &Make<CDialogListaGruppi>},
 };
+
+// Numbers of nodes and copies.
+const std::set<int> wholeNumbers = {1192, 1203, 1221};
 
 // Of the pop-up menus that dialogs track.
 const int menus[] = {106, 351, 376};
@@ -78,17 +91,83 @@ Lines CommandsIn(Lines lines) {
 
 class EveryToolDialog : public DialogTest, public testing::WithParamInterface<ToolDialog> {
   protected:
+    using Control = platform::ControlTemplate;
+
+    std::span<const Control> Controls() { return platform::FindDialogTemplate(GetParam().templateId)->controls; }
+    static bool IsField(const Control& control) {
+        return control.kind == Control::Kind::Edit && (control.style & WS_VISIBLE) && !(control.style & ES_READONLY);
+    }
+    static bool IsRadio(const Control& control) {
+        return control.kind == Control::Kind::Button && (control.style & BS_TYPEMASK) == BS_AUTORADIOBUTTON;
+    }
+    // The visible edits' texts, "-" before disabled ones, and the texts of the checked radio buttons, in brackets.
+    std::string Shown(const DialogDriver& driver) {
+        std::string all;
+        for (const Control& control : Controls()) {
+            const bool radio = IsRadio(control) && driver.Checked(control.id);
+            if (!radio && !IsField(control))
+                continue;
+            const std::string text = driver.Text(control.id);
+            all +=
+                (all.empty() ? "" : " ") + (radio ? "[" + text + "]" : (driver.Enabled(control.id) ? "" : "-") + text);
+        }
+        return all;
+    }
+
     std::unique_ptr<CDialogDocument> dialog = GetParam().make();
 };
 
-TEST_P(EveryToolDialog, OpensFromItsTemplate) {
-    // The exchange reaches every bound control while opening: one that the template lacks throws.
+class EveryDialogWithFields : public EveryToolDialog {};
+
+// Catches fields, buttons or enabling that the opening before has left, and a control that the template lacks: the
+// exchange reaches every bound control and throws.
+TEST_P(EveryToolDialog, OpensFromItsTemplateWithItsDefaults) {
     ASSERT_TRUE(platform::FindDialogTemplate(GetParam().templateId));
-    ASSERT_NE(host.Open(*dialog), 0);
-    EXPECT_EQ(DialogDriver(*dialog).Caption(), GetParam().caption);
-    EXPECT_TRUE(dialog->IsWindowVisible());
-    EXPECT_TRUE(dialog->UpdateData(TRUE)) << "the defaults must be valid";
-    dialog->DestroyWindow();
+    // Hosts find their tool dialogs by class: a missing declaration makes one invisible to them.
+    const std::string name = GetParam().name;
+    EXPECT_EQ(dialog->GetRuntimeClass()->m_lpszClassName, name == "CDialogDiagrammi" ? "CDialogDocument" : name);
+    EXPECT_TRUE(dialog->IsKindOf(RUNTIME_CLASS(CDialogDocument)));
+    const std::string opening = GetParam().opening, fields = GetParam().fields;
+    for (int times = 0; times < 2; ++times) {
+        ASSERT_NE(host.Open(*dialog), 0);
+        EXPECT_EQ(host.Take(), opening.empty() ? Lines{} : Lines{opening});
+        DialogDriver driver(*dialog);
+        EXPECT_EQ(driver.Caption(), GetParam().caption);
+        EXPECT_TRUE(dialog->IsWindowVisible());
+        EXPECT_EQ(Shown(driver), fields);
+        EXPECT_TRUE(dialog->UpdateData(TRUE)) << "the defaults must be valid";
+        for (const Control& control : Controls())
+            if (IsField(control))
+                driver.SetText(control.id, "7");
+        for (const Control& control : Controls())
+            if (IsRadio(control) && fields.find("[" + driver.Text(control.id) + "]") == std::string::npos)
+                driver.Click(control.id);
+        dialog->UpdateData(TRUE);
+        dialog->DestroyWindow();
+        host.Take();
+    }
+}
+
+// Catches an edit that no field is bound to, and an OK that goes on with a text that does not parse. A comma is no
+// decimal separator, whatever the machine's language: reading half of the text would be worse.
+TEST_P(EveryDialogWithFields, TextThatIsNoNumberStopsOk) {
+    host.Open(*dialog);
+    host.Take();
+    DialogDriver driver(*dialog);
+    for (const Control& control : Controls()) {
+        if (!IsField(control) || !driver.Enabled(control.id))
+            continue;
+        const std::string valid = driver.Text(control.id);
+        const std::string invalid = valid + ",5"; // the number before the comma is no change, for who looks at each key
+        driver.SetText(control.id, invalid);
+        user.ExpectMessage(wholeNumbers.contains(control.id) ? "Immettere un numero intero." : "Immettere un numero.");
+        driver.Press(VK_RETURN);
+        EXPECT_EQ(host.Take(), Lines{}) << control.id;
+        ASSERT_TRUE(driver.IsOpen());
+        EXPECT_EQ(driver.Text(control.id), invalid);
+        EXPECT_EQ(driver.Focus(), control.id);
+        driver.SetText(control.id, valid);
+    }
 }
 
 TEST_P(EveryToolDialog, EveryHandledNumberIsInTheTemplate) {
@@ -113,7 +192,11 @@ TEST_P(EveryToolDialog, EveryHandledNumberIsInTheTemplate) {
 TEST_P(EveryToolDialog, CancelChangesNothing) {
     host.Open(*dialog);
     host.Take();
-    DialogDriver(*dialog).Press(VK_ESCAPE);
+    DialogDriver driver(*dialog);
+    for (const Control& control : Controls())
+        if (IsField(control))
+            driver.SetText(control.id, driver.Text(control.id) + ",5"); // no field is read, so no message either
+    driver.Press(VK_ESCAPE);
     const Lines lines = host.Take();
     EXPECT_EQ(CommandsIn(lines), Lines{});
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "WM_FINEDIALOGO 2"), 1);
@@ -150,7 +233,17 @@ TEST_P(EveryToolDialog, MayBeDestroyedWhileOpen) {
     EXPECT_FALSE(dialog->IsWindow());
 }
 
-INSTANTIATE_TEST_SUITE_P(Module, EveryToolDialog, testing::ValuesIn(toolDialogs),
-                         [](const auto& info) { return std::string(info.param.name); });
+std::vector<ToolDialog> WithFields() {
+    std::vector<ToolDialog> chosen;
+    std::ranges::copy_if(toolDialogs, std::back_inserter(chosen), [](const ToolDialog& each) { return *each.fields; });
+    return chosen;
+}
+
+std::string NameOf(const testing::TestParamInfo<ToolDialog>& info) {
+    return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Module, EveryToolDialog, testing::ValuesIn(toolDialogs), NameOf);
+INSTANTIATE_TEST_SUITE_P(Module, EveryDialogWithFields, testing::ValuesIn(WithFields()), NameOf);
 
 } // namespace

@@ -1,20 +1,15 @@
 #include "dialogs/selection/DialogCopiaTrasla.h"
 #include "model/Nodo.h"
-#include "platform/Application.h"
-#include "tests/support/DialogTest.h"
+#include "tests/dialogs/ToolTest.h"
 
 namespace {
 
 constexpr int list = 1004, spacing = 1093, editor = 1096, spin = 1171, copies = 1203;
 constexpr int radioX = 1090, radioY = 1091, radioZ = 1092, radioVector = 1102;
 
-class CopiaTrasla : public DialogTest {
+class CopiaTrasla : public ToolTest<CDialogCopiaTrasla> {
   protected:
-    CopiaTrasla() {
-        host.Open(dialog);
-        host.Take();
-    }
-    ~CopiaTrasla() override { dialog.DestroyWindow(); }
+    CopiaTrasla() { host.View().endsDialogs = false; }
 
     // The whole command with these cycle lines; `steps` is the size of the wait bar.
     static Lines Command(const Lines& cycles, int objects, int steps) {
@@ -29,60 +24,37 @@ class CopiaTrasla : public DialogTest {
     static std::string Row(int number, const char* step) {
         return std::to_string(number) + std::string(12, ' ') + step;
     }
-    // One row with the focus and no row's selection taken by anything else.
-    void Select(DialogDriver& driver, int row) { driver.ClickRow(list, row); }
-    bool VectorEnabled(const DialogDriver& driver) {
-        int enabled = driver.Enabled(1125);
-        for (int id = 1113; id <= 1118; ++id)
-            enabled += driver.Enabled(id);
-        for (int id = 1194; id <= 1199; ++id)
-            enabled += driver.Enabled(id);
-        EXPECT_TRUE(enabled == 0 || enabled == 13) << "box, labels and edits go together: " << enabled << " of 13";
-        return enabled == 13;
+    // Types a step of one digit over a row.
+    void TypeStep(int row, char digit) {
+        driver.ClickRow(list, row);
+        driver.Press({digit, VK_RETURN});
     }
-
-    CDialogCopiaTrasla dialog;
+    bool VectorEnabled() const { return EnabledTogether({{1125, 1125}, {1113, 1118}, {1194, 1199}}); }
+    CRect PlaceOf(int id) {
+        CRect place;
+        dialog.GetDlgItem(id)->GetWindowRect(place);
+        return place;
+    }
 };
-
-TEST_F(CopiaTrasla, OpensWithItsDefaultsEachTime) {
-    dialog.DestroyWindow();
-    dialog.m_nCopie = 7;
-    dialog.m_dSpaziatura = dialog.m_dX2 = dialog.m_dValoreLista = 8;
-    dialog.m_nUnione = 0;
-    dialog.m_nDirezione = 3;
-    dialog.GetIndexPass(0) = 5;
-    host.Take();
-    ASSERT_NE(host.Open(dialog), 0);
-    const DialogDriver driver(dialog);
-    EXPECT_EQ(driver.Caption(), "Ponte : Copia Trasla");
-    EXPECT_EQ(host.Take(), Lines{"StartDefinisciVettore \"\" \"\""});
-    EXPECT_EQ(driver.Text(copies) + " " + driver.Text(spacing) + " " + driver.Text(1197), "1 3 0");
-    EXPECT_TRUE(driver.Checked(radioZ));
-    EXPECT_TRUE(driver.Checked(1202));
-    EXPECT_FALSE(VectorEnabled(driver));
-    EXPECT_FALSE(driver.Visible(editor));
-    EXPECT_EQ(driver.Rows(list), Lines{Row(1, "3")});
-}
 
 TEST_F(CopiaTrasla, DefaultsMakeOneCopyAlongZ) {
     // The wait bar counts copies times objects: one of the two alone would end early.
     host.doc.selected.AddTail(host.doc.NewNodo(0, 0, 0));
     host.doc.selected.AddTail(host.doc.NewNodo(1, 0, 0));
-    DialogDriver(dialog).Press(VK_RETURN);
-    Lines expected = Command({"0 0 3 0"}, 2, 2);
-    expected.push_back("StopDefinisciVettore");
-    EXPECT_EQ(host.Take(), expected);
+    dialog.GetIndexPass(0) = 5;
+    driver = Reopen(); // the step that the opening before has left is gone
+    EXPECT_EQ(driver.Rows(list), Lines{Row(1, "3")});
+    driver.Press(VK_RETURN);
+    EXPECT_EQ(host.Take(), Command({"0 0 3 0"}, 2, 2));
 }
 
 TEST_F(CopiaTrasla, StepsTypedByKeyboardAlone) {
-    host.View().endsDialogs = false;
     host.doc.selected.AddTail(host.doc.NewNodo(0, 0, 0));
-    DialogDriver driver(dialog);
     driver.Press('C', AltKey);
     driver.TypeKeys("3");
     driver.Click(radioX);
     driver.Click(1201);
-    Select(driver, 0);
+    driver.ClickRow(list, 0);
     for (const UINT digit : {'1', '2', '3'}) {
         driver.Press(digit);
         EXPECT_TRUE(driver.Visible(editor));
@@ -102,25 +74,17 @@ TEST_F(CopiaTrasla, StepsTypedByKeyboardAlone) {
 }
 
 TEST_F(CopiaTrasla, EditorTakesDigitsStopAndEditingKeysOnly) {
-    DialogDriver driver(dialog);
-    Select(driver, 0);
+    driver.ClickRow(list, 0);
     driver.Press('1');
     EXPECT_EQ(driver.Focus(), editor);
     EXPECT_TRUE(driver.SelectedRows(list).empty());
-    driver.Press('2');
-    driver.Press(VK_OEM_PERIOD);
-    driver.Press('5');
+    driver.Press({'2', VK_OEM_PERIOD, '5'});
     EXPECT_EQ(driver.Text(editor), "12.5") << "the first digit must not be selected or lost";
-    for (const UINT swallowed : {UINT(VK_NUMPAD0) + 5, UINT(VK_OEM_MINUS), UINT('A'), UINT(VK_DELETE), UINT(VK_TAB),
-                                 UINT(VK_HOME), UINT(VK_UP), UINT(VK_ESCAPE), UINT(VK_DECIMAL)})
-        driver.Press(swallowed);
+    driver.Press({VK_NUMPAD0 + 5, VK_OEM_MINUS, 'A', VK_DELETE, VK_TAB, VK_HOME, VK_UP, VK_ESCAPE, VK_DECIMAL});
     EXPECT_EQ(driver.Text(editor), "12.5");
     EXPECT_EQ(driver.Focus(), editor);
     EXPECT_EQ(host.Take(), Lines{}) << "Escape cancelled the dialog";
-    driver.Press(VK_LEFT);
-    driver.Press(VK_BACK);
-    driver.Press(VK_RIGHT);
-    driver.Press('7');
+    driver.Press({VK_LEFT, VK_BACK, VK_RIGHT, '7'});
     EXPECT_EQ(driver.Text(editor), "1257");
     driver.Press(VK_RETURN);
     EXPECT_EQ(driver.Rows(list), Lines{Row(1, "1257")});
@@ -128,10 +92,9 @@ TEST_F(CopiaTrasla, EditorTakesDigitsStopAndEditingKeysOnly) {
 }
 
 TEST_F(CopiaTrasla, SpaceAndDoubleClickEditTheCurrentValue) {
-    DialogDriver driver(dialog);
     driver.Type(copies, "2");
     driver.Type(spacing, "4.5");
-    Select(driver, 1);
+    driver.ClickRow(list, 1);
     driver.Press(VK_SPACE);
     EXPECT_EQ(driver.Text(editor), "4.5");
     driver.Press('6'); // over the selected text
@@ -147,40 +110,29 @@ TEST_F(CopiaTrasla, SpaceAndDoubleClickEditTheCurrentValue) {
 }
 
 TEST_F(CopiaTrasla, EditorLiesOverItsRow) {
-    DialogDriver driver(dialog);
     driver.Type(copies, "3");
-    Select(driver, 2);
+    driver.ClickRow(list, 2);
     driver.Press(VK_SPACE);
     CRect row;
     auto& box = dynamic_cast<CListBox&>(*dialog.GetDlgItem(list));
     box.GetItemRect(2, &row);
     box.ClientToScreen(row);
-    CRect place;
-    dialog.GetDlgItem(editor)->GetWindowRect(place);
-    EXPECT_EQ(place.left, row.left + 44) << "the row's number must stay visible";
-    EXPECT_EQ(place.top, row.top);
-    EXPECT_EQ(place.right, row.right);
-    EXPECT_EQ(place.bottom, row.bottom);
+    row.left += 44; // the row's number must stay visible
+    EXPECT_EQ(PlaceOf(editor), row);
     driver.Press(VK_RETURN);
     // A row that was scrolled away comes back under its editor.
     driver.Type(copies, "90");
-    Select(driver, 0);
+    driver.ClickRow(list, 0);
     box.SetTopIndex(60);
     driver.Press(VK_SPACE);
-    CRect inside;
-    box.GetWindowRect(inside);
-    dialog.GetDlgItem(editor)->GetWindowRect(place);
-    EXPECT_GE(place.top, inside.top);
-    EXPECT_LE(place.bottom, inside.bottom);
+    EXPECT_GE(PlaceOf(editor).top, PlaceOf(list).top);
+    EXPECT_LE(PlaceOf(editor).bottom, PlaceOf(list).bottom);
     EXPECT_EQ(box.GetTopIndex(), 0);
 }
 
 TEST_F(CopiaTrasla, ZeroStepIsTakenBackOrRefused) {
-    DialogDriver driver(dialog);
-    Select(driver, 0);
-    driver.Press(VK_SPACE);
-    driver.Press('0');
-    driver.Press(VK_RETURN);
+    driver.ClickRow(list, 0);
+    driver.Press({VK_SPACE, '0', VK_RETURN});
     EXPECT_EQ(driver.Rows(list), Lines{Row(1, "3")});
     // A zero that reaches the array another way stops OK, and the row is shown.
     driver.Type(copies, "2");
@@ -193,22 +145,16 @@ TEST_F(CopiaTrasla, ZeroStepIsTakenBackOrRefused) {
 }
 
 TEST_F(CopiaTrasla, EditorWithoutARowWritesTheFirstStep) {
-    DialogDriver driver(dialog);
     driver.Type(copies, "2");
     driver.SetFocus(list);
-    ASSERT_TRUE(driver.SelectedRows(list).empty());
-    driver.Press('9');
-    driver.Press(VK_RETURN);
+    driver.Press({'9', VK_RETURN});
     EXPECT_EQ(driver.Rows(list), (Lines{Row(1, "9"), Row(2, "3")}));
     EXPECT_TRUE(driver.SelectedRows(list).empty());
 }
 
 TEST_F(CopiaTrasla, SpacingOverwritesEveryStep) {
-    DialogDriver driver(dialog);
     driver.Type(copies, "2");
-    Select(driver, 0);
-    driver.Press('7');
-    driver.Press(VK_RETURN);
+    TypeStep(0, '7');
     driver.Type(spacing, "0.5"); // by way of "0", which is not taken
     EXPECT_EQ(driver.Text(spacing), "0.5");
     EXPECT_EQ(driver.Rows(list), (Lines{Row(1, "0.5"), Row(2, "0.5")}));
@@ -221,16 +167,13 @@ TEST_F(CopiaTrasla, SpacingOverwritesEveryStep) {
 }
 
 TEST_F(CopiaTrasla, PickedVectorSetsDirectionAndSteps) {
-    host.View().endsDialogs = false;
-    DialogDriver driver(dialog);
     driver.Type(copies, "2");
     host.View().Pick(1, 1, 1);
     EXPECT_TRUE(driver.Checked(radioVector));
-    EXPECT_TRUE(VectorEnabled(driver));
+    EXPECT_TRUE(VectorEnabled());
     EXPECT_EQ(driver.Text(spacing), "3") << "the first point says nothing about the distance";
     host.View().Pick(4, 5, 1);
-    EXPECT_EQ(driver.Text(1194) + driver.Text(1195) + driver.Text(1197) + driver.Text(1198), "1145");
-    EXPECT_EQ(driver.Text(spacing), "5");
+    EXPECT_EQ(Texts({1194, 1195, 1197, 1198, spacing}), "1 1 4 5 5");
     EXPECT_EQ(driver.Rows(list), (Lines{Row(1, "5"), Row(2, "5")}));
     user.ExpectMessage("La spaziatura non può essere cambiata con il vettore attivo.", IDOK, MB_OK);
     driver.Type(spacing, "7");
@@ -240,62 +183,48 @@ TEST_F(CopiaTrasla, PickedVectorSetsDirectionAndSteps) {
 }
 
 TEST_F(CopiaTrasla, SilentPointsTouchNoControl) {
-    const DialogDriver driver(dialog);
     dialog.SetVettoreFrom(CFPoint(1, 2, 3), 0);
     dialog.SetVettoreTo(CFPoint(1, 2, 9), 0);
     EXPECT_EQ(dialog.GetVettoreDiff().z, 6);
     EXPECT_EQ(dialog.m_nDirezione, 3);
-    EXPECT_TRUE(VectorEnabled(driver));
+    EXPECT_TRUE(VectorEnabled());
     EXPECT_TRUE(driver.Checked(radioZ));
-    EXPECT_EQ(driver.Text(1194) + driver.Text(spacing), "03");
+    EXPECT_EQ(Texts({1194, spacing}), "0 3");
     EXPECT_EQ(dialog.GetIndexPass(0), 3);
     // The same slots with a non-zero argument are the picked points.
     dialog.SetVettoreTo(CFPoint(0, 8, 0), 1);
-    EXPECT_EQ(driver.Text(1198) + driver.Text(spacing), "88") << "the first point was read back from its edits";
+    EXPECT_EQ(Texts({1198, spacing}), "8 8") << "the first point was read back from its edits";
 }
 
 TEST_F(CopiaTrasla, TypedCoordinateUpdatesTheSteps) {
-    DialogDriver driver(dialog);
     driver.Click(radioVector);
     EXPECT_EQ(driver.Rows(list), Lines{Row(1, "0")}) << "the vector's length, null so far";
-    const char* const texts[] = {"1", "2", "3", "2", "4", "5"};
-    for (int i = 0; i < 6; ++i) // all six differ from their neighbours: a handler bound to another field shows
-        driver.Type(1194 + i, texts[i]);
+    TypeFrom(1194, {"1", "2", "3", "2", "4", "5"});
     driver.Press(VK_TAB);
     EXPECT_EQ(driver.Rows(list), Lines{Row(1, "3")});
-    Select(driver, 0);
-    driver.Press('8');
-    driver.Press(VK_RETURN);
+    TypeStep(0, '8');
     driver.Click(1195);
     driver.Press(VK_TAB);
     EXPECT_EQ(driver.Rows(list), Lines{Row(1, "8")}) << "leaving an edit unchanged resets nothing";
 }
 
 TEST_F(CopiaTrasla, LeavingTheVectorResetsTheSteps) {
-    DialogDriver driver(dialog);
-    const auto typeStep = [&](UINT digit) {
-        Select(driver, 0);
-        driver.Press(digit);
-        driver.Press(VK_RETURN);
-    };
-    typeStep('8');
+    TypeStep(0, '8');
     driver.Click(radioX);
     driver.Click(radioY);
     EXPECT_EQ(driver.Rows(list), Lines{Row(1, "8")}) << "from axis to axis nothing is reset";
     host.View().Pick(0, 0, 0);
     host.View().Pick(0, 6, 8);
-    typeStep('9');
+    TypeStep(0, '9');
     driver.Click(radioZ);
-    EXPECT_FALSE(VectorEnabled(driver));
+    EXPECT_FALSE(VectorEnabled());
     EXPECT_EQ(driver.Rows(list), Lines{Row(1, "10")});
     driver.Press(VK_DOWN); // arrows inside the group click the button that they check
     EXPECT_TRUE(driver.Checked(radioVector));
-    EXPECT_TRUE(VectorEnabled(driver));
+    EXPECT_TRUE(VectorEnabled());
 }
 
 TEST_F(CopiaTrasla, NumbersOfCopies) {
-    host.View().endsDialogs = false;
-    DialogDriver driver(dialog);
     driver.ClickSpinUp(spin);
     EXPECT_EQ(driver.Rows(list).size(), 2u);
     driver.Type(copies, "0");
@@ -311,13 +240,9 @@ TEST_F(CopiaTrasla, NumbersOfCopies) {
 }
 
 TEST_F(CopiaTrasla, CopiesBeyondTheHundredthShareTheFirstStep) {
-    host.View().endsDialogs = false;
-    DialogDriver driver(dialog);
     driver.Type(copies, "102");
     ASSERT_EQ(driver.Rows(list).size(), 102u);
-    Select(driver, 101);
-    driver.Press('4');
-    driver.Press(VK_RETURN);
+    TypeStep(101, '4');
     const Lines rows = driver.Rows(list);
     EXPECT_EQ(rows[0], Row(1, "4"));
     EXPECT_EQ(rows[1], Row(2, "3"));
@@ -335,15 +260,12 @@ TEST_F(CopiaTrasla, CopiesBeyondTheHundredthShareTheFirstStep) {
 }
 
 TEST_F(CopiaTrasla, NullVectorAndTextAreRefused) {
-    DialogDriver driver(dialog);
     driver.Click(radioVector);
     user.ExpectMessage("Vettore non valido.", IDOK, MB_OK); // before the steps, which are all 0
     driver.Click(IDOK);
     driver.Type(1199, "abc");
     user.ExpectMessage("Immettere un numero.");
     driver.Press(VK_RETURN);
-    EXPECT_EQ(driver.Text(1199), "abc");
-    EXPECT_EQ(driver.Focus(), 1199);
     // Leaving the edit reads it again; a picked point is not taken while it is wrong.
     user.ExpectMessage("Immettere un numero.");
     host.View().Pick(1, 2, 3);
@@ -356,11 +278,10 @@ TEST_F(CopiaTrasla, NullVectorAndTextAreRefused) {
 
 TEST_F(CopiaTrasla, AfterCancelNothingIsRead) {
     // The edit loses the focus while the window goes: its text must not be judged any more.
-    DialogDriver driver(dialog);
     driver.Click(radioVector);
     driver.Type(1197, "abc");
     driver.Press(VK_ESCAPE);
-    EXPECT_EQ(host.Take(), (Lines{"WM_FINEDIALOGO 2", "StopDefinisciVettore"}));
+    dialog.DestroyWindow();
     dialog.SetVettoreFrom(CFPoint(5, 5, 5));
     EXPECT_EQ(dialog.m_dX1, 0);
     EXPECT_EQ(dialog.GetNPass(), 0);

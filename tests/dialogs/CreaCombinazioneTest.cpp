@@ -2,7 +2,6 @@
 #include "platform/Application.h"
 #include "platform/Exception.h"
 #include "tests/dialogs/LoadModel.h"
-#include "tests/support/DialogTest.h"
 
 namespace {
 
@@ -13,33 +12,26 @@ constexpr int fattoreId = Dialog::IDC_FATTORE;
 constexpr int fattoreCombinazioneId = Dialog::IDC_FATTORE_COMBINAZIONE;
 constexpr int nomeId = Dialog::IDC_NOME;
 
-class CreaCombinazione : public DialogTest {
+class CreaCombinazione : public ModalTest {
   protected:
     CreaCombinazione() {
         AddNamed(host.doc.casi, 1, "Permanenti");
         AddNamed(host.doc.casi, 2, "Neve").SetTipo("Variabile");
         AddNamed(host.doc.casi, 7, "Città");
     }
-    // Runs the dialog, cancels it after the action unless that closed it, and gives its result.
-    int Run(Dialog::Tipo tipo, const std::function<void(DialogDriver&)>& action) {
-        Dialog dialog(tipo, &host.frame);
-        user.WhenDialogOpens([action](DialogDriver& driver) {
-            action(driver);
-            if (IsShown(driver))
-                driver.Click(IDCANCEL);
-        });
-        return dialog.DoModal();
+    int Create(const std::function<void(DialogDriver&)>& action) {
+        Dialog dialog(Dialog::Crea, &host.frame);
+        return Run(dialog, action);
     }
-    int Create(const std::function<void(DialogDriver&)>& action) { return Run(Dialog::Crea, action); }
-    int Change(const std::function<void(DialogDriver&)>& action) { return Run(Dialog::Modifica, action); }
-    void MakeCurrent(CCombinazione& combination) { host.doc.currentCombination = &combination; }
-
-    // Buttons ">", ">>", "<", "<<", OK as a line of 0 and 1.
+    int Change(CCombinazione& combination, const std::function<void(DialogDriver&)>& action) {
+        host.doc.currentCombination = &combination;
+        Dialog dialog(Dialog::Modifica, &host.frame);
+        return Run(dialog, action);
+    }
+    // Buttons ">", ">>", "<", "<<", OK.
     static std::string Enabled(const DialogDriver& driver) {
-        std::string line;
-        for (const int id : {+Dialog::IDC_VA, +Dialog::IDC_VATUTTO, +Dialog::IDC_VIENI, +Dialog::IDC_VIENITUTTO, +IDOK})
-            line += driver.Enabled(id) ? '1' : '0';
-        return line;
+        return EnabledLine(driver,
+                           {Dialog::IDC_VA, Dialog::IDC_VATUTTO, Dialog::IDC_VIENI, Dialog::IDC_VIENITUTTO, IDOK});
     }
     static void Fill(DialogDriver& driver, const std::string& name) {
         driver.Click(Dialog::IDC_VATUTTO);
@@ -54,12 +46,9 @@ TEST_F(CreaCombinazione, OpensEmptyForANewOne) {
         EXPECT_EQ(driver.Rows(availableId), (Lines{"1 : Permanenti", "2 : Neve (Variabile)", "7 : Città"}));
         EXPECT_TRUE(driver.Rows(combinedId).empty());
         EXPECT_TRUE(driver.SelectedRows(availableId).empty());
-        EXPECT_EQ(driver.Text(fattoreId), "1");
-        EXPECT_EQ(driver.Text(fattoreCombinazioneId), "");
-        EXPECT_EQ(driver.Text(nomeId), "");
+        EXPECT_EQ(driver.Text(fattoreId) + "|" + driver.Text(fattoreCombinazioneId) + "|" + driver.Text(nomeId), "1||");
         EXPECT_EQ(Enabled(driver), "01000");
-        EXPECT_FALSE(driver.Enabled(1447));
-        EXPECT_FALSE(driver.Enabled(1448));
+        EXPECT_EQ(EnabledLine(driver, {1447, 1448}), "00");
     });
     host.doc.casi.clear();
     Create([](DialogDriver& driver) { EXPECT_EQ(Enabled(driver), "00000"); });
@@ -174,20 +163,6 @@ TEST_F(CreaCombinazione, TheFactorFollowsEachKey) {
     });
 }
 
-TEST_F(CreaCombinazione, ConfirmingGivesTheDocumentANewOne) {
-    EXPECT_EQ(Create([](DialogDriver& driver) {
-                  driver.Type(fattoreId, "1.1");
-                  driver.ClickRow(availableId, 2);
-                  driver.Click(Dialog::IDC_VA);
-                  driver.Type(nomeId, "Perché");
-                  driver.Click(IDOK);
-              }),
-              IDOK);
-    EXPECT_EQ(host.Take(), (Lines{"AddCombinazione \"Perché\"", "SelectCasoCarico 100"}));
-    ASSERT_EQ(host.doc.combinazioni.size(), 1u);
-    EXPECT_EQ(FactorsOf(*host.doc.combinazioni[0]), (std::vector<std::pair<int, double>>{{7, 1.1}}));
-}
-
 // Catches a dialog that closes, or forgets what was built, after a name that cannot be.
 TEST_F(CreaCombinazione, NamesThatCannotBeLeaveItOpen) {
     AddCombination(host.doc, 9, "SLE");
@@ -216,44 +191,51 @@ TEST_F(CreaCombinazione, NamesThatCannotBeLeaveItOpen) {
 }
 
 // Catches a combination that leaks, or is deleted twice, when the document does not take it; the sanitizer sees both.
-TEST_F(CreaCombinazione, ARefusalLeavesItOpen) {
-    Create([this](DialogDriver& driver) {
-        Fill(driver, "SLU");
+TEST_F(CreaCombinazione, ARefusalLeavesItOpenAndConfirmingGivesTheDocumentANewOne) {
+    const int result = Create([this](DialogDriver& driver) {
+        driver.Type(fattoreId, "1.1");
+        driver.ClickRow(availableId, 2);
+        driver.Click(Dialog::IDC_VA);
+        Fill(driver, "Perché");
         host.doc.generated = 0;
         user.ExpectMessage("La combinazione non è stata aggiunta.", IDOK, MB_OK);
         driver.Click(IDOK);
-        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"SLU\""});
+        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"Perché\""});
         host.doc.addingThrows = new CSimpleException("Memoria insufficiente.");
         user.ExpectMessage("Memoria insufficiente.", IDOK, MB_OK);
         driver.Click(IDOK);
-        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"SLU\""});
+        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"Perché\""});
         EXPECT_TRUE(IsShown(driver));
         host.doc.generated = 1;
         driver.Click(IDOK);
     });
-    EXPECT_EQ(host.Take(), (Lines{"AddCombinazione \"SLU\"", "SelectCasoCarico 100"}));
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(host.Take(), (Lines{"AddCombinazione \"Perché\"", "SelectCasoCarico 100"}));
+    EXPECT_EQ(FactorsOf(*host.doc.combinazioni.at(0)),
+              (std::vector<std::pair<int, double>>{{7, 1.1}, {1, 1.1}, {2, 1.1}}));
 }
 
 // Catches factors rounded to what the edit shows, and a case that is lost because the document no longer has it.
 TEST_F(CreaCombinazione, ChangingKeepsWhatIsNotTouched) {
     const std::vector<std::pair<int, double>> factors = {{7, 1.23456789012}, {99, 0.3}, {1, 1.0 / 3}};
     CCombinazione& combination = AddCombination(host.doc, 5, "SLU.1", factors);
-    MakeCurrent(combination);
-    EXPECT_EQ(Change([](DialogDriver& driver) {
-                  EXPECT_EQ(driver.Caption(), "Modifica Combinazione");
-                  EXPECT_EQ(driver.Text(IDOK), "&Modifica");
-                  EXPECT_EQ(driver.Text(nomeId), "SLU.1");
-                  EXPECT_EQ(driver.Rows(availableId), Lines{"2 : Neve (Variabile)"});
-                  EXPECT_EQ(driver.Rows(combinedId), (Lines{"(1.23457) 7 : Città", "(0.333333) 1 : Permanenti"}));
-                  EXPECT_EQ(Enabled(driver), "01011");
-                  driver.ClickRow(combinedId, 1);
-                  driver.ClickRow(combinedId, 0);
-                  driver.Click(IDOK);
-              }),
-              IDOK);
+    EXPECT_EQ(
+        Change(combination,
+               [](DialogDriver& driver) {
+                   EXPECT_EQ(driver.Caption(), "Modifica Combinazione");
+                   EXPECT_EQ(driver.Text(IDOK), "&Modifica");
+                   EXPECT_EQ(driver.Text(nomeId), "SLU.1");
+                   EXPECT_EQ(driver.Rows(availableId), Lines{"2 : Neve (Variabile)"});
+                   EXPECT_EQ(driver.Rows(combinedId), (Lines{"(1.23457) 7 : Città", "(0.333333) 1 : Permanenti"}));
+                   EXPECT_EQ(Enabled(driver), "01011");
+                   driver.ClickRow(combinedId, 1);
+                   driver.ClickRow(combinedId, 0);
+                   driver.Click(IDOK);
+               }),
+        IDOK);
     EXPECT_EQ(host.Take(), Lines{"ModificaCombinazione 5 \"SLU.1\""}) << "a name is not tested in this mode";
     EXPECT_EQ(FactorsOf(combination), factors);
-    Change([](DialogDriver& driver) {
+    Change(combination, [](DialogDriver& driver) {
         driver.ClickRow(combinedId, 1);
         driver.Type(fattoreCombinazioneId, "4");
         driver.Type(nomeId, "Permanenti");
@@ -263,7 +245,7 @@ TEST_F(CreaCombinazione, ChangingKeepsWhatIsNotTouched) {
     EXPECT_EQ(FactorsOf(combination).back(), (std::pair<int, double>{1, 4}));
     // A case out of sight with factor 0 still keeps OK off.
     combination.SetFattoreCDC(1, 0);
-    Change([](DialogDriver& driver) { EXPECT_FALSE(driver.Enabled(IDOK)); });
+    Change(combination, [](DialogDriver& driver) { EXPECT_FALSE(driver.Enabled(IDOK)); });
 }
 
 TEST_F(CreaCombinazione, ThereMustBeOneToChange) {
@@ -277,15 +259,15 @@ TEST_F(CreaCombinazione, ThereMustBeOneToChange) {
 
 TEST_F(CreaCombinazione, CancelLeavesTheDocument) {
     CCombinazione& combination = AddCombination(host.doc, 5, "SLU", {{1, 1.3}, {2, 1.5}});
-    MakeCurrent(combination);
-    EXPECT_EQ(Change([](DialogDriver& driver) {
-                  driver.ClickRow(combinedId, 0);
-                  driver.Type(fattoreCombinazioneId, "9");
-                  driver.Click(Dialog::IDC_VIENI);
-                  driver.Click(Dialog::IDC_VATUTTO);
-                  driver.Type(nomeId, "Altro");
-                  driver.Press(VK_ESCAPE);
-              }),
+    EXPECT_EQ(Change(combination,
+                     [](DialogDriver& driver) {
+                         driver.ClickRow(combinedId, 0);
+                         driver.Type(fattoreCombinazioneId, "9");
+                         driver.Click(Dialog::IDC_VIENI);
+                         driver.Click(Dialog::IDC_VATUTTO);
+                         driver.Type(nomeId, "Altro");
+                         driver.Press(VK_ESCAPE);
+                     }),
               IDCANCEL);
     EXPECT_EQ(host.Take(), Lines{});
     EXPECT_EQ(FactorsOf(combination), (std::vector<std::pair<int, double>>{{1, 1.3}, {2, 1.5}}));

@@ -1,10 +1,9 @@
 #include "dialogs/results/DialogDiagrammi.h"
 #include "model/ElementoSettings.h"
 #include "model/Trave.h"
-#include "platform/Application.h"
 #include "platform/DeviceContext.h"
 #include "platform/Menu.h"
-#include "tests/support/DialogTest.h"
+#include "tests/dialogs/ToolTest.h"
 
 namespace {
 
@@ -45,7 +44,7 @@ class OpenDiagrammi : public CDialogDiagrammi {
     using CDialogDiagrammi::OnSetCursor;
 };
 
-class Diagrammi : public DialogTest {
+class Diagrammi : public ToolTest<OpenDiagrammi> {
   protected:
     Diagrammi() {
         for (int id : {7, 9}) {
@@ -54,15 +53,12 @@ class Diagrammi : public DialogTest {
         }
         host.doc.analisi.m_bRisultatiValidi = 1;
     }
-    ~Diagrammi() override {
-        platform::popupMenuHook = nullptr;
-        dialog.DestroyWindow();
-    }
+    ~Diagrammi() override { platform::popupMenuHook = nullptr; }
 
     // Opens with the first beam selected.
     void Open() {
         host.doc.selected.AddTail(beams[0]);
-        host.Open(dialog);
+        driver = Reopen();
         Painted();
     }
     // What was drawn until everything is painted.
@@ -70,7 +66,10 @@ class Diagrammi : public DialogTest {
         CWinApp::PumpMessages();
         return host.Take();
     }
-    std::string Caption() { return DialogDriver(dialog).Caption(); }
+    Lines Updated() {
+        dialog.Update(nullptr, 0, nullptr);
+        return Painted();
+    }
     std::string Flags() {
         std::string flags;
         for (const int flag : {dialog.GetN(), dialog.GetV2(), dialog.GetV3(), dialog.GetT(), dialog.GetM2(),
@@ -84,48 +83,43 @@ class Diagrammi : public DialogTest {
             line += std::string(" ") + flag;
         return line + " " + rest;
     }
-    // The right button's menu: its texts with a star where checked; then the user picks the command.
+    // What the right button's menu shows as checked; then the user picks the command.
     Lines Menu(UINT choose = 0) {
-        Lines shown;
+        Lines checked;
         platform::popupMenuHook = [&](CMenu& menu, CWnd* window) {
             EXPECT_EQ(window, &dialog);
+            EXPECT_EQ(menu.GetMenuItemCount(), 13);
             for (UINT i = 0; i < menu.GetMenuItemCount(); ++i) {
                 CString text;
                 menu.GetMenuString(i, text, MF_BYPOSITION);
-                shown.push_back((menu.GetMenuState(i, MF_BYPOSITION) & MF_CHECKED ? "*" : "") + text.ToUtf8());
+                if (menu.GetMenuState(i, MF_BYPOSITION) & MF_CHECKED)
+                    checked.push_back(text.ToUtf8());
             }
             return choose;
         };
-        DialogDriver(dialog).RightClick(areaId);
-        return shown;
+        driver.RightClick(areaId);
+        return checked;
     }
     void Command(UINT command) { dialog.SendMessage(WM_COMMAND, command); }
     void MoveTo(int x, int y) { dialog.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
     COLORREF Pixel(int x, int y) { return CClientDC(dialog.GetDlgItem(areaId)).GetPixel(x, y); }
 
     std::vector<CTrave*> beams;
-    OpenDiagrammi dialog;
 };
 
 TEST_F(Diagrammi, CaptionSaysWhatIsShown) {
-    host.Open(dialog);
-    EXPECT_EQ(Painted(), Lines{});
-    EXPECT_EQ(Caption(), "Ponte : Diagramma - (Nessuna trave selezionata)");
     EXPECT_EQ(Pixel(100, 60), white);
     // The selection is spoken of before the results.
     host.doc.analisi.m_bRisultatiValidi = 0;
-    dialog.Update(nullptr, 0, nullptr);
-    Painted();
-    EXPECT_EQ(Caption(), "Ponte : Diagramma - (Nessuna trave selezionata)");
+    Updated();
+    EXPECT_EQ(driver.Caption(), "Ponte : Diagramma - (Nessuna trave selezionata)");
     host.doc.selected.AddTail(beams[1]);
     host.doc.selected.AddTail(beams[0]);
-    dialog.Update(nullptr, 0, nullptr);
-    EXPECT_EQ(Painted(), Lines{});
-    EXPECT_EQ(Caption(), "Ponte : Diagramma - (I risultati non sono validi)");
+    EXPECT_EQ(Updated(), Lines{});
+    EXPECT_EQ(driver.Caption(), "Ponte : Diagramma - (I risultati non sono validi)");
     host.doc.analisi.m_bRisultatiValidi = 1;
-    dialog.Update(nullptr, 0, nullptr);
-    EXPECT_EQ(Painted(), Lines{Call(9, "000000000")}) << "the first of several, and without any diagram too";
-    EXPECT_EQ(Caption(), "Ponte : Diagramma - Trave 9");
+    EXPECT_EQ(Updated(), Lines{Call(9, "000000000")}) << "the first of several, and without any diagram too";
+    EXPECT_EQ(driver.Caption(), "Ponte : Diagramma - Trave 9");
     EXPECT_EQ(Pixel(100, 60), white);
     EXPECT_EQ(Pixel(11, 11), RGB(255, 0, 0)) << "what the beam drew is kept";
 }
@@ -163,18 +157,13 @@ TEST_F(Diagrammi, AreaFollowsTheWindow) {
 // A crossed kind, flag or argument: each of the nine is on alone once.
 TEST_F(Diagrammi, MenuTogglesEachDiagram) {
     Open();
-    for (int i = 0; i < 9; ++i) {
+    for (const Item& item : items) {
         std::string flags(9, '0');
-        flags[static_cast<std::size_t>(i)] = '1';
-        Lines expected;
-        for (const Item& item : items)
-            expected.push_back(item.text);
-        expected.insert(expected.end(), {"", "Visualizza Valori rif. loc.", "", "Cattura &Immagine"});
-        EXPECT_EQ(Menu(items[i].command), expected);
+        flags[static_cast<std::size_t>(&item - items)] = '1';
+        EXPECT_EQ(Menu(item.command), Lines{});
         EXPECT_EQ(Painted(), Lines{Call(7, flags)});
         EXPECT_EQ(Flags(), flags);
-        expected[static_cast<std::size_t>(i)].insert(0, "*");
-        EXPECT_EQ(Menu(items[i].command), expected);
+        EXPECT_EQ(Menu(item.command), Lines{item.text});
         EXPECT_EQ(Painted(), Lines{Call(7, "000000000")});
     }
     Menu(0);
@@ -232,7 +221,7 @@ TEST_F(Diagrammi, ReadingFollowsThePointer) {
     Painted();
     MoveTo(50, 40);
     EXPECT_EQ(host.Take(), Lines{});
-    EXPECT_EQ(Menu(33117)[10], "Visualizza Valori rif. loc.");
+    EXPECT_EQ(Menu(33117), Lines{"M2"});
     EXPECT_TRUE(dialog.IsRisultati());
     EXPECT_EQ(Painted(), Lines{}) << "switching it on does not paint";
     MoveTo(50, 40);
@@ -242,13 +231,12 @@ TEST_F(Diagrammi, ReadingFollowsThePointer) {
     host.doc.analisi.m_bRisultatiValidi = 0;
     MoveTo(51, 40);
     EXPECT_EQ(host.Take().size(), 1u) << "validity is not asked for";
-    EXPECT_EQ(Menu(33117)[10], "*Visualizza Valori rif. loc.");
+    EXPECT_EQ(Menu(33117), (Lines{"M2", "Visualizza Valori rif. loc."}));
     MoveTo(52, 40);
     EXPECT_EQ(host.Take(), Lines{});
     Command(33117);
     host.doc.selected.RemoveAll();
-    dialog.Update(nullptr, 0, nullptr);
-    Painted();
+    Updated();
     MoveTo(52, 40);
     EXPECT_EQ(host.Take(), Lines{}) << "no beam is held";
 }
@@ -278,7 +266,6 @@ TEST_F(Diagrammi, CaptureAsksTheView) {
     host.CloseView(host.View());
     Command(33119);
     EXPECT_EQ(host.Take(), Lines{});
-    EXPECT_STREQ(dialog.GetRuntimeClass()->m_lpszClassName, "CDialogDocument");
 }
 
 } // namespace

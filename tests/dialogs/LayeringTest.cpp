@@ -13,17 +13,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Folders whose headers a file of this path may include.
+// Folders whose headers a file of this path may include: its own and those below it.
 std::vector<std::string> AllowedFor(const std::string& path) {
-    if (path.starts_with("platform/"))
-        return {"platform/"};
-    if (path.starts_with("model/"))
-        return {"platform/", "model/"};
-    if (path.starts_with("dialogs/"))
-        return {"platform/", "model/", "dialogs/"};
-    if (path.starts_with("host/"))
-        return {"platform/", "model/", "dialogs/", "host/"};
-    return {};
+    static const std::vector<std::string> layers{"platform/", "model/", "dialogs/", "host/"};
+    const auto own = std::ranges::find_if(layers, [&](const auto& folder) { return path.starts_with(folder); });
+    return own == layers.end() ? std::vector<std::string>() : std::vector(layers.begin(), own + 1);
 }
 
 bool MayNameToolkit(const std::string& path) {

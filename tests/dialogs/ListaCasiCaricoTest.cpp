@@ -6,37 +6,26 @@
 #include "model/Trave.h"
 #include "platform/Application.h"
 #include "tests/dialogs/LoadModel.h"
-#include "tests/support/DialogTest.h"
 
 namespace {
 
 constexpr int listId = CDialogListaCasiCarico::IDC_LIST_CASICARICO;
-constexpr int selezionaId = IDOK;
 constexpr int eliminaId = CDialogListaCasiCarico::IDC_ELIMINA;
 constexpr int copiaId = CDialogListaCasiCarico::IDC_COPIA;
 constexpr int rinominaId = CDialogListaCasiCarico::IDC_RINOMINA;
 constexpr int nomeId = CDialogCreaCasoCarico::IDC_NOME;
 
-class ListaCasiCarico : public DialogTest {
+class ListaCasiCarico : public ModalTest {
   protected:
-    void AddThree() {
+    ListaCasiCarico() {
         AddNamed(host.doc.casi, 1, "Permanenti");
         AddNamed(host.doc.casi, 2, "Neve");
         AddNamed(host.doc.casi, 7, "Vento");
     }
-    // Runs the dialog, closes it after the action unless that did, and gives its result.
-    int Run(const std::function<void(DialogDriver&)>& action) {
-        user.WhenDialogOpens([action](DialogDriver& driver) {
-            action(driver);
-            if (IsShown(driver))
-                driver.Click(IDCANCEL);
-        });
-        return dialog.DoModal();
-    }
+    int Run(const std::function<void(DialogDriver&)>& action) { return ModalTest::Run(dialog, action); }
     // Buttons "Seleziona", "Elimina", "Copia", "Rinomina".
-    static std::vector<bool> Enabled(const DialogDriver& driver) {
-        return {driver.Enabled(selezionaId), driver.Enabled(eliminaId), driver.Enabled(copiaId),
-                driver.Enabled(rinominaId)};
+    static std::string Enabled(const DialogDriver& driver) {
+        return EnabledLine(driver, {IDOK, eliminaId, copiaId, rinominaId});
     }
     // Answers the name dialog, which must show `shown`, with a name.
     void Rename(const std::string& shown, const std::string& name) {
@@ -47,55 +36,49 @@ class ListaCasiCarico : public DialogTest {
         });
     }
 
-    static inline const std::vector<bool> none = {false, false, false, false};
-    static inline const std::vector<bool> all = {true, true, true, true};
-    static inline const std::vector<bool> onlyDelete = {false, true, false, false};
     CDialogListaCasiCarico dialog{&host.doc, &host.frame};
 };
 
 TEST_F(ListaCasiCarico, EmptyDocumentLeavesOnlyClosing) {
+    host.doc.casi.clear();
     Run([](DialogDriver& driver) {
         EXPECT_EQ(driver.Caption(), "Casi di Carico");
         EXPECT_TRUE(driver.Rows(listId).empty());
-        EXPECT_EQ(Enabled(driver), none);
-        EXPECT_TRUE(driver.Enabled(IDCANCEL));
+        EXPECT_EQ(Enabled(driver), "0000");
         driver.Press(VK_DELETE);
     });
     EXPECT_EQ(host.Take(), Lines{});
     CDialogListaCasiCarico without(nullptr, &host.frame);
-    user.WhenDialogOpens([](DialogDriver& driver) {
+    ModalTest::Run(without, [](DialogDriver& driver) {
         EXPECT_TRUE(driver.Rows(listId).empty());
         driver.Press(VK_RETURN);
     });
-    without.DoModal();
 }
 
 // Catches buttons that act on several cases at once though they can only take one, or on none.
 TEST_F(ListaCasiCarico, ButtonsFollowTheSelection) {
-    AddThree();
-    const int result = Run([](DialogDriver& driver) {
+    const auto result = Run([](DialogDriver& driver) {
         EXPECT_EQ(driver.Rows(listId), (Lines{"1 : Permanenti", "2 : Neve", "7 : Vento"}));
-        EXPECT_EQ(Enabled(driver), none);
+        EXPECT_EQ(Enabled(driver), "0000");
         driver.ClickRow(listId, 1);
-        EXPECT_EQ(Enabled(driver), all);
+        EXPECT_EQ(Enabled(driver), "1111");
         driver.ClickRow(listId, 2, CtrlKey);
-        EXPECT_EQ(Enabled(driver), onlyDelete);
+        EXPECT_EQ(Enabled(driver), "0100");
         driver.ClickRow(listId, 1, CtrlKey);
-        EXPECT_EQ(Enabled(driver), all);
+        EXPECT_EQ(Enabled(driver), "1111");
         driver.ClickRow(listId, 2, CtrlKey);
-        EXPECT_EQ(Enabled(driver), none);
+        EXPECT_EQ(Enabled(driver), "0000");
     });
     EXPECT_EQ(result, IDCANCEL);
     EXPECT_EQ(host.Take(), Lines{});
 }
 
 TEST_F(ListaCasiCarico, SelectsByButtonAndByEnter) {
-    AddThree();
-    EXPECT_EQ(Run([](DialogDriver& driver) {
-                  driver.ClickRow(listId, 1);
-                  driver.Click(selezionaId);
-              }),
-              IDOK);
+    const auto result = Run([](DialogDriver& driver) {
+        driver.ClickRow(listId, 1);
+        driver.Click(IDOK);
+    });
+    EXPECT_EQ(result, IDOK);
     EXPECT_EQ(host.Take(), Lines{"SelectIndexCasoCarico 1"});
     Run([](DialogDriver& driver) {
         driver.ClickRow(listId, 0);
@@ -108,14 +91,13 @@ TEST_F(ListaCasiCarico, SelectsByButtonAndByEnter) {
 
 // Catches cases that are found by their position after others have gone.
 TEST_F(ListaCasiCarico, DeletesAllThatAreSelected) {
-    AddThree();
     Run([this](DialogDriver& driver) {
         driver.ClickRow(listId, 0);
         driver.ClickRow(listId, 2, CtrlKey);
         driver.Press(VK_DELETE);
         EXPECT_EQ(host.Take(), (Lines{"EliminaCasoCarico 1", "EliminaCasoCarico 7"}));
         EXPECT_EQ(driver.Rows(listId), Lines{"2 : Neve"});
-        EXPECT_EQ(Enabled(driver), none);
+        EXPECT_EQ(Enabled(driver), "0000");
         driver.Press(VK_DELETE);
         EXPECT_EQ(host.Take(), Lines{});
         EXPECT_EQ(driver.Rows(listId), Lines{"2 : Neve"});
@@ -128,7 +110,6 @@ TEST_F(ListaCasiCarico, DeletesAllThatAreSelected) {
 
 // Catches loads left on the source only, attached twice, taken from another case, or with the source's number.
 TEST_F(ListaCasiCarico, CopiesACaseWithEverythingThatCarriesIt) {
-    AddThree();
     CCasoCarico& source = *host.doc.casi[0];
     source.SetTipo("Fisso");
     source.AddCarico(new CCaricoUniforme({0, 0, -5}, CCarico::Globale));
@@ -139,10 +120,8 @@ TEST_F(ListaCasiCarico, CopiesACaseWithEverythingThatCarriesIt) {
     CNodo* const node = host.doc.NewNodo(1, 0, 0);
     CTrave* const beam = host.doc.NewTrave(1, 2);
     CAsta* const truss = host.doc.NewAsta(1, 2);
-    host.doc.solai.push_back(std::make_unique<CSolaio>());
-    CSolaio* const slab = host.doc.solai.back().get();
-    for (CElementoCarico* carrier : {static_cast<CElementoCarico*>(beam), static_cast<CElementoCarico*>(truss),
-                                     static_cast<CElementoCarico*>(slab)})
+    CSolaio* const slab = host.doc.solai.emplace_back(std::make_unique<CSolaio>()).get();
+    for (CElementoCarico* carrier : std::initializer_list<CElementoCarico*>{beam, truss, slab})
         carrier->AddCarico(source.GetCarico(1, nullptr), 0);
     beam->AddCarico(other.GetCarico(1, nullptr), 0);
     node->AddCarico(source.GetCarico(2, nullptr), 0);
@@ -151,7 +130,7 @@ TEST_F(ListaCasiCarico, CopiesACaseWithEverythingThatCarriesIt) {
         driver.ClickRow(listId, 0);
         driver.Click(copiaId);
         EXPECT_EQ(driver.Rows(listId), (Lines{"1 : Permanenti", "2 : Neve", "7 : Vento", "4 : Caso 4"}));
-        EXPECT_EQ(Enabled(driver), none);
+        EXPECT_EQ(Enabled(driver), "0000");
     });
     const Lines calls = host.Take();
     ASSERT_EQ(calls.size(), 2u);
@@ -173,13 +152,12 @@ TEST_F(ListaCasiCarico, CopiesACaseWithEverythingThatCarriesIt) {
 }
 
 TEST_F(ListaCasiCarico, CopyNeedsTheHost) {
-    AddThree();
     host.createsCases = false;
     Run([this](DialogDriver& driver) {
         driver.ClickRow(listId, 0);
         driver.Click(copiaId);
         EXPECT_EQ(host.Take().size(), 1u) << "no notification follows a case that was not made";
-        EXPECT_EQ(Enabled(driver), all) << "nothing is refilled";
+        EXPECT_EQ(Enabled(driver), "1111") << "nothing is refilled";
         host.hasDoc = false;
         driver.Click(copiaId);
         driver.Click(rinominaId);
@@ -190,9 +168,8 @@ TEST_F(ListaCasiCarico, CopyNeedsTheHost) {
 
 // Catches a loop that forgets what was typed, accepts a name of the other kind, or tests the rule before the duplicate.
 TEST_F(ListaCasiCarico, RenamesInALoop) {
-    AddThree();
     AddCombination(host.doc, 9, "SLU.1");
-    user.WhenDialogOpens([this](DialogDriver& list) {
+    Run([this](DialogDriver& list) {
         list.ClickRow(listId, 1);
         user.WhenDialogOpens([](DialogDriver& driver) {
             EXPECT_EQ(driver.Caption(), "Crea Caso di Carico");
@@ -215,16 +192,13 @@ TEST_F(ListaCasiCarico, RenamesInALoop) {
         Rename(shown, LongestName());
         list.Click(rinominaId);
         EXPECT_EQ(list.Rows(listId), (Lines{"1 : Permanenti", "2 : " + LongestName(), "7 : Vento"}));
-        EXPECT_EQ(Enabled(list), none);
-        list.Click(IDCANCEL);
+        EXPECT_EQ(Enabled(list), "0000");
     });
-    dialog.DoModal();
     EXPECT_EQ(host.Take(), Lines{"UpdateAllViews null 52 null"});
     EXPECT_EQ(host.doc.casi[1]->GetNome().ToUtf8(), LongestName());
 }
 
 TEST_F(ListaCasiCarico, CancelledRenameChangesNothing) {
-    AddThree();
     Run([this](DialogDriver& driver) {
         driver.ClickRow(listId, 2);
         Rename("Inserisci un nuovo nome", "a!");
@@ -238,7 +212,6 @@ TEST_F(ListaCasiCarico, CancelledRenameChangesNothing) {
 }
 
 TEST_F(ListaCasiCarico, RenamesTheCombinationWhereThereIsNoCase) {
-    AddThree();
     AddCombination(host.doc, 9, "SLE");
     Run([this](DialogDriver& driver) {
         driver.ClickRow(listId, 0);
@@ -257,7 +230,6 @@ TEST_F(ListaCasiCarico, RenamesTheCombinationWhereThereIsNoCase) {
 class Permuta : public ListaCasiCarico {
   protected:
     void SetUp() override {
-        AddThree();
         host.doc.casi[1]->SetTipo("Sismico dinamico");
         host.doc.NewNodo(0, 0, 0);
         host.doc.NewNodo(1, 0, 0);

@@ -1,125 +1,107 @@
+#include "dialogs/frame/QuovarGlobal.h"
 #include "dialogs/loads/DialogListaGruppi.h"
 #include "tests/dialogs/LoadModel.h"
-#include "tests/support/DialogTest.h"
+#include "tests/dialogs/ToolTest.h"
 
 namespace {
 
 constexpr int listId = CDialogListaGruppi::IDC_LIST;
 constexpr int eliminaId = CDialogListaGruppi::IDC_ELIMINA;
 
-class ListaGruppi : public DialogTest {
+class ListaGruppi : public ToolTest<CDialogListaGruppi> {
   protected:
     // Groups numbered from 11 on.
     void Open(const std::vector<std::string>& names) {
         int id = 11;
         for (const std::string& name : names)
             AddNamed(host.doc.gruppi, id++, name);
-        ASSERT_NE(host.Open(dialog), 0);
-        driver = std::make_unique<DialogDriver>(dialog);
-        host.Take();
+        driver = Reopen();
+        EXPECT_EQ(driver.Rows(listId), names) << "document order: sorting would break the indexes";
+        EXPECT_FALSE(driver.Enabled(eliminaId));
     }
-
-    CDialogListaGruppi dialog;
-    std::unique_ptr<DialogDriver> driver;
 };
-
-TEST_F(ListaGruppi, ListsTheGroupsInDocumentOrder) {
-    Open({"Pilastri", "Città", "Archi"});
-    EXPECT_STREQ(dialog.GetRuntimeClass()->m_lpszClassName, "CDialogListaGruppi");
-    EXPECT_EQ(driver->Caption(), "Ponte : Gruppi");
-    EXPECT_EQ(driver->Rows(listId), (Lines{"Pilastri", "Città", "Archi"})) << "sorting would break the indexes";
-    EXPECT_FALSE(driver->Enabled(eliminaId));
-    EXPECT_EQ(host.Take(), Lines{}) << "opening changes no selection";
-}
 
 // Catches a selection that adds to what was selected before, and numbers mistaken for positions.
 TEST_F(ListaGruppi, SelectsTheElementsOfTheSelectedGroups) {
-    Open({"A", "B", "C"});
-    driver->ClickRow(listId, 2);
+    Open({"C", "A", "B"});
+    driver.ClickRow(listId, 2);
     EXPECT_EQ(host.Take(), (Lines{"Deseleziona null", "SelezionaGruppo 13"}));
-    EXPECT_TRUE(driver->Enabled(eliminaId));
-    driver->ClickRow(listId, 0, CtrlKey);
+    EXPECT_TRUE(driver.Enabled(eliminaId));
+    driver.ClickRow(listId, 0, CtrlKey);
     EXPECT_EQ(host.Take(), (Lines{"Deseleziona null", "SelezionaGruppo 11", "SelezionaGruppo 13"}));
-    driver->ClickRow(listId, 0, CtrlKey);
+    driver.ClickRow(listId, 0, CtrlKey);
     host.Take();
-    driver->ClickRow(listId, 2, CtrlKey);
+    driver.ClickRow(listId, 2, CtrlKey);
     EXPECT_EQ(host.Take(), Lines{"Deseleziona null"}) << "nothing is left selected";
-    EXPECT_FALSE(driver->Enabled(eliminaId));
+    EXPECT_FALSE(driver.Enabled(eliminaId));
     host.doc.gruppi[1]->SetID(0);
-    driver->ClickRow(listId, 1);
+    driver.ClickRow(listId, 1);
     EXPECT_EQ(host.Take(), Lines{"Deseleziona null"}) << "a group without a number selects nothing";
 }
 
 // Catches positions that slip when the rows before them go.
 TEST_F(ListaGruppi, DeletesFromTheMiddle) {
     Open({"A", "B", "C", "D", "E"});
-    driver->ClickRow(listId, 0);
-    driver->ClickRow(listId, 2, CtrlKey);
+    driver.ClickRow(listId, 0);
+    driver.ClickRow(listId, 2, CtrlKey);
     host.Take();
-    driver->Click(eliminaId);
+    driver.Click(eliminaId);
     EXPECT_EQ(host.Take(), (Lines{"EliminaGruppo 0", "EliminaGruppo 1", "Deseleziona null"}));
-    EXPECT_EQ(driver->Rows(listId), (Lines{"B", "D", "E"}));
+    EXPECT_EQ(driver.Rows(listId), (Lines{"B", "D", "E"}));
     EXPECT_EQ(host.doc.gruppi[1]->GetNome(), "D");
-    EXPECT_FALSE(driver->Enabled(eliminaId));
-    driver->ClickRow(listId, 1);
-    driver->ClickRow(listId, 2, ShiftKey);
+    EXPECT_FALSE(driver.Enabled(eliminaId));
+    driver.ClickRow(listId, 1);
+    driver.ClickRow(listId, 2, ShiftKey);
     host.Take();
-    driver->Click(eliminaId);
+    driver.Click(eliminaId);
     EXPECT_EQ(host.Take(), (Lines{"EliminaGruppo 1", "EliminaGruppo 1", "Deseleziona null"}));
-    EXPECT_EQ(driver->Rows(listId), Lines{"B"});
+    EXPECT_EQ(driver.Rows(listId), Lines{"B"});
 }
 
 // A host may tell of each group at once: the list is then refilled, without selection, in the middle of the deletion.
 TEST_F(ListaGruppi, DeletesAllThatWereSelectedThoughTheListIsRefilled) {
     Open({"A", "B", "C", "D"});
     host.doc.onGroupGone = [this] { host.doc.UpdateAllViews(nullptr, MODIFICA_GRUPPI, nullptr); };
-    driver->ClickRow(listId, 1);
-    driver->ClickRow(listId, 3, CtrlKey);
-    driver->Click(eliminaId);
-    EXPECT_EQ(driver->Rows(listId), (Lines{"A", "C"}));
+    driver.ClickRow(listId, 1);
+    driver.ClickRow(listId, 3, CtrlKey);
+    driver.Click(eliminaId);
+    EXPECT_EQ(driver.Rows(listId), (Lines{"A", "C"}));
     EXPECT_EQ(host.doc.gruppi.size(), 2u);
 }
 
 TEST_F(ListaGruppi, FollowsTheChangesOfGroupsOnly) {
     Open({"A", "B"});
-    driver->ClickRow(listId, 0);
+    driver.ClickRow(listId, 0);
     host.Take();
     AddNamed(host.doc.gruppi, 20, "C");
     host.doc.UpdateAllViews(nullptr, MODIFICA_CASI_CARICO, nullptr);
     host.doc.UpdateAllViews(nullptr, MODIFICA_STRUTTURA, nullptr);
-    EXPECT_EQ(driver->Rows(listId).size(), 2u);
-    EXPECT_EQ(driver->SelectedRows(listId), std::vector<int>{0});
+    EXPECT_EQ(driver.Rows(listId).size(), 2u);
+    EXPECT_EQ(driver.SelectedRows(listId), std::vector<int>{0});
     host.Take();
     host.doc.UpdateAllViews(nullptr, MODIFICA_GRUPPI, nullptr);
-    EXPECT_EQ(driver->Rows(listId), (Lines{"A", "B", "C"}));
-    EXPECT_TRUE(driver->SelectedRows(listId).empty());
-    EXPECT_FALSE(driver->Enabled(eliminaId));
+    EXPECT_EQ(driver.Rows(listId), (Lines{"A", "B", "C"}));
+    EXPECT_TRUE(driver.SelectedRows(listId).empty());
+    EXPECT_FALSE(driver.Enabled(eliminaId));
     EXPECT_EQ(host.Take(), Lines{"UpdateAllViews null 53 null"}) << "the model's selection stays";
     unsigned long packed = MODIFICA_GRUPPI;
-    host.SetInformazioniAggiuntive(packed, 7);
+    CQuovarGlobal::_SetInformazioniAggiuntive(packed, 7);
     AddNamed(host.doc.gruppi, 21, "D");
     host.doc.UpdateAllViews(nullptr, static_cast<long>(packed), nullptr);
-    EXPECT_EQ(driver->Rows(listId).size(), 4u) << "the code is taken out of the hint";
+    EXPECT_EQ(driver.Rows(listId).size(), 4u) << "the code is taken out of the hint";
 }
 
 TEST_F(ListaGruppi, WithoutItsViewItDoesNothing) {
     Open({"A", "B"});
-    driver->ClickRow(listId, 0);
+    driver.ClickRow(listId, 0);
     host.CloseView(host.View());
     host.Take();
-    driver->ClickRow(listId, 1);
-    driver->Click(eliminaId);
+    driver.ClickRow(listId, 1);
+    driver.Click(eliminaId);
     dialog.Update(nullptr, MODIFICA_GRUPPI, nullptr);
     EXPECT_EQ(host.Take(), Lines{});
     EXPECT_EQ(host.doc.gruppi.size(), 2u);
-    EXPECT_EQ(driver->Rows(listId).size(), 2u);
-}
-
-TEST_F(ListaGruppi, AsksTheViewToBeClosed) {
-    Open({"A"});
-    driver->Click(IDCANCEL);
-    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 2"});
-    EXPECT_FALSE(driver->IsOpen());
+    EXPECT_EQ(driver.Rows(listId).size(), 2u);
 }
 
 } // namespace

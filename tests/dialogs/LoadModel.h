@@ -4,9 +4,10 @@
 #include "model/CasoCarico.h"
 #include "model/Combinazione.h"
 #include "model/Gruppo.h"
-#include "tests/support/DialogDriver.h"
-#include "tests/support/RecordingDoc.h"
+#include "platform/Dialog.h"
+#include "tests/support/DialogTest.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -32,6 +33,27 @@ inline CCombinazione& AddCombination(RecordingDoc& doc, int id, const std::strin
 inline bool IsShown(const DialogDriver& driver) {
     return driver.IsOpen() && driver.Visible(IDCANCEL);
 }
+
+// Buttons as a line of 0 and 1.
+inline std::string EnabledLine(const DialogDriver& driver, const std::vector<int>& ids) {
+    std::string line;
+    for (const int id : ids)
+        line += driver.Enabled(id) ? '1' : '0';
+    return line;
+}
+
+class ModalTest : public DialogTest {
+  protected:
+    // Runs the dialog, cancels it after the action unless that closed it, and gives its result.
+    int Run(CDialog& dialog, const std::function<void(DialogDriver&)>& action) {
+        user.WhenDialogOpens([action](DialogDriver& driver) {
+            action(driver);
+            if (IsShown(driver))
+                driver.Click(IDCANCEL);
+        });
+        return dialog.DoModal();
+    }
+};
 
 // The pairs of a combination.
 inline std::vector<std::pair<int, double>> FactorsOf(const CCombinazione& combination) {

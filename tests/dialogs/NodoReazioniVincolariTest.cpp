@@ -1,10 +1,10 @@
 #include "dialogs/results/DialogNodoReazioniVincolari.h"
 #include "model/Nodo.h"
-#include "tests/support/DialogTest.h"
+#include "tests/dialogs/ToolTest.h"
 
 namespace {
 
-class NodoReazioniVincolari : public DialogTest {
+class NodoReazioniVincolari : public ToolTest<CDialogNodoReazioniVincolari> {
   protected:
     NodoReazioniVincolari() {
         first = host.doc.NewNodo(0, 0, 0);
@@ -12,10 +12,8 @@ class NodoReazioniVincolari : public DialogTest {
         const CNodoReazioniVincolari reactions(1, -20, -1250, 3.5, 0, 1e-7);
         first->SetReazioniVincolari(&reactions);
     }
-    ~NodoReazioniVincolari() override { dialog.DestroyWindow(); }
 
     std::string Shown() {
-        const DialogDriver driver(dialog);
         std::string all = driver.Text(1118);
         for (int id = 1112; id <= 1117; ++id)
             all += "|" + driver.Text(id);
@@ -23,14 +21,11 @@ class NodoReazioniVincolari : public DialogTest {
     }
 
     CNodo *first, *second;
-    CDialogNodoReazioniVincolari dialog;
     const std::string firstShown = "Nodo n.ro 1|-1.000e+00|2.000e+01|1.250e+03|-3.500e+00|0.000e+00|-1.000e-07";
     const std::string none = "Nessun nodo selezionato||||||";
 };
 
 TEST_F(NodoReazioniVincolari, ShowsTheFirstSelectedNode) {
-    ASSERT_NE(host.Open(dialog), 0);
-    EXPECT_EQ(DialogDriver(dialog).Caption(), "Ponte : Nodo Reazioni Vincolari");
     EXPECT_EQ(Shown(), none);
     host.doc.selected.AddTail(first);
     host.doc.selected.AddTail(second);
@@ -40,12 +35,9 @@ TEST_F(NodoReazioniVincolari, ShowsTheFirstSelectedNode) {
     host.doc.selected.AddTail(second);
     dialog.Update(nullptr, 57, nullptr);
     EXPECT_EQ(Shown(), "Nodo n.ro 2 non disponibili||||||") << "what the other node had must not stay";
-    DialogDriver driver(dialog);
-    EXPECT_STREQ(dialog.GetRuntimeClass()->m_lpszClassName, "CDialogNodoReazioniVincolari");
 }
 
 TEST_F(NodoReazioniVincolari, RefreshesOnSelectionAndResultsOnly) {
-    host.Open(dialog);
     for (long code = 0; code < 100; ++code) {
         host.doc.selected.AddTail(first);
         const bool refreshes = (code >= 39 && code <= 41) || (code >= 57 && code <= 62);
@@ -59,8 +51,7 @@ TEST_F(NodoReazioniVincolari, RefreshesOnSelectionAndResultsOnly) {
 
 TEST_F(NodoReazioniVincolari, FieldsAreReadOnlyAndTheViewMayClose) {
     host.doc.selected.AddTail(first);
-    host.Open(dialog);
-    DialogDriver driver(dialog);
+    driver = Reopen();
     for (int id = 1112; id <= 1117; ++id)
         EXPECT_TRUE(dialog.GetDlgItem(id)->GetStyle() & ES_READONLY) << id;
     driver.SetFocus(1112);

@@ -1,8 +1,7 @@
 #include "dialogs/check/DialogStrutture.h"
 #include "dialogs/frame/QuovarGlobal.h"
-#include "platform/Application.h"
 #include "tests/dialogs/CheckModel.h"
-#include "tests/support/DialogTest.h"
+#include "tests/dialogs/ToolTest.h"
 
 #include <chrono>
 #include <thread>
@@ -11,14 +10,8 @@ namespace {
 
 constexpr int treeId = 1078;
 
-class Strutture : public DialogTest {
+class Strutture : public ToolTest<CDialogStrutture> {
   protected:
-    ~Strutture() override { dialog.DestroyWindow(); }
-
-    void Open() {
-        host.Open(dialog);
-        host.Take();
-    }
     CTreeCtrl& Tree() { return dynamic_cast<CTreeCtrl&>(*dialog.GetDlgItem(treeId)); }
     HTREEITEM Item(int index) {
         HTREEITEM item = Tree().GetRootItem();
@@ -33,7 +26,7 @@ class Strutture : public DialogTest {
         return texts;
     }
     // The box stands left of the label; hit testing finds it.
-    void ClickBox(DialogDriver& driver, int index) {
+    void ClickBox(int index) {
         CRect label;
         Tree().GetItemRect(Item(index), &label, TRUE);
         for (int x = label.left - 1; x > 0; --x) {
@@ -59,57 +52,48 @@ class Strutture : public DialogTest {
         }
         return host.Take();
     }
-    static Lines Structure(const Lines& selected) {
-        Lines lines{"UpdateAllViews null 8 null", "UpdateAllViews null 17 null"};
-        lines.insert(lines.end(), selected.begin(), selected.end());
-        lines.insert(lines.end(), {"UpdateAllViews null 7340041 null", "UpdateAllViews null 18 null",
-                                   "UpdateAllViews null 5 Adv3dRect"});
+    // What the host receives for ticked structures with these selections.
+    static Lines Ticked(const std::vector<Lines>& structures) {
+        Lines lines{"Deseleziona null"};
+        for (const Lines& selected : structures) {
+            lines.insert(lines.end(), {"UpdateAllViews null 8 null", "UpdateAllViews null 17 null"});
+            lines.insert(lines.end(), selected.begin(), selected.end());
+            lines.insert(lines.end(), {"UpdateAllViews null 7340041 null", "UpdateAllViews null 18 null",
+                                       "UpdateAllViews null 5 Adv3dRect"});
+        }
         return lines;
-    }
-    static Lines Join(Lines a, const Lines& b) {
-        a.insert(a.end(), b.begin(), b.end());
-        return a;
     }
 
     CheckModel model{host.doc};
-    CDialogStrutture dialog;
 };
 
 TEST_F(Strutture, OpensWithOneBoxForEachStructure) {
+    EXPECT_TRUE(Texts().empty());
     model.Frame();
     model.Frame();
-    ASSERT_NE(host.Open(dialog), 0);
-    EXPECT_EQ(host.Take(), (Lines{"Deseleziona null", "SelezionaStruttura CNodo 1",
-                                  "InizioAttesa \"Attendere...Ricerca delle strutture\" 4", "StepBar", "StepBar",
-                                  "StepBar", "SelezionaStruttura CNodo 3", "StepBar", "FineAttesa"}));
-    EXPECT_EQ(DialogDriver(dialog).Caption(), "Strutture ");
+    dialog.DestroyWindow();
+    host.Open(dialog);
+    EXPECT_EQ(host.Take().at(0), "Deseleziona null") << "before the search";
     EXPECT_EQ(Texts(), (Lines{"Struttura n.ro 1", "Struttura n.ro 2"}));
     EXPECT_EQ(Tree().GetItemData(Item(1)), 1u);
     EXPECT_FALSE(Tree().GetCheck(Item(0)));
     EXPECT_EQ(Later(), Lines{}) << "nothing is selected before a tick";
 }
 
-TEST_F(Strutture, EmptyModelShowsNone) {
-    Open();
-    EXPECT_TRUE(Texts().empty());
-}
-
 TEST_F(Strutture, TicksByMouseSelectInOrder) {
     for (int i = 0; i < 3; ++i)
         model.Frame();
-    Open();
-    DialogDriver driver(dialog);
+    driver = Reopen();
     // The first node meets the beam, and so does the second: the beam is named once for each.
-    const Lines first = Structure({"SelezionaTrave 1 null Adv3dRect", "SelezionaTrave 1 null Adv3dRect"});
-    const Lines third = Structure({"SelezionaTrave 3 null Adv3dRect", "SelezionaTrave 3 null Adv3dRect"});
-    ClickBox(driver, 2);
+    const Lines first(2, "SelezionaTrave 1 null Adv3dRect"), third(2, "SelezionaTrave 3 null Adv3dRect");
+    ClickBox(2);
     EXPECT_TRUE(Tree().GetCheck(Item(2)));
     EXPECT_EQ(host.Take(), Lines{}) << "read before the tree has toggled, the tick would be the old one";
-    EXPECT_EQ(Later(), Join({"Deseleziona null"}, third));
-    ClickBox(driver, 0);
-    EXPECT_EQ(Later(), Join(Join({"Deseleziona null"}, first), third));
-    ClickBox(driver, 0);
-    ClickBox(driver, 2);
+    EXPECT_EQ(Later(), Ticked({third}));
+    ClickBox(0);
+    EXPECT_EQ(Later(), Ticked({first, third}));
+    ClickBox(0);
+    ClickBox(2);
     EXPECT_EQ(Later(), Lines{"Deseleziona null"}) << "two clicks in one period are one reading";
     EXPECT_EQ(host.doc.selected.GetCount(), 0);
 }
@@ -117,8 +101,7 @@ TEST_F(Strutture, TicksByMouseSelectInOrder) {
 TEST_F(Strutture, TicksByKeyboard) {
     model.Frame();
     model.Frame();
-    Open();
-    DialogDriver driver(dialog);
+    driver = Reopen();
     driver.SetFocus(treeId);
     Tree().SelectItem(Item(0));
     driver.Press(VK_DOWN);
@@ -137,11 +120,10 @@ TEST_F(Strutture, EveryKindOfElementAndNodesWithout) {
     model.Wall({a, b, c});
     model.Slab({a, b, c});
     model.Node();
-    Open();
-    DialogDriver driver(dialog);
-    ClickBox(driver, 1); // a node without elements
-    EXPECT_EQ(Later(), Join({"Deseleziona null"}, Structure({})));
-    ClickBox(driver, 0);
+    driver = Reopen();
+    ClickBox(1); // a node without elements
+    EXPECT_EQ(Later(), Ticked({{}}));
+    ClickBox(0);
     const Lines lines = Later();
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaAsta 1 null Adv3dRect"), 2);
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaSetto 1 null Adv3dRect"), 3);
@@ -152,12 +134,11 @@ TEST_F(Strutture, EveryKindOfElementAndNodesWithout) {
 TEST_F(Strutture, NodesRemovedAfterTheSearch) {
     model.Frame();
     model.Frame();
-    Open();
+    driver = Reopen();
     host.doc.travi.erase(host.doc.travi.begin());
     host.doc.nodi.erase(host.doc.nodi.begin());
-    DialogDriver driver(dialog);
-    ClickBox(driver, 0);
-    EXPECT_EQ(Later(), Join({"Deseleziona null"}, Structure({})));
+    ClickBox(0);
+    EXPECT_EQ(Later(), Ticked({{}}));
     EXPECT_EQ(Texts().size(), 2u) << "later changes do not refresh the list";
 }
 
@@ -185,14 +166,12 @@ TEST_F(Strutture, StructureWithAStrangerStopsAtIt) {
 
 TEST_F(Strutture, ClosedBeforeTheTimer) {
     model.Frame();
-    Open();
-    DialogDriver driver(dialog);
-    ClickBox(driver, 0);
+    driver = Reopen();
+    ClickBox(0);
     driver.Press(VK_ESCAPE);
     EXPECT_EQ(Later(), Lines{"WM_FINEDIALOGO 2"});
-    host.Open(dialog);
-    host.Take();
-    DialogDriver(dialog).Press(VK_RETURN);
+    driver = Reopen();
+    driver.Press(VK_RETURN);
     EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 1"});
 }
 

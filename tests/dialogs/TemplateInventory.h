@@ -1,105 +1,44 @@
-// The fixed numbers, captions and pictures of the module's dialog templates.
+// The fixed numbers, captions and pictures of the module's dialog templates, of those still to come as well.
 #pragma once
 
-#include <array>
+#include <map>
+#include <sstream>
+#include <string>
 
 namespace inventory {
 
-struct Template {
-    int id;
-    const char* caption; // blanks at the end included; "" when it is set at run time
-    int picture;         // bitmap in the upper left corner, 0 for none
-};
+// Number, blank and caption, each with a "|" behind it: blanks at a caption's end count. Empty when set at run time.
+inline constexpr const char* captions =
+    "105 Nuovo Nome|107 Opzioni Analisi|108 Aggiungi Nodo in coordinate relative|109 Check Modello|110 Strutture |"
+    "111 Distanza fra 2 punti|112 Aggiungi Profilo|113 Nodo Reazioni Vincolari|114 Seleziona Elementi|"
+    "116 Sezioni Stampa|251 Colore|333 Palo|334 Trave Continua|335 Trave Circolare|9001 Crea Combinazione|"
+    "9002 Apri Vista|9003 Gestione Archivi|9004 Colori|9005 Copia Ruota|9006 Copia Trasla|9007 Crea Caso di Carico|"
+    "9008 Crea Gruppo|9009 Diagrammi|9010 Dividi|9011 Generazione Nodi 2 Punti|9012 Generazione Nodi Arco 3 Punti|"
+    "9013 Arco Centro - 1 Punto|9014 Generazione Nodi Cerchio|9015 Generazione Nodi Lineare|9016 Griglia Nodi|"
+    "9017 Informazioni sulla Struttura|9018 Info Progetto|9019 Check|9020 Casi di Carico|9021 Lista Gruppi|"
+    "9022 Lista Materiali|9023 Lista Sezioni|9024 Lista Spessori|9025 Mesh 3 Punti|9026 Mesh 4 Punti|9027 Muovi|"
+    "9028 Nome della vista|9029 Scala Colori|9030 Range|9031 Rinomina file|9032 Ruota |9033 Ruota Vista|"
+    "9034 Salva Vista|9035 Scala|9036 Lista Tabelle|9037 Lista Toolbar|9038 Specchia|9039 Spezza|9040 Arco Circolare|"
+    "9041 Arco Parabolico|9042 Cilindro|9043 Graticcio|9044 Graticcio Reticolare|9045 Howe Copertura|9046 Howe Ponte|"
+    "9047 Pratt|9048 Telaio|9049 Vierendel|9050 Volta Cilindrica Catenaria|9051 Volta Cilindrica Cicloidale|"
+    "9052 Fattore di Zoom|9053 Unita di Misura|9054 Elimina Nodi Sovrapposti|9055 Tabella|9056 Warren|"
+    "9057 Volta Cilindrica SemiEllittica|9058 Volta Cilindrica Arco Parabolico|9059 Volta Cilindrica Circolare|9130 |"
+    "9133 Angolo Beta|9134 Impostazioni Progetto|9135 Progetto Trave|9136 Progetto Setto|9137 Trave Elicoidale|"
+    "9138 Trave Ginocchio|9139 Intersezione Linee Piano|9140 Selezione Elementi Piano|9141 Selezione Elementi Linea|"
+    "9142 Piastra Anello Circolare|9143 Piastra Circolare|9144 Piastra Rettangolare|9145 Platea su Pali|"
+    "9146 Mesh 2 Punti Vettore|";
 
-inline constexpr std::array<Template, 88> templates = {{
-    {105, "Nuovo Nome", 0},
-    {107, "Opzioni Analisi", 0},
-    {108, "Aggiungi Nodo in coordinate relative", 0},
-    {109, "Check Modello", 0},
-    {110, "Strutture ", 0},
-    {111, "Distanza fra 2 punti", 0},
-    {112, "Aggiungi Profilo", 0},
-    {113, "Nodo Reazioni Vincolari", 0},
-    {114, "Seleziona Elementi", 0},
-    {116, "Sezioni Stampa", 0},
-    {251, "Colore", 0},
-    {333, "Palo", 0},
-    {334, "Trave Continua", 0},
-    {335, "Trave Circolare", 0},
-    {9001, "Crea Combinazione", 0},
-    {9002, "Apri Vista", 0},
-    {9003, "Gestione Archivi", 0},
-    {9004, "Colori", 0},
-    {9005, "Copia Ruota", 175},
-    {9006, "Copia Trasla", 176},
-    {9007, "Crea Caso di Carico", 0},
-    {9008, "Crea Gruppo", 0},
-    {9009, "Diagrammi", 0},
-    {9010, "Dividi", 0},
-    {9011, "Generazione Nodi 2 Punti", 336},
-    {9012, "Generazione Nodi Arco 3 Punti", 341},
-    {9013, "Arco Centro - 1 Punto", 338},
-    {9014, "Generazione Nodi Cerchio", 342},
-    {9015, "Generazione Nodi Lineare", 337},
-    {9016, "Griglia Nodi", 0},
-    {9017, "Informazioni sulla Struttura", 0},
-    {9018, "Info Progetto", 0},
-    {9019, "Check", 0},
-    {9020, "Casi di Carico", 0},
-    {9021, "Lista Gruppi", 0},
-    {9022, "Lista Materiali", 0},
-    {9023, "Lista Sezioni", 0},
-    {9024, "Lista Spessori", 0},
-    {9025, "Mesh 3 Punti", 344},
-    {9026, "Mesh 4 Punti", 343},
-    {9027, "Muovi", 0},
-    {9028, "Nome della vista", 0},
-    {9029, "Scala Colori", 0},
-    {9030, "Range", 0},
-    {9031, "Rinomina file", 0},
-    {9032, "Ruota ", 175},
-    {9033, "Ruota Vista", 0},
-    {9034, "Salva Vista", 0},
-    {9035, "Scala", 0},
-    {9036, "Lista Tabelle", 0},
-    {9037, "Lista Toolbar", 0},
-    {9038, "Specchia", 178},
-    {9039, "Spezza", 0},
-    {9040, "Arco Circolare", 0},
-    {9041, "Arco Parabolico", 0},
-    {9042, "Cilindro", 0},
-    {9043, "Graticcio", 0},
-    {9044, "Graticcio Reticolare", 0},
-    {9045, "Howe Copertura", 0},
-    {9046, "Howe Ponte", 0},
-    {9047, "Pratt", 0},
-    {9048, "Telaio", 0},
-    {9049, "Vierendel", 0},
-    {9050, "Volta Cilindrica Catenaria", 0},
-    {9051, "Volta Cilindrica Cicloidale", 0},
-    {9052, "Fattore di Zoom", 0},
-    {9053, "Unita di Misura", 0},
-    {9054, "Elimina Nodi Sovrapposti", 0},
-    {9055, "Tabella", 0},
-    {9056, "Warren", 0},
-    {9057, "Volta Cilindrica SemiEllittica", 0},
-    {9058, "Volta Cilindrica Arco Parabolico", 0},
-    {9059, "Volta Cilindrica Circolare", 0},
-    {9130, "", 0},
-    {9133, "Angolo Beta", 9134},
-    {9134, "Impostazioni Progetto", 0},
-    {9135, "Progetto Trave", 0},
-    {9136, "Progetto Setto", 0},
-    {9137, "Trave Elicoidale", 0},
-    {9138, "Trave Ginocchio", 0},
-    {9139, "Intersezione Linee Piano", 0},
-    {9140, "Selezione Elementi Piano", 0},
-    {9141, "Selezione Elementi Linea", 0},
-    {9142, "Piastra Anello Circolare", 0},
-    {9143, "Piastra Circolare", 0},
-    {9144, "Piastra Rettangolare", 0},
-    {9145, "Platea su Pali", 0},
-    {9146, "Mesh 2 Punti Vettore", 9135},
-}};
+// Bitmap in the upper left corner, by template.
+inline const std::map<int, int> pictures = {{9005, 175}, {9006, 176},  {9011, 336}, {9012, 341}, {9013, 338},
+                                            {9014, 342}, {9015, 337},  {9025, 344}, {9026, 343}, {9032, 175},
+                                            {9038, 178}, {9133, 9134}, {9146, 9135}};
+
+inline std::map<int, std::string> Captions() {
+    std::map<int, std::string> byNumber;
+    std::istringstream entries(captions);
+    for (std::string entry; std::getline(entries, entry, '|');)
+        byNumber[std::stoi(entry)] = entry.substr(entry.find(' ') + 1);
+    return byNumber;
+}
 
 } // namespace inventory

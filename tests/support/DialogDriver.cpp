@@ -102,21 +102,21 @@ void DialogDriver::Press(UINT key, unsigned modifiers) {
     const int code = platform::toolkitKey(key);
     ASSERT_NE(code, 0) << "no such key: " << key;
     const bool printable = code >= Qt::Key_Space && code <= Qt::Key_ydiaeresis;
-    const QString text = printable ? QString(QChar(code)).toLower() : QString();
+    // A key with Control makes no character.
+    const QString text = printable && !(modifiers & CtrlKey) ? QString(QChar(code)).toLower() : QString();
     QWindow* window = m_window->widget->window()->windowHandle();
     ASSERT_TRUE(window);
     const QPointer<QWindow> alive(window);
     const auto toolkitKey = static_cast<Qt::Key>(code);
-    if (text.isEmpty() || flags.testFlag(Qt::ControlModifier)) {
-        QTest::sendKeyEvent(QTest::Press, window, toolkitKey, QString(), flags);
-        if (alive)
-            QTest::sendKeyEvent(QTest::Release, window, toolkitKey, QString(), flags);
-    } else {
-        QTest::sendKeyEvent(QTest::Press, window, toolkitKey, text, flags);
-        if (alive)
-            QTest::sendKeyEvent(QTest::Release, window, toolkitKey, text, flags);
-    }
+    QTest::sendKeyEvent(QTest::Press, window, toolkitKey, text, flags);
+    if (alive)
+        QTest::sendKeyEvent(QTest::Release, window, toolkitKey, text, flags);
     QApplication::processEvents();
+}
+
+void DialogDriver::Press(std::initializer_list<int> keys) {
+    for (const int key : keys)
+        Press(static_cast<UINT>(key));
 }
 
 void DialogDriver::TypeKeys(const std::string& text) {

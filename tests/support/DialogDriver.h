@@ -5,6 +5,7 @@
 
 #include "platform/Window.h"
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ class DialogDriver {
 
     // Keyboard. `key` is a VK_ code; the numeric keypad has codes of its own.
     void Press(UINT key, unsigned modifiers = NoModifier);
+    // One after the other.
+    void Press(std::initializer_list<int> keys);
     // Characters to whatever has the focus, UTF-8.
     void TypeKeys(const std::string& text);
     // Clicks the control, selects what it holds and types over it, UTF-8.

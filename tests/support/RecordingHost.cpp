@@ -1,24 +1,12 @@
 #include "tests/support/RecordingHost.h"
 
-#include "model/Adv3d.h"
 #include "model/CasoCarico.h"
 
 #include <gtest/gtest.h>
 
-struct RecordingView::Settings {
-    CElementoSettings nodes, beams, walls;
-    Adv3d projection;
-};
-
 BEGIN_MESSAGE_MAP(RecordingView, CQuovarView)
     ON_MESSAGE(WM_FINEDIALOGO, OnFineDialogo)
 END_MESSAGE_MAP()
-
-RecordingView::RecordingView(Journal& journal, CQuovarDoc& doc)
-    : m_journal(journal), m_doc(doc), m_settings(std::make_unique<Settings>()) {
-}
-
-RecordingView::~RecordingView() = default;
 
 LRESULT RecordingView::OnFineDialogo(WPARAM wParam, LPARAM lParam) {
     auto* dialog = reinterpret_cast<CDialogDocument*>(lParam);
@@ -46,31 +34,11 @@ void RecordingView::StartDefinisciVettore(CString prompt, CString prompt2) {
     m_journal.Add("StartDefinisciVettore", prompt, prompt2);
     m_picking = 1;
     m_second = false;
-    m_prompt = prompt;
 }
 
 void RecordingView::StopDefinisciVettore() {
     m_journal.Add("StopDefinisciVettore");
     m_picking = 0;
-}
-
-CElementoSettings& RecordingView::GetNodoSettings() {
-    return m_settings->nodes;
-}
-CElementoSettings& RecordingView::GetTraveSettings() {
-    return m_settings->beams;
-}
-CElementoSettings& RecordingView::GetSettoSettings() {
-    return m_settings->walls;
-}
-Adv3d* RecordingView::GetVista() {
-    return &m_settings->projection;
-}
-void RecordingView::SetRectImmagine(int left, int top, int right, int bottom) {
-    m_journal.Add("SetRectImmagine", left, top, right, bottom);
-}
-void RecordingView::CatturaImmagine() {
-    m_journal.Add("CatturaImmagine");
 }
 
 RecordingHost::RecordingHost() : doc(journal) {
@@ -116,16 +84,6 @@ int RecordingHost::Open(CDialogDocument& dialog, RecordingView& view) {
     return dialog.Create(&view);
 }
 
-void RecordingHost::InizioAttesa(CString messaggio, unsigned int nPassi) {
-    journal.Add("InizioAttesa", messaggio, nPassi);
-}
-void RecordingHost::StepBar() {
-    journal.Add("StepBar");
-}
-void RecordingHost::FineAttesa() {
-    journal.Add("FineAttesa");
-}
-
 // Change code in the low half, additional value above it.
 ModificaDocumento RecordingHost::GetInformazioniBase(long lHint) {
     return static_cast<ModificaDocumento>(lHint & 0xffff);
@@ -135,13 +93,6 @@ long RecordingHost::GetInformazioniAggiuntive(long lHint) {
 }
 void RecordingHost::SetInformazioniAggiuntive(unsigned long& lHint, unsigned short valore) {
     lHint = (lHint & 0xffffUL) | static_cast<unsigned long>(valore) << 16;
-}
-
-CString RecordingHost::GetPathFilesVorm(CString path) {
-    return path;
-}
-CString RecordingHost::GetFileInputVorm(int) {
-    return CString();
 }
 
 CCasoCarico* RecordingHost::CreaCasoCarico(CQuovarDoc* pDoc) {

@@ -10,6 +10,8 @@
 #include "dialogs/frame/DialogDocument.h"
 #include "dialogs/frame/MainFrame.h"
 #include "dialogs/frame/QuovarHost.h"
+#include "model/Adv3d.h"
+#include "model/ElementoSettings.h"
 #include "tests/support/Journal.h"
 #include "tests/support/RecordingDoc.h"
 
@@ -23,51 +25,48 @@ using Lines = std::vector<std::string>;
 // A view with a window of its own. It hands picked points to its tool dialog while vector definition is on.
 class RecordingView : public CQuovarView {
   public:
-    RecordingView(Journal& journal, CQuovarDoc& doc);
-    ~RecordingView() override;
+    RecordingView(Journal& journal, CQuovarDoc& doc) : m_journal(journal), m_doc(doc) {}
 
     CDialogDocument* tool = nullptr;
     // Whether the view ends the tool dialog when asked to, as a host must.
     bool endsDialogs = true;
-    int selectable = 1; // of every kind
 
     // A click on a node: "from" and "to" alternate; each start of the mode begins with a "from" again. Fails the test
     // when the mode is off or there is no dialog.
     void Pick(double x, double y, double z);
-    const CString& Prompt() const { return m_prompt; }
 
     CQuovarDoc* GetDocument() override { return &m_doc; }
     void StartDefinisciVettore(CString prompt, CString prompt2) override;
     void StopDefinisciVettore() override;
     int IsDefinisciVettore() override { return m_picking; }
-    int IsSelectNodi() override { return selectable; }
-    int IsSelectTravi() override { return selectable; }
-    int IsSelectAste() override { return selectable; }
-    int IsSelectSetti() override { return selectable; }
-    int IsSelectSolai() override { return selectable; }
-    int IsSelectElementi() override { return selectable; }
-    CElementoSettings& GetNodoSettings() override;
-    CElementoSettings& GetTraveSettings() override;
-    CElementoSettings& GetSettoSettings() override;
+    int IsSelectNodi() override { return 1; }
+    int IsSelectTravi() override { return 1; }
+    int IsSelectAste() override { return 1; }
+    int IsSelectSetti() override { return 1; }
+    int IsSelectSolai() override { return 1; }
+    int IsSelectElementi() override { return 1; }
+    CElementoSettings& GetNodoSettings() override { return m_nodes; }
+    CElementoSettings& GetTraveSettings() override { return m_beams; }
+    CElementoSettings& GetSettoSettings() override { return m_walls; }
     int IsDrawRisultatoSetti() override { return 0; }
     int IsDrawProgettoSetti() override { return 0; }
     int IsDrawPressioneTerreno() override { return 0; }
     int GetProgettoSetti() override { return 0; }
-    Adv3d* GetVista() override;
-    void SetRectImmagine(int left, int top, int right, int bottom) override;
-    void CatturaImmagine() override;
+    Adv3d* GetVista() override { return &m_projection; }
+    void SetRectImmagine(int left, int top, int right, int bottom) override {
+        m_journal.Add("SetRectImmagine", left, top, right, bottom);
+    }
+    void CatturaImmagine() override { m_journal.Add("CatturaImmagine"); }
 
   private:
-    struct Settings;
-
     LRESULT OnFineDialogo(WPARAM wParam, LPARAM lParam);
 
     Journal& m_journal;
     CQuovarDoc& m_doc;
     int m_picking = 0;
     bool m_second = false; // the next pick of the pair is the "to" point
-    CString m_prompt;
-    std::unique_ptr<Settings> m_settings;
+    CElementoSettings m_nodes, m_beams, m_walls;
+    Adv3d m_projection;
 
     DECLARE_MESSAGE_MAP()
 };
@@ -104,14 +103,16 @@ class RecordingHost : public CQuovarHost {
 
     CQuovarDoc* GetActiveDoc() override { return hasDoc ? &doc : nullptr; }
     CMainFrame* GetMainFrame() override { return hasFrame ? &frame : nullptr; }
-    void InizioAttesa(CString messaggio, unsigned int nPassi) override;
-    void StepBar() override;
-    void FineAttesa() override;
+    void InizioAttesa(CString messaggio, unsigned int nPassi) override {
+        journal.Add("InizioAttesa", messaggio, nPassi);
+    }
+    void StepBar() override { journal.Add("StepBar"); }
+    void FineAttesa() override { journal.Add("FineAttesa"); }
     ModificaDocumento GetInformazioniBase(long lHint) override;
     long GetInformazioniAggiuntive(long lHint) override;
     void SetInformazioniAggiuntive(unsigned long& lHint, unsigned short valore) override;
-    CString GetPathFilesVorm(CString path) override;
-    CString GetFileInputVorm(int n) override;
+    CString GetPathFilesVorm(CString path) override { return path; }
+    CString GetFileInputVorm(int) override { return CString(); }
     CCasoCarico* CreaCasoCarico(CQuovarDoc* pDoc) override;
 
   private:
