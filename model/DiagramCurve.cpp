@@ -5,20 +5,9 @@
 #include <iterator>
 #include <utility>
 
-namespace {
-
-// Values that differ by less than this part of the largest one are the same: sums of loads leave such differences.
-constexpr double sameValue = 1e-9;
-
-} // namespace
-
 DiagramCurve::DiagramCurve(std::vector<TrattoDiagramma> pieces) : m_pieces(std::move(pieces)) {
     std::erase_if(m_pieces, [](const TrattoDiagramma& piece) { return !(piece.a > piece.da); });
     findTurns();
-}
-
-bool DiagramCurve::same(double a, double b) const {
-    return std::abs(a - b) <= sameValue * (m_maximum - m_minimum);
 }
 
 const TrattoDiagramma& DiagramCurve::pieceAt(double x, int side) const {
@@ -52,13 +41,13 @@ void DiagramCurve::addTurn(double x, double value) {
 
 void DiagramCurve::findTurns() {
     for (const TrattoDiagramma& piece : m_pieces) {
-        if (m_turns.empty() || m_turns.back().value != piece.c[0])
+        if (m_turns.empty() || !same(m_turns.back().value, piece.c[0]))
             addTurn(piece.da, piece.c[0]);
         double places[2];
         const int count = piece.IsRetta() ? 0 : piece.GetEstremi(places);
         for (int i = 0; i < count; ++i)
             addTurn(places[i], piece.GetValore(places[i]));
-        addTurn(piece.a, piece.GetValore(piece.a));
+        addTurn(piece.a, piece.GetValoreFinale());
     }
 }
 

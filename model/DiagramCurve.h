@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 class DiagramCurve {
@@ -44,8 +45,12 @@ class DiagramCurve {
     void findTurns();
     const TrattoDiagramma& pieceAt(double x, int side) const;
 
-    bool same(double a, double b) const;
+    // Values that differ by a small part of the range are the same: sums of loads, and records joined by lines, leave
+    // such differences.
+    bool same(double a, double b) const { return std::abs(a - b) <= sameValue * (m_maximum - m_minimum); }
     void addTurn(double x, double value);
+
+    static constexpr double sameValue = 1e-9;
 
     std::vector<TrattoDiagramma> m_pieces;
     // Where the curve begins, ends, jumps or turns, and maybe others: between two neighbours it goes one way.
@@ -56,9 +61,10 @@ class DiagramCurve {
 
 template <class Take>
 void DiagramCurve::Sample(double step, Take take) const {
-    double last = 0;
+    const double small = sameValue * (m_maximum - m_minimum);
+    double last = std::numeric_limits<double>::infinity();
     for (const TrattoDiagramma& piece : m_pieces) {
-        if (&piece == m_pieces.data() || piece.c[0] != last)
+        if (std::abs(piece.c[0] - last) > small)
             take(piece.da, piece.c[0]);
         if (!piece.IsRetta()) {
             const double length = piece.a - piece.da;
@@ -68,6 +74,7 @@ void DiagramCurve::Sample(double step, Take take) const {
                 take(x, piece.GetValore(x));
             }
         }
-        take(piece.a, last = piece.GetValore(piece.a));
+        last = piece.GetValoreFinale();
+        take(piece.a, last);
     }
 }

@@ -168,8 +168,7 @@ void DiagramSheet::Draw() {
         drawTitle(panel);
         drawLabels(panel);
     }
-    for (int column = 0; column < m_columns && !m_panels.empty(); ++column)
-        drawNodes(m_panels[static_cast<std::size_t>(column)]);
+    drawNodes();
     m_dc.SetBkMode(mode);
 }
 
@@ -212,13 +211,17 @@ void DiagramSheet::drawAxis(const Panel& panel) {
 // As much of it as there is room for.
 void DiagramSheet::drawTitle(const Panel& panel) {
     const CString name = CElementoRisultati::_GetStringRisultato(panel.diagram->kind);
-    CString text = panel.diagram->curve.IsEmpty() ? name + " non disponibile" : name + " [" + panel.diagram->unit + "]";
-    if (m_dc.GetTextExtent(text).cx > panel.cell.Width())
-        text = panel.diagram->curve.IsEmpty() ? name + ": n.d." : name;
+    const bool missing = panel.diagram->curve.IsEmpty();
+    const int room = panel.cell.Width();
+    CString text = missing ? name + " non disponibile" : name + " [" + panel.diagram->unit + "]";
+    CSize size = m_dc.GetTextExtent(text);
+    if (size.cx > room) {
+        text = missing ? name + ": n.d." : name;
+        size = m_dc.GetTextExtent(text);
+    }
     m_dc.SetTextColor(panel.color);
     const CPoint at = panel.cell.TopLeft();
-    const CSize size = m_dc.GetTextExtent(text);
-    if (size.cx > panel.cell.Width())
+    if (size.cx > room)
         m_dc.ExtTextOut(at.x, at.y, ETO_CLIPPED, panel.cell, text);
     else
         m_dc.TextOut(at.x, at.y, text);
@@ -291,20 +294,27 @@ void DiagramSheet::drawLabels(const Panel& panel) {
     }
 }
 
-// Below the column whose topmost panel this is.
-void DiagramSheet::drawNodes(const Panel& panel) {
+// Below each column of panels.
+void DiagramSheet::drawNodes() {
+    if (m_panels.empty())
+        return;
     CString first, last;
     first.Format("Nodo %d", m_line.firstNode);
     last.Format("Nodo %d", m_line.lastNode);
-    const int room = panel.cell.Width(), gap = 8;
-    if (m_dc.GetTextExtent(first).cx + m_dc.GetTextExtent(last).cx + gap > room) {
+    const int room = m_panels[0].cell.Width(), gap = 8;
+    int width = m_dc.GetTextExtent(last).cx;
+    if (m_dc.GetTextExtent(first).cx + width + gap > room) {
         first.Format("%d", m_line.firstNode);
         last.Format("%d", m_line.lastNode);
+        width = m_dc.GetTextExtent(last).cx;
     }
     m_dc.SetTextColor(axisColor);
     const int top = m_area.bottom - m_textHeight;
-    m_dc.TextOut(panel.cell.left, top, first);
-    m_dc.TextOut(panel.cell.right - m_dc.GetTextExtent(last).cx, top, last);
+    for (int column = 0; column < m_columns; ++column) {
+        const CRect& cell = m_panels[static_cast<std::size_t>(column)].cell;
+        m_dc.TextOut(cell.left, top, first);
+        m_dc.TextOut(cell.right - width, top, last);
+    }
 }
 
 void DiagramSheet::DrawReading(CPoint at) {

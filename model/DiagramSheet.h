@@ -56,7 +56,7 @@ class DiagramSheet {
     void drawLabels(const Panel& panel);
     bool drawLabel(const Panel& panel, const DiagramCurve::Point& peak, const CString& text, bool overCurve);
     bool isCrossed(const Panel& panel, const CRect& place) const;
-    void drawNodes(const Panel& panel);
+    void drawNodes();
     void drawValue(const Panel& panel, double x);
     void drawBoxed(const CString& text, CPoint at, const CRect& bounds, COLORREF color);
 

@@ -22,6 +22,7 @@ struct TrattoDiagramma {
         const double s = x - da;
         return c[0] + s * (c[1] + s * (c[2] + s * c[3]));
     }
+    double GetValoreFinale() const { return IsRetta() ? c[0] + (a - da) * c[1] : GetValore(a); }
     bool IsRetta() const { return c[2] == 0 && c[3] == 0; }
     // Places strictly inside the stretch where the diagram is level, in increasing order; returns how many.
     int GetEstremi(double (&x)[2]) const;

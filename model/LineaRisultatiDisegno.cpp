@@ -43,11 +43,12 @@ std::vector<TrattoDiagramma> joinRecords(CLineaRisultati& line, const Quantity& 
     const CElementoRisultati& records = *line.GetRisultati();
     const int last = records.GetSizeNodiRisultati() - 1;
     pieces.reserve(static_cast<std::size_t>(last));
-    const double step = line.GetLunghezzaLinea() / last, factor = 1 / divisor;
+    const double step = line.GetLunghezzaLinea() / last, perStep = 1 / step;
+    const double factor = 1 / divisor;
     double before = factor * records.GetNodoRisultati(0)->GetIndice(quantity.record);
     for (int i = 0; i < last; ++i) {
         const double after = factor * records.GetNodoRisultati(i + 1)->GetIndice(quantity.record);
-        pieces.push_back({step * i, step * (i + 1), {before, (after - before) / step, 0, 0}});
+        pieces.push_back({step * i, step * (i + 1), {before, (after - before) * perStep, 0, 0}});
         before = after;
     }
     return pieces;
