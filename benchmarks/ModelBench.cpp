@@ -99,16 +99,20 @@ void lookUpRounded(benchmark::State& state) {
 constexpr int DrawnElements = 100'000;
 constexpr int Side = 1000;
 
-void drawOurs(benchmark::State& state) {
-    HostDocument document;
-    bench::fillGrid(document, DrawnElements);
-    QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
-    Adv3d vista;
+void showAll(HostDocument& document, Adv3d& vista) {
     vista.SetViewport(CRect(0, 0, Side, Side));
     CFPoint low;
     CFPoint high;
     GetBounds(document, low, high);
     vista.FitToBounds(low, high);
+}
+
+void drawOurs(benchmark::State& state) {
+    HostDocument document;
+    bench::fillGrid(document, DrawnElements);
+    QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
+    Adv3d vista;
+    showAll(document, vista);
     for (auto _ : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
@@ -131,11 +135,7 @@ void drawPolylines(benchmark::State& state) {
         nodes.push_back(*document.GetIndexNodo(i)->GetPunto());
     QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
     Adv3d vista;
-    vista.SetViewport(CRect(0, 0, Side, Side));
-    CFPoint low;
-    CFPoint high;
-    GetBounds(document, low, high);
-    vista.FitToBounds(low, high);
+    showAll(document, vista);
     for (auto _ : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
