@@ -11,6 +11,10 @@ class CCombinazione;
 
 namespace host {
 
+// How far beyond an end of its member a load may lie and still belong to it, against the length: coordinates, and what
+// is shown of a length, are rounded.
+inline constexpr double sameEnd = 1e-6;
+
 // Everything in the document's units and, but for the lines, in global axes.
 struct CaseResults {
     struct Reaction {

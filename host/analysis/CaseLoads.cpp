@@ -1,6 +1,7 @@
 // Loads of a case: from the elements that carry them to numbers in the members' axes.
 #include "host/analysis/FrameModel.h"
 
+#include "host/analysis/Analysis.h"
 #include "host/analysis/Refusal.h"
 #include "model/CasoCarico.h"
 #include "model/Materiale.h"
@@ -30,9 +31,6 @@ void addUniform(CTraveRisultati& line, const Member& member, const Eigen::Vector
     copy(local, load.fine);
     line.AddCarico(load);
 }
-
-// How far beyond an end a load may lie and still belong to it, against the length: coordinates are rounded.
-constexpr double sameEnd = 1e-6;
 
 // Each axis of the load has a stretch of its own. False when a part of it lies beyond the member's ends, and is cut
 // off.

@@ -4,6 +4,7 @@
 
 #include <Eigen/Eigenvalues>
 
+#include <algorithm>
 #include <random>
 
 namespace host {

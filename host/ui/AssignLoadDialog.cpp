@@ -1,5 +1,6 @@
 #include "host/ui/AssignLoadDialog.h"
 
+#include "host/analysis/Analysis.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/AssignForm.h"
 #include "host/ui/AssignLoad.h"
@@ -19,9 +20,6 @@
 #include <vector>
 
 namespace {
-
-// How far beyond the end a typed distance may lie, against the length: what is shown of a length is rounded.
-constexpr double sameEnd = 1e-6;
 
 // What can carry loads among the selected objects.
 struct Carriers {
@@ -182,7 +180,7 @@ class LoadForm {
         for (std::size_t i = 0; i < Chosen().fields.size(); ++i) {
             if (Chosen().fields[i].role != LoadField::Role::Place)
                 continue;
-            if (values[i] < 0 || values[i] > m_carriers.shortest * (1 + sameEnd)) {
+            if (values[i] < 0 || values[i] > m_carriers.shortest * (1 + host::sameEnd)) {
                 CString message;
                 message.Format("La distanza deve essere compresa tra 0 e %.15g %s, la lunghezza dell'elemento "
                                "selezionato più corto."_t,
