@@ -2,10 +2,10 @@
 #include "benchmarks/Ratios.h"
 #include "host/analysis/Analysis.h"
 #include "host/analysis/FrameSystem.h"
-#include "model/CasoCarico.h"
-#include "model/Materiale.h"
-#include "model/Sezione.h"
-#include "model/Trave.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
 
 #include <Eigen/SparseCholesky>
 
@@ -17,26 +17,26 @@ namespace {
 // A grid of columns on so many storeys, joined by beams.
 class Building {
   public:
-    Building(int alongX, int alongY, int storeys) : alongX(alongX), alongY(alongY), storeys(storeys) {}
+    Building(int alongX, int alongY, int storeys) : m_alongX(alongX), m_alongY(alongY), m_storeys(storeys) {}
 
     DocumentData Build() {
         m_material = Append(Kind::Material, std::make_unique<CMateriale>());
         m_material->SetE(3e7);
         m_material->SetG(1.2e7);
-        m_material->SetDensita(2.5);
+        m_material->SetDensity(2.5);
         m_section = Append(Kind::Section, std::make_unique<CSezione>());
-        m_section->SetRettangolo(0.3, 0.5);
+        m_section->SetRectangle(0.3, 0.5);
         CCasoCarico* loads = Append(Kind::LoadCase, std::make_unique<CCasoCarico>());
         loads->AddCarico(new CCaricoPesoProprio({0, 0, -9.81}));
-        auto* floor = new CCaricoUniforme({0, 0, -12}, CCarico::Globale);
+        auto* floor = new CCaricoUniforme({0, 0, -12}, CCarico::Global);
         loads->AddCarico(floor);
-        for (int z = 0; z <= storeys; ++z)
-            for (int y = 0; y < alongY; ++y)
-                for (int x = 0; x < alongX; ++x)
+        for (int z = 0; z <= m_storeys; ++z)
+            for (int y = 0; y < m_alongY; ++y)
+                for (int x = 0; x < m_alongX; ++x)
                     Place(x, y, z);
-        for (int z = 1; z <= storeys; ++z)
-            for (int y = 0; y < alongY; ++y)
-                for (int x = 0; x < alongX; ++x)
+        for (int z = 1; z <= m_storeys; ++z)
+            for (int y = 0; y < m_alongY; ++y)
+                for (int x = 0; x < m_alongX; ++x)
                     Connect(x, y, z, floor);
         return std::move(m_data);
     }
@@ -50,12 +50,12 @@ class Building {
         m_data.Append(element);
         return added;
     }
-    CNodo* At(int x, int y, int z) { return m_data.Node((z * alongY + y) * alongX + x); }
+    CNodo* At(int x, int y, int z) { return m_data.Node((z * m_alongY + y) * m_alongX + x); }
     void Place(int x, int y, int z) {
-        const CVincolo fixed(CVincolo::Tutti);
+        const CVincolo fixed(CVincolo::All);
         CNodo* node = Append(Kind::Node, std::make_unique<CNodo>(CFPoint(5.0 * x, 5.0 * y, 3.0 * z)));
         if (z == 0)
-            node->SetVincolo(&fixed);
+            node->SetRestraint(&fixed);
     }
     void Join(CNodo* from, CNodo* to, CCarico* load) {
         auto beam = std::make_unique<CTrave>();
@@ -74,14 +74,14 @@ class Building {
             Join(At(x, y - 1, z), At(x, y, z), floor);
     }
 
-    int alongX, alongY, storeys;
+    int m_alongX, m_alongY, m_storeys;
     DocumentData m_data;
     CMateriale* m_material = nullptr;
     CSezione* m_section = nullptr;
 };
 
 // Both of some 20,000 members. The second one is as compact as buildings come: its equations fill the most.
-Building slab() {
+Building Slab() {
     return {100, 10, 7};
 }
 Building cube() {
@@ -89,8 +89,8 @@ Building cube() {
 }
 
 template <Building (*shape)()>
-void analyse(benchmark::State& state) {
-    DocumentData data = shape().Build();
+void Analyse(benchmark::State& state) {
+    DocumentData data = Slab().Build();
     for (auto _ : state) {
         const host::AnalysisOutcome outcome = host::Analyse(data);
         if (!outcome.done || outcome.cases.size() != 1) {
@@ -102,8 +102,8 @@ void analyse(benchmark::State& state) {
     state.counters["beams"] = data.Size(Kind::Beam);
 }
 
-void factor(benchmark::State& state) {
-    DocumentData data = slab().Build();
+void Factor(benchmark::State& state) {
+    DocumentData data = Slab().Build();
     const host::FrameModel model = host::ReadFrame(data);
     const host::FrameSystem system(model);
     for (auto _ : state) {
@@ -117,7 +117,7 @@ void factor(benchmark::State& state) {
     state.counters["unknowns"] = system.Unknowns();
 }
 
-const bench::Ratio analysis("analysis_20000_beams", analyse<slab>, factor, 2);
-const bench::Limit compact("analysis_20000_beams_compact", analyse<cube>, 5000); // the bare factor takes a minute
+const bench::Ratio analysis("analysis_20000_beams", Analyse<Slab>, Factor, 2);
+const bench::Limit compact("analysis_20000_beams_compact", Analyse<cube>, 5000); // the bare factor takes a minute
 
 } // namespace

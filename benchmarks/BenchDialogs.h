@@ -1,29 +1,29 @@
 // The dialogs that are measured.
 #pragma once
 
-#include "platform/Dialog.h"
-#include "platform/ListBox.h"
-#include "platform/Resource.h"
+#include "platform/controls/ListBox.h"
+#include "platform/resource/Resource.h"
+#include "platform/window/Dialog.h"
 
 #include <vector>
 
 namespace bench {
 
 // A form of 25 controls: ten labels with their edits, a check box, two radio buttons, OK and Annulla.
-inline constexpr int FormTemplate = 1;
-inline constexpr int FormFields = 10;
-inline constexpr int FirstEdit = 100;
+inline constexpr int formTemplate = 1;
+inline constexpr int formFields = 10;
+inline constexpr int firstEdit = 100;
 // An extended-selection list that fills its dialog.
-inline constexpr int ListTemplate = 2;
-inline constexpr int ListControl = 1004;
+inline constexpr int listTemplate = 2;
+inline constexpr int listControl = 1004;
 
 // Puts the templates into the chain; once, before any dialog.
-void installTemplates();
-const std::vector<platform::ControlTemplate>& formControls();
+void InstallTemplates();
+const std::vector<platform::ControlTemplate>& FormControls();
 
 class ListDialog : public CDialog {
   public:
-    ListDialog() { Create(ListTemplate); }
+    ListDialog() { Create(listTemplate); }
 
     CListBox list;
 
@@ -34,7 +34,7 @@ class ListDialog : public CDialog {
 // Counts the notifications of its first edit.
 class FormDialog : public CDialog {
   public:
-    BOOL Open() { return Create(FormTemplate); }
+    BOOL Open() { return Create(formTemplate); }
     int changes = 0;
 
   protected:

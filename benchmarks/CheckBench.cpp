@@ -6,13 +6,13 @@
 #include "dialogs/frame/Module.h"
 #include "dialogs/frame/QuovarGlobal.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/HostView.h"
 #include "host/ui/Workspace.h"
-#include "model/Materiale.h"
-#include "model/Sezione.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
-#include "platform/Module.h"
+#include "host/view/HostView.h"
+#include "model/element/Trave.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "platform/resource/Module.h"
+#include "platform/window/Application.h"
 
 #include <QCoreApplication>
 
@@ -23,7 +23,7 @@
 namespace {
 
 template <class T>
-T* append(DocumentData& data, Kind kind, std::unique_ptr<T> object) {
+T* Append(DocumentData& data, Kind kind, std::unique_ptr<T> object) {
     T* raw = object.get();
     raw->SetID(data.NextId(kind));
     std::unique_ptr<CElemento> owned = std::move(object);
@@ -64,14 +64,14 @@ class FrameBuilder {
 
   private:
     explicit FrameBuilder(bool material)
-        : m_material(material ? append(m_data, Kind::Material, std::make_unique<CMateriale>()) : nullptr),
-          m_section(append(m_data, Kind::Section, std::make_unique<CSezione>())) {}
+        : m_material(material ? Append(m_data, Kind::Material, std::make_unique<CMateriale>()) : nullptr),
+          m_section(Append(m_data, Kind::Section, std::make_unique<CSezione>())) {}
 
     CNodo* Node(const CFPoint& place, bool fixed) {
-        CNodo* node = append(m_data, Kind::Node, std::make_unique<CNodo>(place));
-        const CVincolo all(CVincolo::Tutti);
+        CNodo* node = Append(m_data, Kind::Node, std::make_unique<CNodo>(place));
+        const CVincolo all(CVincolo::All);
         if (fixed)
-            node->SetVincolo(&all);
+            node->SetRestraint(&all);
         return node;
     }
     void Beam(CNodo* a, CNodo* b) {
@@ -80,7 +80,7 @@ class FrameBuilder {
         if (m_material)
             beam->SetMateriale(m_material->GetID(), m_material);
         beam->SetSezione(m_section->GetID(), m_section);
-        append(m_data, Kind::Beam, std::move(beam));
+        Append(m_data, Kind::Beam, std::move(beam));
     }
 
     DocumentData m_data;
@@ -130,7 +130,7 @@ class Opened {
     Workspace m_workspace;
 };
 
-constexpr int Million = 1'000'000;
+constexpr int million = 1'000'000;
 
 void search(benchmark::State& state, int nodes) {
     HostDocument& document = Opened::With(FrameBuilder::Cube, nodes).Document();
@@ -145,7 +145,7 @@ void search(benchmark::State& state, int nodes) {
 }
 
 // The mark is the object's own; taking it away again belongs to the walk.
-std::size_t walk(CNodo& seed, std::vector<CNodo*>& queue) {
+std::size_t Walk(CNodo& seed, std::vector<CNodo*>& queue) {
     const std::size_t first = queue.size();
     queue.push_back(&seed);
     seed.SetAlready(1);
@@ -165,13 +165,13 @@ std::size_t walk(CNodo& seed, std::vector<CNodo*>& queue) {
     return queue.size() - first;
 }
 
-void plainWalk(benchmark::State& state, int size) {
+void PlainWalk(benchmark::State& state, int size) {
     HostDocument& document = Opened::With(FrameBuilder::Cube, size).Document();
     for (auto _ : state) {
         std::vector<CNodo*> reached;
         for (int i = 0; i < document.GetSizeNodi(); ++i)
             if (CNodo* node = document.GetIndexNodo(i); !node->IsAlready())
-                benchmark::DoNotOptimize(walk(*node, reached));
+                benchmark::DoNotOptimize(Walk(*node, reached));
         for (CNodo* node : reached)
             node->SetAlready(0);
     }
@@ -204,16 +204,16 @@ void onePass(benchmark::State& state, int size) {
 using OfSize = void (*)(benchmark::State&, int);
 
 template <OfSize body>
-void million(benchmark::State& state) {
-    body(state, Million);
+void Million(benchmark::State& state) {
+    PlainWalk(state, million);
 }
 template <OfSize body>
-void sized(benchmark::State& state) {
-    body(state, static_cast<int>(state.range(0)));
+void Sized(benchmark::State& state) {
+    PlainWalk(state, static_cast<int>(state.range(0)));
 }
 
 // From the notification that all rows are selected to the views' repaint.
-void pickAll(benchmark::State& state) {
+void PickAll(benchmark::State& state) {
     const int rows = static_cast<int>(state.range(0));
     Opened& opened = Opened::With(FrameBuilder::FaultyChain, rows);
     CDialogDocument& dialog = opened.Dialog();
@@ -229,14 +229,14 @@ void pickAll(benchmark::State& state) {
         state.SkipWithError("not everything is selected");
 }
 
-const bench::Ratio searchRatio("search_structures_1000000_nodes", million<search>, million<plainWalk>, 1.5);
-const bench::Ratio checkRatio("check_1000000_nodes_3000000_beams", million<check>, million<onePass>, 3);
+const bench::Ratio searchRatio("search_structures_1000000_nodes", Million<search>, Million<PlainWalk>, 1.5);
+const bench::Ratio checkRatio("check_1000000_nodes_3000000_beams", Million<check>, Million<onePass>, 3);
 // The small model fits into the processor's caches and the large one does not: what the plain walk and the plain pass
 // lose by that is no fault of ours, so they stand beside.
-const bench::Growth searchGrowth("search_structures_growth", sized<search>, 10'000, Million, 100, 1.5);
-const bench::Growth walkGrowth("search_structures_growth_of_peer", sized<plainWalk>, 10'000, Million, 100, 1.5);
-const bench::Growth checkGrowth("check_growth", sized<check>, 10'000, Million, 100, 1.5);
-const bench::Growth passGrowth("check_growth_of_peer", sized<onePass>, 10'000, Million, 100, 1.5);
-const bench::Growth pickGrowth("pick_all_rows_growth", pickAll, 10'000, 100'000, 10, 1.5);
+const bench::Growth searchGrowth("search_structures_growth", Sized<search>, 10'000, million, 100, 1.5);
+const bench::Growth walkGrowth("search_structures_growth_of_peer", Sized<PlainWalk>, 10'000, million, 100, 1.5);
+const bench::Growth checkGrowth("check_growth", Sized<check>, 10'000, million, 100, 1.5);
+const bench::Growth passGrowth("check_growth_of_peer", Sized<onePass>, 10'000, million, 100, 1.5);
+const bench::Growth pickGrowth("pick_all_rows_growth", PickAll, 10'000, 100'000, 10, 1.5);
 
 } // namespace

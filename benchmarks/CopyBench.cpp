@@ -5,13 +5,13 @@
 #include "dialogs/frame/Module.h"
 #include "dialogs/selection/DialogCopiaTrasla.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/HostView.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
-#include "model/Nodo.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
-#include "platform/Module.h"
+#include "host/view/HostView.h"
+#include "model/element/Nodo.h"
+#include "model/element/Trave.h"
+#include "platform/resource/Module.h"
+#include "platform/window/Application.h"
 
 #include <memory>
 #include <stdexcept>
@@ -20,9 +20,9 @@
 
 namespace {
 
-constexpr int FrameNodes = 22 * 22 * 22; // with 22 * 22 * 21 beams, a little over 10,000
-constexpr int Copies = 100;
-constexpr double Step = 30; // clear of the frame itself
+constexpr int frameNodes = 22 * 22 * 22; // with 22 * 22 * 21 beams, a little over 10,000
+constexpr int copies = 100;
+constexpr double step = 30; // clear of the frame itself
 
 // The application with the frame open and selected.
 class OpenFrame {
@@ -30,8 +30,8 @@ class OpenFrame {
     OpenFrame() {
         AfxAttachLinkedModule(&QuovarModuleEntry); // once: it stays started
         m_workspace.NewDocument();
-        bench::fillGrid(Document(), FrameNodes);
-        Document().SelezionaTutto();
+        bench::FillGrid(Document(), frameNodes);
+        Document().SelectAll();
         CWinApp::PumpMessages();
         m_nodes = Document().GetSizeNodi();
         m_beams = Document().GetSizeTravi();
@@ -55,7 +55,7 @@ class OpenFrame {
 
     void CopyByHand() {
         HostDocument& document = Document();
-        const UndoStep step(document.Undo(), "Copie");
+        const UndoStep undo(document.Undo(), "Copie");
         std::vector<int> places(static_cast<std::size_t>(m_nodes));
         for (int i = 0; i < m_nodes; ++i)
             places[static_cast<std::size_t>(i)] = document.GetIndexNodo(i)->GetID();
@@ -63,14 +63,14 @@ class OpenFrame {
         for (int i = 0; i < m_beams; ++i) // the frame's nodes are numbered from 1 in document order
             beams.emplace_back(document.GetIndexTrave(i)->GetIDNodoIniziale() - 1,
                                document.GetIndexTrave(i)->GetIDNodoFinale() - 1);
-        for (int copy = 1; copy <= Copies; ++copy)
-            AddCopy(places, beams, copy * Step);
+        for (int copy = 1; copy <= copies; ++copy)
+            AddCopy(places, beams, copy * step);
     }
 
     // What one of the two left out must not make it the faster one.
     void Check() {
-        if (Document().GetSizeNodi() != m_nodes * (Copies + 1) ||
-            Document().GetSizeTravi() != m_beams * (Copies + 1) + m_nodes * Copies)
+        if (Document().GetSizeNodi() != m_nodes * (copies + 1) ||
+            Document().GetSizeTravi() != m_beams * (copies + 1) + m_nodes * copies)
             throw std::runtime_error("not the copies that were to be measured");
     }
 
@@ -95,7 +95,7 @@ class OpenFrame {
     int m_nodes = 0, m_beams = 0;
 };
 
-void copyByDialog(benchmark::State& state) {
+void CopyByDialog(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         {
@@ -110,7 +110,7 @@ void copyByDialog(benchmark::State& state) {
     }
 }
 
-void copyByHand(benchmark::State& state) {
+void CopyByHand(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         {
@@ -124,7 +124,7 @@ void copyByHand(benchmark::State& state) {
     }
 }
 
-void undoCopies(benchmark::State& state) {
+void UndoCopies(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         {
@@ -139,7 +139,7 @@ void undoCopies(benchmark::State& state) {
     }
 }
 
-const bench::Ratio copy("copy_100_of_10000_joined_elements", copyByDialog, copyByHand, 1.5, benchmark::kSecond);
-const bench::Ratio undo("undo_100_of_10000_joined_elements", undoCopies, copyByHand, 1, benchmark::kSecond);
+const bench::Ratio copy("copy_100_of_10000_joined_elements", CopyByDialog, CopyByHand, 1.5, benchmark::kSecond);
+const bench::Ratio undo("undo_100_of_10000_joined_elements", UndoCopies, CopyByHand, 1, benchmark::kSecond);
 
 } // namespace

@@ -2,8 +2,8 @@
 // at run time; and one edit notification from the key to its handler.
 #include "benchmarks/BenchDialogs.h"
 #include "benchmarks/Ratios.h"
-#include "platform/Application.h"
-#include "platform/private/Units.h"
+#include "platform/private/peers/Units.h"
+#include "platform/window/Application.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -22,15 +22,15 @@
 
 namespace {
 
-QRect placeOf(const platform::ControlTemplate& control) {
-    const int x = platform::unitsToX(control.x);
-    const int y = platform::unitsToY(control.y);
-    return {x, y, platform::unitsToX(control.x + control.cx) - x, platform::unitsToY(control.y + control.cy) - y};
+QRect PlaceOf(const platform::ControlTemplate& control) {
+    const int x = platform::UnitsToX(control.x);
+    const int y = platform::UnitsToY(control.y);
+    return {x, y, platform::UnitsToX(control.x + control.cx) - x, platform::UnitsToY(control.y + control.cy) - y};
 }
 
 enum class Role { Label, Edit, Check, Radio, Push };
 
-Role roleOf(const platform::ControlTemplate& control) {
+Role RoleOf(const platform::ControlTemplate& control) {
     if (control.kind == platform::ControlTemplate::Kind::Static)
         return Role::Label;
     if (control.kind == platform::ControlTemplate::Kind::Edit)
@@ -45,7 +45,7 @@ Role roleOf(const platform::ControlTemplate& control) {
     }
 }
 
-void openOurs(benchmark::State& state) {
+void OpenOurs(benchmark::State& state) {
     for (auto _ : state) {
         bench::FormDialog dialog;
         dialog.Open();
@@ -55,9 +55,9 @@ void openOurs(benchmark::State& state) {
     }
 }
 
-void addByHand(QDialog& dialog, const platform::ControlTemplate& control) {
+void AddByHand(QDialog& dialog, const platform::ControlTemplate& control) {
     QWidget* made = nullptr;
-    switch (roleOf(control)) {
+    switch (RoleOf(control)) {
     case Role::Label:
         made = new QLabel(QString::fromLatin1(control.text), &dialog);
         break;
@@ -74,11 +74,11 @@ void addByHand(QDialog& dialog, const platform::ControlTemplate& control) {
         made = new QPushButton(QString::fromLatin1(control.text), &dialog);
         break;
     }
-    made->setGeometry(placeOf(control));
+    made->setGeometry(PlaceOf(control));
 }
 
 // Shows the dialog as ours is shown, and ends it the same way.
-void showAndEnd(std::unique_ptr<QDialog> dialog) {
+void ShowAndEnd(std::unique_ptr<QDialog> dialog) {
     dialog->show();
     dialog->activateWindow();
     CWinApp::PumpMessages();
@@ -87,28 +87,28 @@ void showAndEnd(std::unique_ptr<QDialog> dialog) {
     CWinApp::PumpMessages();
 }
 
-void openByHand(benchmark::State& state) {
+void OpenByHand(benchmark::State& state) {
     for (auto _ : state) {
         auto dialog = std::make_unique<QDialog>();
         dialog->setWindowTitle("Modulo");
-        dialog->setFixedSize(platform::unitsToX(200), platform::unitsToY(160));
-        for (const platform::ControlTemplate& control : bench::formControls())
-            addByHand(*dialog, control);
-        showAndEnd(std::move(dialog));
+        dialog->setFixedSize(platform::UnitsToX(200), platform::UnitsToY(160));
+        for (const platform::ControlTemplate& control : bench::FormControls())
+            AddByHand(*dialog, control);
+        ShowAndEnd(std::move(dialog));
     }
 }
 
-QByteArray formFile() {
-    constexpr const char* Classes[] = {"QLabel", "QLineEdit", "QCheckBox", "QRadioButton", "QPushButton"};
+QByteArray FormFile() {
+    constexpr const char* classes[] = {"QLabel", "QLineEdit", "QCheckBox", "QRadioButton", "QPushButton"};
     QByteArray xml = "<ui version=\"4.0\"><widget class=\"QDialog\" name=\"modulo\"><property name=\"windowTitle\">"
                      "<string>Modulo</string></property>";
     int number = 0;
-    for (const platform::ControlTemplate& control : bench::formControls()) {
-        const Role role = roleOf(control);
-        const QRect place = placeOf(control);
+    for (const platform::ControlTemplate& control : bench::FormControls()) {
+        const Role role = RoleOf(control);
+        const QRect place = PlaceOf(control);
         xml += QString("<widget class=\"%1\" name=\"c%2\"><property name=\"geometry\"><rect><x>%3</x><y>%4</y>"
                        "<width>%5</width><height>%6</height></rect></property>")
-                   .arg(Classes[static_cast<int>(role)])
+                   .arg(classes[static_cast<int>(role)])
                    .arg(number++)
                    .arg(place.x())
                    .arg(place.y())
@@ -122,20 +122,20 @@ QByteArray formFile() {
     return xml + "</widget></ui>";
 }
 
-void openFormFile(benchmark::State& state) {
-    const QByteArray xml = formFile();
+void OpenFormFile(benchmark::State& state) {
+    const QByteArray xml = FormFile();
     QUiLoader loader;
     for (auto _ : state) {
         QBuffer buffer;
         buffer.setData(xml);
         std::unique_ptr<QDialog> dialog(qobject_cast<QDialog*>(loader.load(&buffer)));
-        dialog->setFixedSize(platform::unitsToX(200), platform::unitsToY(160));
-        showAndEnd(std::move(dialog));
+        dialog->setFixedSize(platform::UnitsToX(200), platform::UnitsToY(160));
+        ShowAndEnd(std::move(dialog));
     }
 }
 
 template <class Window>
-void typeInto(benchmark::State& state, Window& window, const std::function<void()>& empty) {
+void TypeInto(benchmark::State& state, Window& window, const std::function<void()>& empty) {
     QWindow* handle = window.windowHandle();
     for (auto _ : state) {
         QKeyEvent press(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, "1");
@@ -148,20 +148,20 @@ void typeInto(benchmark::State& state, Window& window, const std::function<void(
     }
 }
 
-void notifyOurs(benchmark::State& state) {
+void NotifyOurs(benchmark::State& state) {
     bench::FormDialog dialog;
     dialog.Open();
     CWinApp::PumpMessages();
     QWidget* window = QApplication::activeWindow();
-    typeInto(state, *window, [&] { dialog.SetDlgItemText(bench::FirstEdit, ""); });
+    TypeInto(state, *window, [&] { dialog.SetDlgItemText(bench::firstEdit, ""); });
     if (!dialog.changes)
         state.SkipWithError("the handler was never reached");
 }
 
-void notifyByHand(benchmark::State& state) {
+void NotifyByHand(benchmark::State& state) {
     QDialog dialog;
-    for (const platform::ControlTemplate& control : bench::formControls())
-        addByHand(dialog, control);
+    for (const platform::ControlTemplate& control : bench::FormControls())
+        AddByHand(dialog, control);
     auto* edit = dialog.findChild<QLineEdit*>();
     int changes = 0;
     QObject::connect(edit, &QLineEdit::textChanged, [&] { ++changes; });
@@ -169,13 +169,13 @@ void notifyByHand(benchmark::State& state) {
     dialog.activateWindow();
     CWinApp::PumpMessages();
     edit->setFocus();
-    typeInto(state, dialog, [&] { edit->clear(); });
+    TypeInto(state, dialog, [&] { edit->clear(); });
     if (!changes)
         state.SkipWithError("the handler was never reached");
 }
 
-const bench::Ratio byHand("open_dialog_of_25_controls", openOurs, openByHand, 1.1);
-const bench::Ratio formLoader("open_dialog_beside_form_file", openOurs, openFormFile, 0.8);
-const bench::Ratio notification("edit_notification", notifyOurs, notifyByHand, 1.5, benchmark::kMicrosecond);
+const bench::Ratio byHand("open_dialog_of_25_controls", OpenOurs, OpenByHand, 1.1);
+const bench::Ratio formLoader("open_dialog_beside_form_file", OpenOurs, OpenFormFile, 0.8);
+const bench::Ratio notification("edit_notification", NotifyOurs, NotifyByHand, 1.5, benchmark::kMicrosecond);
 
 } // namespace

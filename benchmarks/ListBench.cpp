@@ -1,8 +1,8 @@
 // A list of 100,000 rows: filling it, and selecting and walking every second one, beside a lazy model of the toolkit.
 #include "benchmarks/BenchDialogs.h"
 #include "benchmarks/Ratios.h"
-#include "platform/Application.h"
-#include "platform/ListBox.h"
+#include "platform/controls/ListBox.h"
+#include "platform/window/Application.h"
 
 #include <QAbstractListModel>
 #include <QItemSelection>
@@ -12,9 +12,9 @@
 
 namespace {
 
-constexpr int Rows = 100'000;
+constexpr int listRows = 100'000;
 
-CString rowText(int row) {
+CString RowText(int row) {
     CString text;
     text.Format("Nodo n.ro %d", row);
     return text;
@@ -28,47 +28,47 @@ class LazyModel : public QAbstractListModel {
     QVariant data(const QModelIndex& index, int role) const override {
         return role == Qt::DisplayRole ? QVariant(rows[static_cast<std::size_t>(index.row())]) : QVariant();
     }
-    void fill() {
+    void Fill() {
         beginResetModel();
         rows.clear();
-        for (int row = 0; row < Rows; ++row)
+        for (int row = 0; row < listRows; ++row)
             rows.push_back(QString::asprintf("Nodo n.ro %d", row));
         endResetModel();
     }
 };
 
-void fill(CListBox& list) {
+void Fill(CListBox& list) {
     list.ResetContent();
-    for (int row = 0; row < Rows; ++row)
-        list.AddString(rowText(row));
+    for (int row = 0; row < listRows; ++row)
+        list.AddString(RowText(row));
 }
 
-void fillOurs(benchmark::State& state) {
+void FillOurs(benchmark::State& state) {
     bench::ListDialog dialog;
     for (auto _ : state) {
-        fill(dialog.list);
+        Fill(dialog.list);
         CWinApp::PumpMessages(); // until the rows are on the screen
     }
 }
 
-void fillTheirs(benchmark::State& state) {
+void FillTheirs(benchmark::State& state) {
     QListView view;
     LazyModel model;
     view.setUniformItemSizes(true);
     view.setModel(&model);
     view.show();
     for (auto _ : state) {
-        model.fill();
+        model.Fill();
         CWinApp::PumpMessages();
     }
 }
 
-void selectEverySecond(benchmark::State& state) {
+void SelectEverySecond(benchmark::State& state) {
     bench::ListDialog dialog;
-    fill(dialog.list);
+    Fill(dialog.list);
     CWinApp::PumpMessages();
     for (auto _ : state) {
-        for (int row = 0; row < Rows; row += 2)
+        for (int row = 0; row < listRows; row += 2)
             dialog.list.SetSel(row, TRUE);
         int sum = 0;
         for (int row = 0; row < dialog.list.GetCount(); ++row)
@@ -81,7 +81,7 @@ void selectEverySecond(benchmark::State& state) {
     }
 }
 
-const bench::Ratio fillRatio("list_fill_100000", fillOurs, fillTheirs, 2);
-const bench::Limit selectLimit("list_select_every_second_of_100000", selectEverySecond, 20);
+const bench::Ratio fillRatio("list_fill_100000", FillOurs, FillTheirs, 2);
+const bench::Limit selectLimit("list_select_every_second_of_100000", SelectEverySecond, 20);
 
 } // namespace

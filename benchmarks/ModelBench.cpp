@@ -3,11 +3,11 @@
 #include "benchmarks/Ratios.h"
 #include "host/document/HostDocument.h"
 #include "host/files/ProjectFile.h"
-#include "host/ui/ViewRenderer.h"
-#include "model/Adv3d.h"
-#include "model/Nodo.h"
-#include "model/Trave.h"
-#include "platform/private/PainterDC.h"
+#include "host/view/ViewRenderer.h"
+#include "model/element/Nodo.h"
+#include "model/element/Trave.h"
+#include "model/view/Adv3d.h"
+#include "platform/private/paint/PainterDC.h"
 
 #include <QImage>
 #include <QPainter>
@@ -24,17 +24,17 @@
 
 namespace {
 
-constexpr int Million = 1'000'000;
+constexpr int million = 1'000'000;
 
-constexpr int LookUps = 100'000;
-constexpr double Tolerance = 0.001;
+constexpr int lookUps = 100'000;
+constexpr double tolerance = 0.001;
 
 // Half of the places hold a node, half lie beside one.
-std::vector<CFPoint> placesIn(HostDocument& document) {
+std::vector<CFPoint> PlacesIn(HostDocument& document) {
     std::mt19937 random(1);
     std::uniform_int_distribution<int> index(0, document.GetSizeNodi() - 1);
     std::vector<CFPoint> places;
-    for (int i = 0; i < LookUps; ++i) {
+    for (int i = 0; i < lookUps; ++i) {
         CFPoint place = *document.GetIndexNodo(index(random))->GetPunto();
         place.x += i % 2 ? 0.4 : 1e-5;
         places.push_back(place);
@@ -42,32 +42,32 @@ std::vector<CFPoint> placesIn(HostDocument& document) {
     return places;
 }
 
-void checkFound(int found) {
-    if (found == LookUps / 2)
+void CheckFound(int found) {
+    if (found == lookUps / 2)
         return;
-    std::fprintf(stderr, "bench: %d nodes found instead of %d\n", found, LookUps / 2);
+    std::fprintf(stderr, "bench: %d nodes found instead of %d\n", found, lookUps / 2);
     std::exit(1);
 }
 
-void lookUp(benchmark::State& state) {
+void LookUp(benchmark::State& state) {
     HostDocument document;
-    bench::fillGrid(document, Million);
-    std::vector<CFPoint> places = placesIn(document);
-    document.GetNodo(places.front(), nullptr, Tolerance); // builds the table, as the map is built before it is timed
+    bench::FillGrid(document, million);
+    std::vector<CFPoint> places = PlacesIn(document);
+    document.GetNodo(places.front(), nullptr, tolerance); // builds the table, as the map is built before it is timed
     for (auto _ : state) {
         int found = 0;
         for (CFPoint& place : places)
-            found += document.GetNodo(place, nullptr, Tolerance) != nullptr;
-        checkFound(found);
+            found += document.GetNodo(place, nullptr, tolerance) != nullptr;
+        CheckFound(found);
     }
 }
 
 struct Cell {
     long x, y, z;
     explicit Cell(const CFPoint& place)
-        : x(std::lround(place.x / Tolerance)),
-          y(std::lround(place.y / Tolerance)),
-          z(std::lround(place.z / Tolerance)) {}
+        : x(std::lround(place.x / tolerance)),
+          y(std::lround(place.y / tolerance)),
+          z(std::lround(place.z / tolerance)) {}
     bool operator==(const Cell&) const = default;
 };
 
@@ -81,38 +81,38 @@ struct CellHash {
 };
 
 // Nodes by their coordinates rounded to the tolerance, which misses those beyond the border of the one cell asked for.
-void lookUpRounded(benchmark::State& state) {
+void LookUpRounded(benchmark::State& state) {
     HostDocument document;
-    bench::fillGrid(document, Million);
+    bench::FillGrid(document, million);
     std::unordered_map<Cell, CNodo*, CellHash> map;
     for (int i = 0; i < document.GetSizeNodi(); ++i)
         map.emplace(*document.GetIndexNodo(i)->GetPunto(), document.GetIndexNodo(i));
-    std::vector<CFPoint> places = placesIn(document);
+    std::vector<CFPoint> places = PlacesIn(document);
     for (auto _ : state) {
         int found = 0;
         for (const CFPoint& place : places)
             found += map.contains(Cell(place));
-        checkFound(found);
+        CheckFound(found);
     }
 }
 
-constexpr int DrawnElements = 100'000;
-constexpr int Side = 1000;
+constexpr int drawnElements = 100'000;
+constexpr int side = 1000;
 
-void showAll(HostDocument& document, Adv3d& vista) {
-    vista.SetViewport(CRect(0, 0, Side, Side));
+void ShowAll(HostDocument& document, Adv3d& vista) {
+    vista.SetViewport(CRect(0, 0, side, side));
     CFPoint low;
     CFPoint high;
     GetBounds(document, low, high);
     vista.FitToBounds(low, high);
 }
 
-void drawOurs(benchmark::State& state) {
+void DrawOurs(benchmark::State& state) {
     HostDocument document;
-    bench::fillGrid(document, DrawnElements);
-    QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
+    bench::FillGrid(document, drawnElements);
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     Adv3d vista;
-    showAll(document, vista);
+    ShowAll(document, vista);
     for (auto _ : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
@@ -122,9 +122,9 @@ void drawOurs(benchmark::State& state) {
 }
 
 // The same lines and the same marks of the nodes, projected and handed to the painter without any model behind them.
-void drawPolylines(benchmark::State& state) {
+void DrawPolylines(benchmark::State& state) {
     HostDocument document;
-    bench::fillGrid(document, DrawnElements);
+    bench::FillGrid(document, drawnElements);
     std::vector<CFPoint> ends;
     for (int i = 0; i < document.GetSizeTravi(); ++i) {
         ends.push_back(*document.GetIndexTrave(i)->GetNodoIniziale()->GetPunto());
@@ -133,9 +133,9 @@ void drawPolylines(benchmark::State& state) {
     std::vector<CFPoint> nodes;
     for (int i = 0; i < document.GetSizeNodi(); ++i)
         nodes.push_back(*document.GetIndexNodo(i)->GetPunto());
-    QImage image(Side, Side, QImage::Format_ARGB32_Premultiplied);
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     Adv3d vista;
-    showAll(document, vista);
+    ShowAll(document, vista);
     for (auto _ : state) {
         image.fill(Qt::white);
         QPainter painter(&image);
@@ -158,29 +158,29 @@ void drawPolylines(benchmark::State& state) {
     }
 }
 
-constexpr int FiledNodes = Million / 2; // and as many beams
+constexpr int filedNodes = million / 2; // and as many beams
 
 struct TemporaryFile {
     QTemporaryDir folder;
     std::string path = folder.filePath("modello.asg").toStdString();
 };
 
-void saveOurs(benchmark::State& state) {
-    const DocumentData data = bench::makeGrid(FiledNodes);
+void SaveOurs(benchmark::State& state) {
+    const DocumentData data = bench::MakeGrid(filedNodes);
     const TemporaryFile file;
     for (auto _ : state)
         SaveProject(data, file.path, "bench");
 }
 
-void openOurs(benchmark::State& state) {
+void OpenOurs(benchmark::State& state) {
     const TemporaryFile file;
-    SaveProject(bench::makeGrid(FiledNodes), file.path, "bench");
+    SaveProject(bench::MakeGrid(filedNodes), file.path, "bench");
     for (auto _ : state)
         benchmark::DoNotOptimize(LoadProject(file.path));
 }
 
 // Rows of the same numbers in two plain tables.
-void saveRows(const std::string& path, const DocumentData& data) {
+void SaveRows(const std::string& path, const DocumentData& data) {
     std::remove(path.c_str());
     sqlite3* database = nullptr;
     sqlite3_open(path.c_str(), &database);
@@ -217,15 +217,15 @@ void saveRows(const std::string& path, const DocumentData& data) {
     sqlite3_close(database);
 }
 
-void saveTheirs(benchmark::State& state) {
-    const DocumentData data = bench::makeGrid(FiledNodes);
+void SaveTheirs(benchmark::State& state) {
+    const DocumentData data = bench::MakeGrid(filedNodes);
     const TemporaryFile file;
     for (auto _ : state)
-        saveRows(file.path, data);
+        SaveRows(file.path, data);
 }
 
 // Reads the rows back into plain records: no objects, no checks.
-void openTheirs(benchmark::State& state) {
+void OpenTheirs(benchmark::State& state) {
     struct Node {
         int id;
         double x, y, z;
@@ -235,7 +235,7 @@ void openTheirs(benchmark::State& state) {
         double beta;
     };
     const TemporaryFile file;
-    saveRows(file.path, bench::makeGrid(FiledNodes));
+    SaveRows(file.path, bench::MakeGrid(filedNodes));
     for (auto _ : state) {
         sqlite3* database = nullptr;
         sqlite3_open(file.path.c_str(), &database);
@@ -262,9 +262,9 @@ void openTheirs(benchmark::State& state) {
     }
 }
 
-const bench::Ratio nodeLookUp("node_by_place_of_1000000", lookUp, lookUpRounded, 2);
-const bench::Ratio draw("draw_100000_elements", drawOurs, drawPolylines, 1.5);
-const bench::Ratio save("save_1000000_elements", saveOurs, saveTheirs, 2, benchmark::kSecond);
-const bench::Ratio open("open_1000000_elements", openOurs, openTheirs, 2, benchmark::kSecond);
+const bench::Ratio nodeLookUp("node_by_place_of_1000000", LookUp, LookUpRounded, 2);
+const bench::Ratio draw("draw_100000_elements", DrawOurs, DrawPolylines, 1.5);
+const bench::Ratio save("save_1000000_elements", SaveOurs, SaveTheirs, 2, benchmark::kSecond);
+const bench::Ratio open("open_1000000_elements", OpenOurs, OpenTheirs, 2, benchmark::kSecond);
 
 } // namespace

@@ -9,7 +9,7 @@ namespace bench {
 
 // A cubic grid of nodes, one apart, joined along the first axis by beams with one material and one section: about as
 // many beams as nodes.
-DocumentData makeGrid(int nodes);
-void fillGrid(HostDocument& document, int nodes);
+DocumentData MakeGrid(int nodes);
+void FillGrid(HostDocument& document, int nodes);
 
 } // namespace bench

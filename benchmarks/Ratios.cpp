@@ -16,20 +16,20 @@ struct Comparison {
     double aim;
 };
 
-std::vector<Comparison>& comparisons() {
+std::vector<Comparison>& Comparisons() {
     static std::vector<Comparison> all;
     return all;
 }
 
-constexpr int Repetitions = 5;
+constexpr int repetitions = 5;
 
-std::string add(const std::string& name, Body body, benchmark::TimeUnit unit, long argument = -1) {
+std::string Add(const std::string& name, Body body, benchmark::TimeUnit unit, long argument = -1) {
     auto* registered = benchmark::RegisterBenchmark(name.c_str(), body);
-    registered->Unit(unit)->UseRealTime()->Repetitions(Repetitions)->ReportAggregatesOnly();
+    registered->Unit(unit)->UseRealTime()->Repetitions(repetitions)->ReportAggregatesOnly();
     if (argument < 0)
-        return name + "/repeats:" + std::to_string(Repetitions) + "/real_time";
+        return name + "/repeats:" + std::to_string(repetitions) + "/real_time";
     registered->Arg(argument);
-    return name + "/" + std::to_string(argument) + "/repeats:" + std::to_string(Repetitions) + "/real_time";
+    return name + "/" + std::to_string(argument) + "/repeats:" + std::to_string(repetitions) + "/real_time";
 }
 
 // The usual table, and the median of each benchmark kept in seconds.
@@ -46,7 +46,7 @@ class Medians : public benchmark::ConsoleReporter {
     }
 };
 
-void print(const Comparison& comparison, const std::map<std::string, double>& seconds) {
+void Print(const Comparison& comparison, const std::map<std::string, double>& seconds) {
     const auto ours = seconds.find(comparison.ours);
     if (ours == seconds.end())
         return; // filtered out
@@ -63,29 +63,29 @@ void print(const Comparison& comparison, const std::map<std::string, double>& se
 } // namespace
 
 Ratio::Ratio(const std::string& name, Body ours, Body theirs, double aim, benchmark::TimeUnit unit) {
-    comparisons().push_back({name, add(name + "/ours", ours, unit), add(name + "/peer", theirs, unit), 1, aim});
+    Comparisons().push_back({name, Add(name + "/ours", ours, unit), Add(name + "/peer", theirs, unit), 1, aim});
 }
 
 Growth::Growth(const std::string& name, Body body, long small, long large, double items, double aim,
                benchmark::TimeUnit unit) {
-    const std::string first = add(name, body, unit, small);
-    const std::string second = add(name, body, unit, large);
-    comparisons().push_back({name, second, first, items, aim});
+    const std::string first = Add(name, body, unit, small);
+    const std::string second = Add(name, body, unit, large);
+    Comparisons().push_back({name, second, first, items, aim});
 }
 
 Limit::Limit(const std::string& name, Body body, double milliseconds, benchmark::TimeUnit unit) {
-    comparisons().push_back({name, add(name, body, unit), {}, 1, milliseconds});
+    Comparisons().push_back({name, Add(name, body, unit), {}, 1, milliseconds});
 }
 
-int runAll(int argc, char** argv) {
+int RunAll(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     Medians medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
     std::printf("\n");
-    for (const Comparison& comparison : comparisons())
-        print(comparison, medians.seconds);
+    for (const Comparison& comparison : Comparisons())
+        Print(comparison, medians.seconds);
     return 0;
 }
 

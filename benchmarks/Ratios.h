@@ -29,6 +29,6 @@ struct Limit {
 };
 
 // Runs everything that was registered; the result is the process's exit status.
-int runAll(int argc, char** argv);
+int RunAll(int argc, char** argv);
 
 } // namespace bench

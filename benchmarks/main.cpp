@@ -1,9 +1,9 @@
 #include "benchmarks/BenchDialogs.h"
 #include "benchmarks/Ratios.h"
-#include "platform/Application.h"
+#include "platform/window/Application.h"
 
 int main(int argc, char** argv) {
     CWinApp application("Quovar", argc, argv);
-    bench::installTemplates();
-    return bench::runAll(argc, argv);
+    bench::InstallTemplates();
+    return bench::RunAll(argc, argv);
 }

@@ -6,10 +6,10 @@ set -euo pipefail
 
 group_packages() {
     case "$1" in
-    build) echo build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libsqlite3-dev libeigen3-dev libsuitesparse-dev libopenblas-dev libgtest-dev fonts-liberation ;;
+    build) echo build-essential cmake ninja-build qt6-base-dev qt6-svg-dev qt6-translations-l10n libsqlite3-dev libeigen3-dev libsuitesparse-dev libopenblas-dev fonts-liberation ;;
     wayland) echo qt6-wayland ;;
-    test) echo xvfb xauth openbox locales ;;
-    bench) echo libbenchmark-dev qt6-tools-dev ;;
+    test) echo libgtest-dev xvfb xauth openbox locales ;;
+    bench) echo libbenchmark-dev qt6-tools-dev libqt6opengl6-dev ;; # the last is a piece of UiTools that no package asks for
     format) echo clang-format git ;;
     *)
         echo "install-packages.sh: unknown group $1" >&2

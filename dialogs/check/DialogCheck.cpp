@@ -4,12 +4,12 @@
 #include "dialogs/frame/MainFrame.h"
 #include "dialogs/frame/QuovarGlobal.h"
 #include "dialogs/frame/QuovarSelection.h"
-#include "model/Asta.h"
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Solaio.h"
-#include "model/Trave.h"
-#include "platform/DataExchange.h"
+#include "model/element/Asta.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "platform/window/DataExchange.h"
 
 #include <algorithm>
 #include <vector>
@@ -98,9 +98,9 @@ void CDialogCheck::Check() {
     if (!pDoc->IsUnica())
         AddRiga("ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!");
     CheckStructures(*pDoc);
-    CheckTravi(*pDoc);
-    CheckRotazioni(*pDoc);
-    if (!CheckElementi(*pDoc))
+    CheckBeams(*pDoc);
+    CheckRotations(*pDoc);
+    if (!CheckElements(*pDoc))
         return;
     AddRiga("");
     AddRiga("--- Fine Messaggi ---");
@@ -133,7 +133,7 @@ void CDialogCheck::CheckStructures(CQuovarDoc& doc) {
     }
 }
 
-void CDialogCheck::CheckTravi(CQuovarDoc& doc) {
+void CDialogCheck::CheckBeams(CQuovarDoc& doc) {
     CString text;
     for (int i = 0; i < doc.GetSizeTravi(); ++i) {
         CTrave* pTrave = doc.GetIndexTrave(i);
@@ -145,7 +145,7 @@ void CDialogCheck::CheckTravi(CQuovarDoc& doc) {
 }
 
 // A member or membrane gets one row for each of its nodes that is free to rotate.
-void CDialogCheck::CheckRotazioni(CQuovarDoc& doc) {
+void CDialogCheck::CheckRotations(CQuovarDoc& doc) {
     RotationCheck rotations;
     const auto check = [&](CElemento* pElemento, const CString& format, UINT kind) {
         for (int i = 0; pElemento && i < pElemento->GetSize(); ++i) {
@@ -164,7 +164,7 @@ void CDialogCheck::CheckRotazioni(CQuovarDoc& doc) {
 }
 
 // True when every node and element is sound.
-bool CDialogCheck::CheckElementi(CQuovarDoc& doc) {
+bool CDialogCheck::CheckElements(CQuovarDoc& doc) {
     bool sound = true;
     for (int i = 0; i < doc.GetSizeNodi(); ++i)
         if (!CheckElemento(doc.GetIndexNodo(i)))

@@ -3,7 +3,7 @@
 
 #include "dialogs/check/StructureSearch.h"
 #include "dialogs/frame/DialogDocument.h"
-#include "platform/ListBox.h"
+#include "platform/controls/ListBox.h"
 
 class CDialogCheck : public CDialogDocument, private StructureSearch {
     DECLARE_DYNAMIC(CDialogCheck)
@@ -33,9 +33,9 @@ class CDialogCheck : public CDialogDocument, private StructureSearch {
     void Clear();
     void Check();
     void CheckStructures(CQuovarDoc& doc);
-    void CheckTravi(CQuovarDoc& doc);
-    void CheckRotazioni(CQuovarDoc& doc);
-    bool CheckElementi(CQuovarDoc& doc);
+    void CheckBeams(CQuovarDoc& doc);
+    void CheckRotations(CQuovarDoc& doc);
+    bool CheckElements(CQuovarDoc& doc);
     int CheckElemento(CElemento* pElemento); // 0 when it reported problems of its own
     void PlaceWindow();
     void ReposEditErrori();

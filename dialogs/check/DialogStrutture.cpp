@@ -2,13 +2,13 @@
 
 #include "dialogs/frame/QuovarGlobal.h"
 #include "dialogs/frame/QuovarSelection.h"
-#include "model/Adv3dRect.h"
-#include "model/Asta.h"
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Solaio.h"
-#include "model/Trave.h"
-#include "platform/DataExchange.h"
+#include "model/element/Asta.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/view/Adv3dRect.h"
+#include "platform/window/DataExchange.h"
 
 namespace {
 

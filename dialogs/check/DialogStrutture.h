@@ -3,7 +3,7 @@
 
 #include "dialogs/check/StructureSearch.h"
 #include "dialogs/frame/DialogDocument.h"
-#include "platform/TreeCtrl.h"
+#include "platform/controls/TreeCtrl.h"
 
 class CDialogStrutture : public CDialogDocument, protected StructureSearch {
     DECLARE_DYNAMIC(CDialogStrutture)

@@ -1,9 +1,9 @@
 #include "dialogs/check/RestraintCheck.h"
 
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Specifiche.h"
-#include "model/Trave.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Specifiche.h"
+#include "model/element/Trave.h"
 
 namespace {
 
@@ -11,7 +11,7 @@ constexpr int components = 6; // three translations, then three rotations
 constexpr int releases = 4;
 
 bool RotationsFixed(const CVincolo* restraint) {
-    return restraint && restraint->GetRotazioneX() && restraint->GetRotazioneY() && restraint->GetRotazioneZ();
+    return restraint && restraint->GetRotationX() && restraint->GetRotationY() && restraint->GetRotationZ();
 }
 
 bool HoldsRotations(CNodo& node) {
@@ -35,16 +35,16 @@ void StructureRestraint::Add(CNodo& node) {
 }
 
 void StructureRestraint::AddSpring(const CMolla& spring) {
-    if (spring.GetRigidezza().GetValore() == 0)
+    if (spring.GetStiffness().GetValue() == 0)
         return;
-    const CFPoint& d = spring.GetDirezione();
+    const CFPoint& d = spring.GetDirection();
     const double direction[] = {d.x, d.y, d.z};
     for (int axis = 0; axis < 3; ++axis) {
         if (direction[axis] == 0)
             continue;
-        if (spring.GetTipo() == CMolla::Traslazionale)
+        if (spring.GetTipo() == CMolla::Translational)
             m_held[axis] = true;
-        else if (spring.GetTipo() != CMolla::Rotazionale)
+        else if (spring.GetTipo() != CMolla::Rotational)
             continue;
         ++m_count;
     }
@@ -53,7 +53,7 @@ void StructureRestraint::AddSpring(const CMolla& spring) {
 void StructureRestraint::AddRestraint(const CVincolo& restraint) {
     int fixed = 0;
     for (int i = 0; i < components; ++i) {
-        if (!restraint.IsFisso(i))
+        if (!restraint.IsFixed(i))
             continue;
         ++fixed;
         if (i < 3)
@@ -74,8 +74,8 @@ bool ReleasedAtBothEnds(CTrave& beam) {
             continue;
         const auto* end = static_cast<const CSpecificheSvincoliTrave*>(specification);
         for (int k = 0; k < releases; ++k)
-            if (end->GetSvincolo(k))
-                released[end->GetEstremo() ? 1 : 0][k] = true;
+            if (end->GetRelease(k))
+                released[end->GetEnd() ? 1 : 0][k] = true;
     }
     // Only the same force let go at both ends leaves a movement free.
     for (int k = 0; k < releases; ++k)

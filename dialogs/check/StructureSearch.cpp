@@ -3,8 +3,8 @@
 #include "dialogs/frame/MainFrame.h"
 #include "dialogs/frame/QuovarDoc.h"
 #include "dialogs/frame/QuovarSelection.h"
-#include "model/Nodo.h"
-#include "platform/Application.h"
+#include "model/element/Nodo.h"
+#include "platform/window/Application.h"
 
 #include <algorithm>
 #include <memory>
@@ -18,7 +18,7 @@ CObArray* StructureSearch::GetIndexStructure(int i) const {
 }
 
 CObArray* StructureSearch::NewArray() {
-    return platform::allocating([] { return new CObArray; });
+    return platform::Allocating([] { return new CObArray; });
 }
 
 CObArray* StructureSearch::InsertNewStructure() {
@@ -50,7 +50,7 @@ void StructureSearch::FindStructures(CQuovarDoc* pDoc) {
     const int nodes = pDoc ? pDoc->GetSizeNodi() : 0;
     if (nodes == 0)
         return;
-    platform::allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
+    platform::Allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
     AddStructure(*pDoc, pDoc->GetIndexNodo(0));
     const WaitBar wait("Attendere...Ricerca delle strutture", static_cast<unsigned int>(nodes));
     for (int i = 0; i < nodes; ++i) {
@@ -83,7 +83,7 @@ void StructureSearch::RemoveAllStructures() {
 
 CurrentNodes::CurrentNodes(CQuovarDoc& doc) {
     const int nodes = doc.GetSizeNodi();
-    platform::allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
+    platform::Allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
     for (int i = 0; i < nodes; ++i)
         m_index.Add(doc.GetIndexNodo(i), 0);
 }

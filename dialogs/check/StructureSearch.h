@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/check/NodeIndex.h"
-#include "platform/Collections.h"
+#include "platform/core/Collections.h"
 
 class CNodo;
 class CQuovarDoc;

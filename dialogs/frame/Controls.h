@@ -1,8 +1,8 @@
 // What tool dialogs do alike with their controls.
 #pragma once
 
-#include "model/FPoint.h"
-#include "platform/DataExchange.h"
+#include "model/values/FPoint.h"
+#include "platform/window/DataExchange.h"
 
 #include <initializer_list>
 

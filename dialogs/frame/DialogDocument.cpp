@@ -1,6 +1,6 @@
 #include "dialogs/frame/DialogDocument.h"
 
-#include "model/Path.h"
+#include "model/values/Path.h"
 
 IMPLEMENT_DYNAMIC(CDialogDocument, CDialog)
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "dialogs/frame/QuovarView.h"
-#include "model/FPoint.h"
-#include "platform/Dialog.h"
+#include "model/values/FPoint.h"
+#include "platform/window/Dialog.h"
 
 class CDialogDocument : public CDialog {
     DECLARE_DYNAMIC(CDialogDocument)

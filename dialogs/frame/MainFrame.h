@@ -1,9 +1,9 @@
 // The host's main window, as the dialogs use it: the wait bar and the table area.
 #pragma once
 
-#include "platform/Geometry.h"
-#include "platform/String.h"
-#include "platform/Window.h"
+#include "platform/core/Geometry.h"
+#include "platform/core/String.h"
+#include "platform/window/Window.h"
 
 class CMainFrame : public CWnd {
   public:

@@ -1,7 +1,7 @@
 #include "dialogs/frame/Module.h"
 
-#include "platform/Module.h"
-#include "platform/Resource.h"
+#include "platform/resource/Module.h"
+#include "platform/resource/Resource.h"
 
 namespace resources {
 extern const platform::ResourceModule Quovar_Dialogs; // compiled from dialogs/resources

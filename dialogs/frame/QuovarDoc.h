@@ -4,9 +4,9 @@
 // document's length unit; a null result means "none".
 #pragma once
 
-#include "model/FPoint.h"
-#include "model/Units.h"
-#include "platform/View.h"
+#include "model/values/FPoint.h"
+#include "model/values/Units.h"
+#include "platform/window/View.h"
 
 class Adv3d;
 class Adv3dRect;

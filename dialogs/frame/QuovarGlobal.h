@@ -1,7 +1,7 @@
 // Static functions of the host: the active document, and the packing of document-change hints.
 #pragma once
 
-#include "platform/String.h"
+#include "platform/core/String.h"
 
 class CCasoCarico;
 class CQuovarDoc;

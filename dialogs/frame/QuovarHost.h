@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/frame/QuovarGlobal.h"
-#include "platform/String.h"
+#include "platform/core/String.h"
 
 class CMainFrame;
 

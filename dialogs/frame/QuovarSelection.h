@@ -1,7 +1,7 @@
 // The selection of a document, as the dialogs use it. Lengths are in the document's length unit.
 #pragma once
 
-#include "model/FPoint.h"
+#include "model/values/FPoint.h"
 
 class Adv3dRect;
 class CNodo;

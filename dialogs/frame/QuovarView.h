@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/frame/QuovarDoc.h"
-#include "platform/View.h"
+#include "platform/window/View.h"
 
 class CElementoSettings;
 

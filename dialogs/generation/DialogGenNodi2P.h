@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dialogs/frame/PickingDialog.h"
-#include "platform/SpinButton.h"
+#include "platform/controls/SpinButton.h"
 
 class CDialogGenNodi2P : public ConfirmedDialog {
     DECLARE_DYNAMIC(CDialogGenNodi2P)

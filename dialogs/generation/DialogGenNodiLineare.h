@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dialogs/frame/PickingDialog.h"
-#include "platform/SpinButton.h"
+#include "platform/controls/SpinButton.h"
 
 class CDialogGenNodiLineare : public ConfirmedDialog {
     DECLARE_DYNAMIC(CDialogGenNodiLineare)

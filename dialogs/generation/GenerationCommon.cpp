@@ -1,7 +1,7 @@
 #include "dialogs/generation/GenerationCommon.h"
 
-#include "platform/Application.h"
-#include "platform/SpinButton.h"
+#include "platform/controls/SpinButton.h"
+#include "platform/window/Application.h"
 
 void InitNodeSpin(CSpinButtonCtrl& spin) {
     spin.SetRange(1, 100);

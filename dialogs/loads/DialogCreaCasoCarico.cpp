@@ -1,8 +1,8 @@
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 
 #include "dialogs/frame/QuovarDoc.h"
-#include "platform/Application.h"
-#include "platform/DataExchange.h"
+#include "platform/window/Application.h"
+#include "platform/window/DataExchange.h"
 
 CDialogCreaCasoCarico::CDialogCreaCasoCarico(CWnd* pParent) : CDialog(IDD, pParent) {
 }

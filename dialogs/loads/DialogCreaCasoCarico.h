@@ -1,7 +1,7 @@
 // Asks for the name of a load case, whose number it shows. It takes any name: see AskNewName.
 #pragma once
 
-#include "platform/Dialog.h"
+#include "platform/window/Dialog.h"
 
 class CQuovarDoc;
 

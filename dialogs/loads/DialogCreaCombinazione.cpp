@@ -2,10 +2,10 @@
 
 #include "dialogs/frame/QuovarDoc.h"
 #include "dialogs/frame/QuovarGlobal.h"
-#include "model/CasoCarico.h"
-#include "platform/Application.h"
-#include "platform/DataExchange.h"
-#include "platform/Exception.h"
+#include "model/entity/CasoCarico.h"
+#include "platform/core/Exception.h"
+#include "platform/window/Application.h"
+#include "platform/window/DataExchange.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -2,11 +2,11 @@
 // it when the user confirms.
 #pragma once
 
-#include "model/Combinazione.h"
-#include "platform/Button.h"
-#include "platform/Dialog.h"
-#include "platform/Edit.h"
-#include "platform/ListBox.h"
+#include "model/entity/Combinazione.h"
+#include "platform/controls/Button.h"
+#include "platform/controls/Edit.h"
+#include "platform/controls/ListBox.h"
+#include "platform/window/Dialog.h"
 
 class CQuovarDoc;
 

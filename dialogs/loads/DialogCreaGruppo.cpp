@@ -1,6 +1,6 @@
 #include "dialogs/loads/DialogCreaGruppo.h"
 
-#include "platform/DataExchange.h"
+#include "platform/window/DataExchange.h"
 
 CDialogCreaGruppo::CDialogCreaGruppo(CWnd* pParent) : CDialog(IDD, pParent) {
 }

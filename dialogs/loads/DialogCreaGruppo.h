@@ -1,7 +1,7 @@
 // Asks for the name of a group. What a name may be is the caller's rule.
 #pragma once
 
-#include "platform/Dialog.h"
+#include "platform/window/Dialog.h"
 
 class CDialogCreaGruppo : public CDialog {
   public:

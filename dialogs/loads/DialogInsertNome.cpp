@@ -1,6 +1,6 @@
 #include "dialogs/loads/DialogInsertNome.h"
 
-#include "platform/DataExchange.h"
+#include "platform/window/DataExchange.h"
 
 CDialogInsertNome::CDialogInsertNome(CWnd* pParent) : CDialog(IDD, pParent) {
 }

@@ -1,7 +1,7 @@
 // Asks for one line of text under a prompt of the caller's. It ends through OK only.
 #pragma once
 
-#include "platform/Dialog.h"
+#include "platform/window/Dialog.h"
 
 class CDialogInsertNome : public CDialog {
   public:

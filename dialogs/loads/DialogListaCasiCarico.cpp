@@ -6,12 +6,12 @@
 #include "dialogs/frame/QuovarGlobal.h"
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 #include "dialogs/loads/ListSelection.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/ElementoRisultati.h"
-#include "model/Nodo.h"
-#include "model/Trave.h"
-#include "platform/DataExchange.h"
+#include "model/element/Nodo.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/result/ElementoRisultati.h"
+#include "platform/window/DataExchange.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ void CarryCopies(CQuovarDoc& doc, CCasoCarico& source, CCasoCarico& copy) {
 void SwapAxialSigns(CQuovarDoc& doc) {
     for (int i = 0; i < doc.GetSizeTravi(); ++i) {
         CElementoRisultati* results = doc.GetIndexTrave(i)->GetRisultati();
-        if (CNodoRisultati* node = results ? results->GetNodoRisultati(farNode) : nullptr)
+        if (CNodoRisultati* node = results ? results->GetNodeResults(farNode) : nullptr)
             node->GetV1() = -node->GetV1();
     }
 }

@@ -2,9 +2,9 @@
 // the document at once.
 #pragma once
 
-#include "platform/Button.h"
-#include "platform/Dialog.h"
-#include "platform/ListBox.h"
+#include "platform/controls/Button.h"
+#include "platform/controls/ListBox.h"
+#include "platform/window/Dialog.h"
 
 class CCasoCarico;
 class CQuovarDoc;

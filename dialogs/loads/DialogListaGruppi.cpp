@@ -3,8 +3,8 @@
 #include "dialogs/frame/QuovarGlobal.h"
 #include "dialogs/frame/QuovarSelection.h"
 #include "dialogs/loads/ListSelection.h"
-#include "model/Gruppo.h"
-#include "platform/DataExchange.h"
+#include "model/entity/Gruppo.h"
+#include "platform/window/DataExchange.h"
 
 IMPLEMENT_DYNAMIC(CDialogListaGruppi, CDialogDocument)
 

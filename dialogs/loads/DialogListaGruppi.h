@@ -2,9 +2,9 @@
 #pragma once
 
 #include "dialogs/frame/DialogDocument.h"
-#include "platform/Button.h"
-#include "platform/Collections.h"
-#include "platform/ListBox.h"
+#include "platform/controls/Button.h"
+#include "platform/controls/ListBox.h"
+#include "platform/core/Collections.h"
 
 class CDialogListaGruppi : public CDialogDocument {
     DECLARE_DYNAMIC(CDialogListaGruppi)

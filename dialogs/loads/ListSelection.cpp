@@ -1,6 +1,6 @@
 #include "dialogs/loads/ListSelection.h"
 
-#include "platform/ListBox.h"
+#include "platform/controls/ListBox.h"
 
 #include <algorithm>
 

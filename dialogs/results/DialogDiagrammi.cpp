@@ -1,13 +1,13 @@
 #include "dialogs/results/DialogDiagrammi.h"
 
 #include "dialogs/frame/QuovarAnalisi.h"
-#include "model/DrawHelpers.h"
-#include "model/ElementoSettings.h"
-#include "model/Trave.h"
-#include "platform/DataExchange.h"
-#include "platform/DeviceContext.h"
-#include "platform/Menu.h"
-#include "platform/Resource.h"
+#include "model/element/Trave.h"
+#include "model/view/DrawHelpers.h"
+#include "model/view/ElementoSettings.h"
+#include "platform/drawing/DeviceContext.h"
+#include "platform/resource/Resource.h"
+#include "platform/window/DataExchange.h"
+#include "platform/window/Menu.h"
 
 #include <memory>
 

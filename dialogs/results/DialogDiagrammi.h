@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dialogs/frame/DialogDocument.h"
-#include "platform/Static.h"
+#include "platform/controls/Static.h"
 
 class CTrave;
 

@@ -1,8 +1,8 @@
 #include "dialogs/results/DialogNodoReazioniVincolari.h"
 
 #include "dialogs/frame/QuovarGlobal.h"
-#include "model/Nodo.h"
-#include "platform/DataExchange.h"
+#include "model/element/Nodo.h"
+#include "platform/window/DataExchange.h"
 
 IMPLEMENT_DYNAMIC(CDialogNodoReazioniVincolari, CDialogDocument)
 
@@ -66,7 +66,7 @@ void CDialogNodoReazioniVincolari::AggiornaDialog() {
         // The record holds what the node does to its support; the reaction is the opposite.
         CString text;
         if (pReazioni)
-            text.Format("%.3e", 0.0 - pReazioni->GetReazione(i));
+            text.Format("%.3e", 0.0 - pReazioni->GetReaction(i));
         edits[i]->SetWindowText(text);
     }
     m_btnNodo.SetWindowText(title);

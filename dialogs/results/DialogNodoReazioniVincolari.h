@@ -3,8 +3,8 @@
 #pragma once
 
 #include "dialogs/frame/DialogDocument.h"
-#include "platform/Button.h"
-#include "platform/Edit.h"
+#include "platform/controls/Button.h"
+#include "platform/controls/Edit.h"
 
 class CNodo;
 

@@ -2,8 +2,8 @@
 // joined on request. Coordinates are in the document's length unit, the angle in degrees.
 #pragma once
 
-#include "dialogs/selection/TwoPointDialog.h"
-#include "platform/SpinButton.h"
+#include "dialogs/frame/TwoPointDialog.h"
+#include "platform/controls/SpinButton.h"
 
 class CDialogCopiaRuota : public TwoPointDialog {
     DECLARE_DYNAMIC(CDialogCopiaRuota)

@@ -3,9 +3,9 @@
 #include "dialogs/frame/Controls.h"
 #include "dialogs/frame/MainFrame.h"
 #include "dialogs/selection/SelectionCommand.h"
-#include "model/Adv3dRect.h"
-#include "platform/Application.h"
-#include "platform/Collections.h"
+#include "model/view/Adv3dRect.h"
+#include "platform/core/Collections.h"
+#include "platform/window/Application.h"
 
 #include <algorithm>
 #include <climits>

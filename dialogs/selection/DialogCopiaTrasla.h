@@ -3,10 +3,10 @@
 // place. Coordinates and distances are in the document's length unit.
 #pragma once
 
-#include "dialogs/selection/TwoPointDialog.h"
-#include "platform/Edit.h"
-#include "platform/ListBox.h"
-#include "platform/SpinButton.h"
+#include "dialogs/frame/TwoPointDialog.h"
+#include "platform/controls/Edit.h"
+#include "platform/controls/ListBox.h"
+#include "platform/controls/SpinButton.h"
 
 class CDialogCopiaTrasla : public TwoPointDialog {
     DECLARE_DYNAMIC(CDialogCopiaTrasla)

@@ -1,7 +1,7 @@
 #include "dialogs/selection/SelectionCommand.h"
 
-#include "platform/Application.h"
-#include "platform/SpinButton.h"
+#include "platform/controls/SpinButton.h"
+#include "platform/window/Application.h"
 
 CommandUndo::CommandUndo(CQuovarDoc& doc, unsigned int kind, const Record& r) : m_undo(*doc.m_pUndo), m_kind(kind) {
     m_undo.BeginUndo(kind, r[0], r[1], r[2], r[3], r[4], r[5], r[6], r[7], r[8], r[9]);

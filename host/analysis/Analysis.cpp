@@ -3,8 +3,8 @@
 #include "dialogs/frame/MainFrame.h"
 #include "host/analysis/FrameSystem.h"
 #include "host/analysis/Refusal.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
 
 #include <algorithm>
 #include <chrono>
@@ -14,7 +14,7 @@ namespace host {
 
 namespace {
 
-Vector12 endMotions(const Member& member, const Eigen::VectorXd& all) {
+Vector12 EndMotions(const Member& member, const Eigen::VectorXd& all) {
     Vector12 global;
     global << all.segment<6>(6 * member.nodes[0]), all.segment<6>(6 * member.nodes[1]);
     return member.ToLocal(global);
@@ -46,7 +46,7 @@ class CaseAnalysis {
         for (std::size_t i = 0; i < m_model.members.size(); ++i) {
             double ends[12];
             Eigen::Map<Vector12>(ends, 12) = m_ends[i];
-            m_loads.lines[i].SetForzeEstremi(ends);
+            m_loads.lines[i].SetEndForces(ends);
         }
         results.lines = std::move(m_loads.lines);
         results.displacements.resize(m_model.nodes.size());
@@ -72,7 +72,7 @@ class CaseAnalysis {
             const Member& member = m_model.members[i];
             Vector12 ends = m_ends[i];
             if (motions) {
-                const Vector12 moved = endMotions(member, *motions);
+                const Vector12 moved = EndMotions(member, *motions);
                 if (!moved.isZero(0))
                     ends += Stiffness(member) * moved;
             } else if (ends.isZero(0)) {
@@ -87,7 +87,7 @@ class CaseAnalysis {
 
     void CompleteEnds(const Eigen::VectorXd& displacements) {
         for (std::size_t i = 0; i < m_ends.size(); ++i)
-            m_ends[i] += Stiffness(m_model.members[i]) * endMotions(m_model.members[i], displacements);
+            m_ends[i] += Stiffness(m_model.members[i]) * EndMotions(m_model.members[i], displacements);
     }
 
     // What the ends of members on a node need beyond its loads, its springs must give, unless a support does. What is
@@ -141,7 +141,7 @@ class CaseAnalysis {
 };
 
 // The long part: done aside, so that the window stays alive.
-void factor(FrameSystem& system) {
+void Factor(FrameSystem& system) {
     constexpr std::chrono::milliseconds refresh(50);
     const WaitBar wait("Attendere...Soluzione delle equazioni.", 0);
     std::future<void> done = std::async(std::launch::async, [&system] { system.Factor(); });
@@ -160,7 +160,7 @@ AnalysisOutcome Analyse(DocumentData& data) {
             throw Refusal("Il modello non ha casi di carico.");
         FrameModel model = ReadFrame(data);
         FrameSystem system(model);
-        factor(system);
+        Factor(system);
         const LoadTable table(model);
         const WaitBar wait("Attendere...Analisi dei casi di carico.", static_cast<unsigned>(count));
         for (int i = 0; i < count; ++i) {
@@ -188,7 +188,7 @@ CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& 
             sum.lines.resize(each.lines.size());
             for (std::size_t i = 0; i < sum.lines.size(); ++i) {
                 sum.lines[i].SetID(each.lines[i].GetID());
-                sum.lines[i].SetLunghezzaLinea(each.lines[i].GetLunghezzaLinea());
+                sum.lines[i].SetLineLength(each.lines[i].GetLunghezzaLinea());
             }
             sum.reactions = each.reactions;
             for (CaseResults::Reaction& reaction : sum.reactions)
@@ -200,7 +200,7 @@ CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& 
             for (std::size_t j = 0; j < 6; ++j)
                 sum.displacements[i][j] += factor * each.displacements[i][j];
         for (std::size_t i = 0; i < sum.lines.size(); ++i)
-            sum.lines[i].Somma(each.lines[i], factor);
+            sum.lines[i].Sum(each.lines[i], factor);
         for (std::size_t i = 0; i < sum.reactions.size(); ++i)
             for (std::size_t j = 0; j < 6; ++j)
                 sum.reactions[i].values[j] += factor * each.reactions[i].values[j];

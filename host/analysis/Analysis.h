@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/document/DocumentData.h"
-#include "model/LineaRisultati.h"
+#include "model/result/LineaRisultati.h"
 
 #include <array>
 #include <vector>

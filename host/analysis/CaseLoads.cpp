@@ -3,8 +3,8 @@
 
 #include "host/analysis/Analysis.h"
 #include "host/analysis/Refusal.h"
-#include "model/CasoCarico.h"
-#include "model/Materiale.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Materiale.h"
 
 #include <algorithm>
 
@@ -12,33 +12,33 @@ namespace host {
 
 namespace {
 
-Eigen::Vector3d localVector(const Member& member, CCarico& load, const CFPoint& vector) {
+Eigen::Vector3d LocalVector(const Member& member, CCarico& load, const CFPoint& vector) {
     const Eigen::Vector3d given(vector.x, vector.y, vector.z);
-    return load.GetRiferimento() == CCarico::Locale ? given : Eigen::Vector3d(member.axes * given);
+    return load.GetReference() == CCarico::Local ? given : Eigen::Vector3d(member.axes * given);
 }
 
-void copy(const Eigen::Vector3d& from, double (&to)[3]) {
+void Copy(const Eigen::Vector3d& from, double (&to)[3]) {
     for (int i = 0; i < 3; ++i)
         to[i] = from(i) + 0.0; // no negative zeros
 }
 
-void addUniform(CTraveRisultati& line, const Member& member, const Eigen::Vector3d& local) {
+void AddUniform(CTraveRisultati& line, const Member& member, const Eigen::Vector3d& local) {
     if (local.isZero(0))
         return;
-    CTraveRisultati::Ripartito load;
+    CTraveRisultati::Distributed load;
     load.a = member.length;
-    copy(local, load.inizio);
-    copy(local, load.fine);
+    Copy(local, load.inizio);
+    Copy(local, load.fine);
     line.AddCarico(load);
 }
 
 // Each axis of the load has a stretch of its own. False when a part of it lies beyond the member's ends, and is cut
 // off.
-bool addTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoidale& load) {
+bool AddTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoidale& load) {
     bool inside = true;
     const double slack = sameEnd * member.length;
     for (int axis = 0; axis < 3; ++axis) {
-        auto part = load.GetTratto(axis);
+        auto part = load.GetStretch(axis);
         if (part.inizio == 0 && part.fine == 0)
             continue;
         if (part.a < part.da) {
@@ -52,34 +52,34 @@ bool addTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoi
         const double slope = (part.fine - part.inizio) / (part.a - part.da);
         CFPoint direction;
         (axis == 0 ? direction.x : axis == 1 ? direction.y : direction.z) = 1;
-        const Eigen::Vector3d along = localVector(member, load, direction);
-        CTraveRisultati::Ripartito stretch;
+        const Eigen::Vector3d along = LocalVector(member, load, direction);
+        CTraveRisultati::Distributed stretch;
         stretch.da = from;
         stretch.a = to;
         // The last value as it was given, unless it was cut: a triangle ends at exactly 0.
         const double last = to == part.a ? part.fine : part.inizio + slope * (to - part.da);
-        copy(along * (part.inizio + slope * (from - part.da)), stretch.inizio);
-        copy(along * last, stretch.fine);
+        Copy(along * (part.inizio + slope * (from - part.da)), stretch.inizio);
+        Copy(along * last, stretch.fine);
         line.AddCarico(stretch);
     }
     return inside;
 }
 
 // False, and nothing added, for a load beyond the member's ends.
-bool addConcentrated(CTraveRisultati& line, const Member& member, CCaricoConcentrato& load) {
-    CTraveRisultati::Concentrato point;
-    point.x = std::clamp(load.GetDistanza(), 0.0, member.length);
-    if (!(std::abs(point.x - load.GetDistanza()) <= sameEnd * member.length))
+bool AddConcentrated(CTraveRisultati& line, const Member& member, CCaricoConcentrato& load) {
+    CTraveRisultati::PointForce point;
+    point.x = std::clamp(load.GetDistance(), 0.0, member.length);
+    if (!(std::abs(point.x - load.GetDistance()) <= sameEnd * member.length))
         return false;
-    copy(localVector(member, load, load.GetVettoreForza()), point.forza);
-    copy(localVector(member, load, load.GetVettoreMomento()), point.momento);
+    Copy(LocalVector(member, load, load.GetForceVector()), point.force);
+    Copy(LocalVector(member, load, load.GetMomentVector()), point.moment);
     line.AddCarico(point);
     return true;
 }
 
-ThermalStrain strainOf(CCaricoTemperatura& load, const Member& member) {
-    const double alpha = load.GetAlfa() != 0 ? load.GetAlfa() : member.line->GetMateriale()->GetAlfa();
-    return {alpha * load.GetTemperatura(), alpha * load.GetGradiente2(), alpha * load.GetGradiente3()};
+ThermalStrain StrainOf(CCaricoTemperatura& load, const Member& member) {
+    const double alpha = load.GetAlpha() != 0 ? load.GetAlpha() : member.line->GetMateriale()->GetAlpha();
+    return {alpha * load.GetTemperature(), alpha * load.GetGradient2(), alpha * load.GetGradient3()};
 }
 
 class Gatherer {
@@ -90,7 +90,7 @@ class Gatherer {
         loads.lines.resize(model.members.size());
         for (std::size_t i = 0; i < model.members.size(); ++i) {
             loads.lines[i].SetID(model.members[i].line->GetID());
-            loads.lines[i].SetLunghezzaLinea(model.members[i].length);
+            loads.lines[i].SetLineLength(model.members[i].length);
         }
     }
 
@@ -98,7 +98,7 @@ class Gatherer {
         const Eigen::Vector3d global(acceleration.x, acceleration.y, acceleration.z);
         for (std::size_t i = 0; i < m_model.members.size(); ++i) {
             const Member& member = m_model.members[i];
-            addUniform(m_loads.lines[i], member, member.axes * global * member.mass);
+            AddUniform(m_loads.lines[i], member, member.axes * global * member.mass);
         }
     }
 
@@ -107,18 +107,18 @@ class Gatherer {
         CTraveRisultati& line = m_loads.lines[static_cast<std::size_t>(index)];
         switch (load.GetTipoElemento()) {
         case TipoElemento::CaricoUniforme:
-            addUniform(line, member, localVector(member, load, static_cast<CCaricoUniforme&>(load).GetCarico()));
+            AddUniform(line, member, LocalVector(member, load, static_cast<CCaricoUniforme&>(load).GetCarico()));
             break;
         case TipoElemento::CaricoTrapezoidale:
-            if (!addTrapezoidal(line, member, static_cast<CCaricoTrapezoidale&>(load)))
+            if (!AddTrapezoidal(line, member, static_cast<CCaricoTrapezoidale&>(load)))
                 LeaveOutBeyond(member);
             break;
         case TipoElemento::CaricoConcentrato:
-            if (!addConcentrated(line, member, static_cast<CCaricoConcentrato&>(load)))
+            if (!AddConcentrated(line, member, static_cast<CCaricoConcentrato&>(load)))
                 LeaveOutBeyond(member);
             break;
         case TipoElemento::CaricoTemperatura: {
-            const ThermalStrain strain = strainOf(static_cast<CCaricoTemperatura&>(load), member);
+            const ThermalStrain strain = StrainOf(static_cast<CCaricoTemperatura&>(load), member);
             ThermalStrain& sum = m_loads.thermal[index];
             sum.axial += strain.axial;
             sum.curvature2 += strain.curvature2;
@@ -133,10 +133,10 @@ class Gatherer {
     void OnNode(int index, CCarico& load) {
         if (load.GetTipoElemento() == TipoElemento::CaricoNodale) {
             auto& nodal = static_cast<CCaricoNodale&>(load);
-            Force(index, {nodal.GetVettoreForza(), nodal.GetVettoreMomento()});
+            Force(index, {nodal.GetForceVector(), nodal.GetMomentVector()});
         } else if (load.GetTipoElemento() == TipoElemento::CaricoSpostamento) {
             auto& moved = static_cast<CCaricoSpostamento&>(load);
-            Displacement(index, {moved.GetSpostamento(), moved.GetRotazione()});
+            Displacement(index, {moved.GetDisplacement(), moved.GetRotation()});
         } else {
             LeaveOut("Un carico di tipo non previsto sul nodo n.ro %d non è considerato."_t, IdOf(index));
         }
@@ -213,7 +213,7 @@ CaseLoads LoadTable::Gather(FrameModel& model, CCasoCarico& loadCase) const {
     for (int i = 0; i < loadCase.GetSizeCarichi(); ++i) {
         CCarico* load = loadCase.GetIndexCarico(i);
         if (load->GetTipoElemento() == TipoElemento::CaricoPesoProprio)
-            gatherer.Weight(static_cast<CCaricoPesoProprio*>(load)->GetAccelerazione());
+            gatherer.Weight(static_cast<CCaricoPesoProprio*>(load)->GetAcceleration());
     }
     const auto found = m_byCase.find(loadCase.GetID());
     if (found == m_byCase.end())

@@ -1,9 +1,9 @@
 #include "host/analysis/FrameModel.h"
 
 #include "host/analysis/Refusal.h"
-#include "model/Materiale.h"
-#include "model/Sezione.h"
-#include "model/Trave.h"
+#include "model/element/Trave.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
 
 #include <Eigen/Geometry>
 
@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-Eigen::Vector3d vectorOf(const CFPoint& point) {
+Eigen::Vector3d VectorOf(const CFPoint& point) {
     return {point.x, point.y, point.z};
 }
 
@@ -43,7 +43,7 @@ class Reader {
         for (const Member& member : m_model.members) {
             sum += member.length;
             for (const int node : member.nodes)
-                box.extend(vectorOf(*m_model.nodes[static_cast<std::size_t>(node)]->GetPunto()));
+                box.extend(VectorOf(*m_model.nodes[static_cast<std::size_t>(node)]->GetPunto()));
         }
         m_model.typicalLength = sum / static_cast<double>(m_model.members.size());
         m_model.extent = box.diagonal().norm();
@@ -60,7 +60,7 @@ class Reader {
             m_index.emplace(node, i);
             m_model.nodes.push_back(node);
             const CVincolo* restraint = node->GetVincolo();
-            m_model.fixed.push_back(restraint ? restraint->GetMaschera() : 0);
+            m_model.fixed.push_back(restraint ? restraint->GetMask() : 0);
             for (int j = 0; j < node->GetSizeMolle(); ++j)
                 ReadSpring(i, *node->GetIndexMolla(j));
         }
@@ -68,19 +68,19 @@ class Reader {
 
     void ReadSpring(int node, const CMolla& spring) {
         // Springs count in units of their own.
-        CGrandezza stiffness = spring.GetRigidezza();
+        CGrandezza stiffness = spring.GetStiffness();
         stiffness.ChangeLunghezza(m_data.Units().length);
         stiffness.ChangeForza(m_data.Units().force);
-        const Eigen::Vector3d direction = vectorOf(spring.GetDirezione());
+        const Eigen::Vector3d direction = VectorOf(spring.GetDirection());
         const int id = m_model.nodes[static_cast<std::size_t>(node)]->GetID();
-        if (!(stiffness.GetValore() >= 0) || !std::isfinite(stiffness.GetValore()))
+        if (!(stiffness.GetValue() >= 0) || !std::isfinite(stiffness.GetValue()))
             throw Refusal("La rigidezza di una molla del nodo n.ro %d non è valida."_t, id);
         if (!(direction.norm() > 0) || !direction.allFinite())
             throw Refusal("La direzione di una molla del nodo n.ro %d non è valida."_t, id);
-        if (stiffness.GetValore() == 0)
+        if (stiffness.GetValue() == 0)
             return;
         m_model.springs.push_back(
-            {node, spring.GetTipo() == CMolla::Rotazionale ? 3 : 0, direction.normalized(), stiffness.GetValore()});
+            {node, spring.GetTipo() == CMolla::Rotational ? 3 : 0, direction.normalized(), stiffness.GetValue()});
     }
 
     // Where only springs hold a node, most of its ways to move are nobody's.
@@ -101,14 +101,14 @@ class Reader {
         member.truss = truss;
         CNodo* ends[2] = {line.GetNodoIniziale(), line.GetNodoFinale()};
         CFPoint axes[3];
-        if (!ends[0] || !ends[1] || !line.GetAssiLocali(axes[0], axes[1], axes[2]))
+        if (!ends[0] || !ends[1] || !line.GetLocalAxes(axes[0], axes[1], axes[2]))
             Refuse(line, truss, "la lunghezza è nulla."_t);
         for (int i = 0; i < 2; ++i) {
             member.nodes[i] = m_index.at(ends[i]);
             m_model.active[static_cast<std::size_t>(member.nodes[i])] = true;
         }
         for (int i = 0; i < 3; ++i)
-            member.axes.row(i) = vectorOf(axes[i]);
+            member.axes.row(i) = VectorOf(axes[i]);
         member.length = line.GetLunghezzaLinea();
         ReadProperties(member, line, truss);
         if (!truss)
@@ -133,7 +133,7 @@ class Reader {
         need(positive(material->GetE()), "il modulo di elasticità del materiale non è maggiore di zero."_t);
         need(positive(section->GetArea()), "l'area della sezione non è maggiore di zero."_t);
         m.ea = material->GetE() * section->GetArea();
-        m.mass = material->GetDensita() * section->GetArea();
+        m.mass = material->GetDensity() * section->GetArea();
         if (truss)
             return;
         need(positive(material->GetG()), "il modulo di taglio del materiale non è maggiore di zero."_t);
@@ -152,7 +152,7 @@ class Reader {
     static void ReadReleases(Member& member, CTrave& beam) {
         static constexpr int places[4] = {0, 3, 4, 5}; // N, T, M2, M3
         for (int end = 0; end < 2; ++end) {
-            const unsigned released = beam.GetSvincoli(end);
+            const unsigned released = beam.GetReleases(end);
             for (int i = 0; i < 4; ++i)
                 if (released >> i & 1)
                     member.released |= 1u << (places[i] + 6 * end);

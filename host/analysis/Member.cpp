@@ -14,19 +14,19 @@ struct Plane {
 };
 constexpr Plane planes[2] = {{1, 5, 7, 11, 1.0}, {2, 4, 8, 10, -1.0}}; // displacements along 2, and along 3
 
-void addBar(Matrix12& k, int first, int second, double stiffness) {
+void AddBar(Matrix12& k, int first, int second, double stiffness) {
     k(first, first) += stiffness;
     k(second, second) += stiffness;
     k(first, second) -= stiffness;
     k(second, first) -= stiffness;
 }
 
-void addBending(Matrix12& k, const Plane& p, double ei, double shear, double length) {
+void AddBending(Matrix12& k, const Plane& p, double ei, double shear, double length) {
     const double unit = ei / ((1 + shear) * length * length * length);
     const double side = 6 * length * unit * p.sign;
     const double near = (4 + shear) * length * length * unit;
     const double far = (2 - shear) * length * length * unit;
-    addBar(k, p.v1, p.v2, 12 * unit);
+    AddBar(k, p.v1, p.v2, 12 * unit);
     const auto both = [&k](int i, int j, double value) {
         k(i, j) += value;
         k(j, i) += value;
@@ -40,14 +40,14 @@ void addBending(Matrix12& k, const Plane& p, double ei, double shear, double len
     k(p.r2, p.r2) += near;
 }
 
-Matrix12 wholeStiffness(const Member& m) {
+Matrix12 WholeStiffness(const Member& m) {
     Matrix12 k = Matrix12::Zero();
-    addBar(k, 0, 6, m.ea / m.length);
+    AddBar(k, 0, 6, m.ea / m.length);
     if (m.truss)
         return k;
-    addBar(k, 3, 9, m.gj / m.length);
-    addBending(k, planes[0], m.ei3, m.shear2, m.length);
-    addBending(k, planes[1], m.ei2, m.shear3, m.length);
+    AddBar(k, 3, 9, m.gj / m.length);
+    AddBending(k, planes[0], m.ei3, m.shear2, m.length);
+    AddBending(k, planes[1], m.ei2, m.shear3, m.length);
     return k;
 }
 
@@ -56,7 +56,7 @@ constexpr double nothing = 1e-12;
 
 // Frees the released components, one after the other. Calls `lost` with a component that nothing holds any more.
 template <class Lost>
-void condense(const Member& m, Matrix12& k, Vector12* forces, const Lost& lost) {
+void Condense(const Member& m, Matrix12& k, Vector12* forces, const Lost& lost) {
     const Vector12 before = k.diagonal();
     for (int d = 0; d < 12; ++d) {
         if (!(m.released >> d & 1))
@@ -84,7 +84,7 @@ struct Shape {
     double rotation[4];
 };
 
-Shape beamShape(double x, double length, double shear) {
+Shape BeamShape(double x, double length, double shear) {
     const double t = x / length, u = 1 - t, f = 1 / (1 + shear);
     return {
         {f * u * (u * (1 + 2 * t) + shear), f * length * t * u * (u + shear / 2), f * t * (t * (3 - 2 * t) + shear),
@@ -92,12 +92,12 @@ Shape beamShape(double x, double length, double shear) {
         {-f * 6 * t * u / length, f * u * (1 - 3 * t + shear), f * 6 * t * u / length, f * t * (3 * t - 2 + shear)}};
 }
 
-Shape trussShape(double x, double length) {
+Shape TrussShape(double x, double length) {
     const double t = x / length;
     return {{1 - t, 0, t, 0}, {-1 / length, 0, 1 / length, 0}};
 }
 
-void holdAcross(Vector12& f, const Plane& p, const Shape& shape, double force, double moment) {
+void HoldAcross(Vector12& f, const Plane& p, const Shape& shape, double force, double moment) {
     const int places[4] = {p.v1, p.r1, p.v2, p.r2};
     for (int i = 0; i < 4; ++i) {
         const double turn = i % 2 ? p.sign : 1.0; // of a rotation against the slope of the shape
@@ -106,20 +106,20 @@ void holdAcross(Vector12& f, const Plane& p, const Shape& shape, double force, d
 }
 
 // By the reciprocal theorem the ends' forces under a load are the work of the load in unit motions of the ends.
-void holdPoint(Vector12& f, const Member& m, double x, const double (&force)[3], const double (&moment)[3]) {
+void HoldPoint(Vector12& f, const Member& m, double x, const double (&force)[3], const double (&moment)[3]) {
     const double t = x / m.length;
     f(0) -= force[0] * (1 - t);
     f(6) -= force[0] * t;
     f(3) -= moment[0] * (1 - t);
     f(9) -= moment[0] * t;
     for (int i = 0; i < 2; ++i) {
-        const Shape shape = m.truss ? trussShape(x, m.length) : beamShape(x, m.length, i == 0 ? m.shear2 : m.shear3);
-        holdAcross(f, planes[i], shape, force[1 + i], moment[2 - i]);
+        const Shape shape = m.truss ? TrussShape(x, m.length) : BeamShape(x, m.length, i == 0 ? m.shear2 : m.shear3);
+        HoldAcross(f, planes[i], shape, force[1 + i], moment[2 - i]);
     }
 }
 
 // The shapes are cubic and the load linear: three points of Gauss integrate their product exactly.
-void holdDistributed(Vector12& f, const Member& m, const CTraveRisultati::Ripartito& load) {
+void HoldDistributed(Vector12& f, const Member& m, const CTraveRisultati::Distributed& load) {
     static constexpr double place[3] = {0.11270166537925831148, 0.5, 0.88729833462074168852};
     static constexpr double weight[3] = {5.0 / 18, 8.0 / 18, 5.0 / 18};
     static constexpr double none[3] = {};
@@ -128,11 +128,11 @@ void holdDistributed(Vector12& f, const Member& m, const CTraveRisultati::Ripart
         double force[3];
         for (int axis = 0; axis < 3; ++axis)
             force[axis] = weight[i] * length * (load.inizio[axis] + place[i] * (load.fine[axis] - load.inizio[axis]));
-        holdPoint(f, m, load.da + place[i] * length, force, none);
+        HoldPoint(f, m, load.da + place[i] * length, force, none);
     }
 }
 
-void holdThermal(Vector12& f, const Member& m, const ThermalStrain& thermal) {
+void HoldThermal(Vector12& f, const Member& m, const ThermalStrain& thermal) {
     const double axial = m.ea * thermal.axial;
     f(0) += axial;
     f(6) -= axial;
@@ -163,19 +163,19 @@ Vector12 Member::ToGlobal(const Vector12& local) const {
 }
 
 Matrix12 Stiffness(const Member& member) {
-    Matrix12 k = wholeStiffness(member);
+    Matrix12 k = WholeStiffness(member);
     if (member.released)
-        condense(member, k, nullptr, [](int, double) {});
+        Condense(member, k, nullptr, [](int, double) {});
     return k;
 }
 
 Vector12 FixedEndForces(const Member& member, const CTraveRisultati& loads, const ThermalStrain& thermal) {
     Vector12 f = Vector12::Zero();
-    for (const auto& load : loads.GetRipartiti())
-        holdDistributed(f, member, load);
-    for (const auto& load : loads.GetConcentrati())
-        holdPoint(f, member, load.x, load.forza, load.momento);
-    holdThermal(f, member, thermal);
+    for (const auto& load : loads.GetDistributed())
+        HoldDistributed(f, member, load);
+    for (const auto& load : loads.GetPointForces())
+        HoldPoint(f, member, load.x, load.force, load.moment);
+    HoldThermal(f, member, thermal);
     const double scale = f.cwiseAbs().maxCoeff();
     const auto lost = [&](int component, double force) {
         if (std::abs(force) <= 1e-9 * scale)
@@ -194,8 +194,8 @@ Vector12 FixedEndForces(const Member& member, const CTraveRisultati& loads, cons
         lost(9, f(9));
         f(3) = f(9) = 0;
     } else if (member.released) {
-        Matrix12 k = wholeStiffness(member);
-        condense(member, k, &f, lost);
+        Matrix12 k = WholeStiffness(member);
+        Condense(member, k, &f, lost);
     }
     return f;
 }

@@ -1,7 +1,7 @@
 // Why an analysis cannot be carried out.
 #pragma once
 
-#include "platform/String.h"
+#include "platform/core/String.h"
 
 #include <utility>
 

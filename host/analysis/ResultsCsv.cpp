@@ -5,25 +5,25 @@ namespace host {
 namespace {
 
 // The first four columns of every table.
-void writeKey(std::FILE* out, int loadCase, const char* kind, int id, int node) {
+void WriteKey(std::FILE* out, int loadCase, const char* kind, int id, int node) {
     std::fprintf(out, "%d,%s,%d,%d", loadCase, kind, id, node);
 }
 
-void writeSix(std::FILE* out, const double* values) {
+void WriteSix(std::FILE* out, const double* values) {
     for (int i = 0; i < 6; ++i)
         std::fprintf(out, ",%.17g", values[i]);
     std::fputc('\n', out);
 }
 
-void writeLine(std::FILE* out, int loadCase, const char* kind, CLinea& line, const CTraveRisultati& results) {
+void WriteLine(std::FILE* out, int loadCase, const char* kind, CLinea& line, const CTraveRisultati& results) {
     double ends[12];
-    results.GetForzeEstremi(ends);
+    results.GetEndForces(ends);
     for (double& value : ends)
         value += 0.0;
-    writeKey(out, loadCase, kind, line.GetID(), line.GetIDNodoIniziale());
-    writeSix(out, ends);
-    writeKey(out, loadCase, kind, line.GetID(), line.GetIDNodoFinale());
-    writeSix(out, ends + 6);
+    WriteKey(out, loadCase, kind, line.GetID(), line.GetIDNodoIniziale());
+    WriteSix(out, ends);
+    WriteKey(out, loadCase, kind, line.GetID(), line.GetIDNodoFinale());
+    WriteSix(out, ends + 6);
 }
 
 } // namespace
@@ -33,8 +33,8 @@ void WriteResults(const DocumentData& data, const std::vector<const CaseResults*
     for (const CaseResults* each : cases) {
         for (std::size_t i = 0; i < each->displacements.size(); ++i) {
             const int id = data.Node(static_cast<int>(i))->GetID();
-            writeKey(out, each->id, "nodo", id, id);
-            writeSix(out, each->displacements[i].data());
+            WriteKey(out, each->id, "nodo", id, id);
+            WriteSix(out, each->displacements[i].data());
         }
     }
     std::fputs("\ncaso,tipo,id,nodo,F1,F2,F3,M1,M2,M3\n", out);
@@ -43,16 +43,16 @@ void WriteResults(const DocumentData& data, const std::vector<const CaseResults*
         for (std::size_t i = 0; i < each->lines.size(); ++i) {
             const int index = static_cast<int>(i);
             if (index < beams)
-                writeLine(out, each->id, "trave", *data.As<CLinea>(Kind::Beam, index), each->lines[i]);
+                WriteLine(out, each->id, "trave", *data.As<CLinea>(Kind::Beam, index), each->lines[i]);
             else
-                writeLine(out, each->id, "asta", *data.As<CLinea>(Kind::Truss, index - beams), each->lines[i]);
+                WriteLine(out, each->id, "asta", *data.As<CLinea>(Kind::Truss, index - beams), each->lines[i]);
         }
     std::fputs("\ncaso,tipo,id,nodo,Fx,Fy,Fz,Mx,My,Mz\n", out);
     for (const CaseResults* each : cases)
         for (const CaseResults::Reaction& reaction : each->reactions) {
             const int id = data.Node(reaction.node)->GetID();
-            writeKey(out, each->id, "vincolo", id, id);
-            writeSix(out, reaction.values.data());
+            WriteKey(out, each->id, "vincolo", id, id);
+            WriteSix(out, reaction.values.data());
         }
 }
 

@@ -50,12 +50,12 @@ void Movement::Swap() {
 }
 
 Attributes::Attributes(DocumentData& data, CElemento& object)
-    : m_data(data), m_object(object), m_other(CreaCopia(object)) {
+    : m_data(data), m_object(object), m_other(CopyOf(object)) {
 }
 
 void Attributes::Swap() {
-    std::unique_ptr<CElemento> here = CreaCopia(m_object);
-    RipristinaStato(m_object, *m_other, m_data);
+    std::unique_ptr<CElemento> here = CopyOf(m_object);
+    RestoreState(m_object, *m_other, m_data);
     // The copy may have been made while the object was selected; the selection itself is restored after the step.
     m_object.SetSelect(0);
     m_other = std::move(here);
@@ -82,7 +82,7 @@ Carrying::Carrying(CCasoCarico& loadCase, const std::vector<CElementoCarico*>& c
 
 void Carrying::Undo() {
     for (const Carrier& carrier : m_carriers)
-        carrier.element->EliminaCarichiCaso(m_case.GetID());
+        carrier.element->RemoveLoadsOfCase(m_case.GetID());
 }
 
 void Carrying::Redo() {
@@ -94,10 +94,10 @@ void Carrying::Redo() {
 template <class Action>
 void Grouping::ForEachMember(Action action) {
     for (int i = 0; i < m_group.GetSizeElementi(); ++i) {
-        const unsigned code = m_group.GetTipoIndexElemento(i);
+        const unsigned code = m_group.GetElementKindAt(i);
         for (const Kind kind : allKinds)
             if (IsSelectableKind(kind) && CodeOf(kind) == code)
-                if (auto* member = m_data.FindAs<CElementoGruppo>(kind, m_group.GetIDIndexElemento(i)))
+                if (auto* member = m_data.FindAs<CElementoGruppo>(kind, m_group.GetElementIdAt(i)))
                     action(*member);
     }
 }
@@ -125,7 +125,7 @@ void LoadMembership::Swap() {
         m_case.AddCarico(m_load.get());
         m_load.release();
     } else {
-        m_load = m_case.StaccaCarico(m_id);
+        m_load = m_case.DetachLoad(m_id);
     }
 }
 

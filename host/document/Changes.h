@@ -3,8 +3,8 @@
 
 #include "host/document/DocumentData.h"
 #include "host/document/HostUndo.h"
-#include "model/CasoCarico.h"
-#include "model/Gruppo.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Gruppo.h"
 
 #include <cstdint>
 #include <utility>

@@ -2,11 +2,11 @@
 
 #include "dialogs/frame/MainFrame.h"
 #include "host/document/HostDocument.h"
-#include "model/Asta.h"
-#include "model/CasoCarico.h"
-#include "model/Linea.h"
-#include "model/Poligono.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Linea.h"
+#include "model/element/Poligono.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
 
 #include <cmath>
 #include <numbers>
@@ -42,8 +42,8 @@ bool HasNode(CElemento& element, CNodo* node) {
 
 double BetaAfter(CLineaFisica& line, const Motion& motion, const CFPoint& newFirst, const CFPoint& newSecond) {
     CFPoint axis1, axis2, axis3, base1, base2, base3;
-    if (!motion.Turns() || !line.GetAssiLocali(axis1, axis2, axis3) ||
-        !CLinea::_GetAssiLocali(newFirst, newSecond, 0, base1, base2, base3))
+    if (!motion.Turns() || !line.GetLocalAxes(axis1, axis2, axis3) ||
+        !CLinea::_GetLocalAxes(newFirst, newSecond, 0, base1, base2, base3))
         return line.GetBeta();
     const CFPoint third = motion.Direction(axis3);
     return Clean(std::atan2(-Dot(third, base2), Dot(third, base3)) * 180 / std::numbers::pi);
@@ -94,7 +94,7 @@ bool Copier::Copy(const Motion& motion, int join) {
 }
 
 void Copier::CopyNodes(const Motion& motion) {
-    const double tolerance = m_document.GetTolleranza();
+    const double tolerance = m_document.GetTolerance();
     m_next.resize(m_current.size());
     for (std::size_t i = 0; i < m_current.size(); ++i) {
         CNodo& original = *m_current[i];
@@ -113,11 +113,11 @@ void Copier::CopyNodes(const Motion& motion) {
 CNodo* Copier::CopyNode(CNodo& original, const CFPoint& place, const Motion& motion) {
     auto copy = std::make_unique<CNodo>();
     *copy = static_cast<const CNodo&>(original);
-    copy->SetPunto(place);
+    copy->SetPoint(place);
     while (copy->GetSizeGruppi() > 0)
         copy->EliminaGruppo(copy->GetIDGruppo(0));
     for (int i = 0; i < copy->GetSizeMolle(); ++i)
-        copy->GetIndexMolla(i)->GetDirezione() = motion.Direction(copy->GetIndexMolla(i)->GetDirezione());
+        copy->GetIndexMolla(i)->GetDirection() = motion.Direction(copy->GetIndexMolla(i)->GetDirection());
     return m_document.AddNew(std::move(copy), "Copia");
 }
 
@@ -211,7 +211,7 @@ namespace {
 
 // Changes the sign of what points along the second axis, or turns about the other two; false when nothing does.
 bool Mirror(CCarico& load) {
-    if (load.GetRiferimento() != CCarico::Locale)
+    if (load.GetReference() != CCarico::Local)
         return false;
     const auto flip = [](double& value) {
         const bool changes = value != 0;
@@ -222,15 +222,15 @@ bool Mirror(CCarico& load) {
     case TipoElemento::CaricoUniforme:
         return flip(static_cast<CCaricoUniforme&>(load).GetCarico().y);
     case TipoElemento::CaricoTrapezoidale: {
-        auto& part = static_cast<CCaricoTrapezoidale&>(load).GetTratto(1);
+        auto& part = static_cast<CCaricoTrapezoidale&>(load).GetStretch(1);
         return flip(part.inizio) | flip(part.fine);
     }
     case TipoElemento::CaricoConcentrato: {
         auto& point = static_cast<CCaricoConcentrato&>(load);
-        return flip(point.GetVettoreForza().y) | flip(point.GetVettoreMomento().x) | flip(point.GetVettoreMomento().z);
+        return flip(point.GetForceVector().y) | flip(point.GetMomentVector().x) | flip(point.GetMomentVector().z);
     }
     case TipoElemento::CaricoTemperatura:
-        return flip(static_cast<CCaricoTemperatura&>(load).GetGradiente2());
+        return flip(static_cast<CCaricoTemperatura&>(load).GetGradient2());
     default:
         return false;
     }
@@ -249,7 +249,7 @@ void Copier::MirrorLoads(CElementoCarico& copy) {
         CCarico*& mirrored = m_mirrored[load];
         if (!mirrored) {
             mirrored = load;
-            std::unique_ptr<CElemento> other = CreaCopia(*load);
+            std::unique_ptr<CElemento> other = CopyOf(*load);
             auto* loadCase = m_document.GetCasoCarico(load->GetIDCasoCarico(), nullptr);
             if (loadCase && other && Mirror(static_cast<CCarico&>(*other)))
                 mirrored =

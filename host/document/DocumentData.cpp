@@ -1,15 +1,15 @@
 #include "host/document/DocumentData.h"
 
-#include "model/Asta.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/Materiale.h"
-#include "model/Setto.h"
-#include "model/Sezione.h"
-#include "model/Solaio.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 
 #include <algorithm>
 #include <cmath>
@@ -78,7 +78,7 @@ DocumentData::~DocumentData() {
     if (m_grid)          // null once the content was moved away
         m_grid->Clear(); // at once, instead of node by node
     for (const Kind kind : {Kind::Beam, Kind::Truss, Kind::Wall, Kind::Slab, Kind::Node})
-        list(kind).objects.clear();
+        ListOf(kind).objects.clear();
 }
 
 DocumentData::DocumentData(DocumentData&&) noexcept = default;
@@ -101,32 +101,32 @@ bool DocumentData::Contains(CElemento& object) const {
 }
 
 int DocumentData::IndexOf(Kind kind, int id) const {
-    const auto& objects = list(kind).objects;
+    const auto& objects = ListOf(kind).objects;
     const auto found =
         std::find_if(objects.begin(), objects.end(), [id](const auto& object) { return object->GetID() == id; });
     return found == objects.end() ? -1 : static_cast<int>(found - objects.begin());
 }
 
 int DocumentData::NextId(Kind kind) const {
-    return list(counter(kind)).next;
+    return ListOf(Counter(kind)).next;
 }
 
-void DocumentData::enter(Kind kind, CElemento& object) {
-    List& its = list(kind);
+void DocumentData::Enter(Kind kind, CElemento& object) {
+    List& its = ListOf(kind);
     its.ids.Insert(object.GetID(), &object);
     if (kind == Kind::Node) {
         auto& node = static_cast<CNodo&>(object);
         m_grid->Insert(&node);
-        grow(*node.GetPunto());
+        Grow(*node.GetPunto());
     } else if (IsLineKind(kind)) {
-        static_cast<CLinea&>(object).CollegaNodi();
+        static_cast<CLinea&>(object).LinkNodes();
     } else if (IsPolygonKind(kind)) {
-        static_cast<CPoligono&>(object).CollegaNodi();
+        static_cast<CPoligono&>(object).LinkNodes();
     }
 }
 
-void DocumentData::leave(Kind kind, CElemento& object) {
-    list(kind).ids.Remove(object.GetID());
+void DocumentData::Leave(Kind kind, CElemento& object) {
+    ListOf(kind).ids.Remove(object.GetID());
     object.SetRisultati(nullptr); // the results may end while the object is out of the model
     if (kind == Kind::Node)
         m_grid->Remove(static_cast<CNodo*>(&object));
@@ -143,34 +143,34 @@ bool DocumentData::Append(std::unique_ptr<CElemento>& object) {
     const int id = object->GetID();
     if (id <= 0 || Find(kind, id))
         return false;
-    if (counter(kind) == Kind::LoadCase && Find(kind == Kind::LoadCase ? Kind::Combination : Kind::LoadCase, id))
+    if (Counter(kind) == Kind::LoadCase && Find(kind == Kind::LoadCase ? Kind::Combination : Kind::LoadCase, id))
         return false;
-    add(kind, std::move(object));
+    Add(kind, std::move(object));
     return true;
 }
 
 void DocumentData::Return(std::unique_ptr<CElemento> object) {
     Kind kind;
     if (object && KindOf(*object, kind))
-        add(kind, std::move(object));
+        Add(kind, std::move(object));
 }
 
-void DocumentData::add(Kind kind, std::unique_ptr<CElemento> object) {
-    enter(kind, *object);
+void DocumentData::Add(Kind kind, std::unique_ptr<CElemento> object) {
+    Enter(kind, *object);
     const int id = object->GetID();
-    int& next = list(counter(kind)).next;
+    int& next = ListOf(Counter(kind)).next;
     if (next != 0 && id >= next)
         next = id < 0x7fffffff ? id + 1 : 0;
-    list(kind).objects.push_back(std::move(object));
+    ListOf(kind).objects.push_back(std::move(object));
 }
 
 std::unique_ptr<CElemento> DocumentData::TakeLast(Kind kind) {
-    List& its = list(kind);
+    List& its = ListOf(kind);
     std::unique_ptr<CElemento> object = std::move(its.objects.back());
     its.objects.pop_back();
-    leave(kind, *object);
+    Leave(kind, *object);
     // The newest number is free again, so that a command repeated after its undo numbers alike.
-    int& next = list(counter(kind)).next;
+    int& next = ListOf(Counter(kind)).next;
     if (object->GetID() == next - 1)
         next = object->GetID();
     return object;
@@ -181,12 +181,12 @@ DocumentData::Taken DocumentData::Take(Kind kind, const std::vector<CElemento*>&
     taken.reserve(objects.size());
     for (CElemento* object : objects)
         object->SetAlready(1);
-    auto& from = list(kind).objects;
+    auto& from = ListOf(kind).objects;
     std::size_t kept = 0;
     for (std::size_t i = 0; i < from.size(); ++i) {
         if (from[i]->IsAlready()) {
             from[i]->SetAlready(0);
-            leave(kind, *from[i]);
+            Leave(kind, *from[i]);
             taken.emplace_back(i, std::move(from[i]));
         } else {
             if (kept != i)
@@ -199,7 +199,7 @@ DocumentData::Taken DocumentData::Take(Kind kind, const std::vector<CElemento*>&
 }
 
 void DocumentData::PutBack(Kind kind, Taken taken) {
-    auto& to = list(kind).objects;
+    auto& to = ListOf(kind).objects;
     std::size_t from = to.size(); // behind the next object that moves up
     std::size_t at = to.size() + taken.size();
     to.resize(at);
@@ -209,16 +209,16 @@ void DocumentData::PutBack(Kind kind, Taken taken) {
         to[at] = std::move(taken[i].second);
     }
     for (const auto& [index, object] : taken)
-        enter(kind, *to[index]);
+        Enter(kind, *to[index]);
 }
 
-void DocumentData::grow(const CFPoint& place) {
+void DocumentData::Grow(const CFPoint& place) {
     m_extent = std::max({m_extent, std::fabs(place.x), std::fabs(place.y), std::fabs(place.z)});
 }
 
 void DocumentData::MoveNode(CNodo& node, const CFPoint& place) {
-    node.SetPunto(place);
-    grow(place);
+    node.SetPoint(place);
+    Grow(place);
 }
 
 CNodo* DocumentData::NodeAt(const CFPoint& place, const CNodo* excluded, double tolerance) const {
@@ -230,23 +230,23 @@ double DocumentData::ExactTolerance() const {
     return m_extent > 0 ? 1e-9 * std::pow(10.0, std::floor(std::log10(m_extent))) : 0;
 }
 
-CNodo* DocumentData::CercaNodo(int id) {
+CNodo* DocumentData::FindNode(int id) {
     return FindAs<CNodo>(Kind::Node, id);
 }
 
-CMateriale* DocumentData::CercaMateriale(int id) {
+CMateriale* DocumentData::FindMaterial(int id) {
     return FindAs<CMateriale>(Kind::Material, id);
 }
 
-CSezione* DocumentData::CercaSezione(int id) {
+CSezione* DocumentData::FindSection(int id) {
     return FindAs<CSezione>(Kind::Section, id);
 }
 
-CSpessore* DocumentData::CercaSpessore(int id) {
+CSpessore* DocumentData::FindThickness(int id) {
     return FindAs<CSpessore>(Kind::Thickness, id);
 }
 
-CCarico* DocumentData::CercaCarico(int idCasoCarico, int idCarico) {
+CCarico* DocumentData::FindLoad(int idCasoCarico, int idCarico) {
     auto* loadCase = FindAs<CCasoCarico>(Kind::LoadCase, idCasoCarico);
     return loadCase ? loadCase->GetCarico(idCarico, nullptr) : nullptr;
 }

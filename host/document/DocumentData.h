@@ -1,12 +1,12 @@
 // Everything that a project holds, without undo, selection or views: what files are read into and written from.
 #pragma once
 
-#include "model/Copia.h"
-#include "model/FPoint.h"
-#include "model/IdIndex.h"
-#include "model/NodeGrid.h"
-#include "model/Nodo.h"
-#include "platform/String.h"
+#include "model/element/Copy.h"
+#include "model/element/Nodo.h"
+#include "model/index/IdIndex.h"
+#include "model/index/NodeGrid.h"
+#include "model/values/FPoint.h"
+#include "platform/core/String.h"
 
 #include <array>
 #include <memory>
@@ -50,8 +50,8 @@ std::unique_ptr<CElemento> MakeObject(Kind kind);
 bool IsUsablePlace(const CFPoint& place);
 
 struct DocumentUnits {
-    Lunghezza length = Lunghezza::Metri;
-    Forza force = Forza::ChiloNewton;
+    Lunghezza length = Lunghezza::Metres;
+    Forza force = Forza::KiloNewtons;
 };
 
 // The information record of a project.
@@ -62,17 +62,17 @@ struct ProjectInfo {
     CString notes;
 };
 
-class DocumentData : public CercaModello {
+class DocumentData : public ModelLookup {
   public:
     DocumentData();
     ~DocumentData() override;
     DocumentData(DocumentData&&) noexcept;
     DocumentData& operator=(DocumentData&&) noexcept;
 
-    int Size(Kind kind) const { return static_cast<int>(list(kind).objects.size()); }
+    int Size(Kind kind) const { return static_cast<int>(ListOf(kind).objects.size()); }
     // In document order; null for an index outside.
     CElemento* At(Kind kind, int index) const {
-        const auto& objects = list(kind).objects;
+        const auto& objects = ListOf(kind).objects;
         return static_cast<std::size_t>(index) < objects.size() ? objects[static_cast<std::size_t>(index)].get()
                                                                 : nullptr;
     }
@@ -83,7 +83,7 @@ class DocumentData : public CercaModello {
     }
     CNodo* Node(int index) const { return static_cast<CNodo*>(At(Kind::Node, index)); }
     // By number, in constant time; null when there is none.
-    CElemento* Find(Kind kind, int id) const { return list(kind).ids.Find(id); }
+    CElemento* Find(Kind kind, int id) const { return ListOf(kind).ids.Find(id); }
     template <class T>
     T* FindAs(Kind kind, int id) const {
         return static_cast<T*>(Find(kind, id));
@@ -125,11 +125,11 @@ class DocumentData : public CercaModello {
     int& CurrentCase() { return m_currentCase; }
     int CurrentCase() const { return m_currentCase; }
 
-    CNodo* CercaNodo(int id) override;
-    CMateriale* CercaMateriale(int id) override;
-    CSezione* CercaSezione(int id) override;
-    CSpessore* CercaSpessore(int id) override;
-    CCarico* CercaCarico(int idCasoCarico, int idCarico) override;
+    CNodo* FindNode(int id) override;
+    CMateriale* FindMaterial(int id) override;
+    CSezione* FindSection(int id) override;
+    CSpessore* FindThickness(int id) override;
+    CCarico* FindLoad(int idCasoCarico, int idCarico) override;
 
   private:
     struct List {
@@ -137,14 +137,14 @@ class DocumentData : public CercaModello {
         IdIndex<CElemento> ids;
         int next = 1;
     };
-    List& list(Kind kind) { return m_lists[static_cast<std::size_t>(kind)]; }
-    const List& list(Kind kind) const { return m_lists[static_cast<std::size_t>(kind)]; }
+    List& ListOf(Kind kind) { return m_lists[static_cast<std::size_t>(kind)]; }
+    const List& ListOf(Kind kind) const { return m_lists[static_cast<std::size_t>(kind)]; }
     // The list whose counter numbers the kind.
-    static Kind counter(Kind kind) { return kind == Kind::Combination ? Kind::LoadCase : kind; }
-    void add(Kind kind, std::unique_ptr<CElemento> object);
-    void enter(Kind kind, CElemento& object);
-    void grow(const CFPoint& place);
-    void leave(Kind kind, CElemento& object);
+    static Kind Counter(Kind kind) { return kind == Kind::Combination ? Kind::LoadCase : kind; }
+    void Add(Kind kind, std::unique_ptr<CElemento> object);
+    void Enter(Kind kind, CElemento& object);
+    void Grow(const CFPoint& place);
+    void Leave(Kind kind, CElemento& object);
 
     std::array<List, kindCount> m_lists;
     std::unique_ptr<NodeGrid> m_grid; // by pointer: nodes keep its address

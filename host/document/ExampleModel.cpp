@@ -1,17 +1,17 @@
 #include "host/document/ExampleModel.h"
 
 #include "host/document/HostDocument.h"
-#include "model/Asta.h"
-#include "model/Carico.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/Materiale.h"
-#include "model/Setto.h"
-#include "model/Sezione.h"
-#include "model/Solaio.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
+#include "model/load/Carico.h"
 
 namespace {
 
@@ -57,8 +57,8 @@ class Example {
         material->SetE(young); // kN/m^2
         material->SetG(young / (2 * (1 + poisson)));
         material->SetPoisson(poisson);
-        material->SetDensita(density); // t/m^3, which is kN s^2/m^4
-        material->SetAlfa(alpha);
+        material->SetDensity(density); // t/m^3, which is kN s^2/m^4
+        material->SetAlpha(alpha);
         return material;
     }
 
@@ -66,22 +66,22 @@ class Example {
         m_concrete = Material("C25/30", 31'476'000, 0.2, 2.5, 1e-5);
         m_steel = Material("S275", 210'000'000, 0.3, 7.85, 1.2e-5);
         m_columnSection = Named<CSezione>(Kind::Section, "Pilastro 30x30");
-        m_columnSection->SetRettangolo(0.30, 0.30);
+        m_columnSection->SetRectangle(0.30, 0.30);
         m_beamSection = Named<CSezione>(Kind::Section, "Trave 30x50");
-        m_beamSection->SetRettangolo(0.30, 0.50);
+        m_beamSection->SetRectangle(0.30, 0.50);
         m_barSection = Named<CSezione>(Kind::Section, "Piatto 80x10");
-        m_barSection->SetRettangolo(0.01, 0.08);
+        m_barSection->SetRectangle(0.01, 0.08);
         m_thickness = Named<CSpessore>(Kind::Thickness, "Spessore 20 cm");
-        m_thickness->SetSpessore(0.20);
+        m_thickness->SetThickness(0.20);
     }
 
     void BuildCases() {
         m_permanent = Named<CCasoCarico>(Kind::LoadCase, "Permanenti");
         m_permanent->AddCarico(new CCaricoPesoProprio({0, 0, -9.80665}));
         m_variable = Named<CCasoCarico>(Kind::LoadCase, "Variabili");
-        m_permanentLoad = new CCaricoUniforme({0, 0, -12.5}, CCarico::Globale);
+        m_permanentLoad = new CCaricoUniforme({0, 0, -12.5}, CCarico::Global);
         m_permanent->AddCarico(m_permanentLoad);
-        m_variableLoad = new CCaricoUniforme({0, 0, -5.0}, CCarico::Globale);
+        m_variableLoad = new CCaricoUniforme({0, 0, -5.0}, CCarico::Global);
         m_variable->AddCarico(m_variableLoad);
         auto* combination = Named<CCombinazione>(Kind::Combination, "SLU");
         combination->AddCDC(m_permanent->GetID(), 1.3);
@@ -90,14 +90,14 @@ class Example {
     }
 
     void BuildNodes() {
-        const CVincolo fixed(CVincolo::Tutti);
+        const CVincolo fixed(CVincolo::All);
         for (int level = 0; level < levels; ++level)
             for (int y = 0; y < placesY; ++y)
                 for (int x = 0; x < placesX; ++x) {
                     CNodo* node =
                         Append(std::make_unique<CNodo>(CFPoint(x * bay, y * bay, level * storey)), Kind::Node);
                     if (level == 0)
-                        node->SetVincolo(&fixed);
+                        node->SetRestraint(&fixed);
                 }
     }
 
@@ -118,7 +118,7 @@ class Example {
         for (CNodo* corner : corners)
             panel->AggiungiVertice(corner);
         panel->SetMateriale(m_concrete->GetID(), m_concrete);
-        panel->SetSpessore(m_thickness->GetID(), m_thickness);
+        panel->SetThickness(m_thickness->GetID(), m_thickness);
         return Append(std::move(panel), kind);
     }
 

@@ -3,7 +3,7 @@
 // tolerance.
 #pragma once
 
-#include "model/FPoint.h"
+#include "model/values/FPoint.h"
 
 #include <vector>
 

@@ -1,11 +1,11 @@
 #include "host/document/HostAnalisi.h"
 
-#include "model/Combinazione.h"
-#include "platform/Collections.h"
+#include "model/entity/Combinazione.h"
+#include "platform/core/Collections.h"
 
 using host::CaseResults;
 
-host::AnalysisOutcome HostAnalisi::Run() {
+host::AnalysisOutcome HostAnalysis::Run() {
     Clear();
     host::AnalysisOutcome outcome = host::Analyse(m_data);
     if (!outcome.done)
@@ -17,7 +17,7 @@ host::AnalysisOutcome HostAnalisi::Run() {
     return outcome;
 }
 
-bool HostAnalisi::Clear() {
+bool HostAnalysis::Clear() {
     const bool valid = m_bRisultatiValidi != 0;
     m_bRisultatiValidi = 0;
     if (!m_cases.empty()) {
@@ -28,28 +28,28 @@ bool HostAnalisi::Clear() {
     return valid;
 }
 
-CaseResults* HostAnalisi::Find(int caseId) {
+CaseResults* HostAnalysis::Find(int caseId) {
     for (CaseResults& each : m_cases)
         if (each.id == caseId)
             return &each;
     return nullptr;
 }
 
-const CaseResults* HostAnalisi::Results(int caseId) const {
-    return const_cast<HostAnalisi*>(this)->Find(caseId);
+const CaseResults* HostAnalysis::Results(int caseId) const {
+    return const_cast<HostAnalysis*>(this)->Find(caseId);
 }
 
-std::size_t HostAnalisi::LineCount() const {
+std::size_t HostAnalysis::LineCount() const {
     return static_cast<std::size_t>(m_data.Size(Kind::Beam) + m_data.Size(Kind::Truss));
 }
 
-CLineaRisultati* HostAnalisi::Line(std::size_t index) const {
+CLineaRisultati* HostAnalysis::Line(std::size_t index) const {
     const auto beams = static_cast<std::size_t>(m_data.Size(Kind::Beam));
     return index < beams ? m_data.As<CLineaRisultati>(Kind::Beam, static_cast<int>(index))
                          : m_data.As<CLineaRisultati>(Kind::Truss, static_cast<int>(index - beams));
 }
 
-void HostAnalisi::Show(int caseId) {
+void HostAnalysis::Show(int caseId) {
     auto* combination = m_data.FindAs<CCombinazione>(Kind::Combination, caseId);
     CaseResults* results = Find(caseId);
     CaseResults former = std::move(m_combined); // lives until the elements have let it go
@@ -63,13 +63,13 @@ void HostAnalisi::Show(int caseId) {
 }
 
 // In the middle of a command the model may have lost elements while the results still stand: their numbers tell.
-void HostAnalisi::ShowRecords(CaseResults* results) {
+void HostAnalysis::ShowRecords(CaseResults* results) {
     for (std::size_t i = 0, count = LineCount(); i < count; ++i)
         Line(i)->SetRisultati(results && i < results->lines.size() && results->lines[i].GetID() == Line(i)->GetID()
                                   ? &results->lines[i]
                                   : nullptr);
     for (int i = 0; i < m_data.Size(Kind::Node); ++i)
-        m_data.Node(i)->SetReazioniVincolari(nullptr);
+        m_data.Node(i)->SetReactions(nullptr);
     if (!results)
         return;
     for (const CaseResults::Reaction& reaction : results->reactions) {
@@ -77,11 +77,11 @@ void HostAnalisi::ShowRecords(CaseResults* results) {
         const auto& r = reaction.values;
         const CNodoReazioniVincolari record(-r[0], -r[1], -r[2], -r[3], -r[4], -r[5]);
         if (CNodo* node = m_data.Node(reaction.node))
-            node->SetReazioniVincolari(&record);
+            node->SetReactions(&record);
     }
 }
 
-int HostAnalisi::LeggiRisultati(int idCaso, CObArray& out, int) {
+int HostAnalysis::LeggiRisultati(int idCaso, CObArray& out, int) {
     const CaseResults* results = m_bRisultatiValidi ? Results(idCaso) : nullptr;
     if (!results)
         return 0;
@@ -90,7 +90,7 @@ int HostAnalisi::LeggiRisultati(int idCaso, CObArray& out, int) {
     return 1;
 }
 
-bool HostAnalisi::Fits(const CObArray& records) const {
+bool HostAnalysis::Fits(const CObArray& records) const {
     if (static_cast<std::size_t>(records.GetSize()) != LineCount())
         return false;
     for (std::size_t i = 0, count = LineCount(); i < count; ++i) {
@@ -101,7 +101,7 @@ bool HostAnalisi::Fits(const CObArray& records) const {
     return true;
 }
 
-int HostAnalisi::AggiornaRiferimentiRisultati(CObArray& risultati) {
+int HostAnalysis::AggiornaRiferimentiRisultati(CObArray& risultati) {
     if (!Fits(risultati))
         return 0;
     for (std::size_t i = 0, count = LineCount(); i < count; ++i)
@@ -109,7 +109,7 @@ int HostAnalisi::AggiornaRiferimentiRisultati(CObArray& risultati) {
     return 1;
 }
 
-int HostAnalisi::CreaRisultati(int idCaso, CObArray& risultati, int) {
+int HostAnalysis::CreaRisultati(int idCaso, CObArray& risultati, int) {
     CaseResults* results = m_bRisultatiValidi ? Find(idCaso) : nullptr;
     if (!results || !Fits(risultati))
         return 0;
@@ -119,7 +119,7 @@ int HostAnalisi::CreaRisultati(int idCaso, CObArray& risultati, int) {
     return 1;
 }
 
-int HostAnalisi::RipristinaRisultati() {
+int HostAnalysis::RipristinaRisultati() {
     Show(m_shown);
     return m_shown != 0;
 }

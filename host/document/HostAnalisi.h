@@ -6,9 +6,9 @@
 #include "host/analysis/Analysis.h"
 
 // It owns the results that elements point at. They go as soon as the model changes: whoever owns the model calls Clear.
-class HostAnalisi : public CQuovarAnalisi {
+class HostAnalysis : public CQuovarAnalisi {
   public:
-    explicit HostAnalisi(DocumentData& data) : m_data(data) { m_bAnalisiStatica = 1; }
+    explicit HostAnalysis(DocumentData& data) : m_data(data) { m_bAnalisiStatica = 1; }
 
     // Analyses the model and shows the current case; former results go either way. The cases of the outcome have moved
     // in here.

@@ -2,12 +2,12 @@
 
 #include "host/document/Changes.h"
 #include "host/document/UnitChange.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/LineaFisica.h"
-#include "model/Path.h"
-#include "model/Poligono.h"
+#include "model/element/LineaFisica.h"
+#include "model/element/Poligono.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/values/Path.h"
 
 #include <algorithm>
 
@@ -130,7 +130,7 @@ void HostDocument::InvalidateResults() {
     m_pendingResults |= m_analysis.Clear();
 }
 
-host::AnalysisOutcome HostDocument::EseguiAnalisi() {
+host::AnalysisOutcome HostDocument::RunAnalysis() {
     Idle(); // a step that is still open would make the results invalid when it ends
     host::AnalysisOutcome outcome = m_analysis.Run();
     m_pendingResults = false;
@@ -199,7 +199,7 @@ void HostDocument::SetValue(T& where, T value, const char* stepName) {
         m_undo.Record(std::make_unique<host::Value<T>>(where, std::move(value)), stepName);
 }
 
-void HostDocument::SetTolleranza(double tolerance) {
+void HostDocument::SetTolerance(double tolerance) {
     if (std::isfinite(tolerance) && tolerance >= 0)
         SetValue(m_data.Tolerance(), tolerance, "Tolleranza");
 }
@@ -264,7 +264,7 @@ void HostDocument::LeaveGroups(Kind kind, CElemento& object) {
     auto& member = static_cast<CElementoGruppo&>(object);
     for (int i = 0; i < member.GetSizeGruppi(); ++i)
         if (auto* group = m_data.FindAs<CGruppo>(Kind::Group, member.GetIDGruppo(i)))
-            Modify(*group, [&] { group->EliminaElemento(CodeOf(kind), object.GetID()); });
+            Modify(*group, [&] { group->RemoveElement(CodeOf(kind), object.GetID()); });
 }
 
 // Everything that refers to a named entity lets it go.
@@ -274,7 +274,7 @@ void HostDocument::LetGo(Kind kind, CElemento& object) {
         ForEachCarrier([&](CElementoCarico& carrier) {
             for (int i = 0; i < carrier.GetSizeCarichi(); ++i) {
                 if (carrier.GetIndexIDCasoCarico(i) == id) {
-                    Modify(carrier, [&] { carrier.EliminaCarichiCaso(id); });
+                    Modify(carrier, [&] { carrier.RemoveLoadsOfCase(id); });
                     break;
                 }
             }
@@ -288,8 +288,8 @@ void HostDocument::LetGo(Kind kind, CElemento& object) {
         auto& group = static_cast<CGruppo&>(object);
         for (int i = 0; i < group.GetSizeElementi(); ++i)
             for (const Kind member : allKinds)
-                if (IsSelectableKind(member) && CodeOf(member) == group.GetTipoIndexElemento(i))
-                    if (auto* element = m_data.FindAs<CElementoGruppo>(member, group.GetIDIndexElemento(i)))
+                if (IsSelectableKind(member) && CodeOf(member) == group.GetElementKindAt(i))
+                    if (auto* element = m_data.FindAs<CElementoGruppo>(member, group.GetElementIdAt(i)))
                         Modify(*element, [&] { element->EliminaGruppo(id); });
     } else {
         LetGoProperty(kind, id);
@@ -312,7 +312,7 @@ void HostDocument::LetGoProperty(Kind kind, int id) {
             if (kind == Kind::Material && polygon->GetIDMateriale() == id)
                 Modify(*polygon, [&] { polygon->SetMateriale(0, nullptr); });
             if (kind == Kind::Thickness && polygon->GetIDSpessore() == id)
-                Modify(*polygon, [&] { polygon->SetSpessore(0, nullptr); });
+                Modify(*polygon, [&] { polygon->SetThickness(0, nullptr); });
         }
     }
 }
@@ -352,6 +352,6 @@ void HostDocument::Remove(std::vector<CElemento*> objects) {
     RemoveFromLists(objects);
 }
 
-void HostDocument::EliminaSelezione() {
+void HostDocument::DeleteSelection() {
     Remove(m_selection.All());
 }

@@ -22,7 +22,7 @@
 #include <vector>
 
 // The type text of a dynamic seismic load case.
-inline constexpr char CASO_SISMICO_DINAMICO[] = "Sismico dinamico";
+inline constexpr char dynamicSeismicCase[] = "Sismico dinamico";
 
 class HostDocument : public CQuovarDoc {
   public:
@@ -177,9 +177,9 @@ class HostDocument : public CQuovarDoc {
     // says MODIFICA_CASI_CARICO afterwards; that belongs to the same step.
     CCasoCarico* CreaCasoCarico(const CString& name = CString());
     // A group of what is selected.
-    CGruppo* CreaGruppo(const CString& name);
-    CGruppo* GetGruppo(const CString& name); // null when there is none
-    CElementoStrutturale* GetCurrentCase();  // load case or combination; null when there is none
+    CGruppo* CreateGroup(const CString& name);
+    CGruppo* GetGroup(const CString& name); // null when there is none
+    CElementoStrutturale* GetCurrentCase(); // load case or combination; null when there is none
     // Gives the load to the case; elements are then made to refer to it with Modify. Null for a null load.
     CCarico* AddCarico(CCasoCarico& loadCase, std::unique_ptr<CCarico> load);
     // Takes the load from its case and from every element.
@@ -189,18 +189,18 @@ class HostDocument : public CQuovarDoc {
     void MoveNodes(const std::vector<std::pair<CNodo*, CFPoint>>& places);
     // Removes objects with what hangs on them: nodes take their elements with them, load cases their loads.
     void Remove(std::vector<CElemento*> objects);
-    void EliminaSelezione();
-    void SelezionaTutto();
+    void DeleteSelection();
+    void SelectAll();
     void ChangeUnits(Lunghezza length, Forza force);
 
     // How near two nodes may lie before they count as one; in the document's length unit.
-    double GetTolleranza() const { return m_data.Tolerance(); }
-    void SetTolleranza(double tolerance);
+    double GetTolerance() const { return m_data.Tolerance(); }
+    void SetTolerance(double tolerance);
 
     // Analyses the model. Then the results are valid, until the next change, and the elements show the current case; or
     // the outcome tells why not. Throws std::bad_alloc.
-    host::AnalysisOutcome EseguiAnalisi();
-    const HostAnalisi& Analysis() const { return m_analysis; }
+    host::AnalysisOutcome RunAnalysis();
+    const HostAnalysis& Analysis() const { return m_analysis; }
     // Results no longer belong to the model.
     void InvalidateResults();
 
@@ -240,7 +240,7 @@ class HostDocument : public CQuovarDoc {
     DocumentData m_data;
     HostSelection m_selection;
     HostUndo m_undo;
-    HostAnalisi m_analysis{m_data};
+    HostAnalysis m_analysis{m_data};
     CQuovarProgetto m_design;
     CQuovarView* m_activeView = nullptr;
     std::vector<DocumentObserver*> m_observers; // null where one was removed during a notification

@@ -1,10 +1,10 @@
 // Load cases, combinations and groups of the document.
 #include "host/document/Changes.h"
 #include "host/document/HostDocument.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "platform/Application.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "platform/window/Application.h"
 
 namespace {
 
@@ -72,7 +72,7 @@ CElemento* HostDocument::IsCasoCaricoNome(CElementoStrutturale& entita, CElement
 // A dynamic seismic case says so in its type text.
 int HostDocument::IsCasoCaricoSismicoDinamico(CString nome) {
     CCasoCarico* found = GetCasoCarico(nome);
-    return found && found->GetTipo().CompareNoCase(CASO_SISMICO_DINAMICO) == 0;
+    return found && found->GetTipo().CompareNoCase(dynamicSeismicCase) == 0;
 }
 
 int HostDocument::SelectCasoCarico(int id) {
@@ -198,11 +198,11 @@ void HostDocument::ForEachCarrier(const std::function<void(CElementoCarico&)>& a
     }
 }
 
-CGruppo* HostDocument::GetGruppo(const CString& name) {
+CGruppo* HostDocument::GetGroup(const CString& name) {
     return static_cast<CGruppo*>(FindName(m_data, Kind::Group, name));
 }
 
-CGruppo* HostDocument::CreaGruppo(const CString& name) {
+CGruppo* HostDocument::CreateGroup(const CString& name) {
     UndoStep step(m_undo, "Crea gruppo");
     auto group = std::make_unique<CGruppo>();
     group->SetNome(name);

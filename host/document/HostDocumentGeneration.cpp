@@ -2,13 +2,13 @@
 #include "host/document/Changes.h"
 #include "host/document/Generation.h"
 #include "host/document/HostDocument.h"
-#include "model/Asta.h"
-#include "model/Materiale.h"
-#include "model/Setto.h"
-#include "model/Sezione.h"
-#include "model/Solaio.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 
 #include <algorithm>
 
@@ -121,13 +121,13 @@ void HostDocument::GiveDefaults(CPoligonoFisico& polygon) {
     if (CMateriale* material = GetIndexMateriale(0))
         polygon.SetMateriale(material->GetID(), material);
     if (CSpessore* thickness = GetIndexSpessore(0))
-        polygon.SetSpessore(thickness->GetID(), thickness);
+        polygon.SetThickness(thickness->GetID(), thickness);
 }
 
 template <class T>
 T* HostDocument::AddLine(int idNodo1, int idNodo2, const char* stepName) {
-    CNodo* first = m_data.CercaNodo(idNodo1);
-    CNodo* second = m_data.CercaNodo(idNodo2);
+    CNodo* first = m_data.FindNode(idNodo1);
+    CNodo* second = m_data.FindNode(idNodo2);
     if (!first || !second || first == second)
         return nullptr;
     auto line = std::make_unique<T>();
@@ -152,7 +152,7 @@ T* HostDocument::AddPolygon(const std::vector<int>& idNodi, const char* stepName
         return nullptr;
     auto polygon = std::make_unique<T>();
     for (const int id : idNodi) {
-        CNodo* node = m_data.CercaNodo(id);
+        CNodo* node = m_data.FindNode(id);
         if (!node)
             return nullptr;
         polygon->AggiungiVertice(node);

@@ -2,16 +2,16 @@
 #include "host/document/HostDocument.h"
 
 #include "dialogs/frame/QuovarView.h"
-#include "model/Asta.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/Materiale.h"
-#include "model/Setto.h"
-#include "model/Sezione.h"
-#include "model/Solaio.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 
 namespace {
 
@@ -169,12 +169,12 @@ void HostDocument::SelezionaGruppo(int id) {
     std::vector<CElemento*> members;
     for (int i = 0; i < group->GetSizeElementi(); ++i)
         for (const Kind kind : allKinds)
-            if (IsSelectableKind(kind) && CodeOf(kind) == group->GetTipoIndexElemento(i))
-                members.push_back(m_data.Find(kind, group->GetIDIndexElemento(i)));
+            if (IsSelectableKind(kind) && CodeOf(kind) == group->GetElementKindAt(i))
+                members.push_back(m_data.Find(kind, group->GetElementIdAt(i)));
     m_selection.Add(members);
 }
 
-void HostDocument::SelezionaTutto() {
+void HostDocument::SelectAll() {
     std::vector<CElemento*> everything;
     everything.reserve(static_cast<std::size_t>(GetSizeNodi() + GetSizeElementi()));
     for (const Kind kind : allKinds)

@@ -2,7 +2,7 @@
 // then finds out what it was and records it, so that it can be undone like everything else.
 #include "host/document/Changes.h"
 #include "host/document/HostDocument.h"
-#include "model/CasoCarico.h"
+#include "model/entity/CasoCarico.h"
 
 void HostDocument::RememberNames() {
     m_names.clear();

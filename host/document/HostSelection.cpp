@@ -2,8 +2,8 @@
 
 #include "host/document/Copier.h"
 #include "host/document/HostDocument.h"
-#include "model/Linea.h"
-#include "model/Poligono.h"
+#include "model/element/Linea.h"
+#include "model/element/Poligono.h"
 
 #include <algorithm>
 #include <cmath>
@@ -185,7 +185,7 @@ void HostSelection::IntersezioneLineePiano(CPoligono* pPoligono) {
             if (std::signbit(a) == std::signbit(b) || a == b)
                 continue;
             CFPoint place = from + (to - from) * (a / (a - b));
-            if (!m_document.GetNodo(place, nullptr, m_document.GetTolleranza()))
+            if (!m_document.GetNodo(place, nullptr, m_document.GetTolerance()))
                 m_document.AddNodo(place, nullptr, 1);
         }
     }
@@ -200,7 +200,7 @@ void HostSelection::SelezionaElementiPiano(CPoligono* pPoligono) {
         CElemento* element = m_document.GetIndexElemento(i);
         bool inside = true;
         for (int j = 0; inside && j < element->GetSize(); ++j)
-            inside = std::fabs(plane.Distance(*element->GetIndexNodo(j)->GetPunto())) <= m_document.GetTolleranza();
+            inside = std::fabs(plane.Distance(*element->GetIndexNodo(j)->GetPunto())) <= m_document.GetTolerance();
         if (inside)
             found.push_back(element);
     }

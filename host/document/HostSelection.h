@@ -3,7 +3,7 @@
 
 #include "dialogs/frame/QuovarSelection.h"
 #include "host/document/DocumentData.h"
-#include "platform/Collections.h"
+#include "platform/core/Collections.h"
 
 #include <array>
 #include <memory>

@@ -3,8 +3,8 @@
 #include "host/document/Copier.h"
 #include "host/document/HostDocument.h"
 #include "host/document/Motion.h"
-#include "model/LineaFisica.h"
-#include "platform/Application.h"
+#include "model/element/LineaFisica.h"
+#include "platform/window/Application.h"
 
 #include <cmath>
 #include <numbers>

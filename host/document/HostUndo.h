@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dialogs/frame/QuovarUndo.h"
-#include "platform/String.h"
+#include "platform/core/String.h"
 
 #include <memory>
 #include <vector>

@@ -1,7 +1,7 @@
 // A motion of space: translation, rotation or mirroring, without change of size.
 #pragma once
 
-#include "model/FPoint.h"
+#include "model/values/FPoint.h"
 
 namespace host {
 

@@ -1,6 +1,6 @@
 #include "host/document/UnitChange.h"
 
-#include "model/CasoCarico.h"
+#include "model/entity/CasoCarico.h"
 
 namespace host {
 
@@ -19,18 +19,18 @@ UnitChange::UnitChange(DocumentData& data, DocumentUnits units)
         for (int i = 0; i < data.Size(kind); ++i) {
             CElemento& object = *data.At(kind, i);
             if (kind != Kind::LoadCase) {
-                m_others.emplace_back(&object, CreaCopia(object));
+                m_others.emplace_back(&object, CopyOf(object));
             } else {
                 // A case itself has no values, and elements refer to its loads: these are kept one by one.
                 auto& loadCase = static_cast<CCasoCarico&>(object);
                 for (int j = 0; j < loadCase.GetSizeCarichi(); ++j)
-                    m_others.emplace_back(loadCase.GetIndexCarico(j), CreaCopia(*loadCase.GetIndexCarico(j)));
+                    m_others.emplace_back(loadCase.GetIndexCarico(j), CopyOf(*loadCase.GetIndexCarico(j)));
             }
             object.ChangeLunghezza(units.length);
             object.ChangeForza(units.force);
         }
     }
-    data.Tolerance() *= CGrandezza::_FattoreLunghezza(data.Units().length, units.length);
+    data.Tolerance() *= CGrandezza::_LengthFactor(data.Units().length, units.length);
     data.Units() = units;
 }
 
@@ -40,8 +40,8 @@ void UnitChange::Swap() {
     for (int i = 0; i < m_data.Size(Kind::LoadCase); ++i)
         SetUnits(*m_data.At(Kind::LoadCase, i), m_data.Units());
     for (auto& [object, other] : m_others) {
-        std::unique_ptr<CElemento> here = CreaCopia(*object);
-        RipristinaStato(*object, *other, m_data);
+        std::unique_ptr<CElemento> here = CopyOf(*object);
+        RestoreState(*object, *other, m_data);
         SetUnits(*object, m_data.Units());
         object->SetSelect(0); // the selection is restored after the step
         other = std::move(here);

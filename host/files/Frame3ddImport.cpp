@@ -2,11 +2,11 @@
 
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddFile.h"
-#include "model/Carico.h"
-#include "model/CasoCarico.h"
-#include "model/Materiale.h"
-#include "model/Sezione.h"
-#include "model/Trave.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/load/Carico.h"
 
 #include <array>
 #include <fstream>
@@ -51,15 +51,14 @@ bool FindUnit(const std::vector<CString>& words, const std::pair<const char*, Un
 
 DocumentUnits UnitsOf(const CString& title) {
     static constexpr std::pair<const char*, Lunghezza> lengths[] = {
-        {"mm", Lunghezza::Millimetri}, {"cm", Lunghezza::Centimetri}, {"m", Lunghezza::Metri},
-        {"in", Lunghezza::Pollici},    {"inch", Lunghezza::Pollici},  {"inches", Lunghezza::Pollici},
-        {"ft", Lunghezza::Piedi},      {"feet", Lunghezza::Piedi}};
+        {"mm", Lunghezza::Millimetres}, {"cm", Lunghezza::Centimetres}, {"m", Lunghezza::Metres},
+        {"in", Lunghezza::Inches},      {"inch", Lunghezza::Inches},    {"inches", Lunghezza::Inches},
+        {"ft", Lunghezza::Feet},        {"feet", Lunghezza::Feet}};
     static constexpr std::pair<const char*, Forza> forces[] = {
-        {"N", Forza::Newton},         {"kN", Forza::ChiloNewton}, {"kg", Forza::Chilogrammi},
-        {"kgf", Forza::Chilogrammi},  {"tf", Forza::Tonnellate},  {"lb", Forza::Libbre},
-        {"lbs", Forza::Libbre},       {"lbf", Forza::Libbre},     {"kip", Forza::ChiloLibbre},
-        {"kips", Forza::ChiloLibbre}, {"k", Forza::ChiloLibbre}};
-    DocumentUnits units{Lunghezza::Millimetri, Forza::Newton};
+        {"N", Forza::Newton},  {"kN", Forza::KiloNewtons}, {"kg", Forza::Kilograms}, {"kgf", Forza::Kilograms},
+        {"tf", Forza::Tonnes}, {"lb", Forza::Pounds},      {"lbs", Forza::Pounds},   {"lbf", Forza::Pounds},
+        {"kip", Forza::Kips},  {"kips", Forza::Kips},      {"k", Forza::Kips}};
+    DocumentUnits units{Lunghezza::Millimetres, Forza::Newton};
     DocumentUnits named;
     const std::vector<CString> words = WordsInBrackets(title);
     // One of them alone says too little: the mass of the file follows from both.
@@ -84,7 +83,7 @@ class Builder {
     DocumentData Build() {
         m_data.Info().title = TextOf(m_model.title).Trim();
         m_data.Units() = UnitsOf(m_data.Info().title);
-        m_data.Tolerance() *= CGrandezza::_FattoreLunghezza(Lunghezza::Metri, m_data.Units().length);
+        m_data.Tolerance() *= CGrandezza::_LengthFactor(Lunghezza::Metres, m_data.Units().length);
         BuildNodes();
         for (std::size_t i = 0; i < m_model.elements.size(); ++i)
             BuildElement(static_cast<int>(i) + 1, m_model.elements[i]);
@@ -118,8 +117,8 @@ class Builder {
         for (const auto& restraint : m_model.restraints) {
             CVincolo fixities;
             for (int i = 0; i < 6; ++i)
-                fixities.SetFisso(i, restraint.fixed[static_cast<std::size_t>(i)]);
-            m_data.CercaNodo(restraint.node)->SetVincolo(&fixities);
+                fixities.SetFixed(i, restraint.fixed[static_cast<std::size_t>(i)]);
+            m_data.FindNode(restraint.node)->SetRestraint(&fixities);
         }
     }
 
@@ -133,7 +132,7 @@ class Builder {
             material->SetE(element.young);
             material->SetG(element.shearModulus);
             material->SetPoisson(element.Poisson());
-            material->SetDensita(element.density);
+            material->SetDensity(element.density);
         }
         return material;
     }
@@ -161,7 +160,7 @@ class Builder {
     // The file's local axes y and z are the model's 2 and 3: both are horizontal and upwards at roll 0, and turn alike.
     void BuildElement(int id, const Frame3ddElement& element) {
         auto beam = std::make_unique<CTrave>();
-        beam->SetNodi(m_data.CercaNodo(element.first), m_data.CercaNodo(element.second));
+        beam->SetNodi(m_data.FindNode(element.first), m_data.FindNode(element.second));
         CMateriale* material = Material(element);
         beam->SetMateriale(material->GetID(), material);
         CSezione* section = Section(element);
@@ -183,33 +182,32 @@ class Builder {
         for (const auto& row : loads.displacement)
             OnNode(row, std::make_unique<CCaricoSpostamento>(Half(row.values, 0), Half(row.values, 1)));
         for (const auto& row : loads.uniform)
-            OnElement(row.element, std::make_unique<CCaricoUniforme>(Point(row.load), CCarico::Locale));
+            OnElement(row.element, std::make_unique<CCaricoUniforme>(Point(row.load), CCarico::Local));
         for (const auto& row : loads.trapezoidal)
             OnElement(row.element, Trapezoidal(row));
         for (const auto& row : loads.point)
-            OnElement(row.element,
-                      std::make_unique<CCaricoConcentrato>(Point(row.load), row.position, CCarico::Locale));
+            OnElement(row.element, std::make_unique<CCaricoConcentrato>(Point(row.load), row.position, CCarico::Local));
         for (const auto& row : loads.temperature)
             OnElement(row.element, Temperature(row));
     }
 
     static std::unique_ptr<CCarico> Trapezoidal(const Frame3ddTrapezoidal& row) {
         auto load = std::make_unique<CCaricoTrapezoidale>();
-        load->SetRiferimento(CCarico::Locale);
+        load->SetReference(CCarico::Local);
         for (int axis = 0; axis < 3; ++axis) {
             const auto& part = row.parts[static_cast<std::size_t>(axis)];
-            load->GetTratto(axis) = {part.from, part.to, part.startLoad, part.endLoad};
+            load->GetStretch(axis) = {part.from, part.to, part.startLoad, part.endLoad};
         }
         return load;
     }
 
     static std::unique_ptr<CCarico> Temperature(const Frame3ddTemperature& row) {
         auto load = std::make_unique<CCaricoTemperatura>();
-        load->SetRiferimento(CCarico::Locale);
-        load->GetTemperatura() = row.Mean();
-        load->GetGradiente2() = row.GradientY();
-        load->GetGradiente3() = row.GradientZ();
-        load->GetAlfa() = row.alpha;
+        load->SetReference(CCarico::Local);
+        load->GetTemperature() = row.Mean();
+        load->GetGradient2() = row.GradientY();
+        load->GetGradient3() = row.GradientZ();
+        load->GetAlpha() = row.alpha;
         return load;
     }
 
@@ -221,7 +219,7 @@ class Builder {
     }
 
     void OnNode(const Frame3ddNodal& row, std::unique_ptr<CCarico> load) {
-        m_data.CercaNodo(row.node)->AddCarico(Load(std::move(load)), 0);
+        m_data.FindNode(row.node)->AddCarico(Load(std::move(load)), 0);
     }
 
     void OnElement(int element, std::unique_ptr<CCarico> load) {

@@ -1,6 +1,6 @@
 #include "host/files/LoadValues.h"
 
-#include "model/Carico.h"
+#include "model/load/Carico.h"
 
 namespace host {
 
@@ -27,19 +27,19 @@ LoadValues ValuesOf(CCarico& load) {
     LoadValues list;
     switch (load.GetTipoElemento()) {
     case TipoElemento::CaricoNodale:
-        Add(list, As<CCaricoNodale>(load).GetVettoreForza());
-        Add(list, As<CCaricoNodale>(load).GetVettoreMomento());
+        Add(list, As<CCaricoNodale>(load).GetForceVector());
+        Add(list, As<CCaricoNodale>(load).GetMomentVector());
         break;
     case TipoElemento::CaricoSpostamento:
-        Add(list, As<CCaricoSpostamento>(load).GetSpostamento());
-        Add(list, As<CCaricoSpostamento>(load).GetRotazione());
+        Add(list, As<CCaricoSpostamento>(load).GetDisplacement());
+        Add(list, As<CCaricoSpostamento>(load).GetRotation());
         break;
     case TipoElemento::CaricoUniforme:
         Add(list, As<CCaricoUniforme>(load).GetCarico());
         break;
     case TipoElemento::CaricoTrapezoidale:
         for (int axis = 0; axis < 3; ++axis) {
-            auto& part = As<CCaricoTrapezoidale>(load).GetTratto(axis);
+            auto& part = As<CCaricoTrapezoidale>(load).GetStretch(axis);
             Add(list, part.da);
             Add(list, part.a);
             Add(list, part.inizio);
@@ -47,18 +47,18 @@ LoadValues ValuesOf(CCarico& load) {
         }
         break;
     case TipoElemento::CaricoConcentrato:
-        Add(list, As<CCaricoConcentrato>(load).GetVettoreForza());
-        Add(list, As<CCaricoConcentrato>(load).GetVettoreMomento());
-        Add(list, As<CCaricoConcentrato>(load).GetDistanza());
+        Add(list, As<CCaricoConcentrato>(load).GetForceVector());
+        Add(list, As<CCaricoConcentrato>(load).GetMomentVector());
+        Add(list, As<CCaricoConcentrato>(load).GetDistance());
         break;
     case TipoElemento::CaricoTemperatura:
-        Add(list, As<CCaricoTemperatura>(load).GetTemperatura());
-        Add(list, As<CCaricoTemperatura>(load).GetGradiente2());
-        Add(list, As<CCaricoTemperatura>(load).GetGradiente3());
-        Add(list, As<CCaricoTemperatura>(load).GetAlfa());
+        Add(list, As<CCaricoTemperatura>(load).GetTemperature());
+        Add(list, As<CCaricoTemperatura>(load).GetGradient2());
+        Add(list, As<CCaricoTemperatura>(load).GetGradient3());
+        Add(list, As<CCaricoTemperatura>(load).GetAlpha());
         break;
     case TipoElemento::CaricoPesoProprio:
-        Add(list, As<CCaricoPesoProprio>(load).GetAccelerazione());
+        Add(list, As<CCaricoPesoProprio>(load).GetAcceleration());
         break;
     default:
         break;

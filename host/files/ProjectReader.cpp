@@ -2,14 +2,14 @@
 #include "host/files/LoadValues.h"
 #include "host/files/ProjectFile.h"
 #include "host/files/ProjectSchema.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/LineaFisica.h"
-#include "model/Materiale.h"
-#include "model/Poligono.h"
-#include "model/Sezione.h"
-#include "model/Spessore.h"
+#include "model/element/LineaFisica.h"
+#include "model/element/Poligono.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 
 #include <limits>
 #include <unordered_set>
@@ -134,8 +134,8 @@ class Reader {
         ProjectInfo& info = m_data.Info();
         for (CString* text : {&info.title, &info.author, &info.date, &info.notes})
             *text = row.Text();
-        m_data.Units().length = static_cast<Lunghezza>(row.Int(0, kNumeroLunghezze - 1));
-        m_data.Units().force = static_cast<Forza>(row.Int(0, kNumeroForze - 1));
+        m_data.Units().length = static_cast<Lunghezza>(row.Int(0, lengthCount - 1));
+        m_data.Units().force = static_cast<Forza>(row.Int(0, forceCount - 1));
         m_data.Tolerance() = row.Real(0, std::numeric_limits<double>::max());
         m_data.CurrentCase() = row.Reference();
         row.Text(); // the version that saved the file: for people, not for this reader
@@ -150,8 +150,8 @@ class Reader {
             material.SetE(row.Real());
             material.SetG(row.Real());
             material.SetPoisson(row.Real());
-            material.SetDensita(row.Real());
-            material.SetAlfa(row.Real());
+            material.SetDensity(row.Real());
+            material.SetAlpha(row.Real());
         });
         ForEach(tables::sections, [this](RowReader& row) {
             auto& section = ReadNamed<CSezione>(row);
@@ -164,9 +164,9 @@ class Reader {
             section.SetW2(row.Real());
             section.SetW3(row.Real());
             const double base = row.Real();
-            section.SetDimensioni(base, row.Real());
+            section.SetDimensions(base, row.Real());
         });
-        ForEach(tables::thicknesses, [this](RowReader& row) { ReadNamed<CSpessore>(row).SetSpessore(row.Real()); });
+        ForEach(tables::thicknesses, [this](RowReader& row) { ReadNamed<CSpessore>(row).SetThickness(row.Real()); });
     }
 
     void ReadCases() {
@@ -192,7 +192,7 @@ class Reader {
     void ReadNodes() {
         // The limit is the same length whatever the unit: a model that reaches it in metres may be shown in
         // millimetres. A conversion may round it up.
-        const double metres = CGrandezza::_FattoreLunghezza(m_data.Units().length, Lunghezza::Metri) / (1 + 1e-9);
+        const double metres = CGrandezza::_LengthFactor(m_data.Units().length, Lunghezza::Metres) / (1 + 1e-9);
         ForEach(tables::nodes, [this, metres](RowReader& row) {
             const int id = row.Id();
             CFPoint place;
@@ -201,20 +201,20 @@ class Reader {
             if (!IsUsablePlace(place * metres))
                 row.Fail("le coordinate del nodo sono troppo grandi.");
             CNodo& node = Append(row, std::make_unique<CNodo>(place), id);
-            if (const int mask = row.Int(0, CVincolo::Tutti); mask != 0) {
+            if (const int mask = row.Int(0, CVincolo::All); mask != 0) {
                 const CVincolo restraint(static_cast<unsigned>(mask));
-                node.SetVincolo(&restraint);
+                node.SetRestraint(&restraint);
             }
             node.SetVisible(row.Flag());
         });
         ForEach(tables::springs, [this](RowReader& row) {
             auto& node = Required<CNodo>(row, Kind::Node);
-            const int kind = row.Int(CMolla::Traslazionale, CMolla::Rotazionale);
+            const int kind = row.Int(CMolla::Translational, CMolla::Rotational);
             const double stiffness = row.Real();
             CFPoint along;
             for (double* component : {&along.x, &along.y, &along.z})
                 *component = row.Real();
-            node.AddMolla(CMolla(kind, stiffness, along, m_data.Units().length, m_data.Units().force));
+            node.AddSpring(CMolla(kind, stiffness, along, m_data.Units().length, m_data.Units().force));
         });
     }
 
@@ -247,7 +247,7 @@ class Reader {
             const bool end = row.Flag();
             auto release = std::make_unique<CSpecificheSvincoliTrave>(end, 0, 0, 0, 0);
             for (int i = 0; i < 4; ++i)
-                release->SetSvincolo(i, row.Flag());
+                release->SetRelease(i, row.Flag());
             release->SetID(id);
             line.AddSpecifica(release.release());
         });
@@ -260,7 +260,7 @@ class Reader {
             const int material = row.Reference();
             polygon->SetMateriale(material, Find<CMateriale>(row, Kind::Material, material));
             const int thickness = row.Reference();
-            polygon->SetSpessore(thickness, Find<CSpessore>(row, Kind::Thickness, thickness));
+            polygon->SetThickness(thickness, Find<CSpessore>(row, Kind::Thickness, thickness));
             polygon->SetVisible(row.Flag());
             Append(row, std::move(polygon), id);
         });
@@ -288,8 +288,8 @@ class Reader {
                 row.Fail("il genere del carico non è valido.");
             if (loadCase.GetCarico(id, nullptr))
                 row.Fail("il numero " + std::to_string(id) + " è già usato.");
-            load->SetRiferimento(row.Int(CCarico::Globale, CCarico::Locale));
-            load->SetIDInsieme(row.Reference());
+            load->SetReference(row.Int(CCarico::Global, CCarico::Local));
+            load->SetSetId(row.Reference());
             const LoadValues list = ValuesOf(*load);
             for (int i = 0; i < list.count; ++i)
                 *list.values[static_cast<std::size_t>(i)] = row.Real();

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/files/Sqlite.h"
-#include "platform/String.h"
+#include "platform/core/String.h"
 
 #include <string>
 #include <string_view>

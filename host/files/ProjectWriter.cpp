@@ -2,14 +2,14 @@
 #include "host/files/LoadValues.h"
 #include "host/files/ProjectFile.h"
 #include "host/files/ProjectSchema.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/LineaFisica.h"
-#include "model/Materiale.h"
-#include "model/Poligono.h"
-#include "model/Sezione.h"
-#include "model/Spessore.h"
+#include "model/element/LineaFisica.h"
+#include "model/element/Poligono.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -71,18 +71,18 @@ class Writer {
     void WriteProperties() {
         RowWriter materials(m_database, tables::materials, m_rows);
         ForEach<CMateriale>(Kind::Material, [&](CMateriale& m) {
-            Name(materials, m).Put(m.GetE()).Put(m.GetG()).Put(m.GetPoisson()).Put(m.GetDensita()).Put(m.GetAlfa());
+            Name(materials, m).Put(m.GetE()).Put(m.GetG()).Put(m.GetPoisson()).Put(m.GetDensity()).Put(m.GetAlpha());
             materials.End();
         });
         RowWriter sections(m_database, tables::sections, m_rows);
         ForEach<CSezione>(Kind::Section, [&](CSezione& s) {
             Name(sections, s).Put(s.GetArea()).Put(s.GetArea2()).Put(s.GetArea3()).Put(s.GetJ());
-            sections.Put(s.GetI2()).Put(s.GetI3()).Put(s.GetW2()).Put(s.GetW3()).Put(s.GetBase()).Put(s.GetAltezza());
+            sections.Put(s.GetI2()).Put(s.GetI3()).Put(s.GetW2()).Put(s.GetW3()).Put(s.GetBase()).Put(s.GetHeight());
             sections.End();
         });
         RowWriter thicknesses(m_database, tables::thicknesses, m_rows);
         ForEach<CSpessore>(Kind::Thickness, [&](CSpessore& t) {
-            Name(thicknesses, t).Put(t.GetSpessore());
+            Name(thicknesses, t).Put(t.GetThickness());
             thicknesses.End();
         });
     }
@@ -108,8 +108,8 @@ class Writer {
     }
 
     static void WriteLoad(RowWriter& row, int caseId, CCarico& load) {
-        row.Put(caseId).Put(load.GetID()).Put(load.GetTipoElemento()).Put(load.GetRiferimento());
-        row.Put(load.GetIDInsieme());
+        row.Put(caseId).Put(load.GetID()).Put(load.GetTipoElemento()).Put(load.GetReference());
+        row.Put(load.GetSetId());
         const LoadValues list = ValuesOf(load);
         for (int i = 0; i < static_cast<int>(list.values.size()); ++i)
             row.Put(i < list.count ? *list.values[static_cast<std::size_t>(i)] : 0.0);
@@ -123,12 +123,12 @@ class Writer {
             const CFPoint& place = *node.GetPunto();
             const CVincolo* restraint = node.GetVincolo();
             nodes.Put(node.GetID()).Put(place.x).Put(place.y).Put(place.z);
-            nodes.Put(restraint ? restraint->GetMaschera() : 0u).Put(node.IsVisible() != 0);
+            nodes.Put(restraint ? restraint->GetMask() : 0u).Put(node.IsVisible() != 0);
             nodes.End();
             for (int i = 0; i < node.GetSizeMolle(); ++i) {
                 CMolla& spring = *node.GetIndexMolla(i);
-                const CFPoint& along = spring.GetDirezione();
-                springs.Put(node.GetID()).Put(spring.GetTipo()).Put(spring.GetRigidezza().GetValore());
+                const CFPoint& along = spring.GetDirection();
+                springs.Put(node.GetID()).Put(spring.GetTipo()).Put(spring.GetStiffness().GetValue());
                 springs.Put(along.x).Put(along.y).Put(along.z).End();
             }
         });
@@ -177,9 +177,9 @@ class Writer {
             auto* release = DYNAMIC_DOWNCAST(CSpecificheSvincoliTrave, line.GetIndexSpecifica(i));
             if (!release)
                 continue;
-            row.Put(CodeOf(kind)).Put(line.GetID()).Put(release->GetID()).Put(release->GetEstremo());
+            row.Put(CodeOf(kind)).Put(line.GetID()).Put(release->GetID()).Put(release->GetEnd());
             for (int j = 0; j < 4; ++j)
-                row.Put(release->GetSvincolo(j));
+                row.Put(release->GetRelease(j));
             row.End();
         }
     }
@@ -190,7 +190,7 @@ class Writer {
         ForEach<CGruppo>(Kind::Group, [&](CGruppo& group) {
             Name(groups, group).End();
             for (int i = 0; i < group.GetSizeElementi(); ++i)
-                members.Put(group.GetID()).Put(group.GetTipoIndexElemento(i)).Put(group.GetIDIndexElemento(i)).End();
+                members.Put(group.GetID()).Put(group.GetElementKindAt(i)).Put(group.GetElementIdAt(i)).End();
         });
     }
 

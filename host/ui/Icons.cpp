@@ -42,7 +42,7 @@ stroke="#1c4f8a" stroke-width="1.6" stroke-linejoin="round"/>)"},
 <path d="M6 19V6H18V19M6 12.5H18M6 12.5 18 6" fill="none" stroke="#fff" stroke-width="1.8"/>)"},
 };
 
-QPixmap render(const QByteArray& svg, int size) {
+QPixmap Render(const QByteArray& svg, int size) {
     QPixmap pixmap(size, size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
@@ -61,7 +61,7 @@ QIcon ToolIcon(const char* name) {
             QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24" fill="none">)") + each.body +
             "</svg>";
         for (const int size : {16, 24, 32, 48, 64})
-            icon.addPixmap(render(svg, size));
+            icon.addPixmap(Render(svg, size));
     }
     return icon;
 }

@@ -1,17 +1,17 @@
 #include "host/ui/MainMenu.h"
 
+#include "host/commands/AnalysisCommand.h"
+#include "host/commands/Assign.h"
+#include "host/commands/AssignLoad.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/AnalysisCommand.h"
-#include "host/ui/Assign.h"
-#include "host/ui/AssignLoad.h"
-#include "host/ui/Commands.h"
-#include "host/ui/HostView.h"
 #include "host/ui/Icons.h"
 #include "host/ui/MainWindow.h"
-#include "host/ui/ViewWidget.h"
 #include "host/ui/Workspace.h"
-#include "model/ElementoRisultati.h"
-#include "model/TipoElemento.h"
+#include "host/view/HostView.h"
+#include "host/view/ViewWidget.h"
+#include "model/element/TipoElemento.h"
+#include "model/result/ElementoRisultati.h"
 
 #include <QAction>
 #include <QMdiArea>
@@ -121,7 +121,7 @@ void MainMenu::BuildEdit() {
     m_redo->setIconText("Ripristina");
     menu.addSeparator();
     AddForView(menu, "modifica.seleziona_tutto", "&Seleziona tutto", QKeySequence::SelectAll,
-               [](HostView& view) { view.Document().SelezionaTutto(); });
+               [](HostView& view) { view.Document().SelectAll(); });
     Add(menu, "modifica.deseleziona", "&Deseleziona", QKeySequence("Ctrl+D"), Needs::Selection, [this] {
         if (HostView* view = m_workspace.ActiveView())
             view->Document().Selection().Clear();
@@ -129,7 +129,7 @@ void MainMenu::BuildEdit() {
     menu.addSeparator();
     Add(menu, "modifica.elimina", "&Elimina", QKeySequence(Qt::Key_Delete), Needs::Selection, [this] {
         if (HostView* view = m_workspace.ActiveView())
-            view->Document().EliminaSelezione();
+            view->Document().DeleteSelection();
     });
 }
 
@@ -141,13 +141,13 @@ void MainMenu::BuildView() {
         const char* keys;
         Adv3d::Direzione direction;
     } directions[] = {
-        {"vista.assonometria", "&Assonometria", "Ctrl+1", Adv3d::Assonometria},
-        {"vista.xy", "Pianta X&Y", "Ctrl+2", Adv3d::Alto},
-        {"vista.xz", "Prospetto X&Z", "Ctrl+3", Adv3d::Fronte},
-        {"vista.yz", "Prospetto Y&Z", "Ctrl+4", Adv3d::Destra},
-        {"vista.basso", "Dal &basso", "", Adv3d::Basso},
-        {"vista.retro", "Dal &retro", "", Adv3d::Retro},
-        {"vista.sinistra", "Da &sinistra", "", Adv3d::Sinistra},
+        {"vista.assonometria", "&Assonometria", "Ctrl+1", Adv3d::Axonometry},
+        {"vista.xy", "Pianta X&Y", "Ctrl+2", Adv3d::Top},
+        {"vista.xz", "Prospetto X&Z", "Ctrl+3", Adv3d::Front},
+        {"vista.yz", "Prospetto Y&Z", "Ctrl+4", Adv3d::Right},
+        {"vista.basso", "Dal &basso", "", Adv3d::Bottom},
+        {"vista.retro", "Dal &retro", "", Adv3d::Back},
+        {"vista.sinistra", "Da &sinistra", "", Adv3d::Left},
     };
     for (const auto& each : directions)
         AddForView(menu, each.name, each.text, QKeySequence(each.keys), [direction = each.direction](HostView& view) {
@@ -163,7 +163,7 @@ void MainMenu::BuildView() {
     AddForView(menu, "vista.ingrandisci", "&Ingrandisci", QKeySequence::ZoomIn, zoom(1.25));
     AddForView(menu, "vista.riduci", "Ri&duci", QKeySequence::ZoomOut, zoom(0.8));
     AddToggle(
-        menu, "vista.prospettiva", "&Prospettiva", [](HostView& view) { return view.Vista().IsProspettiva() != 0; },
+        menu, "vista.prospettiva", "&Prospettiva", [](HostView& view) { return view.Vista().IsPerspective() != 0; },
         [](HostView& view, bool on) { view.SetPerspective(on); });
     menu.addSeparator();
     BuildShown(menu);
@@ -173,20 +173,20 @@ void MainMenu::BuildShown(QMenu& menu) {
     for (const KindEntry& each : kinds)
         AddToggle(
             menu, QStringLiteral("mostra.") + each.name, QStringLiteral("Mostra ") + QString(each.name).toLower(),
-            [kind = each.kind](HostView& view) { return view.IsShown(kind, CElementoSettings::Oggetto); },
-            [kind = each.kind](HostView& view, bool on) { view.SetShown(kind, CElementoSettings::Oggetto, on); });
+            [kind = each.kind](HostView& view) { return view.IsShown(kind, CElementoSettings::Object); },
+            [kind = each.kind](HostView& view, bool on) { view.SetShown(kind, CElementoSettings::Object, on); });
     menu.addSeparator();
     const struct {
         const char* name;
         unsigned item;
-    } items[] = {{"Facce", CElementoSettings::Facce},
+    } items[] = {{"Facce", CElementoSettings::Faces},
                  {"Carichi", CElementoSettings::Carichi},
                  {"Valori dei carichi", CElementoSettings::ValoriCarichi},
-                 {"Vincoli", CElementoSettings::Vincoli},
-                 {"Molle", CElementoSettings::Molle},
+                 {"Vincoli", CElementoSettings::Restraints},
+                 {"Molle", CElementoSettings::Springs},
                  {"Svincoli", CElementoSettings::Specifiche},
-                 {"Numeri", CElementoSettings::Identificatore},
-                 {"Assi locali", CElementoSettings::AssiLocali}};
+                 {"Numeri", CElementoSettings::Identifier},
+                 {"Assi locali", CElementoSettings::LocalAxes}};
     for (const auto& each : items)
         AddToggle(
             menu, QStringLiteral("mostra.") + each.name, each.name,
@@ -244,7 +244,7 @@ void MainMenu::BuildAnalysis() {
     for (const int kind : {CElementoSettings::N, CElementoSettings::V2, CElementoSettings::V3, CElementoSettings::T,
                            CElementoSettings::M2, CElementoSettings::M3, CElementoSettings::N_A,
                            CElementoSettings::M2_W2, CElementoSettings::M3_W3}) {
-        const QString name = platform::toQString(CElementoRisultati::_GetStringRisultato(kind));
+        const QString name = platform::ToQString(CElementoRisultati::_GetStringRisultato(kind));
         AddToggle(
             shown, "analisi.mostra_risultato." + name, name,
             [kind](HostView& view) { return view.GetTraveSettings().IsRisultato(kind) != 0; },
@@ -313,7 +313,7 @@ void MainMenu::Refresh(HostView* view) {
             item.action->setChecked(view && item.checked(*view));
     }
     const auto withStep = [](const char* verb, const CString& step) {
-        return step.IsEmpty() ? QString(verb) : QString(verb) + " " + platform::toQString(step);
+        return step.IsEmpty() ? QString(verb) : QString(verb) + " " + platform::ToQString(step);
     };
     m_undo->setText(withStep("&Annulla", undo ? undo->UndoName() : CString()));
     m_redo->setText(withStep("&Ripristina", undo ? undo->RedoName() : CString()));

@@ -1,14 +1,14 @@
 #include "host/ui/MainWindow.h"
 
 #include "host/document/HostDocument.h"
-#include "host/ui/HostView.h"
 #include "host/ui/Icons.h"
 #include "host/ui/MainMenu.h"
-#include "host/ui/ViewWidget.h"
 #include "host/ui/Workspace.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Units.h"
+#include "host/view/HostView.h"
+#include "host/view/ViewWidget.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/values/Units.h"
 
 #include <QAction>
 #include <QApplication>
@@ -58,7 +58,7 @@ class ViewWindow final : public QMdiSubWindow {
     Workspace& m_workspace;
 };
 
-ViewWindow* asViewWindow(QMdiSubWindow* window) {
+ViewWindow* AsViewWindow(QMdiSubWindow* window) {
     return dynamic_cast<ViewWindow*>(window);
 }
 
@@ -80,7 +80,7 @@ void HostFrame::OnClose() {
 
 MainWindow::MainWindow(Workspace& workspace)
     : Hosted<QMainWindow>(nullptr), m_workspace(workspace), m_frame(workspace), m_area(new QMdiArea) {
-    attach(&m_frame);
+    Attach(&m_frame);
     setCentralWidget(m_area);
     m_area->setViewMode(QMdiArea::TabbedView);
     m_area->setDocumentMode(true);
@@ -94,7 +94,7 @@ MainWindow::MainWindow(Workspace& workspace)
     BuildToolBar();
     QObject::connect(m_area, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
         // Null when a dialog takes the focus: the view stays the one that commands mean.
-        if (ViewWindow* active = asViewWindow(window); active && active->View())
+        if (ViewWindow* active = AsViewWindow(window); active && active->View())
             m_workspace.ViewActivated(*active->View());
     });
     live = true;
@@ -104,7 +104,7 @@ MainWindow::MainWindow(Workspace& workspace)
 MainWindow::~MainWindow() {
     // The sub-windows report their end to an object that is going.
     m_area->disconnect(this);
-    detach();
+    Detach();
 }
 
 void MainWindow::BuildStatusBar() {
@@ -155,13 +155,13 @@ void MainWindow::AddView(HostView& view) {
 QMdiSubWindow* MainWindow::WindowOf(const HostView& view) const {
     const QList<QMdiSubWindow*> windows = m_area->subWindowList();
     const auto found = std::find_if(windows.begin(), windows.end(),
-                                    [&view](QMdiSubWindow* each) { return asViewWindow(each)->View() == &view; });
+                                    [&view](QMdiSubWindow* each) { return AsViewWindow(each)->View() == &view; });
     return found == windows.end() ? nullptr : *found;
 }
 
 void MainWindow::RemoveView(HostView& view) {
     if (QMdiSubWindow* window = WindowOf(view)) {
-        asViewWindow(window)->Forget();
+        AsViewWindow(window)->Forget();
         m_area->removeSubWindow(window);
         window->hide();
         window->deleteLater();
@@ -185,12 +185,12 @@ void MainWindow::ScheduleRefresh() {
 
 void MainWindow::Refresh() {
     for (QMdiSubWindow* each : m_area->subWindowList())
-        if (HostView* view = asViewWindow(each)->View())
+        if (HostView* view = AsViewWindow(each)->View())
             each->setWindowTitle(m_workspace.TitleOf(*view));
     HostView* view = m_workspace.ActiveView();
     setWindowTitle(view ? m_workspace.TitleOf(*view) + QStringLiteral(" \u2013 Quovar") : QStringLiteral("Quovar"));
-    m_prompt->setText(view ? platform::toQString(view->Prompt()) : QString());
-    m_unit->setText(view ? platform::toQString(CGrandezza::_GetStringLunghezza(view->Document().GetLunghezza()) + ", " +
+    m_prompt->setText(view ? platform::ToQString(view->Prompt()) : QString());
+    m_unit->setText(view ? platform::ToQString(CGrandezza::_GetStringLunghezza(view->Document().GetLunghezza()) + ", " +
                                                CGrandezza::_GetStringForza(view->Document().GetForza()))
                          : QString());
     m_menu->Refresh(view);
@@ -200,7 +200,7 @@ void MainWindow::Refresh() {
 void MainWindow::RefreshLoadCases(HostView* view) {
     std::vector<std::pair<int, QString>> cases;
     const auto add = [&cases](CElementoStrutturale& entity) {
-        cases.emplace_back(entity.GetID(), platform::toQString(entity.GetNome()));
+        cases.emplace_back(entity.GetID(), platform::ToQString(entity.GetNome()));
     };
     if (view) {
         HostDocument& document = view->Document();

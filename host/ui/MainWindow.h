@@ -3,8 +3,8 @@
 
 #include "dialogs/frame/MainFrame.h"
 #include "host/ui/WaitIndicator.h"
-#include "platform/MessageMap.h"
-#include "platform/private/Hosted.h"
+#include "platform/private/peers/Hosted.h"
+#include "platform/window/MessageMap.h"
 
 #include <QMainWindow>
 

@@ -4,9 +4,9 @@
 #include "dialogs/frame/DialogDocument.h"
 #include "dialogs/frame/QuovarGlobal.h"
 #include "host/ui/DeferredDelete.h"
-#include "host/ui/HostView.h"
-#include "host/ui/ViewWidget.h"
-#include "platform/private/WindowPeer.h"
+#include "host/view/HostView.h"
+#include "host/view/ViewWidget.h"
+#include "platform/private/peers/WindowPeer.h"
 
 #include <QScreen>
 

@@ -1,13 +1,13 @@
 #include "host/ui/Workspace.h"
 
 #include "dialogs/frame/DialogDocument.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/Commands.h"
 #include "host/ui/DeferredDelete.h"
-#include "host/ui/HostView.h"
 #include "host/ui/MainWindow.h"
-#include "host/ui/ViewWidget.h"
-#include "platform/Application.h"
+#include "host/view/HostView.h"
+#include "host/view/ViewWidget.h"
+#include "platform/window/Application.h"
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>
@@ -83,7 +83,7 @@ QString Workspace::TitleOf(const HostView& view) const {
 HostView& Workspace::NewDocument() {
     const QString name = QStringLiteral("Senza titolo %1").arg(++m_untitled);
     Project& project = Adopt(std::make_unique<HostDocument>(), {}, name);
-    project.document->SetTitle(platform::fromQString(name));
+    project.document->SetTitle(platform::FromQString(name));
     return NewView(*project.document);
 }
 
@@ -233,7 +233,7 @@ CMainFrame* Workspace::GetMainFrame() {
 }
 
 void Workspace::InizioAttesa(CString messaggio, unsigned int nPassi) {
-    m_window->Wait().Begin(platform::toQString(messaggio), nPassi);
+    m_window->Wait().Begin(platform::ToQString(messaggio), nPassi);
 }
 
 void Workspace::StepBar() {

@@ -4,7 +4,7 @@
 
 #include "dialogs/frame/QuovarHost.h"
 #include "host/ui/ToolDialogs.h"
-#include "host/ui/ViewOwner.h"
+#include "host/view/ViewOwner.h"
 
 #include <QObject>
 #include <QString>

@@ -4,10 +4,10 @@
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddImport.h"
 #include "host/files/ProjectFile.h"
-#include "host/ui/HostView.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
-#include "platform/Application.h"
+#include "host/view/HostView.h"
+#include "platform/window/Application.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,20 +23,20 @@ const QString projects = QStringLiteral("Progetti (*.asg)");
 const QString textModels = QStringLiteral("Modelli di testo (*.3dd)");
 const QString allFiles = QStringLiteral("Tutti i file (*)");
 
-std::string systemPath(const QString& path) {
+std::string SystemPath(const QString& path) {
     return QFile::encodeName(path).toStdString();
 }
 
-bool isTextModel(const QString& path) {
+bool IsTextModel(const QString& path) {
     return QFileInfo(path).suffix().compare(QStringLiteral("3dd"), Qt::CaseInsensitive) == 0;
 }
 
-void tell(const QString& text) {
-    AfxMessageBox(platform::fromQString(text), MB_OK);
+void Tell(const QString& text) {
+    AfxMessageBox(platform::FromQString(text), MB_OK);
 }
 
 // What a text model asks for and the import leaves out.
-void tellNotes(const std::vector<CString>& notes) {
+void TellNotes(const std::vector<CString>& notes) {
     CString text("Modello importato con queste limitazioni:");
     for (const CString& note : notes)
         text += "\n" + note;
@@ -45,7 +45,7 @@ void tellNotes(const std::vector<CString>& notes) {
 
 // Runs what reads or writes a file; false, after a message that begins with `what`, when it fails.
 template <class Action>
-bool guarded(const QString& what, const Action& action) {
+bool Guarded(const QString& what, const Action& action) {
     QString reason;
     try {
         const CWaitCursor wait;
@@ -56,11 +56,11 @@ bool guarded(const QString& what, const Action& action) {
     } catch (const std::bad_alloc&) {
         reason = QStringLiteral("Memoria insufficiente.");
     }
-    tell(what + "\n" + reason);
+    Tell(what + "\n" + reason);
     return false;
 }
 
-QString withSuffix(const QString& path) {
+QString WithSuffix(const QString& path) {
     return QFileInfo(path).suffix().isEmpty() ? path + ".asg" : path;
 }
 
@@ -75,26 +75,26 @@ HostView* Workspace::Open(const QString& path) {
             ViewActivated(*view);
             return view.get();
         }
-    const bool text = isTextModel(whole);
+    const bool text = IsTextModel(whole);
     std::vector<CString> notes;
     auto document = std::make_unique<HostDocument>();
-    const bool read = guarded(QStringLiteral("Impossibile aprire \"%1\".").arg(QDir::toNativeSeparators(path)), [&] {
-        document->Replace(text ? ImportFrame3dd(systemPath(whole), &notes) : LoadProject(systemPath(whole)));
+    const bool read = Guarded(QStringLiteral("Impossibile aprire \"%1\".").arg(QDir::toNativeSeparators(path)), [&] {
+        document->Replace(text ? ImportFrame3dd(SystemPath(whole), &notes) : LoadProject(SystemPath(whole)));
     });
     if (!read)
         return nullptr;
     // A text model becomes a project of its own: saving never writes over it.
     if (text)
-        document->SetTitle(platform::fromQString(file.completeBaseName()));
+        document->SetTitle(platform::FromQString(file.completeBaseName()));
     else
-        document->SetPathName(platform::fromQString(whole));
+        document->SetPathName(platform::FromQString(whole));
     HostView* former = m_active;
     Project& project =
         Adopt(std::move(document), text ? QString() : whole, text ? file.completeBaseName() : file.fileName());
     HostView& view = NewView(*project.document);
     CloseUntouched(former);
     if (!notes.empty())
-        tellNotes(notes);
+        TellNotes(notes);
     return &view;
 }
 
@@ -120,13 +120,13 @@ bool Workspace::SaveAs(HostDocument& document, const QString& path) {
     const QFileInfo file(path);
     const QString whole = file.absoluteFilePath();
     document.Idle(); // what was just done belongs to the file
-    const bool written = guarded(QStringLiteral("Impossibile salvare \"%1\".").arg(QDir::toNativeSeparators(path)),
-                                 [&] { SaveProject(document.Data(), systemPath(whole), QUOVAR_VERSION); });
+    const bool written = Guarded(QStringLiteral("Impossibile salvare \"%1\".").arg(QDir::toNativeSeparators(path)),
+                                 [&] { SaveProject(document.Data(), SystemPath(whole), QUOVAR_VERSION); });
     if (!written)
         return false;
     project->path = whole;
     project->name = file.fileName();
-    document.SetPathName(platform::fromQString(whole));
+    document.SetPathName(platform::FromQString(whole));
     document.MarkSaved();
     m_window->ScheduleRefresh();
     return true;
@@ -150,7 +150,7 @@ bool Workspace::AskAndSaveAs(HostDocument& document) {
     const QString proposed = project ? (project->path.isEmpty() ? project->name + ".asg" : project->path) : QString();
     const QString path =
         QFileDialog::getSaveFileName(m_window.get(), QStringLiteral("Salva con nome"), proposed, projects);
-    return !path.isEmpty() && SaveAs(document, withSuffix(path));
+    return !path.isEmpty() && SaveAs(document, WithSuffix(path));
 }
 
 bool Workspace::AskToSave(Project& project) {
@@ -159,7 +159,7 @@ bool Workspace::AskToSave(Project& project) {
     if (!document.IsModified())
         return true;
     const QString question = QStringLiteral("Salvare le modifiche a \"%1\"?").arg(project.name);
-    switch (AfxMessageBox(platform::fromQString(question), MB_YESNOCANCEL | MB_ICONQUESTION)) {
+    switch (AfxMessageBox(platform::FromQString(question), MB_YESNOCANCEL | MB_ICONQUESTION)) {
     case IDYES:
         return Save(document);
     case IDNO:

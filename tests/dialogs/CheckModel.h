@@ -1,14 +1,14 @@
 // Small sound models in the recording document: what is made here has its material, section and thickness.
 #pragma once
 
-#include "model/Asta.h"
-#include "model/Materiale.h"
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Sezione.h"
-#include "model/Solaio.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 #include "tests/support/RecordingDoc.h"
 
 #include <initializer_list>
@@ -18,7 +18,7 @@ class CheckModel {
   public:
     explicit CheckModel(RecordingDoc& doc) : m_doc(doc) {}
 
-    static inline const CVincolo fixed{CVincolo::Tutti};
+    static inline const CVincolo fixed{CVincolo::All};
     static inline const CVincolo pinned{1, 1, 1, 0, 0, 0};
     CMateriale material;
     CSezione section;
@@ -37,7 +37,7 @@ class CheckModel {
     std::pair<CNodo*, CNodo*> Frame() {
         CNodo* const first = Node();
         CNodo* const second = Node();
-        first->SetVincolo(&fixed);
+        first->SetRestraint(&fixed);
         Beam(*first, *second);
         return {first, second};
     }
@@ -57,7 +57,7 @@ class CheckModel {
         for (CNodo* node : nodes)
             polygon.AggiungiVertice(node);
         polygon.SetMateriale(1, &material);
-        polygon.SetSpessore(1, &thickness);
+        polygon.SetThickness(1, &thickness);
         return polygon;
     }
 

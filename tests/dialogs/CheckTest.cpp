@@ -12,13 +12,13 @@ class Check : public ToolTest<CDialogCheck> {
   protected:
     // Opens the window on the model as it is, asks for the check and gives its rows without the two of the heading.
     Lines Rows() {
-        driver = Reopen();
+        m_driver = Reopen();
         return Recheck();
     }
     Lines Recheck() {
-        host.doc.UpdateAllViews(nullptr, MODIFICA_CHECK);
-        host.Take();
-        Lines rows = driver.Rows(list);
+        m_host.doc.UpdateAllViews(nullptr, MODIFICA_CHECK);
+        m_host.Take();
+        Lines rows = m_driver.Rows(list);
         const Lines heading{"--- Check Modello --- ", ""};
         EXPECT_TRUE(rows.size() >= 2 && std::equal(heading.begin(), heading.end(), rows.begin()));
         return Lines(rows.begin() + std::min<std::ptrdiff_t>(2, std::ssize(rows)), rows.end());
@@ -32,65 +32,65 @@ class Check : public ToolTest<CDialogCheck> {
         return "Attenzione la Struttura n.ro " + std::to_string(structure) + ", è labile";
     }
 
-    CheckModel model{host.doc};
+    CheckModel m_model{m_host.doc};
 };
 
 TEST_F(Check, OpensBelowTheViewAndWaitsForTheRequest) {
-    model.Frame();
-    model.Frame();
-    host.frame.table = CRect(0, 0, 400, 130);
-    dialog.DestroyWindow();
-    host.Open(dialog);
+    m_model.Frame();
+    m_model.Frame();
+    m_host.frame.table = CRect(0, 0, 400, 130);
+    m_dialog.DestroyWindow();
+    m_host.Open(m_dialog);
     // Seeded by the first node not reached yet, one step of the bar for each node.
-    EXPECT_EQ(host.Take(),
+    EXPECT_EQ(m_host.Take(),
               (Lines{"SelezionaStruttura CNodo 1", "InizioAttesa \"Attendere...Ricerca delle strutture\" 4", "StepBar",
                      "StepBar", "StepBar", "SelezionaStruttura CNodo 3", "StepBar", "FineAttesa"}));
-    driver = DialogDriver(dialog);
-    EXPECT_TRUE(driver.Rows(list).empty());
+    m_driver = DialogDriver(m_dialog);
+    EXPECT_TRUE(m_driver.Rows(list).empty());
     CRect around, place, client, box;
-    host.frame.GetWindowRect(around);
-    dialog.GetWindowRect(place);
+    m_host.frame.GetWindowRect(around);
+    m_dialog.GetWindowRect(place);
     EXPECT_EQ(place.left, around.left);
     EXPECT_EQ(place.top, around.bottom);
     constexpr int frame = 30; // which the window manager may add around the size asked for
     EXPECT_NEAR(place.Width(), around.Width(), frame);
     EXPECT_NEAR(place.Height(), 130, frame);
-    dialog.SetWindowPos(nullptr, 0, 0, 333, 222, SWP_NOMOVE | SWP_NOZORDER);
-    dialog.GetClientRect(client);
-    dialog.GetDlgItem(list)->GetWindowRect(box);
+    m_dialog.SetWindowPos(nullptr, 0, 0, 333, 222, SWP_NOMOVE | SWP_NOZORDER);
+    m_dialog.GetClientRect(client);
+    m_dialog.GetDlgItem(list)->GetWindowRect(box);
     EXPECT_EQ(box.Size(), client.Size()) << "the list fills the window at every size";
     // Only the check's own change code fills the list.
-    host.doc.UpdateAllViews(nullptr, MODIFICA_STRUTTURA);
-    EXPECT_TRUE(driver.Rows(list).empty());
+    m_host.doc.UpdateAllViews(nullptr, MODIFICA_STRUTTURA);
+    EXPECT_TRUE(m_driver.Rows(list).empty());
 }
 
 TEST_F(Check, OpensWithoutMainWindow) {
-    host.hasFrame = false;
+    m_host.hasFrame = false;
     EXPECT_EQ(Rows(), Closed({}));
 }
 
 TEST_F(Check, EnterKeepsItOpen) {
-    driver.Press(VK_RETURN);
-    EXPECT_EQ(host.Take(), Lines{});
-    EXPECT_TRUE(driver.IsOpen());
+    m_driver.Press(VK_RETURN);
+    EXPECT_EQ(m_host.Take(), Lines{});
+    EXPECT_TRUE(m_driver.IsOpen());
 }
 
 TEST_F(Check, SoundFramesAndSeveralStructures) {
-    model.Frame();
+    m_model.Frame();
     EXPECT_EQ(Rows(), Closed({}));
-    model.Frame();
-    host.doc.unica = 0;
+    m_model.Frame();
+    m_host.doc.unica = 0;
     EXPECT_EQ(Rows(), Closed({severalStructures}));
     EXPECT_EQ(Recheck(), Closed({severalStructures})) << "a second check starts from an empty list";
-    model.Frame();
-    host.doc.nodi[0]->SetVincolo(nullptr);
-    host.doc.nodi[4]->SetVincolo(nullptr);
+    m_model.Frame();
+    m_host.doc.nodi[0]->SetRestraint(nullptr);
+    m_host.doc.nodi[4]->SetRestraint(nullptr);
     EXPECT_EQ(Rows(), Closed({severalStructures, Labile(1), Labile(3)})) << "numbered in the order found";
 }
 
 TEST_F(Check, RestraintsThatHoldAStructureAndThoseThatDoNot) {
-    const auto [first, second] = model.Frame();
-    const CVincolo none, pinned(1, 1, 1, 0, 0, 0), fixed(CVincolo::Tutti), noTorsion(1, 1, 1, 1, 1, 0);
+    const auto [first, second] = m_model.Frame();
+    const CVincolo none, pinned(1, 1, 1, 0, 0, 0), fixed(CVincolo::All), noTorsion(1, 1, 1, 1, 1, 0);
     const CVincolo freeX(0, 1, 1, 1, 1, 1), freeY(1, 0, 1, 1, 1, 1), freeZ(1, 1, 0, 1, 1, 1);
     const std::string allFixed =
         "Attenzione nella Struttura n.ro 1 tutti i nodi sono incastrati, impossibile risolverla!";
@@ -111,19 +111,18 @@ TEST_F(Check, RestraintsThatHoldAStructureAndThoseThatDoNot) {
         {fixed, noTorsion, {}, "one free component in one node is enough"},
     };
     for (const auto& each : cases) {
-        first->SetVincolo(&each.first);
-        second->SetVincolo(&each.second);
+        first->SetRestraint(&each.first);
+        second->SetRestraint(&each.second);
         EXPECT_EQ(Rows(), Closed(each.rows)) << each.why;
     }
 }
 
 TEST_F(Check, SpringsCountByDirection) {
-    const auto [first, second] = model.Frame();
-    first->SetVincolo(nullptr);
-    second->SetVincolo(nullptr);
-    const CMolla along(CMolla::Traslazionale, 10, CFPoint(1, -1, 0.5)),
-        about(CMolla::Rotazionale, 10, CFPoint(1, 2, 3));
-    const CMolla aboutY(CMolla::Rotazionale, 5, CFPoint(0, 1, 0)), aboutZ(CMolla::Rotazionale, 5, CFPoint(0, 0, 1));
+    const auto [first, second] = m_model.Frame();
+    first->SetRestraint(nullptr);
+    second->SetRestraint(nullptr);
+    const CMolla along(CMolla::Translational, 10, CFPoint(1, -1, 0.5)), about(CMolla::Rotational, 10, CFPoint(1, 2, 3));
+    const CMolla aboutY(CMolla::Rotational, 5, CFPoint(0, 1, 0)), aboutZ(CMolla::Rotational, 5, CFPoint(0, 0, 1));
     const struct {
         std::vector<CMolla> springs;
         bool held;
@@ -132,22 +131,22 @@ TEST_F(Check, SpringsCountByDirection) {
         {{along, about}, true, "six components"},
         {{along}, false, "three components"},
         {{about, about}, false, "rotational springs hold no translation"},
-        {{along, CMolla(CMolla::Traslazionale, 0, CFPoint(1, 1, 1))}, false, "without stiffness it holds nothing"},
-        {{CMolla(CMolla::Traslazionale, 10, CFPoint(1, 1, 0)), about, about}, false, "z is free"},
+        {{along, CMolla(CMolla::Translational, 0, CFPoint(1, 1, 1))}, false, "without stiffness it holds nothing"},
+        {{CMolla(CMolla::Translational, 10, CFPoint(1, 1, 0)), about, about}, false, "z is free"},
         {{along, aboutZ, aboutY, aboutZ}, true, "each non-zero component is one"},
     };
     for (const auto& each : cases) {
-        first->EliminaMolle();
+        first->RemoveSprings();
         for (const CMolla& spring : each.springs)
-            first->AddMolla(spring);
+            first->AddSpring(spring);
         EXPECT_EQ(Rows(), Closed(each.held ? Lines{} : Lines{Labile(1)})) << each.why;
     }
 }
 
 TEST_F(Check, BeamsReleasedAtBothEnds) {
-    model.Frame();
-    model.Frame();
-    CTrave& beam = *host.doc.travi[1];
+    m_model.Frame();
+    m_model.Frame();
+    CTrave& beam = *m_host.doc.travi[1];
     const auto release = [&](int end, int n, int t, int m2, int m3) {
         beam.AddSpecifica(new CSpecificheSvincoliTrave(end, n, t, m2, m3));
         return Rows();
@@ -161,35 +160,35 @@ TEST_F(Check, BeamsReleasedAtBothEnds) {
 
 TEST_F(Check, TrussMembersAndMembranesAtFreeNodes) {
     const std::string member = "La biella n.ro 1, è labile.", membrane = "La membrana n.ro 1, è labile.";
-    CNodo* const a = model.Node();
-    CNodo* const b = model.Node();
-    model.Truss(*a, *b);
-    a->SetVincolo(&CheckModel::fixed);
-    b->SetVincolo(&CheckModel::pinned);
+    CNodo* const a = m_model.Node();
+    CNodo* const b = m_model.Node();
+    m_model.Truss(*a, *b);
+    a->SetRestraint(&CheckModel::fixed);
+    b->SetRestraint(&CheckModel::pinned);
     EXPECT_EQ(Rows(), Closed({member})) << "b is free to rotate";
     const CVincolo twoRotations(1, 1, 1, 1, 1, 0);
-    a->SetVincolo(&twoRotations);
+    a->SetRestraint(&twoRotations);
     EXPECT_EQ(Rows(), Closed({member, member})) << "one row a node; all three rotations are needed";
     // A beam or a wall at the node passes; a membrane or another member does not.
-    CNodo* const c = model.Node();
-    model.Slab({a, b, c});
+    CNodo* const c = m_model.Node();
+    m_model.Slab({a, b, c});
     EXPECT_EQ(Rows(), Closed({member, member, membrane, membrane, membrane}));
-    CNodo* const d = model.Node();
-    model.Beam(*a, *d);
-    model.Wall({b, c, d});
+    CNodo* const d = m_model.Node();
+    m_model.Beam(*a, *d);
+    m_model.Wall({b, c, d});
     EXPECT_EQ(Rows(), Closed({}));
 }
 
 TEST_F(Check, NodesWithManyElementsAreAskedOnce) {
     // The answer that is kept for such a node must be the right one, for each node its own.
-    CNodo* const hub = model.Node();
-    CNodo* const held = model.Node();
-    held->SetVincolo(&CheckModel::fixed);
+    CNodo* const hub = m_model.Node();
+    CNodo* const held = m_model.Node();
+    held->SetRestraint(&CheckModel::fixed);
     for (int i = 0; i < 20; ++i) {
-        CNodo* const end = model.Node();
-        end->SetVincolo(&CheckModel::fixed);
-        model.Truss(*hub, *end);
-        model.Truss(*held, *end);
+        CNodo* const end = m_model.Node();
+        end->SetRestraint(&CheckModel::fixed);
+        m_model.Truss(*hub, *end);
+        m_model.Truss(*held, *end);
     }
     const Lines rows = Rows();
     EXPECT_EQ(rows.size(), 22u);
@@ -199,16 +198,16 @@ TEST_F(Check, NodesWithManyElementsAreAskedOnce) {
 
 // Catches checks that run, or report, in another order.
 TEST_F(Check, RowsComeInTheirOrder) {
-    host.doc.unica = 0;
-    CTrave& released = model.Beam(*model.Node(), *model.Node());
+    m_host.doc.unica = 0;
+    CTrave& released = m_model.Beam(*m_model.Node(), *m_model.Node());
     released.AddSpecifica(new CSpecificheSvincoliTrave(0, 0, 0, 1, 0));
     released.AddSpecifica(new CSpecificheSvincoliTrave(1, 0, 0, 1, 0));
-    CNodo* const a = model.Node();
-    CNodo* const b = model.Node();
-    CNodo* const c = model.Node();
-    model.Truss(*a, *b);
-    model.Slab({a, b, c}).SetSpessore(0, nullptr);
-    model.Node()->SetVincolo(&CheckModel::fixed);
+    CNodo* const a = m_model.Node();
+    CNodo* const b = m_model.Node();
+    CNodo* const c = m_model.Node();
+    m_model.Truss(*a, *b);
+    m_model.Slab({a, b, c}).SetThickness(0, nullptr);
+    m_model.Node()->SetRestraint(&CheckModel::fixed);
     const std::string member = "La biella n.ro 1, è labile.", membrane = "La membrana n.ro 1, è labile.";
     const Lines expected{severalStructures,
                          Labile(1),
@@ -226,17 +225,17 @@ TEST_F(Check, RowsComeInTheirOrder) {
 }
 
 TEST_F(Check, PickingRowsSelectsTheirObjects) {
-    model.Node(); // structure 1: without restraint, without element
-    CNodo* const a = model.Node();
-    CNodo* const b = model.Node();
-    CNodo* const c = model.Node();
-    host.doc.NewTrave(2, 3)->SetSezione(0, nullptr);
-    host.doc.travi[0]->SetMateriale(1, &model.material);
-    model.Wall({a, b, c}).SetSpessore(0, nullptr);
-    host.doc.NewAsta(3, 4)->SetSezione(1, &model.section);
-    model.Slab({a, b, c}).SetSpessore(0, nullptr);
+    m_model.Node(); // structure 1: without restraint, without element
+    CNodo* const a = m_model.Node();
+    CNodo* const b = m_model.Node();
+    CNodo* const c = m_model.Node();
+    m_host.doc.NewTrave(2, 3)->SetSezione(0, nullptr);
+    m_host.doc.travi[0]->SetMateriale(1, &m_model.material);
+    m_model.Wall({a, b, c}).SetThickness(0, nullptr);
+    m_host.doc.NewAsta(3, 4)->SetSezione(1, &m_model.section);
+    m_model.Slab({a, b, c}).SetThickness(0, nullptr);
     Rows();
-    const Lines rows = driver.Rows(list);
+    const Lines rows = m_driver.Rows(list);
     std::vector<std::pair<std::string, std::string>> expected{
         {"CNodo n.ro 1", "SelezionaNodo 1 null"},          {"CTrave n.ro 1", "SelezionaTrave 1 null null"},
         {"CAsta n.ro 1", "SelezionaAsta 1 null null"},     {"CSetto n.ro 1", "SelezionaSetto 1 null null"},
@@ -246,30 +245,30 @@ TEST_F(Check, PickingRowsSelectsTheirObjects) {
         const auto row =
             std::find_if(rows.begin(), rows.end(), [&](const std::string& text) { return text.starts_with(start); });
         ASSERT_NE(row, rows.end()) << start;
-        driver.ClickRow(list, static_cast<int>(row - rows.begin()));
-        EXPECT_EQ(host.Take(), call.empty() ? Lines{"Deseleziona null"} : (Lines{"Deseleziona null", call})) << start;
+        m_driver.ClickRow(list, static_cast<int>(row - rows.begin()));
+        EXPECT_EQ(m_host.Take(), call.empty() ? Lines{"Deseleziona null"} : (Lines{"Deseleziona null", call})) << start;
     }
     // All rows at once by keyboard: every object, in the order of the rows.
-    driver.Press(VK_END, ShiftKey);
-    const Lines lines = host.Take();
+    m_driver.Press(VK_END, ShiftKey);
+    const Lines lines = m_host.Take();
     EXPECT_EQ(lines.front(), "Deseleziona null");
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "Deseleziona null"), 1);
-    EXPECT_EQ(driver.SelectedRows(list).size(), rows.size());
-    EXPECT_EQ(host.doc.selected.GetCount(), 5);
+    EXPECT_EQ(m_driver.SelectedRows(list).size(), rows.size());
+    EXPECT_EQ(m_host.doc.selected.GetCount(), 5);
 }
 
 TEST_F(Check, ModelChangedAfterTheSearch) {
-    const auto [first, second] = model.Frame();
-    model.Frame();
+    const auto [first, second] = m_model.Frame();
+    m_model.Frame();
     EXPECT_EQ(Rows(), Closed({}));
     // A restraint taken away counts at the next check, a new structure does not: the search is not repeated.
-    first->SetVincolo(nullptr);
-    model.Frame();
-    host.doc.nodi[4]->SetVincolo(nullptr);
+    first->SetRestraint(nullptr);
+    m_model.Frame();
+    m_host.doc.nodi[4]->SetRestraint(nullptr);
     EXPECT_EQ(Recheck(), Closed({Labile(1)}));
     // Nodes that were removed are not touched any more; a structure that is gone as a whole says nothing.
-    host.doc.travi.erase(host.doc.travi.begin());
-    host.doc.nodi.erase(host.doc.nodi.begin(), host.doc.nodi.begin() + 2);
+    m_host.doc.travi.erase(m_host.doc.travi.begin());
+    m_host.doc.nodi.erase(m_host.doc.nodi.begin(), m_host.doc.nodi.begin() + 2);
     EXPECT_EQ(Recheck(), Closed({}));
     EXPECT_EQ(Rows(), Closed({Labile(2)})) << "opened again, the window searches again";
 }
@@ -277,9 +276,9 @@ TEST_F(Check, ModelChangedAfterTheSearch) {
 TEST_F(Check, ManyRowsAtOnce) {
     constexpr int nodes = 20'000;
     for (int i = 0; i < nodes; ++i)
-        host.doc.NewNodo(i, 0, 0);
+        m_host.doc.NewNodo(i, 0, 0);
     Rows();
-    auto& box = dynamic_cast<CListBox&>(*dialog.GetDlgItem(list));
+    auto& box = dynamic_cast<CListBox&>(*m_dialog.GetDlgItem(list));
     EXPECT_EQ(box.GetCount(), 2 + 2 * nodes) << "each node is a labile structure and belongs to no element";
     EXPECT_EQ(box.GetItemData(2 + nodes), 2u + nodes);
 }
@@ -298,31 +297,31 @@ class FailingSearch : public StructureSearch {
 };
 
 TEST_F(Check, FailedStructureLeavesItsNodesToBeTriedAgain) {
-    model.Frame();
-    model.Frame();
+    m_model.Frame();
+    m_model.Frame();
     CString text;
     CMemoryException(FALSE).GetErrorMessage(text.GetBuffer(200), 200);
     text.ReleaseBuffer();
     for (const int failAt : {1, 2}) {
         FailingSearch search;
         search.failAt = failAt;
-        user.ExpectMessage(text.ToUtf8(), IDOK, MB_OK);
-        search.FindStructures(&host.doc);
+        m_user.ExpectMessage(text.ToUtf8(), IDOK, MB_OK);
+        search.FindStructures(&m_host.doc);
         EXPECT_EQ(search.GetSizeStructures(), 2);
         EXPECT_EQ(search.arrays, 3) << "the next node of the same structure is its seed";
-        for (const auto& node : host.doc.nodi)
+        for (const auto& node : m_host.doc.nodi)
             EXPECT_TRUE(search.ThereNodo(node.get()));
     }
 }
 
 TEST_F(Check, MembershipOfNodes) {
-    const auto [first, second] = model.Frame();
-    const auto [third, fourth] = model.Frame();
+    const auto [first, second] = m_model.Frame();
+    const auto [third, fourth] = m_model.Frame();
     StructureSearch search;
     search.FindStructures(nullptr);
     EXPECT_EQ(search.GetSizeStructures(), 0);
     EXPECT_FALSE(search.ThereNodo(first));
-    search.FindStructures(&host.doc);
+    search.FindStructures(&m_host.doc);
     EXPECT_TRUE(search.ThereNodo(second, 0));
     EXPECT_FALSE(search.ThereNodo(second, 1));
     EXPECT_TRUE(search.ThereNodo(fourth, 1));

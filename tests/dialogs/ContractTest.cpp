@@ -11,9 +11,9 @@
 #include "dialogs/selection/DialogMuovi.h"
 #include "dialogs/selection/DialogRuota.h"
 #include "dialogs/selection/DialogSpecchia.h"
-#include "platform/Application.h"
-#include "platform/Resource.h"
-#include "platform/Styles.h"
+#include "platform/resource/Resource.h"
+#include "platform/window/Application.h"
+#include "platform/window/Styles.h"
 #include "tests/support/DialogTest.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@
 
 // Lets a test read the message map of any window.
 struct platform::MessageMapAccess {
-    static const MessageMap& of(const CWnd& window) { return window.GetMessageMap(); }
+    static const MessageMap& Of(const CWnd& window) { return window.GetMessageMap(); }
 };
 
 namespace {
@@ -114,7 +114,7 @@ class EveryToolDialog : public DialogTest, public testing::WithParamInterface<To
         return all;
     }
 
-    std::unique_ptr<CDialogDocument> dialog = GetParam().make();
+    std::unique_ptr<CDialogDocument> m_dialog = GetParam().make();
 };
 
 class EveryDialogWithFields : public EveryToolDialog {};
@@ -125,44 +125,45 @@ TEST_P(EveryToolDialog, OpensFromItsTemplateWithItsDefaults) {
     ASSERT_TRUE(platform::FindDialogTemplate(GetParam().templateId));
     // Hosts find their tool dialogs by class: a missing declaration makes one invisible to them.
     const std::string name = GetParam().name;
-    EXPECT_EQ(dialog->GetRuntimeClass()->m_lpszClassName, name == "CDialogDiagrammi" ? "CDialogDocument" : name);
-    EXPECT_TRUE(dialog->IsKindOf(RUNTIME_CLASS(CDialogDocument)));
+    EXPECT_EQ(m_dialog->GetRuntimeClass()->m_lpszClassName, name == "CDialogDiagrammi" ? "CDialogDocument" : name);
+    EXPECT_TRUE(m_dialog->IsKindOf(RUNTIME_CLASS(CDialogDocument)));
     const std::string opening = GetParam().opening, fields = GetParam().fields;
     for (int times = 0; times < 2; ++times) {
-        ASSERT_NE(host.Open(*dialog), 0);
-        EXPECT_EQ(host.Take(), opening.empty() ? Lines{} : Lines{opening});
-        DialogDriver driver(*dialog);
+        ASSERT_NE(m_host.Open(*m_dialog), 0);
+        EXPECT_EQ(m_host.Take(), opening.empty() ? Lines{} : Lines{opening});
+        DialogDriver driver(*m_dialog);
         EXPECT_EQ(driver.Caption(), GetParam().caption);
-        EXPECT_TRUE(dialog->IsWindowVisible());
+        EXPECT_TRUE(m_dialog->IsWindowVisible());
         EXPECT_EQ(Shown(driver), fields);
-        EXPECT_TRUE(dialog->UpdateData(TRUE)) << "the defaults must be valid";
+        EXPECT_TRUE(m_dialog->UpdateData(TRUE)) << "the defaults must be valid";
         for (const Control& control : Controls())
             if (IsField(control))
                 driver.SetText(control.id, "7");
         for (const Control& control : Controls())
             if (IsRadio(control) && fields.find("[" + driver.Text(control.id) + "]") == std::string::npos)
                 driver.Click(control.id);
-        dialog->UpdateData(TRUE);
-        dialog->DestroyWindow();
-        host.Take();
+        m_dialog->UpdateData(TRUE);
+        m_dialog->DestroyWindow();
+        m_host.Take();
     }
 }
 
 // Catches an edit that no field is bound to, and an OK that goes on with a text that does not parse. A comma is no
 // decimal separator, whatever the machine's language: reading half of the text would be worse.
 TEST_P(EveryDialogWithFields, TextThatIsNoNumberStopsOk) {
-    host.Open(*dialog);
-    host.Take();
-    DialogDriver driver(*dialog);
+    m_host.Open(*m_dialog);
+    m_host.Take();
+    DialogDriver driver(*m_dialog);
     for (const Control& control : Controls()) {
         if (!IsField(control) || !driver.Enabled(control.id))
             continue;
         const std::string valid = driver.Text(control.id);
         const std::string invalid = valid + ",5"; // the number before the comma is no change, for who looks at each key
         driver.SetText(control.id, invalid);
-        user.ExpectMessage(wholeNumbers.contains(control.id) ? "Immettere un numero intero." : "Immettere un numero.");
+        m_user.ExpectMessage(wholeNumbers.contains(control.id) ? "Immettere un numero intero."
+                                                               : "Immettere un numero.");
         driver.Press(VK_RETURN);
-        EXPECT_EQ(host.Take(), Lines{}) << control.id;
+        EXPECT_EQ(m_host.Take(), Lines{}) << control.id;
         ASSERT_TRUE(driver.IsOpen());
         EXPECT_EQ(driver.Text(control.id), invalid);
         EXPECT_EQ(driver.Focus(), control.id);
@@ -173,9 +174,9 @@ TEST_P(EveryDialogWithFields, TextThatIsNoNumberStopsOk) {
 TEST_P(EveryToolDialog, EveryHandledNumberIsInTheTemplate) {
     // A handler for a control that does not exist is never called, and nothing else would tell.
     const std::set<int> ids = ControlsOf(GetParam().templateId);
-    const platform::MessageMap& end = platform::MessageMapAccess::of(CDialog());
+    const platform::MessageMap& end = platform::MessageMapAccess::Of(CDialog());
     int maps = 0; // a dialog's own may be empty
-    for (const platform::MessageMap* map = &platform::MessageMapAccess::of(*dialog); map && map != &end;
+    for (const platform::MessageMap* map = &platform::MessageMapAccess::Of(*m_dialog); map && map != &end;
          map = map->base) {
         ++maps;
         for (std::size_t i = 0; i < map->count; ++i) {
@@ -190,47 +191,47 @@ TEST_P(EveryToolDialog, EveryHandledNumberIsInTheTemplate) {
 }
 
 TEST_P(EveryToolDialog, CancelChangesNothing) {
-    host.Open(*dialog);
-    host.Take();
-    DialogDriver driver(*dialog);
+    m_host.Open(*m_dialog);
+    m_host.Take();
+    DialogDriver driver(*m_dialog);
     for (const Control& control : Controls())
         if (IsField(control))
             driver.SetText(control.id, driver.Text(control.id) + ",5"); // no field is read, so no message either
     driver.Press(VK_ESCAPE);
-    const Lines lines = host.Take();
+    const Lines lines = m_host.Take();
     EXPECT_EQ(CommandsIn(lines), Lines{});
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "WM_FINEDIALOGO 2"), 1);
-    EXPECT_FALSE(dialog->IsWindow());
-    EXPECT_FALSE(host.View().IsDefinisciVettore()) << "the view stays in picking mode";
+    EXPECT_FALSE(m_dialog->IsWindow());
+    EXPECT_FALSE(m_host.View().IsDefinisciVettore()) << "the view stays in picking mode";
 }
 
 TEST_P(EveryToolDialog, SurvivesItsView) {
-    host.Open(*dialog);
-    RecordingView& second = host.AddView();
-    host.CloseView(host.View());
+    m_host.Open(*m_dialog);
+    RecordingView& second = m_host.AddView();
+    m_host.CloseView(m_host.View());
     CWinApp::PumpMessages();
-    host.Take();
-    DialogDriver driver(*dialog);
+    m_host.Take();
+    DialogDriver driver(*m_dialog);
     driver.Press(VK_RETURN);
-    host.doc.UpdateAllViews(nullptr, MODIFICA_STRUTTURA);
+    m_host.doc.UpdateAllViews(nullptr, MODIFICA_STRUTTURA);
     driver.Press(VK_ESCAPE);
-    EXPECT_EQ(host.Take(), Lines{"UpdateAllViews null 42 null"}) << "without a view it has no document to change";
-    ASSERT_TRUE(dialog->IsWindow());
-    second.tool = dialog.get();
-    dialog->AggiornaVista(&second);
+    EXPECT_EQ(m_host.Take(), Lines{"UpdateAllViews null 42 null"}) << "without a view it has no document to change";
+    ASSERT_TRUE(m_dialog->IsWindow());
+    second.tool = m_dialog.get();
+    m_dialog->AggiornaVista(&second);
     driver.Press(VK_ESCAPE);
-    EXPECT_FALSE(dialog->IsWindow());
+    EXPECT_FALSE(m_dialog->IsWindow());
 }
 
 TEST_P(EveryToolDialog, MayBeDestroyedWhileOpen) {
     // By its object's end and by its owner's: either must leave no window, timer or picking mode behind.
-    host.Open(*dialog);
-    dialog.reset();
-    EXPECT_FALSE(host.View().IsDefinisciVettore());
-    dialog = GetParam().make();
-    host.Open(*dialog);
-    host.frame.DestroyWindow();
-    EXPECT_FALSE(dialog->IsWindow());
+    m_host.Open(*m_dialog);
+    m_dialog.reset();
+    EXPECT_FALSE(m_host.View().IsDefinisciVettore());
+    m_dialog = GetParam().make();
+    m_host.Open(*m_dialog);
+    m_host.frame.DestroyWindow();
+    EXPECT_FALSE(m_dialog->IsWindow());
 }
 
 std::vector<ToolDialog> WithFields() {

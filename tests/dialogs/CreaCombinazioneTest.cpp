@@ -1,6 +1,6 @@
 #include "dialogs/loads/DialogCreaCombinazione.h"
-#include "platform/Application.h"
-#include "platform/Exception.h"
+#include "platform/core/Exception.h"
+#include "platform/window/Application.h"
 #include "tests/dialogs/LoadModel.h"
 
 namespace {
@@ -15,17 +15,17 @@ constexpr int nomeId = Dialog::IDC_NOME;
 class CreaCombinazione : public ModalTest {
   protected:
     CreaCombinazione() {
-        AddNamed(host.doc.casi, 1, "Permanenti");
-        AddNamed(host.doc.casi, 2, "Neve").SetTipo("Variabile");
-        AddNamed(host.doc.casi, 7, "Città");
+        AddNamed(m_host.doc.casi, 1, "Permanenti");
+        AddNamed(m_host.doc.casi, 2, "Neve").SetTipo("Variabile");
+        AddNamed(m_host.doc.casi, 7, "Città");
     }
     int Create(const std::function<void(DialogDriver&)>& action) {
-        Dialog dialog(Dialog::Crea, &host.frame);
+        Dialog dialog(Dialog::Crea, &m_host.frame);
         return Run(dialog, action);
     }
     int Change(CCombinazione& combination, const std::function<void(DialogDriver&)>& action) {
-        host.doc.currentCombination = &combination;
-        Dialog dialog(Dialog::Modifica, &host.frame);
+        m_host.doc.currentCombination = &combination;
+        Dialog dialog(Dialog::Modifica, &m_host.frame);
         return Run(dialog, action);
     }
     // Buttons ">", ">>", "<", "<<", OK.
@@ -50,9 +50,9 @@ TEST_F(CreaCombinazione, OpensEmptyForANewOne) {
         EXPECT_EQ(Enabled(driver), "01000");
         EXPECT_EQ(EnabledLine(driver, {1447, 1448}), "00");
     });
-    host.doc.casi.clear();
+    m_host.doc.casi.clear();
     Create([](DialogDriver& driver) { EXPECT_EQ(Enabled(driver), "00000"); });
-    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(m_host.Take(), Lines{});
 }
 
 // Catches each row of the enabling table: a current entry, a factor, a name, a case.
@@ -108,7 +108,7 @@ TEST_F(CreaCombinazione, MovesCasesBetweenTheLists) {
         EXPECT_TRUE(driver.Rows(combinedId).empty());
         EXPECT_EQ(driver.Rows(availableId).size(), 3u);
     });
-    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(m_host.Take(), Lines{});
 }
 
 TEST_F(CreaCombinazione, AFactorThatDoesNotParseStopsTheButtons) {
@@ -116,19 +116,19 @@ TEST_F(CreaCombinazione, AFactorThatDoesNotParseStopsTheButtons) {
         driver.ClickRow(availableId, 0);
         driver.SetText(fattoreId, "1.5x"); // counts as 1.5 for the buttons
         EXPECT_EQ(Enabled(driver), "11000");
-        user.ExpectMessage("Immettere un numero.");
+        m_user.ExpectMessage("Immettere un numero.");
         driver.Click(Dialog::IDC_VA);
-        user.ExpectMessage("Immettere un numero.");
+        m_user.ExpectMessage("Immettere un numero.");
         driver.Click(Dialog::IDC_VATUTTO);
         EXPECT_TRUE(driver.Rows(combinedId).empty());
         driver.SetText(fattoreId, "1");
         Fill(driver, "SLU");
         driver.SetText(fattoreId, "?");
-        user.ExpectMessage("Immettere un numero.");
+        m_user.ExpectMessage("Immettere un numero.");
         driver.Click(IDOK);
         EXPECT_TRUE(IsShown(driver));
     });
-    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(m_host.Take(), Lines{});
 }
 
 // Catches an edit that is rewritten under the user's fingers, and a text that is no number keeping the old factor.
@@ -165,29 +165,29 @@ TEST_F(CreaCombinazione, TheFactorFollowsEachKey) {
 
 // Catches a dialog that closes, or forgets what was built, after a name that cannot be.
 TEST_F(CreaCombinazione, NamesThatCannotBeLeaveItOpen) {
-    AddCombination(host.doc, 9, "SLE");
+    AddCombination(m_host.doc, 9, "SLE");
     Create([this](DialogDriver& driver) {
         Fill(driver, "");
         for (const char* taken : {"Città", "SLE"}) {
             driver.SetText(nomeId, taken);
-            user.ExpectMessage("Esiste già un caso di carico (o combinazione) con lo stesso nome.", IDOK, MB_OK);
+            m_user.ExpectMessage("Esiste già un caso di carico (o combinazione) con lo stesso nome.", IDOK, MB_OK);
             driver.Click(IDOK);
         }
-        for (const std::string& name : kInvalidNames) {
+        for (const std::string& name : invalidNames) {
             driver.SetText(nomeId, name);
-            user.ExpectMessage("Il nome non è valido.\n(Non può contenere i caratteri '.`![]', ne avere spazi "
-                               "iniziali, ed avere una lunghezza massima di 64 caratteri)",
-                               IDOK, MB_OK);
+            m_user.ExpectMessage("Il nome non è valido.\n(Non può contenere i caratteri '.`![]', ne avere spazi "
+                                 "iniziali, ed avere una lunghezza massima di 64 caratteri)",
+                                 IDOK, MB_OK);
             driver.Press(VK_RETURN);
             EXPECT_EQ(driver.Text(nomeId), name);
         }
         EXPECT_EQ(driver.Rows(combinedId).size(), 3u);
-        EXPECT_EQ(host.Take(), Lines{});
+        EXPECT_EQ(m_host.Take(), Lines{});
         driver.SetText(nomeId, LongestName());
         driver.Click(IDOK);
         EXPECT_FALSE(IsShown(driver));
     });
-    EXPECT_EQ(host.doc.combinazioni.back()->GetNome().ToUtf8(), LongestName());
+    EXPECT_EQ(m_host.doc.combinazioni.back()->GetNome().ToUtf8(), LongestName());
 }
 
 // Catches a combination that leaks, or is deleted twice, when the document does not take it; the sanitizer sees both.
@@ -197,28 +197,28 @@ TEST_F(CreaCombinazione, ARefusalLeavesItOpenAndConfirmingGivesTheDocumentANewOn
         driver.ClickRow(availableId, 2);
         driver.Click(Dialog::IDC_VA);
         Fill(driver, "Perché");
-        host.doc.generated = 0;
-        user.ExpectMessage("La combinazione non è stata aggiunta.", IDOK, MB_OK);
+        m_host.doc.generated = 0;
+        m_user.ExpectMessage("La combinazione non è stata aggiunta.", IDOK, MB_OK);
         driver.Click(IDOK);
-        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"Perché\""});
-        host.doc.addingThrows = new CSimpleException("Memoria insufficiente.");
-        user.ExpectMessage("Memoria insufficiente.", IDOK, MB_OK);
+        EXPECT_EQ(m_host.Take(), Lines{"AddCombinazione \"Perché\""});
+        m_host.doc.addingThrows = new CSimpleException("Memoria insufficiente.");
+        m_user.ExpectMessage("Memoria insufficiente.", IDOK, MB_OK);
         driver.Click(IDOK);
-        EXPECT_EQ(host.Take(), Lines{"AddCombinazione \"Perché\""});
+        EXPECT_EQ(m_host.Take(), Lines{"AddCombinazione \"Perché\""});
         EXPECT_TRUE(IsShown(driver));
-        host.doc.generated = 1;
+        m_host.doc.generated = 1;
         driver.Click(IDOK);
     });
     EXPECT_EQ(result, IDOK);
-    EXPECT_EQ(host.Take(), (Lines{"AddCombinazione \"Perché\"", "SelectCasoCarico 100"}));
-    EXPECT_EQ(FactorsOf(*host.doc.combinazioni.at(0)),
+    EXPECT_EQ(m_host.Take(), (Lines{"AddCombinazione \"Perché\"", "SelectCasoCarico 100"}));
+    EXPECT_EQ(FactorsOf(*m_host.doc.combinazioni.at(0)),
               (std::vector<std::pair<int, double>>{{7, 1.1}, {1, 1.1}, {2, 1.1}}));
 }
 
 // Catches factors rounded to what the edit shows, and a case that is lost because the document no longer has it.
 TEST_F(CreaCombinazione, ChangingKeepsWhatIsNotTouched) {
     const std::vector<std::pair<int, double>> factors = {{7, 1.23456789012}, {99, 0.3}, {1, 1.0 / 3}};
-    CCombinazione& combination = AddCombination(host.doc, 5, "SLU.1", factors);
+    CCombinazione& combination = AddCombination(m_host.doc, 5, "SLU.1", factors);
     EXPECT_EQ(
         Change(combination,
                [](DialogDriver& driver) {
@@ -233,7 +233,7 @@ TEST_F(CreaCombinazione, ChangingKeepsWhatIsNotTouched) {
                    driver.Click(IDOK);
                }),
         IDOK);
-    EXPECT_EQ(host.Take(), Lines{"ModificaCombinazione 5 \"SLU.1\""}) << "a name is not tested in this mode";
+    EXPECT_EQ(m_host.Take(), Lines{"ModificaCombinazione 5 \"SLU.1\""}) << "a name is not tested in this mode";
     EXPECT_EQ(FactorsOf(combination), factors);
     Change(combination, [](DialogDriver& driver) {
         driver.ClickRow(combinedId, 1);
@@ -241,7 +241,7 @@ TEST_F(CreaCombinazione, ChangingKeepsWhatIsNotTouched) {
         driver.Type(nomeId, "Permanenti");
         driver.Click(IDOK);
     });
-    EXPECT_EQ(host.Take(), Lines{"ModificaCombinazione 5 \"Permanenti\""});
+    EXPECT_EQ(m_host.Take(), Lines{"ModificaCombinazione 5 \"Permanenti\""});
     EXPECT_EQ(FactorsOf(combination).back(), (std::pair<int, double>{1, 4}));
     // A case out of sight with factor 0 still keeps OK off.
     combination.SetFattoreCDC(1, 0);
@@ -249,16 +249,16 @@ TEST_F(CreaCombinazione, ChangingKeepsWhatIsNotTouched) {
 }
 
 TEST_F(CreaCombinazione, ThereMustBeOneToChange) {
-    Dialog dialog(Dialog::Modifica, &host.frame);
-    user.ExpectMessage("Nessuna combinazione selezionata.", IDOK, MB_OK);
+    Dialog dialog(Dialog::Modifica, &m_host.frame);
+    m_user.ExpectMessage("Nessuna combinazione selezionata.", IDOK, MB_OK);
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    host.hasDoc = false;
+    m_host.hasDoc = false;
     EXPECT_EQ(dialog.DoModal(), IDCANCEL) << "and no message";
     Create([](DialogDriver& driver) { EXPECT_EQ(Enabled(driver), "00000"); });
 }
 
 TEST_F(CreaCombinazione, CancelLeavesTheDocument) {
-    CCombinazione& combination = AddCombination(host.doc, 5, "SLU", {{1, 1.3}, {2, 1.5}});
+    CCombinazione& combination = AddCombination(m_host.doc, 5, "SLU", {{1, 1.3}, {2, 1.5}});
     EXPECT_EQ(Change(combination,
                      [](DialogDriver& driver) {
                          driver.ClickRow(combinedId, 0);
@@ -269,7 +269,7 @@ TEST_F(CreaCombinazione, CancelLeavesTheDocument) {
                          driver.Press(VK_ESCAPE);
                      }),
               IDCANCEL);
-    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(m_host.Take(), Lines{});
     EXPECT_EQ(FactorsOf(combination), (std::vector<std::pair<int, double>>{{1, 1.3}, {2, 1.5}}));
     EXPECT_EQ(combination.GetNome(), "SLU");
 }
@@ -277,8 +277,8 @@ TEST_F(CreaCombinazione, CancelLeavesTheDocument) {
 // Catches a factor that reaches another row, or only the first, where there are many.
 TEST_F(CreaCombinazione, FiveHundredCases) {
     for (int id = 10; id < 510; ++id) {
-        AddNamed(host.doc.casi, id, "Caso " + std::to_string(id));
-        AddCombination(host.doc, 1000 + id, "Combinazione " + std::to_string(id), {{1, 1}});
+        AddNamed(m_host.doc.casi, id, "Caso " + std::to_string(id));
+        AddCombination(m_host.doc, 1000 + id, "Combinazione " + std::to_string(id), {{1, 1}});
     }
     Create([](DialogDriver& driver) {
         Fill(driver, "Inviluppo");
@@ -288,7 +288,7 @@ TEST_F(CreaCombinazione, FiveHundredCases) {
         EXPECT_EQ(driver.Rows(combinedId)[400], "(100) 407 : Caso 407");
         driver.Click(IDOK);
     });
-    EXPECT_EQ(host.doc.combinazioni.back()->GetSizeCDC(), 503);
+    EXPECT_EQ(m_host.doc.combinazioni.back()->GetSizeCDC(), 503);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "dialogs/results/DialogDiagrammi.h"
-#include "model/ElementoSettings.h"
-#include "model/Trave.h"
-#include "platform/DeviceContext.h"
-#include "platform/Menu.h"
+#include "model/element/Trave.h"
+#include "model/view/ElementoSettings.h"
+#include "platform/drawing/DeviceContext.h"
+#include "platform/window/Menu.h"
 #include "tests/dialogs/ToolTest.h"
 
 namespace {
@@ -48,32 +48,32 @@ class Diagrammi : public ToolTest<OpenDiagrammi> {
   protected:
     Diagrammi() {
         for (int id : {7, 9}) {
-            host.doc.travi.push_back(std::make_unique<RecordingTrave>(host.journal, id));
-            beams.push_back(host.doc.travi.back().get());
+            m_host.doc.travi.push_back(std::make_unique<RecordingTrave>(m_host.journal, id));
+            m_beams.push_back(m_host.doc.travi.back().get());
         }
-        host.doc.analisi.m_bRisultatiValidi = 1;
+        m_host.doc.analisi.m_bRisultatiValidi = 1;
     }
     ~Diagrammi() override { platform::popupMenuHook = nullptr; }
 
     // Opens with the first beam selected.
     void Open() {
-        host.doc.selected.AddTail(beams[0]);
-        driver = Reopen();
+        m_host.doc.selected.AddTail(m_beams[0]);
+        m_driver = Reopen();
         Painted();
     }
     // What was drawn until everything is painted.
     Lines Painted() {
         CWinApp::PumpMessages();
-        return host.Take();
+        return m_host.Take();
     }
     Lines Updated() {
-        dialog.Update(nullptr, 0, nullptr);
+        m_dialog.Update(nullptr, 0, nullptr);
         return Painted();
     }
     std::string Flags() {
         std::string flags;
-        for (const int flag : {dialog.GetN(), dialog.GetV2(), dialog.GetV3(), dialog.GetT(), dialog.GetM2(),
-                               dialog.GetM3(), dialog.GetNA(), dialog.GetM2W2(), dialog.GetM3W3()})
+        for (const int flag : {m_dialog.GetN(), m_dialog.GetV2(), m_dialog.GetV3(), m_dialog.GetT(), m_dialog.GetM2(),
+                               m_dialog.GetM3(), m_dialog.GetNA(), m_dialog.GetM2W2(), m_dialog.GetM3W3()})
             flags += std::to_string(flag);
         return flags;
     }
@@ -87,7 +87,7 @@ class Diagrammi : public ToolTest<OpenDiagrammi> {
     Lines Menu(UINT choose = 0) {
         Lines checked;
         platform::popupMenuHook = [&](CMenu& menu, CWnd* window) {
-            EXPECT_EQ(window, &dialog);
+            EXPECT_EQ(window, &m_dialog);
             EXPECT_EQ(menu.GetMenuItemCount(), 13);
             for (UINT i = 0; i < menu.GetMenuItemCount(); ++i) {
                 CString text;
@@ -97,29 +97,29 @@ class Diagrammi : public ToolTest<OpenDiagrammi> {
             }
             return choose;
         };
-        driver.RightClick(areaId);
+        m_driver.RightClick(areaId);
         return checked;
     }
-    void Command(UINT command) { dialog.SendMessage(WM_COMMAND, command); }
-    void MoveTo(int x, int y) { dialog.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
-    COLORREF Pixel(int x, int y) { return CClientDC(dialog.GetDlgItem(areaId)).GetPixel(x, y); }
+    void Command(UINT command) { m_dialog.SendMessage(WM_COMMAND, command); }
+    void MoveTo(int x, int y) { m_dialog.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, y)); }
+    COLORREF Pixel(int x, int y) { return CClientDC(m_dialog.GetDlgItem(areaId)).GetPixel(x, y); }
 
-    std::vector<CTrave*> beams;
+    std::vector<CTrave*> m_beams;
 };
 
 TEST_F(Diagrammi, CaptionSaysWhatIsShown) {
     EXPECT_EQ(Pixel(100, 60), white);
     // The selection is spoken of before the results.
-    host.doc.analisi.m_bRisultatiValidi = 0;
+    m_host.doc.analisi.m_bRisultatiValidi = 0;
     Updated();
-    EXPECT_EQ(driver.Caption(), "Ponte : Diagramma - (Nessuna trave selezionata)");
-    host.doc.selected.AddTail(beams[1]);
-    host.doc.selected.AddTail(beams[0]);
+    EXPECT_EQ(m_driver.Caption(), "Ponte : Diagramma - (Nessuna trave selezionata)");
+    m_host.doc.selected.AddTail(m_beams[1]);
+    m_host.doc.selected.AddTail(m_beams[0]);
     EXPECT_EQ(Updated(), Lines{});
-    EXPECT_EQ(driver.Caption(), "Ponte : Diagramma - (I risultati non sono validi)");
-    host.doc.analisi.m_bRisultatiValidi = 1;
+    EXPECT_EQ(m_driver.Caption(), "Ponte : Diagramma - (I risultati non sono validi)");
+    m_host.doc.analisi.m_bRisultatiValidi = 1;
     EXPECT_EQ(Updated(), Lines{Call(9, "000000000")}) << "the first of several, and without any diagram too";
-    EXPECT_EQ(driver.Caption(), "Ponte : Diagramma - Trave 9");
+    EXPECT_EQ(m_driver.Caption(), "Ponte : Diagramma - Trave 9");
     EXPECT_EQ(Pixel(100, 60), white);
     EXPECT_EQ(Pixel(11, 11), RGB(255, 0, 0)) << "what the beam drew is kept";
 }
@@ -127,29 +127,29 @@ TEST_F(Diagrammi, CaptionSaysWhatIsShown) {
 TEST_F(Diagrammi, EveryChangeOfTheDocumentRefreshes) {
     Open();
     for (const long hint : {0L, 5L, 42L, 62L, 97L, 0x700009L}) {
-        host.doc.UpdateAllViews(nullptr, hint);
+        m_host.doc.UpdateAllViews(nullptr, hint);
         const Lines lines = Painted();
         ASSERT_EQ(lines.size(), 2u) << hint;
         EXPECT_EQ(lines[1], Call(7, "000000000")) << hint;
     }
-    host.doc.selected.RemoveAll();
-    host.doc.UpdateAllViews(nullptr, 62);
+    m_host.doc.selected.RemoveAll();
+    m_host.doc.UpdateAllViews(nullptr, 62);
     Painted();
-    EXPECT_EQ(dialog.GetTrave(), nullptr);
+    EXPECT_EQ(m_dialog.GetTrave(), nullptr);
     EXPECT_EQ(Pixel(11, 11), white) << "cleared before anything is drawn";
     EXPECT_EQ(Painted(), Lines{}) << "painting must not ask for painting again";
 }
 
 TEST_F(Diagrammi, AreaFollowsTheWindow) {
     Open();
-    const CWnd& area = *dialog.GetDlgItem(areaId);
+    const CWnd& area = *m_dialog.GetDlgItem(areaId);
     for (const CSize size : {CSize(500, 300), CSize(260, 180)}) {
-        dialog.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOMOVE);
+        m_dialog.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOMOVE);
         EXPECT_EQ(Painted(), Lines{Call(7, "000000000")});
         CRect client, rect;
-        dialog.GetClientRect(client);
+        m_dialog.GetClientRect(client);
         area.GetWindowRect(rect);
-        dialog.ScreenToClient(rect);
+        m_dialog.ScreenToClient(rect);
         EXPECT_EQ(rect, CRect(CPoint(2, 3), CSize(client.Width() - 3, client.Height() - 3)));
     }
 }
@@ -168,51 +168,51 @@ TEST_F(Diagrammi, MenuTogglesEachDiagram) {
     }
     Menu(0);
     EXPECT_EQ(Painted(), Lines{}) << "a menu left without a choice";
-    dialog.GetT() = 5; // anything but 0 is on
+    m_dialog.GetT() = 5; // anything but 0 is on
     Command(33113);
     EXPECT_EQ(Flags(), "000000000");
-    EXPECT_FALSE(host.View().GetTraveSettings().IsRisultato(45)) << "the view's settings are not written";
+    EXPECT_FALSE(m_host.View().GetTraveSettings().IsRisultato(45)) << "the view's settings are not written";
 }
 
 TEST_F(Diagrammi, FlagsComeFromTheViewAndFromTheHost) {
     for (const Item& item : items) {
         std::string flags(9, '0');
         flags[static_cast<std::size_t>(&item - items)] = '1';
-        host.View().GetTraveSettings().SetRisultato(item.kind, 1);
+        m_host.View().GetTraveSettings().SetRisultato(item.kind, 1);
         OpenDiagrammi other;
-        host.Open(other);
+        m_host.Open(other);
         EXPECT_EQ(std::to_string(other.GetN()) + std::to_string(other.GetM2()),
                   std::to_string(item.kind == 42) + std::to_string(item.kind == 32));
         other.DestroyWindow();
-        host.View().GetTraveSettings().SetRisultato(item.kind, 0);
-        dialog.AggiornaRisultato(item.kind, 1);
+        m_host.View().GetTraveSettings().SetRisultato(item.kind, 0);
+        m_dialog.AggiornaRisultato(item.kind, 1);
         EXPECT_EQ(Flags(), flags) << item.text;
-        dialog.AggiornaRisultato(item.kind, 0);
+        m_dialog.AggiornaRisultato(item.kind, 0);
         EXPECT_EQ(Flags(), "000000000") << item.text;
     }
     Open();
-    dialog.AggiornaRisultato(47, 1);
+    m_dialog.AggiornaRisultato(47, 1);
     EXPECT_EQ(Painted(), Lines{Call(7, "000000100")});
-    dialog.AggiornaRisultato(50, 1);
+    m_dialog.AggiornaRisultato(50, 1);
     EXPECT_EQ(Painted(), Lines{Call(7, "000000100")}) << "no flag, but drawn anew";
 }
 
 TEST_F(Diagrammi, AnotherViewBringsItsFlags) {
     Open();
-    RecordingView& second = host.AddView();
+    RecordingView& second = m_host.AddView();
     second.GetTraveSettings().SetRisultato(CElementoSettings::M3, 1);
     second.GetTraveSettings().SetRisultato(CElementoSettings::V2, 1);
     Command(33110);
     Painted();
-    dialog.Create(&host.View()); // the view that it has
+    m_dialog.Create(&m_host.View()); // the view that it has
     EXPECT_EQ(Flags(), "100000000");
     EXPECT_EQ(Painted(), Lines{});
-    host.CloseView(host.View());
+    m_host.CloseView(m_host.View());
     EXPECT_EQ(Flags(), "100000000");
-    dialog.AggiornaVista(&second);
+    m_dialog.AggiornaVista(&second);
     EXPECT_EQ(Flags(), "010001000");
     EXPECT_EQ(Painted().back(), Call(7, "010001000"));
-    second.tool = &dialog;
+    second.tool = &m_dialog;
 }
 
 TEST_F(Diagrammi, ReadingFollowsThePointer) {
@@ -220,25 +220,25 @@ TEST_F(Diagrammi, ReadingFollowsThePointer) {
     Command(33114);
     Painted();
     MoveTo(50, 40);
-    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(m_host.Take(), Lines{});
     EXPECT_EQ(Menu(33117), Lines{"M2"});
-    EXPECT_TRUE(dialog.IsRisultati());
+    EXPECT_TRUE(m_dialog.IsRisultati());
     EXPECT_EQ(Painted(), Lines{}) << "switching it on does not paint";
     MoveTo(50, 40);
-    EXPECT_EQ(host.Take(), Lines{Call(7, "000010000", "1 50 40")}) << "the dialog's own coordinates";
+    EXPECT_EQ(m_host.Take(), Lines{Call(7, "000010000", "1 50 40")}) << "the dialog's own coordinates";
     MoveTo(0, 1); // beside the area
-    EXPECT_EQ(host.Take(), Lines{Call(7, "000010000", "1 0 1")});
-    host.doc.analisi.m_bRisultatiValidi = 0;
+    EXPECT_EQ(m_host.Take(), Lines{Call(7, "000010000", "1 0 1")});
+    m_host.doc.analisi.m_bRisultatiValidi = 0;
     MoveTo(51, 40);
-    EXPECT_EQ(host.Take().size(), 1u) << "validity is not asked for";
+    EXPECT_EQ(m_host.Take().size(), 1u) << "validity is not asked for";
     EXPECT_EQ(Menu(33117), (Lines{"M2", "Visualizza Valori rif. loc."}));
     MoveTo(52, 40);
-    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(m_host.Take(), Lines{});
     Command(33117);
-    host.doc.selected.RemoveAll();
+    m_host.doc.selected.RemoveAll();
     Updated();
     MoveTo(52, 40);
-    EXPECT_EQ(host.Take(), Lines{}) << "no beam is held";
+    EXPECT_EQ(m_host.Take(), Lines{}) << "no beam is held";
 }
 
 TEST_F(Diagrammi, CrossOverTheAreaOnly) {
@@ -248,24 +248,24 @@ TEST_F(Diagrammi, CrossOverTheAreaOnly) {
     EXPECT_EQ(OpenDiagrammi::_bStaticCursor, 0);
     MoveTo(50, 40);
     EXPECT_EQ(OpenDiagrammi::_bStaticCursor, 1);
-    EXPECT_TRUE(dialog.OnSetCursor(&dialog, HTCLIENT, WM_MOUSEMOVE)) << "the cross stays once";
+    EXPECT_TRUE(m_dialog.OnSetCursor(&m_dialog, HTCLIENT, WM_MOUSEMOVE)) << "the cross stays once";
     EXPECT_EQ(OpenDiagrammi::_bStaticCursor, 0);
-    EXPECT_FALSE(dialog.OnSetCursor(&dialog, HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_FALSE(m_dialog.OnSetCursor(&m_dialog, HTCLIENT, WM_MOUSEMOVE));
 }
 
 TEST_F(Diagrammi, CaptureAsksTheView) {
     Open();
     CRect rect;
-    dialog.GetDlgItem(areaId)->GetWindowRect(rect);
+    m_dialog.GetDlgItem(areaId)->GetWindowRect(rect);
     Menu(33119);
     Journal expected;
     expected.Add("SetRectImmagine", rect.left, rect.top, rect.right, rect.bottom);
     expected.Add("CatturaImmagine");
-    EXPECT_EQ(host.Take(), expected.Lines());
-    host.AddView();
-    host.CloseView(host.View());
+    EXPECT_EQ(m_host.Take(), expected.Lines());
+    m_host.AddView();
+    m_host.CloseView(m_host.View());
     Command(33119);
-    EXPECT_EQ(host.Take(), Lines{});
+    EXPECT_EQ(m_host.Take(), Lines{});
 }
 
 } // namespace

@@ -29,66 +29,66 @@ class DialogDocument : public ToolTest<Probe> {};
 
 TEST_F(DialogDocument, CreateOnAnOpenDialogOnlyBindsIt) {
     // A second window, or a success reported for none, would make the host delete the dialog twice.
-    const HWND window = dialog.m_hWnd;
-    RecordingView& second = host.AddView();
-    EXPECT_EQ(host.Open(dialog, second), 0);
-    EXPECT_EQ(dialog.m_hWnd, window);
-    EXPECT_EQ(dialog.GetView(), &second);
+    const HWND window = m_dialog.m_hWnd;
+    RecordingView& second = m_host.AddView();
+    EXPECT_EQ(m_host.Open(m_dialog, second), 0);
+    EXPECT_EQ(m_dialog.m_hWnd, window);
+    EXPECT_EQ(m_dialog.GetView(), &second);
 }
 
 TEST_F(DialogDocument, FollowsItsViewOnly) {
     EXPECT_EQ(Probe().GetView(), nullptr);
     EXPECT_EQ(Probe().GetDoc(), nullptr);
-    EXPECT_EQ(dialog.GetDoc(), &host.doc);
-    RecordingView& other = host.AddView();
+    EXPECT_EQ(m_dialog.GetDoc(), &m_host.doc);
+    RecordingView& other = m_host.AddView();
     // Taking another view's news for its own would leave the dialog without a document, or move it to another one.
-    dialog.VistaEliminata(&other);
-    EXPECT_EQ(dialog.GetView(), &host.View());
-    dialog.AggiornaVista(&other);
-    EXPECT_EQ(dialog.GetView(), &host.View());
-    dialog.VistaEliminata(&host.View());
-    EXPECT_EQ(dialog.GetView(), nullptr);
-    EXPECT_EQ(dialog.GetDoc(), nullptr);
-    dialog.AggiornaVista(nullptr);
-    EXPECT_EQ(dialog.GetView(), nullptr);
-    dialog.AggiornaVista(&other);
-    EXPECT_EQ(dialog.GetView(), &other);
+    m_dialog.VistaEliminata(&other);
+    EXPECT_EQ(m_dialog.GetView(), &m_host.View());
+    m_dialog.AggiornaVista(&other);
+    EXPECT_EQ(m_dialog.GetView(), &m_host.View());
+    m_dialog.VistaEliminata(&m_host.View());
+    EXPECT_EQ(m_dialog.GetView(), nullptr);
+    EXPECT_EQ(m_dialog.GetDoc(), nullptr);
+    m_dialog.AggiornaVista(nullptr);
+    EXPECT_EQ(m_dialog.GetView(), nullptr);
+    m_dialog.AggiornaVista(&other);
+    EXPECT_EQ(m_dialog.GetView(), &other);
 }
 
 TEST_F(DialogDocument, DeadWindowOfTheViewCountsAsNoView) {
     // A host that forgets VistaEliminata but keeps the view object must not make the dialog talk to a dead window.
-    host.View().DestroyWindow();
-    EXPECT_EQ(dialog.GetView(), nullptr);
-    EXPECT_EQ(dialog.GetDoc(), nullptr);
-    dialog.OnOK();
-    EXPECT_EQ(host.Take(), Lines{});
-    EXPECT_EQ(dialog.calls, Lines{"CambiaDocumento"}) << "there is nobody to tell";
-    dialog.OnCancel();
-    EXPECT_TRUE(dialog.IsCancel());
+    m_host.View().DestroyWindow();
+    EXPECT_EQ(m_dialog.GetView(), nullptr);
+    EXPECT_EQ(m_dialog.GetDoc(), nullptr);
+    m_dialog.OnOK();
+    EXPECT_EQ(m_host.Take(), Lines{});
+    EXPECT_EQ(m_dialog.calls, Lines{"CambiaDocumento"}) << "there is nobody to tell";
+    m_dialog.OnCancel();
+    EXPECT_TRUE(m_dialog.IsCancel());
 }
 
 TEST_F(DialogDocument, OkAppliesThenAsksToBeEnded) {
-    host.View().endsDialogs = false;
-    driver.Click(IDOK);
-    EXPECT_EQ(dialog.calls, Lines{"CambiaDocumento"});
-    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 1"});
-    EXPECT_TRUE(driver.IsOpen()) << "the host ends the dialog, not the dialog itself";
-    dialog.OnApply();
-    EXPECT_EQ(dialog.calls, (Lines{"CambiaDocumento", "CambiaDocumento"}));
-    EXPECT_EQ(host.Take(), Lines{}) << "applying does not close";
+    m_host.View().endsDialogs = false;
+    m_driver.Click(IDOK);
+    EXPECT_EQ(m_dialog.calls, Lines{"CambiaDocumento"});
+    EXPECT_EQ(m_host.Take(), Lines{"WM_FINEDIALOGO 1"});
+    EXPECT_TRUE(m_driver.IsOpen()) << "the host ends the dialog, not the dialog itself";
+    m_dialog.OnApply();
+    EXPECT_EQ(m_dialog.calls, (Lines{"CambiaDocumento", "CambiaDocumento"}));
+    EXPECT_EQ(m_host.Take(), Lines{}) << "applying does not close";
 }
 
 TEST_F(DialogDocument, CancelIsRememberedUntilTheNextOpening) {
-    driver.Press(VK_ESCAPE);
-    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 2"});
-    EXPECT_EQ(dialog.calls, Lines{}) << "cancel must not apply";
-    EXPECT_FALSE(dialog.IsWindow());
-    EXPECT_TRUE(dialog.IsCancel()) << "focus-loss handlers that run while the window closes look at it";
-    driver = Reopen();
-    EXPECT_FALSE(dialog.IsCancel());
-    EXPECT_FALSE(dialog.wasCancelledAtStart);
-    driver.CloseBox();
-    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 2"}) << "the close box is Cancel";
+    m_driver.Press(VK_ESCAPE);
+    EXPECT_EQ(m_host.Take(), Lines{"WM_FINEDIALOGO 2"});
+    EXPECT_EQ(m_dialog.calls, Lines{}) << "cancel must not apply";
+    EXPECT_FALSE(m_dialog.IsWindow());
+    EXPECT_TRUE(m_dialog.IsCancel()) << "focus-loss handlers that run while the window closes look at it";
+    m_driver = Reopen();
+    EXPECT_FALSE(m_dialog.IsCancel());
+    EXPECT_FALSE(m_dialog.wasCancelledAtStart);
+    m_driver.CloseBox();
+    EXPECT_EQ(m_host.Take(), Lines{"WM_FINEDIALOGO 2"}) << "the close box is Cancel";
 }
 
 // Ends and deletes its dialog inside the message, as a host may.
@@ -112,8 +112,8 @@ class DeletingView : public RecordingView {
 
 TEST_F(DialogDocument, MayBeDeletedInsideItsOwnRequest) {
     // Whatever is touched after the message is freed memory: the address sanitizer's run sees it.
-    DeletingView view(host.journal, host.doc);
-    view.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host.frame, 0);
+    DeletingView view(m_host.journal, m_host.doc);
+    view.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_host.frame, 0);
     auto* byKey = new Probe;
     byKey->Create(&view);
     DialogDriver(*byKey).Press(VK_RETURN);
@@ -126,37 +126,37 @@ TEST_F(DialogDocument, MayBeDeletedInsideItsOwnRequest) {
 }
 
 TEST_F(DialogDocument, CaptionNamesTheDocument) {
-    EXPECT_EQ(driver.Caption(), "Ponte : Prova");
-    host.doc.SetPathName("C:\\lavori.2024\\ Città nuova.v2.asg"_t);
-    dialog.SetTitle("Angolo Beta "); // blanks of name and title stay
-    EXPECT_EQ(driver.Caption(), " Città nuova.v2 : Angolo Beta ");
-    host.doc.SetPathName("");
-    dialog.SetTitle("Prova");
-    EXPECT_EQ(driver.Caption(), "Prova") << "a document that was never saved has no name to show";
-    host.doc.SetPathName("/lavori/Ponte.asg");
-    dialog.VistaEliminata(&host.View());
-    dialog.SetTitle("Sola");
-    EXPECT_EQ(driver.Caption(), "Sola") << "no document: the title alone";
+    EXPECT_EQ(m_driver.Caption(), "Ponte : Prova");
+    m_host.doc.SetPathName("C:\\lavori.2024\\ Città nuova.v2.asg"_t);
+    m_dialog.SetTitle("Angolo Beta "); // blanks of name and title stay
+    EXPECT_EQ(m_driver.Caption(), " Città nuova.v2 : Angolo Beta ");
+    m_host.doc.SetPathName("");
+    m_dialog.SetTitle("Prova");
+    EXPECT_EQ(m_driver.Caption(), "Prova") << "a document that was never saved has no name to show";
+    m_host.doc.SetPathName("/lavori/Ponte.asg");
+    m_dialog.VistaEliminata(&m_host.View());
+    m_dialog.SetTitle("Sola");
+    EXPECT_EQ(m_driver.Caption(), "Sola") << "no document: the title alone";
 }
 
 TEST_F(DialogDocument, FrameUnderTheMousePullsTheFocus) {
-    driver.SetFocus(IDCANCEL);
-    CWnd* const edit = dialog.GetDlgItem(CDialogGenNodi2P::IDC_X2);
-    dialog.SetWndAutoFocus(edit);
-    dialog.SendMessage(WM_NCMOUSEMOVE, HTCAPTION);
-    EXPECT_EQ(CWnd::GetFocus(), dialog.GetDlgItem(IDCANCEL)) << "off: unchanged";
-    dialog.SetAutoFocus(1);
-    dialog.SendMessage(WM_NCMOUSEMOVE, HTCAPTION);
+    m_driver.SetFocus(IDCANCEL);
+    CWnd* const edit = m_dialog.GetDlgItem(CDialogGenNodi2P::IDC_X2);
+    m_dialog.SetWndAutoFocus(edit);
+    m_dialog.SendMessage(WM_NCMOUSEMOVE, HTCAPTION);
+    EXPECT_EQ(CWnd::GetFocus(), m_dialog.GetDlgItem(IDCANCEL)) << "off: unchanged";
+    m_dialog.SetAutoFocus(1);
+    m_dialog.SendMessage(WM_NCMOUSEMOVE, HTCAPTION);
     EXPECT_EQ(CWnd::GetFocus(), edit);
     // Without a control of its own the dialog itself takes it: the keys must not stay with the view.
-    dialog.SetWndAutoFocus(nullptr);
-    host.View().SetFocus();
+    m_dialog.SetWndAutoFocus(nullptr);
+    m_host.View().SetFocus();
     CWinApp::PumpMessages(); // the other window becomes active through the loop
-    EXPECT_EQ(driver.Focus(), 0);
-    dialog.SendMessage(WM_NCMOUSEMOVE, HTCAPTION);
+    EXPECT_EQ(m_driver.Focus(), 0);
+    m_dialog.SendMessage(WM_NCMOUSEMOVE, HTCAPTION);
     CWinApp::PumpMessages();
     CWnd* const focus = CWnd::GetFocus();
-    EXPECT_TRUE(focus == &dialog || dialog.IsChild(focus));
+    EXPECT_TRUE(focus == &m_dialog || m_dialog.IsChild(focus));
 }
 
 TEST(QuovarHost, StaticsWithoutAHostAreHarmless) {

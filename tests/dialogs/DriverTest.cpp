@@ -1,6 +1,6 @@
 // The tests' own tools: a driver that forgives, or a script that misses a message box, would let every other test pass.
 #include "dialogs/generation/DialogGenNodiLineare.h"
-#include "platform/Application.h"
+#include "platform/window/Application.h"
 #include "tests/support/DialogTest.h"
 
 #include <gtest/gtest-spi.h>
@@ -13,18 +13,18 @@ TEST_F(Driver, MessageBoxesMustBeDeclared) {
     int answer = 0;
     EXPECT_NONFATAL_FAILURE(answer = AfxMessageBox("Prova"), "undeclared message box: Prova");
     EXPECT_EQ(answer, IDCANCEL);
-    user.ExpectMessage("è così?", IDYES, MB_YESNO);
+    m_user.ExpectMessage("è così?", IDYES, MB_YESNO);
     EXPECT_EQ(AfxMessageBox("è così?"_t, MB_YESNO), IDYES);
-    user.ExpectMessage("Prima");
+    m_user.ExpectMessage("Prima");
     EXPECT_NONFATAL_FAILURE(AfxMessageBox("Seconda"), "declared: Prima");
-    EXPECT_NONFATAL_FAILURE(user.Verify(), "this message box never came: Prima");
-    user.ExpectMessage("Tipo", IDOK, MB_YESNO);
+    EXPECT_NONFATAL_FAILURE(m_user.Verify(), "this message box never came: Prima");
+    m_user.ExpectMessage("Tipo", IDOK, MB_YESNO);
     EXPECT_NONFATAL_FAILURE(AfxMessageBox("Tipo", MB_OK), "of the message box: Tipo");
 }
 
 TEST_F(Driver, ControlsMustBeUsable) {
     CDialogGenNodiLineare dialog;
-    host.Open(dialog);
+    m_host.Open(dialog);
     DialogDriver driver(dialog);
     EXPECT_NONFATAL_FAILURE(driver.Click(1227), "control 1227 is hidden or disabled");
     EXPECT_NONFATAL_FAILURE(driver.Click(64000), "no control 64000");
@@ -39,16 +39,16 @@ TEST_F(Driver, ModalDialogsAreAnswered) {
       public:
         Modal() : CDialog(CDialogGenNodiLineare::IDD) {}
     };
-    user.WhenDialogOpens([this](DialogDriver& outer) {
+    m_user.WhenDialogOpens([this](DialogDriver& outer) {
         outer.Type(1093, "2");
-        user.WhenDialogOpens([](DialogDriver& inner) { inner.Press(VK_ESCAPE); });
+        m_user.WhenDialogOpens([](DialogDriver& inner) { inner.Press(VK_ESCAPE); });
         EXPECT_EQ(Modal().DoModal(), IDCANCEL) << "a dialog over a dialog";
         outer.Press(VK_RETURN);
     });
     EXPECT_EQ(Modal().DoModal(), IDOK);
     EXPECT_NONFATAL_FAILURE(EXPECT_EQ(Modal().DoModal(), IDCANCEL), "undeclared modal dialog");
-    user.WhenDialogOpens([](DialogDriver&) {});
-    EXPECT_NONFATAL_FAILURE(user.Verify(), "1 modal dialogs never opened");
+    m_user.WhenDialogOpens([](DialogDriver&) {});
+    EXPECT_NONFATAL_FAILURE(m_user.Verify(), "1 modal dialogs never opened");
 }
 
 } // namespace

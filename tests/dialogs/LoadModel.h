@@ -1,10 +1,10 @@
 // Load cases, combinations and groups for the recording document, and the names that nobody may bear.
 #pragma once
 
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "platform/Dialog.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "platform/window/Dialog.h"
 #include "tests/support/DialogTest.h"
 
 #include <functional>
@@ -46,7 +46,7 @@ class ModalTest : public DialogTest {
   protected:
     // Runs the dialog, cancels it after the action unless that closed it, and gives its result.
     int Run(CDialog& dialog, const std::function<void(DialogDriver&)>& action) {
-        user.WhenDialogOpens([action](DialogDriver& driver) {
+        m_user.WhenDialogOpens([action](DialogDriver& driver) {
             action(driver);
             if (IsShown(driver))
                 driver.Click(IDCANCEL);
@@ -67,8 +67,7 @@ inline std::vector<std::pair<int, double>> FactorsOf(const CCombinazione& combin
 }
 
 // One for each clause of the rule; the longest valid name has 64 characters, however many bytes they take elsewhere.
-inline const std::vector<std::string> kInvalidNames = {
-    " Neve", "a.b", "a`b", "a!b", "a[b", "a]b", std::string(65, 'a')};
+inline const std::vector<std::string> invalidNames = {" Neve", "a.b", "a`b", "a!b", "a[b", "a]b", std::string(65, 'a')};
 
 inline std::string LongestName() {
     std::string name;

@@ -10,7 +10,7 @@ using NameDialogs = ModalTest;
 
 // Catches fields that do not reach their controls, a caption that stays or vanishes, and a name that Cancel hands back.
 TEST_F(NameDialogs, OfALoadCase) {
-    CDialogCreaCasoCarico dialog(&host.frame);
+    CDialogCreaCasoCarico dialog(&m_host.frame);
     dialog.m_strNome = "Proposta";
     dialog.m_strNumero = "12";
     const int accepted = Run(dialog, [](DialogDriver& driver) {
@@ -36,7 +36,7 @@ TEST_F(NameDialogs, OfALoadCase) {
 
 // Catches a name that is not handed back, or one that Cancel hands back, and a rule of the dialog's own.
 TEST_F(NameDialogs, OfAGroup) {
-    CDialogCreaGruppo dialog(&host.frame);
+    CDialogCreaGruppo dialog(&m_host.frame);
     dialog.m_strNome = "Gruppo 1";
     const int accepted = Run(dialog, [](DialogDriver& driver) {
         EXPECT_EQ(driver.Caption(), "Crea Gruppo");
@@ -57,8 +57,8 @@ TEST_F(NameDialogs, OfAGroup) {
 
 // Catches any way out but OK, and the placeholder left in place of the prompt, an empty one too.
 TEST_F(NameDialogs, OfAnythingEndsThroughOkOnly) {
-    CDialogInsertNome dialog(&host.frame);
-    user.WhenDialogOpens([](DialogDriver& driver) {
+    CDialogInsertNome dialog(&m_host.frame);
+    m_user.WhenDialogOpens([](DialogDriver& driver) {
         EXPECT_EQ(driver.Text(CDialogInsertNome::IDC_ETICHETTA), "");
         driver.Press(VK_RETURN);
     });
@@ -66,7 +66,7 @@ TEST_F(NameDialogs, OfAnythingEndsThroughOkOnly) {
     EXPECT_TRUE(dialog.m_strNome.IsEmpty());
     dialog.m_strEtichetta = "Nome della città :"_t;
     dialog.m_strNome = "Roma";
-    user.WhenDialogOpens([](DialogDriver& driver) {
+    m_user.WhenDialogOpens([](DialogDriver& driver) {
         EXPECT_EQ(driver.Caption(), "Nuovo Nome");
         EXPECT_EQ(driver.Text(CDialogInsertNome::IDC_ETICHETTA), "Nome della città :");
         EXPECT_EQ(driver.Text(CDialogInsertNome::IDC_NOME), "Roma");

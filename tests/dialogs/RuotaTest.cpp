@@ -11,7 +11,7 @@ constexpr int general = 1239;
 
 class Ruota : public ToolTest<CDialogRuota> {
   protected:
-    Ruota() { host.View().endsDialogs = false; }
+    Ruota() { m_host.View().endsDialogs = false; }
 
     bool AxisEnabled() const { return EnabledTogether({{1112, 1118}, {1143, 1145}, {1215, 1217}}); }
 };
@@ -21,14 +21,14 @@ TEST_F(Ruota, GlobalAxes) {
     const double radians = 90 * 0.017453292522222223;
     EXPECT_NEAR(radians, 1.570796327, 1e-15);
     const std::string matrix = Journal::Text(std::sin(radians)) + " " + Journal::Text(std::cos(radians));
-    driver.Type(angle, "90");
+    m_driver.Type(angle, "90");
     EXPECT_TRUE(AxisEnabled());
     for (int axis = 0; axis < 3; ++axis) {
-        driver.Click(axes[axis]);
+        m_driver.Click(axes[axis]);
         EXPECT_FALSE(AxisEnabled());
-        driver.Press(VK_RETURN);
+        m_driver.Press(VK_RETURN);
         const std::string number = std::to_string(axis);
-        EXPECT_EQ(host.Take(),
+        EXPECT_EQ(m_host.Take(),
                   (Lines{"BeginUndo 3 0 " + Journal::Text(radians) + " " + number + " 0 0 0 0 0 0 0",
                          "RuotaSelezione " + matrix + " " + number + " 0 0", "EndUndo 3", "WM_FINEDIALOGO 1"}));
     }
@@ -37,21 +37,21 @@ TEST_F(Ruota, GlobalAxes) {
 TEST_F(Ruota, GeneralAxisKeepsDegrees) {
     TypeFrom(1215, {"1", "2", "3"});
     TypeFrom(1143, {"4", "5", "6"});
-    driver.Type(angle, "90");
-    driver.Press(VK_RETURN);
-    EXPECT_EQ(host.Take(), (Lines{"BeginUndo 3 1 1 2 3 4 5 6 90 0 0", "RuotaSelezione 1 2 3 4 5 6 90 0 0", "EndUndo 3",
-                                  "WM_FINEDIALOGO 1"}));
+    m_driver.Type(angle, "90");
+    m_driver.Press(VK_RETURN);
+    EXPECT_EQ(m_host.Take(), (Lines{"BeginUndo 3 1 1 2 3 4 5 6 90 0 0", "RuotaSelezione 1 2 3 4 5 6 90 0 0",
+                                    "EndUndo 3", "WM_FINEDIALOGO 1"}));
 }
 
 TEST_F(Ruota, PicksFillTheAxisWhateverIsChosen) {
-    driver.Type(angle, "30");
-    driver.Click(axes[1]);
-    host.View().Pick(1, 2, 3);
-    host.View().Pick(4, 5, 6);
+    m_driver.Type(angle, "30");
+    m_driver.Click(axes[1]);
+    m_host.View().Pick(1, 2, 3);
+    m_host.View().Pick(4, 5, 6);
     EXPECT_EQ(Texts({1216, 1145, angle}), "2 6 30");
-    EXPECT_TRUE(driver.Checked(axes[1]));
+    EXPECT_TRUE(m_driver.Checked(axes[1]));
     EXPECT_FALSE(AxisEnabled());
-    driver.Click(general);
+    m_driver.Click(general);
     EXPECT_TRUE(AxisEnabled());
 }
 

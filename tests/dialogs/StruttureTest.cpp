@@ -12,7 +12,7 @@ constexpr int treeId = 1078;
 
 class Strutture : public ToolTest<CDialogStrutture> {
   protected:
-    CTreeCtrl& Tree() { return dynamic_cast<CTreeCtrl&>(*dialog.GetDlgItem(treeId)); }
+    CTreeCtrl& Tree() { return dynamic_cast<CTreeCtrl&>(*m_dialog.GetDlgItem(treeId)); }
     HTREEITEM Item(int index) {
         HTREEITEM item = Tree().GetRootItem();
         while (index-- > 0)
@@ -37,8 +37,8 @@ class Strutture : public ToolTest<CDialogStrutture> {
                 continue;
             point.x -= 4; // inside the box, off its edge
             Tree().ClientToScreen(point);
-            dialog.ScreenToClient(point);
-            driver.ClickAt(point.x, point.y);
+            m_dialog.ScreenToClient(point);
+            m_driver.ClickAt(point.x, point.y);
             return;
         }
         ADD_FAILURE() << "no box before item " << index;
@@ -50,7 +50,7 @@ class Strutture : public ToolTest<CDialogStrutture> {
             CWinApp::PumpMessages();
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
         }
-        return host.Take();
+        return m_host.Take();
     }
     // What the host receives for ticked structures with these selections.
     static Lines Ticked(const std::vector<Lines>& structures) {
@@ -64,16 +64,16 @@ class Strutture : public ToolTest<CDialogStrutture> {
         return lines;
     }
 
-    CheckModel model{host.doc};
+    CheckModel m_model{m_host.doc};
 };
 
 TEST_F(Strutture, OpensWithOneBoxForEachStructure) {
     EXPECT_TRUE(Texts().empty());
-    model.Frame();
-    model.Frame();
-    dialog.DestroyWindow();
-    host.Open(dialog);
-    EXPECT_EQ(host.Take().at(0), "Deseleziona null") << "before the search";
+    m_model.Frame();
+    m_model.Frame();
+    m_dialog.DestroyWindow();
+    m_host.Open(m_dialog);
+    EXPECT_EQ(m_host.Take().at(0), "Deseleziona null") << "before the search";
     EXPECT_EQ(Texts(), (Lines{"Struttura n.ro 1", "Struttura n.ro 2"}));
     EXPECT_EQ(Tree().GetItemData(Item(1)), 1u);
     EXPECT_FALSE(Tree().GetCheck(Item(0)));
@@ -82,45 +82,45 @@ TEST_F(Strutture, OpensWithOneBoxForEachStructure) {
 
 TEST_F(Strutture, TicksByMouseSelectInOrder) {
     for (int i = 0; i < 3; ++i)
-        model.Frame();
-    driver = Reopen();
+        m_model.Frame();
+    m_driver = Reopen();
     // The first node meets the beam, and so does the second: the beam is named once for each.
     const Lines first(2, "SelezionaTrave 1 null Adv3dRect"), third(2, "SelezionaTrave 3 null Adv3dRect");
     ClickBox(2);
     EXPECT_TRUE(Tree().GetCheck(Item(2)));
-    EXPECT_EQ(host.Take(), Lines{}) << "read before the tree has toggled, the tick would be the old one";
+    EXPECT_EQ(m_host.Take(), Lines{}) << "read before the tree has toggled, the tick would be the old one";
     EXPECT_EQ(Later(), Ticked({third}));
     ClickBox(0);
     EXPECT_EQ(Later(), Ticked({first, third}));
     ClickBox(0);
     ClickBox(2);
     EXPECT_EQ(Later(), Lines{"Deseleziona null"}) << "two clicks in one period are one reading";
-    EXPECT_EQ(host.doc.selected.GetCount(), 0);
+    EXPECT_EQ(m_host.doc.selected.GetCount(), 0);
 }
 
 TEST_F(Strutture, TicksByKeyboard) {
-    model.Frame();
-    model.Frame();
-    driver = Reopen();
-    driver.SetFocus(treeId);
+    m_model.Frame();
+    m_model.Frame();
+    m_driver = Reopen();
+    m_driver.SetFocus(treeId);
     Tree().SelectItem(Item(0));
-    driver.Press(VK_DOWN);
+    m_driver.Press(VK_DOWN);
     EXPECT_EQ(Later(), Lines{}) << "only Space starts the timer";
-    driver.Press(VK_SPACE);
+    m_driver.Press(VK_SPACE);
     EXPECT_TRUE(Tree().GetCheck(Item(1)));
     EXPECT_EQ(Later().size(), 8u);
     EXPECT_EQ(Later(), Lines{}) << "the timer runs once";
 }
 
 TEST_F(Strutture, EveryKindOfElementAndNodesWithout) {
-    CNodo* const a = model.Node();
-    CNodo* const b = model.Node();
-    CNodo* const c = model.Node();
-    model.Truss(*a, *b);
-    model.Wall({a, b, c});
-    model.Slab({a, b, c});
-    model.Node();
-    driver = Reopen();
+    CNodo* const a = m_model.Node();
+    CNodo* const b = m_model.Node();
+    CNodo* const c = m_model.Node();
+    m_model.Truss(*a, *b);
+    m_model.Wall({a, b, c});
+    m_model.Slab({a, b, c});
+    m_model.Node();
+    m_driver = Reopen();
     ClickBox(1); // a node without elements
     EXPECT_EQ(Later(), Ticked({{}}));
     ClickBox(0);
@@ -128,15 +128,15 @@ TEST_F(Strutture, EveryKindOfElementAndNodesWithout) {
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaAsta 1 null Adv3dRect"), 2);
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaSetto 1 null Adv3dRect"), 3);
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "SelezionaSolaio 1 null Adv3dRect"), 3);
-    EXPECT_EQ(host.doc.selected.GetCount(), 3) << "the nodes themselves are not selected";
+    EXPECT_EQ(m_host.doc.selected.GetCount(), 3) << "the nodes themselves are not selected";
 }
 
 TEST_F(Strutture, NodesRemovedAfterTheSearch) {
-    model.Frame();
-    model.Frame();
-    driver = Reopen();
-    host.doc.travi.erase(host.doc.travi.begin());
-    host.doc.nodi.erase(host.doc.nodi.begin());
+    m_model.Frame();
+    m_model.Frame();
+    m_driver = Reopen();
+    m_host.doc.travi.erase(m_host.doc.travi.begin());
+    m_host.doc.nodi.erase(m_host.doc.nodi.begin());
     ClickBox(0);
     EXPECT_EQ(Later(), Ticked({{}}));
     EXPECT_EQ(Texts().size(), 2u) << "later changes do not refresh the list";
@@ -150,29 +150,29 @@ class OpenStrutture : public CDialogStrutture {
 };
 
 TEST_F(Strutture, StructureWithAStrangerStopsAtIt) {
-    model.Frame();
+    m_model.Frame();
     OpenStrutture open;
-    host.Open(open);
-    host.Take();
-    const CurrentNodes current(host.doc);
+    m_host.Open(open);
+    m_host.Take();
+    const CurrentNodes current(m_host.doc);
     open.SelezionaStruttura(nullptr, current);
-    EXPECT_EQ(host.Take(), Lines{});
-    open.GetIndexStructure(0)->InsertAt(1, host.doc.travi[0].get());
+    EXPECT_EQ(m_host.Take(), Lines{});
+    open.GetIndexStructure(0)->InsertAt(1, m_host.doc.travi[0].get());
     open.SelezionaStruttura(open.GetIndexStructure(0), current);
-    EXPECT_EQ(host.Take(),
+    EXPECT_EQ(m_host.Take(),
               (Lines{"UpdateAllViews null 8 null", "UpdateAllViews null 17 null", "SelezionaTrave 1 null Adv3dRect"}));
     open.DestroyWindow();
 }
 
 TEST_F(Strutture, ClosedBeforeTheTimer) {
-    model.Frame();
-    driver = Reopen();
+    m_model.Frame();
+    m_driver = Reopen();
     ClickBox(0);
-    driver.Press(VK_ESCAPE);
+    m_driver.Press(VK_ESCAPE);
     EXPECT_EQ(Later(), Lines{"WM_FINEDIALOGO 2"});
-    driver = Reopen();
-    driver.Press(VK_RETURN);
-    EXPECT_EQ(host.Take(), Lines{"WM_FINEDIALOGO 1"});
+    m_driver = Reopen();
+    m_driver.Press(VK_RETURN);
+    EXPECT_EQ(m_host.Take(), Lines{"WM_FINEDIALOGO 1"});
 }
 
 } // namespace

@@ -1,12 +1,12 @@
 // Contracts over all dialog templates, menus and pictures of the module at once. A new template is checked without a
 // line here.
 #include "dialogs/frame/Module.h"
-#include "platform/DeviceContext.h"
-#include "platform/Dialog.h"
-#include "platform/Gdi.h"
-#include "platform/Module.h"
-#include "platform/Resource.h"
-#include "platform/Styles.h"
+#include "platform/drawing/DeviceContext.h"
+#include "platform/drawing/Gdi.h"
+#include "platform/resource/Module.h"
+#include "platform/resource/Resource.h"
+#include "platform/window/Dialog.h"
+#include "platform/window/Styles.h"
 #include "tests/dialogs/TemplateInventory.h"
 #include "tests/support/DialogTest.h"
 
@@ -30,13 +30,13 @@ using platform::ControlTemplate;
 using platform::DialogTemplate;
 using Kind = ControlTemplate::Kind;
 
-constexpr int kColourTemplate = 251; // the one with another font
+constexpr int colourTemplate = 251; // the one with another font
 
 // Controls that are laid over others while they are shown, and hidden until then.
-const std::set<std::pair<int, int>> kInPlaceEditors = {{9006, 1096}};
+const std::set<std::pair<int, int>> inPlaceEditors = {{9006, 1096}};
 
 // Keys that two fixed texts claim: pressed again, the key goes on to the other one.
-const std::set<std::pair<int, char>> kSharedMnemonics = {{9001, 'C'}, {9020, 'C'}};
+const std::set<std::pair<int, char>> sharedMnemonics = {{9001, 'C'}, {9020, 'C'}};
 
 DWORD ButtonType(const ControlTemplate& control) {
     return control.style & BS_TYPEMASK;
@@ -113,18 +113,18 @@ class Templates : public testing::Test {
   protected:
     Templates() { AttachDialogModule(); }
 
-    std::span<const DialogTemplate> dialogs = resources::Quovar_Dialogs.dialogs;
+    std::span<const DialogTemplate> m_dialogs = resources::Quovar_Dialogs.dialogs;
 };
 
 // Catches a caption with other blanks, a lost picture, another font, and a template that the chain does not find.
 TEST_F(Templates, FixedPropertiesAreKept) {
     const std::map<int, std::string> captions = inventory::Captions();
     ASSERT_EQ(captions.size(), 88u);
-    for (const DialogTemplate& dialog : dialogs) {
+    for (const DialogTemplate& dialog : m_dialogs) {
         ASSERT_TRUE(captions.contains(dialog.id)) << "no template has the number " << dialog.id;
         EXPECT_EQ(platform::FindDialogTemplate(dialog.id), &dialog);
         EXPECT_EQ(dialog.caption, captions.at(dialog.id));
-        EXPECT_STREQ(dialog.fontFace, dialog.id == kColourTemplate ? "Helv" : "MS Sans Serif") << dialog.id;
+        EXPECT_STREQ(dialog.fontFace, dialog.id == colourTemplate ? "Helv" : "MS Sans Serif") << dialog.id;
         EXPECT_EQ(dialog.fontPoints, 8) << dialog.id;
         const auto picture = std::ranges::find_if(dialog.controls, IsPicture);
         const bool found = picture != dialog.controls.end();
@@ -139,12 +139,12 @@ TEST_F(Templates, FixedPropertiesAreKept) {
 
 // Catches controls over each other, and a group box that cuts through one.
 TEST_F(Templates, NoTwoControlsOverlap) {
-    for (const DialogTemplate& dialog : dialogs)
+    for (const DialogTemplate& dialog : m_dialogs)
         for (std::size_t i = 0; i < dialog.controls.size(); ++i)
             for (std::size_t j = i + 1; j < dialog.controls.size(); ++j) {
                 const ControlTemplate& a = dialog.controls[i];
                 const ControlTemplate& b = dialog.controls[j];
-                if (kInPlaceEditors.contains({dialog.id, a.id}) || kInPlaceEditors.contains({dialog.id, b.id}))
+                if (inPlaceEditors.contains({dialog.id, a.id}) || inPlaceEditors.contains({dialog.id, b.id}))
                     continue;
                 const bool nested = (IsGroupBox(a) && Contains(UnitsOf(a), UnitsOf(b))) ||
                                     (IsGroupBox(b) && Contains(UnitsOf(b), UnitsOf(a))) ||
@@ -156,14 +156,14 @@ TEST_F(Templates, NoTwoControlsOverlap) {
 
 // Catches two texts that claim one key, and an editor that shows before its time.
 TEST_F(Templates, MnemonicsAreUnique) {
-    for (const DialogTemplate& dialog : dialogs) {
+    for (const DialogTemplate& dialog : m_dialogs) {
         std::set<char> taken;
         for (const ControlTemplate& control : dialog.controls) {
             if (const char key = Mnemonic(control.text)) {
-                EXPECT_TRUE(taken.insert(key).second || kSharedMnemonics.contains({dialog.id, key}))
+                EXPECT_TRUE(taken.insert(key).second || sharedMnemonics.contains({dialog.id, key}))
                     << Where(dialog, control);
             }
-            if (kInPlaceEditors.contains({dialog.id, control.id})) {
+            if (inPlaceEditors.contains({dialog.id, control.id})) {
                 EXPECT_EQ(control.style & WS_VISIBLE, 0u) << Where(dialog, control);
             }
         }
@@ -173,7 +173,7 @@ TEST_F(Templates, MnemonicsAreUnique) {
 // Catches a focus that jumps back: inside one group box, and among the controls outside all of them, the next tab stop
 // stands lower or wholly to the right.
 TEST_F(Templates, FocusFollowsReadingOrder) {
-    for (const DialogTemplate& dialog : dialogs) {
+    for (const DialogTemplate& dialog : m_dialogs) {
         std::map<const ControlTemplate*, const ControlTemplate*> last;
         for (const ControlTemplate& control : dialog.controls) {
             if (!(control.style & WS_TABSTOP))
@@ -191,7 +191,7 @@ TEST_F(Templates, FocusFollowsReadingOrder) {
 // Catches a radio group that swallows the next control or cannot be reached, two default buttons, and a spin that
 // takes a wrong control for its buddy.
 TEST_F(Templates, GroupsAndBuddiesAreClosed) {
-    for (const DialogTemplate& dialog : dialogs) {
+    for (const DialogTemplate& dialog : m_dialogs) {
         int defaults = 0;
         const ControlTemplate* before = nullptr;
         for (const ControlTemplate& control : dialog.controls) {
@@ -214,7 +214,7 @@ TEST_F(Templates, GroupsAndBuddiesAreClosed) {
 // Catches a control that the window layer does not make, or makes with another text or outside the dialog, and a label
 // cut at its right edge, in the font that the user sees.
 TEST_F(Templates, OpenWithEveryControlAndRoomForItsText) {
-    for (const DialogTemplate& source : dialogs) {
+    for (const DialogTemplate& source : m_dialogs) {
         CDialog dialog;
         ASSERT_TRUE(dialog.Create(source.id));
         CClientDC device(&dialog);
@@ -289,20 +289,20 @@ class ModuleStart : public testing::Test {
     }
     ~ModuleStart() override { AfxAttachLinkedModule(&QuovarModuleEntry); }
 
-    const std::string library =
+    const std::string m_library =
         (std::filesystem::read_symlink("/proc/self/exe").parent_path() / "libQuovar_Dialogs.so").string();
 };
 
 // Catches a module that loads without its resources, starts at each load, or leaves them behind at its end.
 TEST_F(ModuleStart, LoadedByPathItJoinsTheChainUntilItIsFreed) {
     EXPECT_EQ(platform::FindDialogTemplate(9015), nullptr);
-    const HINSTANCE module = AfxLoadLibrary(library.c_str());
+    const HINSTANCE module = AfxLoadLibrary(m_library.c_str());
     ASSERT_TRUE(module) << AfxGetLoadError();
     EXPECT_TRUE(platform::FindDialogTemplate(9015));
     EXPECT_EQ(AfxFindResourceHandle(376, RT_MENU), module);
     EXPECT_EQ(GetModuleHandle("Quovar_Dialogs.dll"), module);
 
-    EXPECT_EQ(AfxLoadLibrary(library.c_str()), module);
+    EXPECT_EQ(AfxLoadLibrary(m_library.c_str()), module);
     EXPECT_TRUE(AfxFreeLibrary(module));
     EXPECT_TRUE(platform::FindDialogTemplate(9015));
     EXPECT_TRUE(AfxFreeLibrary(module));
@@ -314,7 +314,7 @@ TEST_F(ModuleStart, LoadedByPathItJoinsTheChainUntilItIsFreed) {
 TEST_F(ModuleStart, AFailedStartMakesLoadingFail) {
     const HINSTANCE linked = AfxAttachLinkedModule(&QuovarModuleEntry);
     ASSERT_TRUE(linked);
-    EXPECT_EQ(AfxLoadLibrary(library.c_str()), nullptr);
+    EXPECT_EQ(AfxLoadLibrary(m_library.c_str()), nullptr);
     EXPECT_NE(std::string(AfxGetLoadError()).find("refused to start"), std::string::npos);
     EXPECT_EQ(AfxFindResourceHandle(9015, RT_DIALOG), linked); // the running one is untouched
 

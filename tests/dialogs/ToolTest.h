@@ -1,7 +1,7 @@
 // Tests of one tool dialog that stands open on the view, with what the host received while it opened taken away.
 #pragma once
 
-#include "platform/Application.h"
+#include "platform/window/Application.h"
 #include "tests/support/DialogTest.h"
 
 #include <initializer_list>
@@ -11,33 +11,33 @@
 template <class T>
 class ToolTest : public DialogTest {
   protected:
-    ~ToolTest() override { dialog.DestroyWindow(); }
+    ~ToolTest() override { m_dialog.DestroyWindow(); }
 
     DialogDriver Reopen() {
-        dialog.DestroyWindow();
-        EXPECT_NE(host.Open(dialog), 0);
-        host.Take();
-        return DialogDriver(dialog);
+        m_dialog.DestroyWindow();
+        EXPECT_NE(m_host.Open(m_dialog), 0);
+        m_host.Take();
+        return DialogDriver(m_dialog);
     }
     // What the controls show, with blanks between them.
     std::string Texts(std::initializer_list<int> ids) const {
         std::string all;
         for (const int id : ids)
-            all += (all.empty() ? "" : " ") + driver.Text(id);
+            all += (all.empty() ? "" : " ") + m_driver.Text(id);
         return all;
     }
     // Types into edits that are numbered one after the other. A handler or field of another edit shows only where the
     // texts differ.
     void TypeFrom(int id, std::initializer_list<const char*> texts) {
         for (const char* text : texts)
-            driver.Type(id++, text);
+            m_driver.Type(id++, text);
     }
     // Whether controls that go together are enabled, as ranges from first to last.
     bool EnabledTogether(std::initializer_list<std::pair<int, int>> ranges) const {
         int enabled = 0, all = 0;
         for (const auto& [first, last] : ranges)
             for (int id = first; id <= last; ++id, ++all)
-                enabled += driver.Enabled(id);
+                enabled += m_driver.Enabled(id);
         EXPECT_TRUE(enabled == 0 || enabled == all) << "box, labels and edits: " << enabled << " of " << all;
         return enabled == all;
     }
@@ -47,6 +47,6 @@ class ToolTest : public DialogTest {
         return calls;
     }
 
-    T dialog;
-    DialogDriver driver = Reopen();
+    T m_dialog;
+    DialogDriver m_driver = Reopen();
 };

@@ -8,8 +8,8 @@ AnalysisModel::AnalysisModel() : firstCase(document.GetIndexCasoCarico(0)) {
     auto newMaterial = std::make_unique<CMateriale>();
     newMaterial->SetE(E);
     newMaterial->SetG(G);
-    newMaterial->SetAlfa(Alpha);
-    newMaterial->SetDensita(Density);
+    newMaterial->SetAlpha(alpha);
+    newMaterial->SetDensity(density);
     material = document.AddNew(std::move(newMaterial));
     auto newSection = std::make_unique<CSezione>();
     newSection->SetArea(A);
@@ -23,7 +23,7 @@ CNodo* AnalysisModel::Node(double x, double y, double z, unsigned fixed) {
     CFPoint place(x, y, z);
     CNodo* node = document.AddNodo(place, nullptr, 0);
     const CVincolo restraint(fixed);
-    document.Modify(*node, [&] { node->SetVincolo(&restraint); });
+    document.Modify(*node, [&] { node->SetRestraint(&restraint); });
     return node;
 }
 
@@ -50,7 +50,7 @@ void AnalysisModel::Release(CTrave* beam, int end, int n, int t, int m2, int m3)
 }
 
 const host::CaseResults& AnalysisModel::Run() {
-    const host::AnalysisOutcome outcome = document.EseguiAnalisi();
+    const host::AnalysisOutcome outcome = document.RunAnalysis();
     static const host::CaseResults none;
     if (!outcome.done) {
         ADD_FAILURE() << outcome.message.ToUtf8();
@@ -61,7 +61,7 @@ const host::CaseResults& AnalysisModel::Run() {
 }
 
 CString AnalysisModel::Refusal() {
-    return document.EseguiAnalisi().message;
+    return document.RunAnalysis().message;
 }
 
 double AnalysisModel::Moved(CNodo* node, int component) {
@@ -73,10 +73,10 @@ double AnalysisModel::Moved(CNodo* node, int component) {
 
 double AnalysisModel::Reaction(CNodo* node, int component) {
     CNodoReazioniVincolari* reaction = node->GetReazioniVincolari();
-    return reaction ? -reaction->GetReazione(component) : std::nan("");
+    return reaction ? -reaction->GetReaction(component) : std::nan("");
 }
 
-double AnalysisModel::Force(CLineaRisultati* line, int kind, double x, CTraveRisultati::Lato side) {
+double AnalysisModel::Force(CLineaRisultati* line, int kind, double x, CTraveRisultati::Side side) {
     double value;
     return line->GetRisultato(kind, x, side, value) ? value : std::nan("");
 }

@@ -2,13 +2,13 @@
 #pragma once
 
 #include "host/document/HostDocument.h"
-#include "model/Asta.h"
-#include "model/Carico.h"
-#include "model/CasoCarico.h"
-#include "model/ElementoSettings.h"
-#include "model/Materiale.h"
-#include "model/Sezione.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/load/Carico.h"
+#include "model/view/ElementoSettings.h"
 
 // One material and one section, one load case; E = 2e8, G = 8e7, alpha = 1.2e-5, density 8; A = 0.01, J = 3e-5,
 // I2 = 2e-5, I3 = 5e-5, no shear areas. Numbers count from 1 in the order of the calls.
@@ -40,14 +40,14 @@ class AnalysisModel {
     double Moved(CNodo* node, int component);
     double Reaction(CNodo* node, int component);
     // An internal force of a line in the case that is shown.
-    double Force(CLineaRisultati* line, int kind, double x, CTraveRisultati::Lato side = CTraveRisultati::Dopo);
+    double Force(CLineaRisultati* line, int kind, double x, CTraveRisultati::Side side = CTraveRisultati::After);
 
     HostDocument document;
     CMateriale* material;
     CSezione* section;
     CCasoCarico* firstCase;
 
-    static constexpr double E = 2e8, G = 8e7, Alpha = 1.2e-5, Density = 8;
+    static constexpr double E = 2e8, G = 8e7, alpha = 1.2e-5, density = 8;
     static constexpr double A = 0.01, J = 3e-5, I2 = 2e-5, I3 = 5e-5;
 };
 

@@ -1,6 +1,6 @@
 // The analysis beside closed forms, to nine digits.
 #include "host/analysis/Analysis.h"
-#include "model/Combinazione.h"
+#include "model/entity/Combinazione.h"
 #include "tests/host/AnalysisModel.h"
 
 #include <gtest/gtest.h>
@@ -11,22 +11,22 @@ namespace {
 
 using Model = AnalysisModel;
 constexpr double L = 4;
-constexpr unsigned all = CVincolo::Tutti;
+constexpr unsigned all = CVincolo::All;
 enum Component { UX, UY, UZ, RX, RY, RZ };
 constexpr int N = CElementoSettings::N, V2 = CElementoSettings::V2, V3 = CElementoSettings::V3,
               T = CElementoSettings::T, M2 = CElementoSettings::M2, M3 = CElementoSettings::M3;
 
 CCaricoTrapezoidale Trapezoid(int axis, double from, double to, double first, double last) {
     CCaricoTrapezoidale load;
-    load.GetTratto(axis) = {from, to, first, last};
+    load.GetStretch(axis) = {from, to, first, last};
     return load;
 }
 
 CCaricoTemperatura Heat(double uniform, double gradient2, double gradient3) {
     CCaricoTemperatura load;
-    load.GetTemperatura() = uniform;
-    load.GetGradiente2() = gradient2;
-    load.GetGradiente3() = gradient3;
+    load.GetTemperature() = uniform;
+    load.GetGradient2() = gradient2;
+    load.GetGradient3() = gradient3;
     return load;
 }
 
@@ -50,7 +50,7 @@ TEST(Analysis, CantileverDeflectsAndTwists) {
             CTrave* beam = model.Beam(root, tip);
             model.document.Modify(*beam, [&] { beam->SetBeta(beta); });
             CFPoint x, y, z;
-            ASSERT_TRUE(beam->GetAssiLocali(x, y, z));
+            ASSERT_TRUE(beam->GetLocalAxes(x, y, z));
             const double f[] = {70, 3, -2}, m[] = {1.5, 0.7, -0.4};
             model.Force(tip, f[0] * x + f[1] * y + f[2] * z, m[0] * x + m[1] * y + m[2] * z);
             model.Run();
@@ -81,7 +81,7 @@ TEST(Analysis, FixedBeamUnderDistributedLoads) {
         const int shear = axis == 1 ? V2 : V3, moment = axis == 1 ? M3 : M2;
         {
             FixedBeam m;
-            m.On(m.beam, CCaricoUniforme(axis == 1 ? CFPoint(0, w, 0) : CFPoint(0, 0, w), CCarico::Locale));
+            m.On(m.beam, CCaricoUniforme(axis == 1 ? CFPoint(0, w, 0) : CFPoint(0, 0, w), CCarico::Local));
             m.Run();
             ExpectClose(m.Force(m.beam, shear, 0), w * L / 2);
             ExpectClose(m.Force(m.beam, moment, 0), w * L * L / 12);
@@ -117,30 +117,30 @@ TEST(Analysis, FixedBeamUnderPointLoadsAndAlongItsAxis) {
     for (const int axis : {1, 2}) {
         const int shear = axis == 1 ? V2 : V3, moment = axis == 1 ? M3 : M2;
         FixedBeam m;
-        m.On(m.beam, CCaricoConcentrato(axis == 1 ? CFPoint(0, -p, 0) : CFPoint(0, 0, -p), a, CCarico::Locale));
+        m.On(m.beam, CCaricoConcentrato(axis == 1 ? CFPoint(0, -p, 0) : CFPoint(0, 0, -p), a, CCarico::Local));
         m.Run();
         ExpectClose(m.Force(m.beam, moment, 0), -p * a * b * b / (L * L));
         ExpectClose(m.Force(m.beam, moment, L), -p * a * a * b / (L * L));
         ExpectClose(m.Force(m.beam, moment, a), 2 * p * a * a * b * b / (L * L * L));
         const double left = p * b * b * (3 * a + b) / (L * L * L);
-        ExpectClose(m.Force(m.beam, shear, a, CTraveRisultati::Prima), -left);
-        ExpectClose(m.Force(m.beam, shear, a, CTraveRisultati::Dopo), p - left);
+        ExpectClose(m.Force(m.beam, shear, a, CTraveRisultati::Before), -left);
+        ExpectClose(m.Force(m.beam, shear, a, CTraveRisultati::After), p - left);
         FixedBeam turned;
-        CCaricoConcentrato couple({}, a, CCarico::Locale);
-        couple.GetVettoreMomento() = axis == 1 ? CFPoint(0, 0, p) : CFPoint(0, -p, 0);
+        CCaricoConcentrato couple({}, a, CCarico::Local);
+        couple.GetMomentVector() = axis == 1 ? CFPoint(0, 0, p) : CFPoint(0, -p, 0);
         turned.On(turned.beam, couple);
         turned.Run();
         const double first = p * b * (2 * a - b) / (L * L);
         ExpectClose(turned.Force(turned.beam, moment, 0), -first);
-        ExpectClose(turned.Force(turned.beam, moment, a, CTraveRisultati::Dopo) -
-                        turned.Force(turned.beam, moment, a, CTraveRisultati::Prima),
+        ExpectClose(turned.Force(turned.beam, moment, a, CTraveRisultati::After) -
+                        turned.Force(turned.beam, moment, a, CTraveRisultati::Before),
                     -p);
         ExpectClose(turned.Force(turned.beam, shear, 0), -6 * p * a * b / (L * L * L));
     }
     FixedBeam m;
-    m.On(m.beam, CCaricoConcentrato({p, 0, 0}, a, CCarico::Locale));
-    CCaricoConcentrato twist({}, a, CCarico::Locale);
-    twist.GetVettoreMomento() = {p, 0, 0};
+    m.On(m.beam, CCaricoConcentrato({p, 0, 0}, a, CCarico::Local));
+    CCaricoConcentrato twist({}, a, CCarico::Local);
+    twist.GetMomentVector() = {p, 0, 0};
     m.On(m.beam, twist);
     m.On(m.beam, Trapezoid(0, 0, L, 0, 3));
     m.Run();
@@ -155,14 +155,14 @@ TEST(Analysis, Temperature) {
     FixedBeam held;
     held.On(held.beam, Heat(30, 20, -10));
     held.Run();
-    ExpectClose(held.Force(held.beam, N, 1), -Model::E * Model::A * Model::Alpha * 30);
-    ExpectClose(held.Force(held.beam, M3, 2), Model::E * Model::I3 * Model::Alpha * 20);
-    ExpectClose(held.Force(held.beam, M2, 2), Model::E * Model::I2 * Model::Alpha * -10);
+    ExpectClose(held.Force(held.beam, N, 1), -Model::E * Model::A * Model::alpha * 30);
+    ExpectClose(held.Force(held.beam, M3, 2), Model::E * Model::I3 * Model::alpha * 20);
+    ExpectClose(held.Force(held.beam, M2, 2), Model::E * Model::I2 * Model::alpha * -10);
     Model free;
     CNodo* tip = free.Node(L, 0, 0);
     CTrave* beam = free.Beam(free.Node(0, 0, 0, all), tip);
     CCaricoTemperatura own = Heat(30, 20, -10);
-    own.GetAlfa() = 2e-5; // instead of the material's
+    own.GetAlpha() = 2e-5; // instead of the material's
     free.On(beam, own);
     free.Run();
     ExpectClose(free.Moved(tip, UX), 2e-5 * 30 * L);
@@ -225,7 +225,7 @@ TEST(Analysis, SpaceTruss) {
     for (int i = 0; i < 3; ++i)
         bars[i] = m.Truss(m.Node(feet[i].x, feet[i].y, feet[i].z, 7), top);
     m.Force(top, {0, 6, -90});
-    m.On(bars[0], CCaricoUniforme({0, 0, -2}, CCarico::Globale));
+    m.On(bars[0], CCaricoUniforme({0, 0, -2}, CCarico::Global));
     m.Run();
     // Half of the bar's own load, 2 * 5 m, arrives at the top.
     const double down = 90 + 5;
@@ -245,16 +245,16 @@ TEST(Analysis, Releases) {
     const double w = -5;
     FixedBeam m;
     m.Release(m.beam, 1, 0, 0, 1, 0);
-    m.On(m.beam, CCaricoUniforme({0, 4, w}, CCarico::Locale));
+    m.On(m.beam, CCaricoUniforme({0, 4, w}, CCarico::Local));
     m.Run();
     ExpectClose(m.Force(m.beam, M2, 0), w * L * L / 8);
     ExpectClose(m.Force(m.beam, V3, 0), 5 * w * L / 8);
-    EXPECT_EQ(m.beam->GetRisultati()->GetNodoRisultati(1)->GetM2(), 0) << "released: exactly nothing";
+    EXPECT_EQ(m.beam->GetRisultati()->GetNodeResults(1)->GetM2(), 0) << "released: exactly nothing";
     ExpectClose(m.Force(m.beam, M3, 0), 4 * L * L / 12);
     FixedBeam both;
     both.Release(both.beam, 0, 0, 1, 1, 1);
     both.Release(both.beam, 1, 1, 0, 1, 1);
-    both.On(both.beam, CCaricoUniforme({3, 4, w}, CCarico::Locale));
+    both.On(both.beam, CCaricoUniforme({3, 4, w}, CCarico::Local));
     both.On(both.beam, Heat(50, 10, 10));
     both.Run();
     ExpectClose(both.Force(both.beam, M2, L / 2), -w * L * L / 8);
@@ -289,7 +289,7 @@ TEST(Analysis, ShearDeformation) {
     FixedBeam held;
     held.document.Modify(*held.section, [&] { held.section->SetArea3(0.0005); });
     const double p = 8, a = 1, b = L - a;
-    held.On(held.beam, CCaricoConcentrato({0, 0, -p}, a, CCarico::Locale));
+    held.On(held.beam, CCaricoConcentrato({0, 0, -p}, a, CCarico::Local));
     held.Run();
     const double phi = 12 * Model::E * Model::I2 / (Model::G * 0.0005 * L * L);
     ExpectClose(held.Force(held.beam, M2, 0), -p * a * b / L * (b / L + phi / 2) / (1 + phi));
@@ -302,9 +302,9 @@ TEST(Analysis, Springs) {
     CNodo* tip = m.Node(L, 0, 0);
     m.Beam(m.Node(0, 0, 0, CVincolo::Tx | CVincolo::Ty | CVincolo::Tz | CVincolo::Rx), tip);
     m.document.Modify(*tip, [&] {
-        tip->AddMolla(CMolla(CMolla::Traslazionale, 50, {0, 0, 3}, Lunghezza::Millimetri, Forza::Newton));
-        tip->AddMolla(CMolla(CMolla::Traslazionale, 100, {0, 2, 0}));
-        tip->AddMolla(CMolla(CMolla::Rotazionale, 40, {1, 0, 0}));
+        tip->AddSpring(CMolla(CMolla::Translational, 50, {0, 0, 3}, Lunghezza::Millimetres, Forza::Newton));
+        tip->AddSpring(CMolla(CMolla::Translational, 100, {0, 2, 0}));
+        tip->AddSpring(CMolla(CMolla::Rotational, 40, {1, 0, 0}));
     });
     m.Force(tip, {0, 3, -6}, {0, 0, 0});
     m.Run();
@@ -319,18 +319,19 @@ TEST(Analysis, SelfWeightAndCombination) {
     FixedBeam m;
     m.document.AddCarico(*m.firstCase, std::make_unique<CCaricoPesoProprio>(CFPoint(0, 0, -10)));
     CCasoCarico* second = m.document.CreaCasoCarico();
-    m.On(m.beam, CCaricoConcentrato({0, 0, -7}, L / 2, CCarico::Locale), second);
+    m.On(m.beam, CCaricoConcentrato({0, 0, -7}, L / 2, CCarico::Local), second);
     auto combination = std::make_unique<CCombinazione>();
     combination->AddCDC(m.firstCase->GetID(), 1.5);
     combination->AddCDC(second->GetID(), -2);
     CCombinazione* both = m.document.AddNew(std::move(combination));
     m.Run();
-    const double w = -Model::Density * Model::A * 10;
+    const double w = -Model::density * Model::A * 10;
     ExpectClose(m.Force(m.beam, M2, L / 2), -w * L * L / 24);
     ExpectClose(m.Reaction(m.last, UZ), -w * L / 2);
     ASSERT_TRUE(m.document.SelectCasoCarico(both->GetID()));
     ExpectClose(m.Force(m.beam, M2, L / 2), 1.5 * -w * L * L / 24 - 2 * 7 * L / 8);
-    ExpectClose(m.Force(m.beam, V3, L / 2, CTraveRisultati::Dopo) - m.Force(m.beam, V3, L / 2, CTraveRisultati::Prima),
+    ExpectClose(m.Force(m.beam, V3, L / 2, CTraveRisultati::After) -
+                    m.Force(m.beam, V3, L / 2, CTraveRisultati::Before),
                 -2 * 7);
     ExpectClose(m.Reaction(m.last, UZ), 1.5 * -w * L / 2 - 2 * 3.5);
 }
@@ -339,29 +340,29 @@ TEST(Analysis, SelfWeightAndCombination) {
 // integrated from the wrong place, on a member with all of them at once.
 TEST(Analysis, DiagramsAreExactBetweenTheEnds) {
     FixedBeam m;
-    m.On(m.beam, CCaricoUniforme({1, 2, -3}, CCarico::Globale));
+    m.On(m.beam, CCaricoUniforme({1, 2, -3}, CCarico::Global));
     for (const int axis : {0, 1, 2})
         m.On(m.beam, Trapezoid(axis, 0.5 + 0.3 * axis, 2.5, 4, -6));
-    CCaricoConcentrato point({5, -6, 7}, 1.7, CCarico::Locale);
-    point.GetVettoreMomento() = {0.3, 0.2, -0.1};
+    CCaricoConcentrato point({5, -6, 7}, 1.7, CCarico::Local);
+    point.GetMomentVector() = {0.3, 0.2, -0.1};
     m.On(m.beam, point);
     m.Run();
     for (const int kind : {N, V2, V3, T, M2, M3}) {
         SCOPED_TRACE(kind);
-        std::vector<TrattoDiagramma> pieces;
-        ASSERT_TRUE(m.beam->GetDiagramma(kind, pieces));
+        std::vector<DiagramStretch> pieces;
+        ASSERT_TRUE(m.beam->GetDiagram(kind, pieces));
         ASSERT_FALSE(pieces.empty());
         EXPECT_EQ(pieces.front().da, 0);
         EXPECT_EQ(pieces.back().a, L);
         double end;
         ASSERT_TRUE(m.beam->GetRisultatoNodo(1, kind, end));
-        ExpectClose(pieces.back().GetValore(L), end, 10);
+        ExpectClose(pieces.back().GetValue(L), end, 10);
         for (std::size_t i = 0; i < pieces.size(); ++i) {
-            const TrattoDiagramma& piece = pieces[i];
+            const DiagramStretch& piece = pieces[i];
             EXPECT_EQ(piece.da, i == 0 ? 0 : pieces[i - 1].a);
             const double middle = (piece.da + piece.a) / 2;
             for (const double x : {piece.da, middle})
-                ExpectClose(piece.GetValore(x), m.Force(m.beam, kind, x), 10);
+                ExpectClose(piece.GetValue(x), m.Force(m.beam, kind, x), 10);
             if (kind == M2 || kind == M3) {
                 const double slope =
                     piece.c[1] + (middle - piece.da) * (2 * piece.c[2] + 3 * piece.c[3] * (middle - piece.da));
@@ -372,17 +373,17 @@ TEST(Analysis, DiagramsAreExactBetweenTheEnds) {
 }
 
 TEST(Analysis, DiagramExtremesAndZeros) {
-    const TrattoDiagramma cubic{1, 5, {-6, 11, -6, 1}}; // zeros at s = 1, 2, 3
+    const DiagramStretch cubic{1, 5, {-6, 11, -6, 1}}; // zeros at s = 1, 2, 3
     double zeros[3], level[2];
-    ASSERT_EQ(cubic.GetZeri(zeros), 3);
+    ASSERT_EQ(cubic.GetZeros(zeros), 3);
     for (int i = 0; i < 3; ++i)
         EXPECT_NEAR(zeros[i], 2 + i, 1e-12);
-    ASSERT_EQ(cubic.GetEstremi(level), 2);
+    ASSERT_EQ(cubic.GetEnds(level), 2);
     EXPECT_NEAR(level[0], 3 - 1 / std::sqrt(3.0), 1e-12);
     EXPECT_NEAR(level[1], 3 + 1 / std::sqrt(3.0), 1e-12);
-    EXPECT_EQ((TrattoDiagramma{0, 1, {}}.GetZeri(zeros)), 0);
-    EXPECT_EQ((TrattoDiagramma{0, 4, {4, -4, 1}}.GetZeri(zeros)), 1) << "touches zero at its lowest place";
-    EXPECT_EQ((TrattoDiagramma{0, 4, {2, -1}}.GetZeri(zeros)), 1);
+    EXPECT_EQ((DiagramStretch{0, 1, {}}.GetZeros(zeros)), 0);
+    EXPECT_EQ((DiagramStretch{0, 4, {4, -4, 1}}.GetZeros(zeros)), 1) << "touches zero at its lowest place";
+    EXPECT_EQ((DiagramStretch{0, 4, {2, -1}}.GetZeros(zeros)), 1);
     EXPECT_NEAR(zeros[0], 2, 1e-12);
 }
 

@@ -1,13 +1,13 @@
 // Results in the life of a document: when they are there, when they go, and what is refused.
+#include "host/app/Options.h"
+#include "host/app/Results.h"
+#include "host/commands/AnalysisCommand.h"
 #include "host/document/DocumentObserver.h"
 #include "host/files/ProjectFile.h"
-#include "host/ui/AnalysisCommand.h"
 #include "host/ui/MainWindow.h"
-#include "host/ui/Options.h"
-#include "host/ui/Results.h"
-#include "model/Combinazione.h"
-#include "platform/Application.h"
-#include "platform/Collections.h"
+#include "model/entity/Combinazione.h"
+#include "platform/core/Collections.h"
+#include "platform/window/Application.h"
 #include "tests/host/AnalysisModel.h"
 #include "tests/host/TestModel.h"
 #include "tests/host/WorkspaceTest.h"
@@ -21,7 +21,7 @@
 namespace {
 
 using Model = AnalysisModel;
-constexpr unsigned all = CVincolo::Tutti;
+constexpr unsigned all = CVincolo::All;
 
 std::string Said(const CString& text) {
     return text.ToUtf8();
@@ -104,9 +104,9 @@ TEST(AnalysisRefusal, LoadsThatNothingCarries) {
         CTrave* beam = m.Beam(m.Node(0, 0, 0, all), m.Node(4, 0, 0, all));
         for (const int end : {0, 1})
             m.Release(beam, end, 1, 0, 0, 0);
-        m.On(beam, CCaricoUniforme({0, 0, -3}, CCarico::Globale));
+        m.On(beam, CCaricoUniforme({0, 0, -3}, CCarico::Global));
         EXPECT_EQ(Said(m.Refusal()), "");
-        m.On(beam, CCaricoUniforme({0.1, 0, 0}, CCarico::Globale));
+        m.On(beam, CCaricoUniforme({0.1, 0, 0}, CCarico::Global));
         EXPECT_EQ(Said(m.Refusal()), "La struttura è labile: la trave n.ro 1, svincolata ai due estremi, scorre lungo "
                                      "il proprio asse al nodo n.ro " +
                                          std::to_string(beam->GetIDNodoIniziale()) + ".");
@@ -141,11 +141,11 @@ TEST(AnalysisRefusal, WhatIsMissingIsNamed) {
     EXPECT_FALSE(m.document.m_pAnalisi->m_bRisultatiValidi);
     EXPECT_EQ(m.beam->GetRisultati(), nullptr);
     m.document.Undo().Undo();
-    m.document.Modify(*m.tip, [&] { m.tip->SetPunto(CFPoint(0, 0, 0)); });
+    m.document.Modify(*m.tip, [&] { m.tip->SetPoint(CFPoint(0, 0, 0)); });
     EXPECT_EQ(Said(m.Refusal()), "Trave n.ro 1: la lunghezza è nulla.");
     m.document.Undo().Undo();
-    m.document.Modify(*m.load, [&] { m.load->GetVettoreForza() = CFPoint(0, 1e308, 1e308); });
-    m.On(m.beam, CCaricoUniforme({0, 0, 1e308}, CCarico::Globale));
+    m.document.Modify(*m.load, [&] { m.load->GetForceVector() = CFPoint(0, 1e308, 1e308); });
+    m.On(m.beam, CCaricoUniforme({0, 0, 1e308}, CCarico::Global));
     EXPECT_EQ(Said(m.Refusal()), "I risultati del caso di carico n.ro 1 non sono numeri finiti.");
     ASSERT_TRUE(m.document.EliminaCasoCarico(m.firstCase->GetID()));
     EXPECT_EQ(Said(m.Refusal()), "Il modello non ha casi di carico.");
@@ -171,7 +171,7 @@ TEST(AnalysisRefusal, LostDigitsAreTold) {
         last = next;
     }
     m.Force(last, {0, 0, -1});
-    const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
+    const host::AnalysisOutcome outcome = m.document.RunAnalysis();
     ASSERT_TRUE(outcome.done) << Said(outcome.message);
     ASSERT_EQ(outcome.notes.size(), 1u);
     EXPECT_EQ(Said(outcome.notes[0]).rfind("I risultati del caso di carico n.ro 1 sono poco precisi: al nodo n.ro ", 0),
@@ -182,8 +182,8 @@ TEST(AnalysisRefusal, LostDigitsAreTold) {
 TEST(AnalysisOutcomes, LoadsBeyondTheEndsAreSaid) {
     const auto trapezoid = [](double from, double to) {
         CCaricoTrapezoidale load;
-        load.SetRiferimento(CCarico::Globale);
-        load.GetTratto(2) = {from, to, -6, -12};
+        load.SetReference(CCarico::Global);
+        load.GetStretch(2) = {from, to, -6, -12};
         return load;
     };
     const std::string beyond =
@@ -195,17 +195,17 @@ TEST(AnalysisOutcomes, LoadsBeyondTheEndsAreSaid) {
         {1, 3, 18, true}, {3, 1, 18, true}, {3, 5, 7.5, false}, {5, 6, 0, false}, {0, 4 + 1e-9, 36, true}};
     for (const auto& each : cases) {
         Cantilever m;
-        m.document.Modify(*m.load, [&] { m.load->GetVettoreForza() = CFPoint(); });
+        m.document.Modify(*m.load, [&] { m.load->GetForceVector() = CFPoint(); });
         m.On(m.beam, trapezoid(each.from, each.to));
-        const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
+        const host::AnalysisOutcome outcome = m.document.RunAnalysis();
         ASSERT_TRUE(outcome.done);
         EXPECT_NEAR(m.Reaction(m.root, 2), each.reaction, 1e-7) << each.from;
         EXPECT_EQ(outcome.notes.empty() ? "" : Said(outcome.notes[0]), each.inside ? "" : beyond) << each.from;
     }
     Cantilever m;
     for (const double place : {0.0, 4.0, 4.5})
-        m.On(m.beam, CCaricoConcentrato({0, 0, -1}, place, CCarico::Globale));
-    const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
+        m.On(m.beam, CCaricoConcentrato({0, 0, -1}, place, CCarico::Global));
+    const host::AnalysisOutcome outcome = m.document.RunAnalysis();
     EXPECT_NEAR(m.Reaction(m.root, 2), 12, 1e-9) << "the tip's load, and those at both ends of the beam";
     EXPECT_NEAR(m.Reaction(m.root, 4), -44, 1e-9);
     ASSERT_EQ(outcome.notes.size(), 1u);
@@ -222,8 +222,8 @@ TEST(AnalysisOutcomes, WhatIsLeftOutIsSaid) {
     m.Force(m.document.GetIndexNodo(2), {0, 0, -5});
     m.On(m.tip, CCaricoSpostamento({0, 0, 1}, {}));
     CNodo* sprung = m.Node(9, 9, 9);
-    m.document.Modify(*sprung, [&] { sprung->AddMolla(CMolla(CMolla::Traslazionale, 100, {0, 0, 1})); });
-    const host::AnalysisOutcome outcome = m.document.EseguiAnalisi();
+    m.document.Modify(*sprung, [&] { sprung->AddSpring(CMolla(CMolla::Translational, 100, {0, 0, 1})); });
+    const host::AnalysisOutcome outcome = m.document.RunAnalysis();
     ASSERT_TRUE(outcome.done);
     ASSERT_EQ(outcome.notes.size(), 4u);
     EXPECT_EQ(Said(outcome.notes[0]),
@@ -246,8 +246,8 @@ TEST(AnalysisOutcomes, ResultsLastUntilTheNextChange) {
     EXPECT_EQ(hints.Count(MODIFICA_RISULTATI), 1);
     EXPECT_NEAR(m.Reaction(m.root, 2), 10, 1e-9);
     EXPECT_EQ(m.tip->GetReazioniVincolari(), nullptr);
-    ASSERT_NE(m.beam->GetRisultatiLinea(), nullptr);
-    EXPECT_EQ(m.beam->GetRisultatiLinea()->GetID(), m.beam->GetID());
+    ASSERT_NE(m.beam->GetLineResults(), nullptr);
+    EXPECT_EQ(m.beam->GetLineResults()->GetID(), m.beam->GetID());
 
     hints.all.clear();
     m.document.Remove({m.beam});
@@ -302,13 +302,13 @@ TEST(AnalysisOutcomes, RecordsAreReadChangedAndStored) {
     ASSERT_EQ(records.GetSize(), 1);
     ASSERT_TRUE(analysis.AggiornaRiferimentiRisultati(records));
     EXPECT_EQ(m.beam->GetRisultati(), records.GetAt(0));
-    double& axial = m.beam->GetRisultati()->GetNodoRisultati(1)->GetV1();
+    double& axial = m.beam->GetRisultati()->GetNodeResults(1)->GetV1();
     EXPECT_NEAR(axial, 7, 1e-9);
     axial = -axial;
     EXPECT_TRUE(analysis.CreaRisultati(id, records, 0));
     analysis.RipristinaRisultati();
     CElemento::_DestroyArray(records, 1);
-    EXPECT_NEAR(m.beam->GetRisultati()->GetNodoRisultati(1)->GetV1(), -7, 1e-9);
+    EXPECT_NEAR(m.beam->GetRisultati()->GetNodeResults(1)->GetV1(), -7, 1e-9);
     EXPECT_FALSE(analysis.AggiornaRiferimentiRisultati(records)) << "not one for each line";
 }
 
@@ -318,20 +318,20 @@ class AnalysisCommandTest : public WorkspaceTest {};
 
 TEST_F(AnalysisCommandTest, TellsWhatItCannotDoAndWhatItLeftOut) {
     BuildEverything(Document());
-    user.ExpectMessage("Analisi eseguita con queste limitazioni:\n"
-                       "I setti non sono analizzati: 2 nel modello, esclusi con il loro peso e i loro carichi.\n"
-                       "I solai non sono analizzati: 4 nel modello, esclusi con il loro peso e i loro carichi.",
-                       IDOK, MB_OK | MB_ICONINFORMATION);
+    m_user.ExpectMessage("Analisi eseguita con queste limitazioni:\n"
+                         "I setti non sono analizzati: 2 nel modello, esclusi con il loro peso e i loro carichi.\n"
+                         "I solai non sono analizzati: 4 nel modello, esclusi con il loro peso e i loro carichi.",
+                         IDOK, MB_OK | MB_ICONINFORMATION);
     Trigger("analisi.esegui");
-    user.Verify();
+    m_user.Verify();
     EXPECT_TRUE(Document().m_pAnalisi->m_bRisultatiValidi);
-    EXPECT_FALSE(workspace->IsWaiting());
+    EXPECT_FALSE(m_workspace->IsWaiting());
     Document().Remove({Document().GetIndexTrave(0)});
     CVincolo none;
     for (int i = 0; i < Document().GetSizeNodi(); ++i)
-        Document().Modify(*Document().GetIndexNodo(i), [&] { Document().GetIndexNodo(i)->SetVincolo(&none); });
+        Document().Modify(*Document().GetIndexNodo(i), [&] { Document().GetIndexNodo(i)->SetRestraint(&none); });
     Document().m_pAnalisi->m_bAnalisiStatica = 0;
-    user.ExpectMessage("L'analisi statica non è attiva.", IDOK, MB_OK | MB_ICONEXCLAMATION);
+    m_user.ExpectMessage("L'analisi statica non è attiva.", IDOK, MB_OK | MB_ICONEXCLAMATION);
     Trigger("analisi.esegui");
 }
 
@@ -387,7 +387,7 @@ TEST(AnalysisBatch, PrintsTablesAndReportsByStatus) {
 TEST(AnalysisBatch, ExampleIsInEquilibrium) {
     HostDocument document;
     BuildEverything(document);
-    ASSERT_TRUE(document.EseguiAnalisi().done);
+    ASSERT_TRUE(document.RunAnalysis().done);
     const int id = document.GetIndexCasoCarico(1)->GetID();
     double sum = 0, load = 0;
     for (const auto& reaction : document.Analysis().Results(id)->reactions)

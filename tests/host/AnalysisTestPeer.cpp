@@ -74,7 +74,7 @@ class Comparison {
         if (m_table == Table::Displacements) {
             std::copy(its.displacements[index].begin(), its.displacements[index].end(), values);
         } else if (m_table == Table::Ends) {
-            its.lines[index].GetForzeEstremi(values);
+            its.lines[index].GetEndForces(values);
             first = m_data.As<CLinea>(Kind::Beam, key[0] - 1)->GetIDNodoIniziale() == key[1] ? 0 : 6;
         } else {
             for (const CaseResults::Reaction& reaction : its.reactions)

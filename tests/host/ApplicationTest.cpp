@@ -1,10 +1,10 @@
 // The application as a whole: from a text model to a saved project.
-#include "platform/Application.h"
+#include "platform/window/Application.h"
 #include "dialogs/frame/DialogDocument.h"
+#include "host/app/Options.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
-#include "host/ui/Options.h"
-#include "model/Nodo.h"
+#include "model/element/Nodo.h"
 #include "tests/host/WorkspaceTest.h"
 #include "tests/support/TestApp.h"
 
@@ -29,12 +29,12 @@ const char* const textModel = "Mensola di prova (kN,m)\n"
 
 enum : int { EditCount = 1221, EditSpacing = 1093, EditStartZ = 1202, RadioY = 1091 }; // of the linear generation
 
-void writeFile(const QString& path, const QByteArray& text) {
+void WriteFile(const QString& path, const QByteArray& text) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
 }
 
-Options parse(std::vector<std::string> arguments) {
+Options Parse(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), "quovar");
     std::vector<char*> pointers;
     for (std::string& each : arguments)
@@ -46,21 +46,21 @@ Options parse(std::vector<std::string> arguments) {
 
 class ApplicationTest : public WorkspaceTest {
   protected:
-    QTemporaryDir folder;
+    QTemporaryDir m_folder;
 };
 
 // The road of a whole command. Catches a break anywhere between the menu and the file, nodes that are no undo step of
 // their own, and a project that a killed process takes with it.
 TEST_F(ApplicationTest, ImportGenerateUndoRedoSaveKilledReopen) {
-    const QString model = folder.filePath("mensola.3dd");
-    const QString project = folder.filePath("mensola.asg");
-    writeFile(model, textModel);
-    ASSERT_TRUE(workspace->Open(model));
+    const QString model = m_folder.filePath("mensola.3dd");
+    const QString project = m_folder.filePath("mensola.asg");
+    WriteFile(model, textModel);
+    ASSERT_TRUE(m_workspace->Open(model));
     CWinApp::PumpMessages();
-    EXPECT_EQ(workspace->Views().size(), 1u) << "the untouched first document makes room";
+    EXPECT_EQ(m_workspace->Views().size(), 1u) << "the untouched first document makes room";
     EXPECT_EQ(Document().GetSizeNodi(), 3);
     EXPECT_EQ(Document().GetSizeTravi(), 2);
-    EXPECT_TRUE(workspace->PathOf(Document()).isEmpty()) << "saving must not write over the text model";
+    EXPECT_TRUE(m_workspace->PathOf(Document()).isEmpty()) << "saving must not write over the text model";
 
     DialogDriver driver(*OpenLinear());
     driver.Type(EditCount, "5");
@@ -82,23 +82,23 @@ TEST_F(ApplicationTest, ImportGenerateUndoRedoSaveKilledReopen) {
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-        const bool saved = workspace->SaveAs(Document(), project);
+        const bool saved = m_workspace->SaveAs(Document(), project);
         raise(saved ? SIGKILL : SIGABRT);
     }
     int status = 0;
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
-    workspace.reset(); // without a question: nothing of this process was saved
-    workspace = std::make_unique<Workspace>();
-    workspace->Window().show();
-    ASSERT_TRUE(workspace->Open(project));
+    m_workspace.reset(); // without a question: nothing of this process was saved
+    m_workspace = std::make_unique<Workspace>();
+    m_workspace->Window().show();
+    ASSERT_TRUE(m_workspace->Open(project));
     EXPECT_EQ(Document().GetSizeNodi(), 8);
     EXPECT_EQ(Document().GetSizeTravi(), 2);
     EXPECT_EQ(*Document().GetIndexNodo(7)->GetPunto(), CFPoint(0, 6, 3));
-    EXPECT_EQ(workspace->TitleOf(View()), "mensola.asg");
+    EXPECT_EQ(m_workspace->TitleOf(View()), "mensola.asg");
     EXPECT_FALSE(Document().IsModified());
-    ASSERT_EQ(workspace->Open(project), &View()) << "an open project is shown, not opened twice";
-    EXPECT_EQ(workspace->Views().size(), 1u);
+    ASSERT_EQ(m_workspace->Open(project), &View()) << "an open project is shown, not opened twice";
+    EXPECT_EQ(m_workspace->Views().size(), 1u);
 }
 
 // Catches a broken file that disturbs what is open, or a message that does not say what and where.
@@ -106,62 +106,62 @@ TEST_F(ApplicationTest, BrokenFilesLeaveTheOpenDocumentAlone) {
     BuildSmallModel();
     HostView* view = &View();
     const int nodes = Document().GetSizeNodi();
-    const QString text = folder.filePath("rotto.3dd");
-    writeFile(text, "Titolo\n3\n1 0 0 0 0\n2 x 0 0 0\n3 1 0 0 0\n0\n0\n");
+    const QString text = m_folder.filePath("rotto.3dd");
+    WriteFile(text, "Titolo\n3\n1 0 0 0 0\n2 x 0 0 0\n3 1 0 0 0\n0\n0\n");
     std::vector<std::string> shown;
-    TestApp::instance().messageHandler = [&shown](const CString& message, UINT) {
+    TestApp::Instance().messageHandler = [&shown](const CString& message, UINT) {
         shown.push_back(message.ToUtf8());
         return IDOK;
     };
-    EXPECT_FALSE(workspace->Open(text));
-    const QString project = folder.filePath("rotto.asg");
-    writeFile(project, "niente di buono");
-    EXPECT_FALSE(workspace->Open(project));
-    EXPECT_FALSE(workspace->Open(folder.filePath("manca.asg")));
-    EXPECT_FALSE(workspace->SaveAs(Document(), folder.filePath("manca/qui.asg")));
+    EXPECT_FALSE(m_workspace->Open(text));
+    const QString project = m_folder.filePath("rotto.asg");
+    WriteFile(project, "niente di buono");
+    EXPECT_FALSE(m_workspace->Open(project));
+    EXPECT_FALSE(m_workspace->Open(m_folder.filePath("manca.asg")));
+    EXPECT_FALSE(m_workspace->SaveAs(Document(), m_folder.filePath("manca/qui.asg")));
     ASSERT_EQ(shown.size(), 4u);
     EXPECT_NE(shown[0].find("Riga 4"), std::string::npos) << shown[0];
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(shown[static_cast<std::size_t>(i)].rfind("Impossibile aprire \"", 0), 0u);
     EXPECT_EQ(shown[3].rfind("Impossibile salvare \"", 0), 0u);
-    EXPECT_EQ(workspace->ActiveView(), view);
+    EXPECT_EQ(m_workspace->ActiveView(), view);
     EXPECT_EQ(Document().GetSizeNodi(), nodes);
-    EXPECT_TRUE(workspace->PathOf(Document()).isEmpty());
+    EXPECT_TRUE(m_workspace->PathOf(Document()).isEmpty());
 }
 
 // Catches a close that loses changes: Yes must save before the window goes.
 TEST_F(ApplicationTest, ClosingTheWindowAsksAndSaves) {
     BuildSmallModel();
-    const QString project = folder.filePath("progetto.asg");
-    ASSERT_TRUE(workspace->SaveAs(Document(), project));
+    const QString project = m_folder.filePath("progetto.asg");
+    ASSERT_TRUE(m_workspace->SaveAs(Document(), project));
     Document().GenNodi2Punti(CFPoint(0, 0, 9), CFPoint(1, 0, 9), 2);
     const int nodes = Document().GetSizeNodi();
-    user.ExpectMessage("Salvare le modifiche a \"progetto.asg\"?", IDCANCEL);
-    workspace->Window().close();
-    EXPECT_TRUE(workspace->Window().isVisible());
-    ASSERT_EQ(workspace->Views().size(), 1u);
-    user.ExpectMessage("Salvare le modifiche a \"progetto.asg\"?", IDYES);
-    EXPECT_TRUE(workspace->CloseAll());
-    ASSERT_TRUE(workspace->Open(project));
+    m_user.ExpectMessage("Salvare le modifiche a \"progetto.asg\"?", IDCANCEL);
+    m_workspace->Window().close();
+    EXPECT_TRUE(m_workspace->Window().isVisible());
+    ASSERT_EQ(m_workspace->Views().size(), 1u);
+    m_user.ExpectMessage("Salvare le modifiche a \"progetto.asg\"?", IDYES);
+    EXPECT_TRUE(m_workspace->CloseAll());
+    ASSERT_TRUE(m_workspace->Open(project));
     EXPECT_EQ(Document().GetSizeNodi(), nodes);
     // Nothing is unsaved now: the close box ends the loop, which would otherwise run for good.
-    QTimer::singleShot(0, [this] { workspace->Window().close(); });
-    QTimer::singleShot(5000, &workspace->Window(), [] { QCoreApplication::exit(99); });
+    QTimer::singleShot(0, [this] { m_workspace->Window().close(); });
+    QTimer::singleShot(5000, &m_workspace->Window(), [] { QCoreApplication::exit(99); });
     EXPECT_EQ(QCoreApplication::exec(), 0);
-    EXPECT_TRUE(workspace->Views().empty());
+    EXPECT_TRUE(m_workspace->Views().empty());
 }
 
 // Catches options that are taken for files, or an error that is not reported.
 TEST(OptionsTest, SayWhatToDo) {
-    EXPECT_EQ(parse({}).action, Options::Action::Open);
-    EXPECT_EQ(parse({"modello.asg"}).argument, "modello.asg");
-    EXPECT_EQ(parse({"--gallery", "qui"}).action, Options::Action::Gallery);
-    EXPECT_EQ(parse({"--gallery", "qui"}).argument, "qui");
-    EXPECT_EQ(parse({"--smoke"}).action, Options::Action::Smoke);
-    EXPECT_EQ(parse({"--help"}).action, Options::Action::Help);
+    EXPECT_EQ(Parse({}).action, Options::Action::Open);
+    EXPECT_EQ(Parse({"modello.asg"}).argument, "modello.asg");
+    EXPECT_EQ(Parse({"--gallery", "qui"}).action, Options::Action::Gallery);
+    EXPECT_EQ(Parse({"--gallery", "qui"}).argument, "qui");
+    EXPECT_EQ(Parse({"--smoke"}).action, Options::Action::Smoke);
+    EXPECT_EQ(Parse({"--help"}).action, Options::Action::Help);
     for (const auto& wrong : std::vector<std::vector<std::string>>{
              {"--boh"}, {"--gallery"}, {"--gallery", "--smoke"}, {"a", "b"}, {"--help", "--version"}}) {
-        const Options options = parse(wrong);
+        const Options options = Parse(wrong);
         EXPECT_EQ(options.action, Options::Action::Invalid) << wrong.front();
         EXPECT_FALSE(options.error.empty());
     }

@@ -1,9 +1,9 @@
 // Loads, assigned by the user and taken off again.
-#include "host/ui/AssignLoad.h"
+#include "host/commands/AssignLoad.h"
 #include "host/ui/MainWindow.h"
-#include "model/Combinazione.h"
-#include "model/Solaio.h"
-#include "platform/Application.h"
+#include "model/element/Solaio.h"
+#include "model/entity/Combinazione.h"
+#include "platform/window/Application.h"
 #include "tests/host/AnalysisModel.h"
 #include "tests/host/AskedDialog.h"
 #include "tests/host/WorkspaceTest.h"
@@ -55,8 +55,8 @@ struct Column : AnalysisModel {
         document.Selection().Add(foot);
         document.Selection().Add(beam);
     }
-    CNodo* foot = Node(0, 0, 0, CVincolo::Tutti);
-    CTrave* beam = Beam(foot, Node(0, 0, L, CVincolo::Tutti));
+    CNodo* foot = Node(0, 0, 0, CVincolo::All);
+    CTrave* beam = Beam(foot, Node(0, 0, L, CVincolo::All));
 };
 
 } // namespace
@@ -86,11 +86,11 @@ TEST(AssignLoad, ValuesReachTheAnalysis) {
         {"Concentrato", "distanza=1.5 fx=9", "Globale", 0, UX, -9 * point},
         {"Concentrato", "distanza=1.5 fx=9", "Locale", 0, UZ, -9 * b / L},
         {"Concentrato", "distanza=1.5 mz=9", "Globale", 0, RZ, -9 * b / L},
-        {"Temperatura", "media=30", "", 0, UZ, E * A * Column::Alpha * 30},
+        {"Temperatura", "media=30", "", 0, UZ, E * A * Column::alpha * 30},
         {"Temperatura", "media=30 alfa=2e-5", "", 0, UZ, E * A * 2e-5 * 30},
-        {"Temperatura", "gradiente2=10", "", 0, RX, E * Column::I3 * Column::Alpha * 10},
-        {"Temperatura", "gradiente3=10", "", 0, RY, E * Column::I2 * Column::Alpha * 10},
-        {"Peso proprio", "z=-10", "", 0, UZ, Column::Density * A * 10 * L / 2},
+        {"Temperatura", "gradiente2=10", "", 0, RX, E * Column::I3 * Column::alpha * 10},
+        {"Temperatura", "gradiente3=10", "", 0, RY, E * Column::I2 * Column::alpha * 10},
+        {"Peso proprio", "z=-10", "", 0, UZ, Column::density * A * 10 * L / 2},
     };
     for (const auto& each : cases) { // warmer at the side of its axis, the free column would bend away from there
         SCOPED_TRACE(each.kind);
@@ -110,7 +110,7 @@ TEST(AssignLoad, ValuesReachTheAnalysis) {
 TEST(AssignLoad, BadInputIsRefused) {
     Column model;
     model.document.Selection().Add(model.Truss(model.foot, model.Node(0, 3, 0)));
-    model.document.ChangeUnits(Lunghezza::Centimetri, Forza::Newton);
+    model.document.ChangeUnits(Lunghezza::Centimetres, Forza::Newton);
     QWidget parent;
     UserScript user;
     const std::size_t steps = model.document.Undo().UndoCount();
@@ -207,7 +207,7 @@ TEST_F(AssignLoadCommandTest, LoadsAreSharedTakenOffAndUndone) {
             Trigger("assegna.carico");
         });
     };
-    Document().SelezionaTutto();
+    Document().SelectAll();
     assign("Uniforme", "x=1");
     CCarico* shared = first->GetIndexCarico(0);
     ASSERT_TRUE(shared);
@@ -230,9 +230,9 @@ TEST_F(AssignLoadCommandTest, LoadsAreSharedTakenOffAndUndone) {
     EXPECT_EQ(first->GetSizeCarichi(), 0);
     EXPECT_EQ(last->GetIndexCarico(0), shared);
     EXPECT_EQ(FirstCase().GetSizeCarichi(), 3);
-    user.ExpectMessage("Gli oggetti selezionati non hanno carichi nel caso \"Caso 1\".");
+    m_user.ExpectMessage("Gli oggetti selezionati non hanno carichi nel caso \"Caso 1\".");
     remove();
-    Document().SelezionaTutto();
+    Document().SelectAll();
     ExpectOneStep("Elimina Carichi", remove);
     ASSERT_EQ(FirstCase().GetSizeCarichi(), 1) << "the self weight";
     EXPECT_EQ(SelfWeightOf(FirstCase()), CFPoint(0, 0, -5));
@@ -245,8 +245,8 @@ TEST_F(AssignLoadCommandTest, TheCaseIsAskedForOrMissing) {
     CCasoCarico* second = Document().CreaCasoCarico("Vento");
     Document().SelectCasoCarico(second->GetID());
     CWinApp::PumpMessages();
-    EXPECT_TRUE(workspace->Window().Command("assegna.carico")->isEnabled());
-    EXPECT_FALSE(workspace->Window().Command("assegna.elimina_carichi")->isEnabled());
+    EXPECT_TRUE(m_workspace->Window().Command("assegna.carico")->isEnabled());
+    EXPECT_FALSE(m_workspace->Window().Command("assegna.elimina_carichi")->isEnabled());
     Select({beam});
     WhenAsked([](QDialog& dialog) {
         EXPECT_EQ(Choices(dialog, "tipo").size(), 5);
@@ -266,9 +266,9 @@ TEST_F(AssignLoadCommandTest, TheCaseIsAskedForOrMissing) {
     auto combination = std::make_unique<CCombinazione>();
     combination->SetNome("SLU");
     Document().SelectCasoCarico(Document().AddNew(std::move(combination))->GetID());
-    user.ExpectMessage("Scegliere prima il caso di carico di cui eliminare i carichi.");
+    m_user.ExpectMessage("Scegliere prima il caso di carico di cui eliminare i carichi.");
     Trigger("assegna.elimina_carichi");
     Document().Remove({&FirstCase(), second});
-    user.ExpectMessage("Creare prima un caso di carico.");
+    m_user.ExpectMessage("Creare prima un caso di carico.");
     Trigger("assegna.carico");
 }

@@ -1,8 +1,8 @@
 // Restraints, springs and end releases, assigned by the user.
 #include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"
-#include "host/ui/ViewWidget.h"
-#include "platform/Application.h"
+#include "host/view/ViewWidget.h"
+#include "platform/window/Application.h"
 #include "tests/host/AskedDialog.h"
 #include "tests/host/CheckBuilder.h"
 #include "tests/host/Dump.h"
@@ -23,7 +23,7 @@ TEST_F(AssignTest, RestraintsAreAssignedDrawnSavedAndUndone) {
     CNodo& node = model.At(2);
     Document().Selection().Clear();
     CWinApp::PumpMessages();
-    EXPECT_FALSE(workspace->Window().Command("assegna.vincolo")->isEnabled());
+    EXPECT_FALSE(m_workspace->Window().Command("assegna.vincolo")->isEnabled());
     View().Fit();
     CWinApp::PumpMessages();
     const QImage before = View().Widget().grab().toImage();
@@ -43,7 +43,7 @@ TEST_F(AssignTest, RestraintsAreAssignedDrawnSavedAndUndone) {
         Trigger("assegna.vincolo");
     });
     ASSERT_TRUE(node.GetVincolo());
-    EXPECT_EQ(node.GetVincolo()->GetMaschera(), unsigned{CVincolo::Ty | CVincolo::Rx});
+    EXPECT_EQ(node.GetVincolo()->GetMask(), unsigned{CVincolo::Ty | CVincolo::Rx});
 
     WhenAsked([](QDialog& dialog) {
         EXPECT_EQ(Find<QComboBox>(dialog, "tipo").currentText(), "Traslazionale");
@@ -58,14 +58,14 @@ TEST_F(AssignTest, RestraintsAreAssignedDrawnSavedAndUndone) {
         Find<QLineEdit>(dialog, "x").setText("1");
         dialog.accept();
     });
-    user.ExpectMessage("Immettere un numero.");
-    user.ExpectMessage("La rigidezza non può essere negativa.");
-    user.ExpectMessage("La direzione non può essere nulla.");
+    m_user.ExpectMessage("Immettere un numero.");
+    m_user.ExpectMessage("La rigidezza non può essere negativa.");
+    m_user.ExpectMessage("La direzione non può essere nulla.");
     ExpectOneStep("Assegna molla", [this] { Trigger("assegna.molla"); });
     ASSERT_EQ(node.GetSizeMolle(), 1);
-    EXPECT_EQ(node.GetIndexMolla(0)->GetTipo(), CMolla::Rotazionale);
-    EXPECT_EQ(node.GetIndexMolla(0)->GetRigidezza().GetValore(), 2.5);
-    EXPECT_EQ(node.GetIndexMolla(0)->GetDirezione(), CFPoint(1, 0, 0));
+    EXPECT_EQ(node.GetIndexMolla(0)->GetTipo(), CMolla::Rotational);
+    EXPECT_EQ(node.GetIndexMolla(0)->GetStiffness().GetValue(), 2.5);
+    EXPECT_EQ(node.GetIndexMolla(0)->GetDirection(), CFPoint(1, 0, 0));
 
     WhenAsked([](QDialog& dialog) {
         Find<QCheckBox>(dialog, "M21").click();
@@ -74,8 +74,8 @@ TEST_F(AssignTest, RestraintsAreAssignedDrawnSavedAndUndone) {
     });
     ExpectOneStep("Assegna svincoli", [this] { Trigger("assegna.svincoli"); });
     CTrave* beam = Document().GetIndexTrave(0);
-    EXPECT_EQ(beam->GetSvincoli(0), 1u << CSpecificheSvincoliTrave::M2);
-    EXPECT_EQ(beam->GetSvincoli(1), 1u << CSpecificheSvincoliTrave::T);
+    EXPECT_EQ(beam->GetReleases(0), 1u << CSpecificheSvincoliTrave::M2);
+    EXPECT_EQ(beam->GetReleases(1), 1u << CSpecificheSvincoliTrave::T);
 
     Document().Selection().Clear();
     CWinApp::PumpMessages();
@@ -95,11 +95,11 @@ TEST_F(AssignTest, AssigningReplacesAndTakesAway) {
     EXPECT_EQ(beam.GetSizeSpecifiche(), 1);
     model.Release(beam, {});
     EXPECT_EQ(beam.GetSizeSpecifiche(), 0);
-    user.ExpectMessage("Selezionare prima i nodi.");
+    m_user.ExpectMessage("Selezionare prima i nodi.");
     Trigger("assegna.vincolo"); // only the beam is selected
     CNodo& node = model.At(1);
-    model.Spring(node, CMolla::Traslazionale, 1, {1, 0, 0});
-    model.Spring(node, CMolla::Traslazionale, 2, {1, 0, 0});
+    model.Spring(node, CMolla::Translational, 1, {1, 0, 0});
+    model.Spring(node, CMolla::Translational, 2, {1, 0, 0});
     EXPECT_EQ(node.GetSizeMolle(), 2);
     WhenAsked([](QDialog& dialog) {
         Find<QComboBox>(dialog, "tipo").setCurrentIndex(2);
@@ -109,6 +109,6 @@ TEST_F(AssignTest, AssigningReplacesAndTakesAway) {
     EXPECT_EQ(node.GetSizeMolle(), 0);
     model.Fix(node, 0);
     EXPECT_FALSE(node.GetVincolo());
-    user.ExpectMessage("Selezionare prima le travi.");
+    m_user.ExpectMessage("Selezionare prima le travi.");
     Trigger("assegna.svincoli");
 }

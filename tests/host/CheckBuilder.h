@@ -1,13 +1,13 @@
 // A model to check: a sound cantilever that a test completes, with the application's own commands.
 #pragma once
 
+#include "host/commands/Assign.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/Assign.h"
-#include "model/Materiale.h"
-#include "model/Molla.h"
-#include "model/Sezione.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Molla.h"
+#include "model/element/Trave.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 
 #include <initializer_list>
 
@@ -20,7 +20,7 @@ class CheckBuilder {
         document.AddNew(std::make_unique<CSezione>());
         document.AddNew(std::make_unique<CSpessore>());
         // Fixed at one end: sound, whatever else hangs on its free end.
-        Fix(*Node(0, 0, 0), CVincolo::Tutti);
+        Fix(*Node(0, 0, 0), CVincolo::All);
         Node(3, 0, 0);
         Beam(1, 2);
     }
@@ -47,7 +47,7 @@ class CheckBuilder {
         AssignReleases(document, releases);
     }
     CTrave* Beam(int a, int b) { return document.AddTrave(a, b, nullptr); }
-    CNodo& At(int number) { return *document.Data().CercaNodo(number); }
+    CNodo& At(int number) { return *document.Data().FindNode(number); }
 
     HostDocument& document;
     CMateriale* material;

@@ -1,10 +1,10 @@
 // The model check in the application: messages from models that earn them, its window, and the check without windows.
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/QuovarGlobal.h"
+#include "host/commands/CheckCommands.h"
 #include "host/files/ProjectFile.h"
-#include "host/ui/CheckCommands.h"
 #include "host/ui/MainWindow.h"
-#include "platform/Application.h"
+#include "platform/window/Application.h"
 #include "tests/host/CheckBuilder.h"
 #include "tests/host/WorkspaceTest.h"
 #include "tests/support/TestApp.h"
@@ -32,7 +32,7 @@ struct Case {
 const Case cases[] = {
     {"ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!",
      [](CheckBuilder& m, bool faulty) {
-         m.Fix(*m.Node(0, 5, 0), CVincolo::Tutti);
+         m.Fix(*m.Node(0, 5, 0), CVincolo::All);
          m.Node(3, 5, 0);
          m.Beam(3, 4);
          if (!faulty)
@@ -42,8 +42,8 @@ const Case cases[] = {
      [](CheckBuilder& m, bool faulty) {
          m.Fix(m.At(1), CVincolo::Tx | CVincolo::Ty | CVincolo::Tz);
          // Springs without stiffness hold nothing.
-         m.Spring(m.At(1), CMolla::Rotazionale, faulty ? 0 : 100, {1, 1, 0});
-         m.Spring(m.At(1), CMolla::Rotazionale, 100, {0, 0, 1});
+         m.Spring(m.At(1), CMolla::Rotational, faulty ? 0 : 100, {1, 1, 0});
+         m.Spring(m.At(1), CMolla::Rotational, 100, {0, 0, 1});
      }},
     {"La Trave n.ro 1, è labile.",
      [](CheckBuilder& m, bool faulty) {
@@ -92,14 +92,14 @@ class CheckTest : public WorkspaceTest {
   protected:
     Rows Check() {
         Trigger("strumenti.Check Modello");
-        CDialogDocument* dialog = workspace->ToolOf(View());
+        CDialogDocument* dialog = m_workspace->ToolOf(View());
         EXPECT_TRUE(dialog) << "the check does not open";
         return dialog ? DialogDriver(*dialog).Rows(CDialogCheck::IDC_LIST_ERRORS) : Rows();
     }
     // Rows and exit status of the check without windows.
     std::pair<int, Rows> Printed(const QString& path) {
         std::unique_ptr<std::FILE, int (*)(std::FILE*)> out(std::tmpfile(), &std::fclose);
-        const int status = PrintCheck(*workspace, path, out.get());
+        const int status = PrintCheck(*m_workspace, path, out.get());
         std::rewind(out.get());
         Rows rows(1);
         for (int c; (c = std::fgetc(out.get())) != EOF;)
@@ -112,12 +112,12 @@ class CheckTest : public WorkspaceTest {
         return {status, rows};
     }
     QString Saved(const char* name) {
-        const QString path = folder.filePath(name);
+        const QString path = m_folder.filePath(name);
         SaveProject(Document().Data(), QFile::encodeName(path).toStdString(), "prova");
         return path;
     }
 
-    QTemporaryDir folder;
+    QTemporaryDir m_folder;
 };
 
 // Catches a fault that the application cannot produce, a message about the wrong object, and a sound model that gets
@@ -126,7 +126,7 @@ TEST_F(CheckTest, MessagesAndTheirTwins) {
     for (const Case& each : cases) {
         SCOPED_TRACE(each.message);
         for (const bool faulty : {true, false}) {
-            workspace->NewDocument();
+            m_workspace->NewDocument();
             CheckBuilder model(Document());
             each.build(model, faulty);
             CWinApp::PumpMessages();
@@ -157,9 +157,9 @@ TEST_F(CheckTest, PickingAllRowsSelectsAllWithOneNotification) {
     } counter;
     Document().AddObserver(&counter);
     HostView& checked = View();
-    HostView& other = workspace->NewDocument();
-    workspace->Window().ShowView(checked);
-    DialogDriver driver(*workspace->ToolOf(checked));
+    HostView& other = m_workspace->NewDocument();
+    m_workspace->Window().ShowView(checked);
+    DialogDriver driver(*m_workspace->ToolOf(checked));
     driver.ClickRow(CDialogCheck::IDC_LIST_ERRORS, 0);
     CWinApp::PumpMessages();
     EXPECT_TRUE(checked.Document().Selection().IsEmpty()) << "a heading only clears";
@@ -177,7 +177,7 @@ TEST_F(CheckTest, PickingAllRowsSelectsAllWithOneNotification) {
 TEST_F(CheckTest, StandsBelowTheView) {
     Check();
     CRect window, around;
-    workspace->ToolOf(View())->GetWindowRect(window);
+    m_workspace->ToolOf(View())->GetWindowRect(window);
     View().GetParent()->GetWindowRect(around);
     EXPECT_EQ(window.left, std::max(around.left, 0));
     EXPECT_GE(window.top, around.top + around.Height() / 2);
@@ -193,15 +193,15 @@ TEST_F(CheckTest, PrintedRowsAndExitStatus) {
     }
     Rows labile = sound;
     labile.insert(labile.begin() + 2, "Attenzione la Struttura n.ro 1, è labile");
-    workspace->ViewActivated(*workspace->Views().front());
+    m_workspace->ViewActivated(*m_workspace->Views().front());
     EXPECT_EQ(Printed(Saved("labile.asg")), std::pair(0, labile)) << "the closing row decides";
-    workspace->ViewActivated(*workspace->Views().front());
+    m_workspace->ViewActivated(*m_workspace->Views().front());
     Document().Remove({Document().GetIndexMateriale(0)});
     labile.resize(3);
     labile.push_back("CTrave n.ro 1 L'elemento non ha un materiale.");
     EXPECT_EQ(Printed(Saved("guasto.asg")), std::pair(1, labile));
-    TestApp::instance().messageHandler = [](const CString&, UINT) { return IDOK; };
-    EXPECT_EQ(PrintCheck(*workspace, folder.filePath("manca.asg"), stderr), 2);
+    TestApp::Instance().messageHandler = [](const CString&, UINT) { return IDOK; };
+    EXPECT_EQ(PrintCheck(*m_workspace, m_folder.filePath("manca.asg"), stderr), 2);
 }
 
 #ifdef QUOVAR_SHARED_DIR
@@ -210,7 +210,7 @@ TEST_F(CheckTest, ModelsOfAPeer) {
     const std::filesystem::path folder = std::filesystem::path(QUOVAR_SHARED_DIR) / "data" / "frame3dd";
     if (!std::filesystem::exists(folder))
         GTEST_SKIP() << "the models are not here";
-    TestApp::instance().messageHandler = [](const CString&, UINT) { return IDOK; }; // what the import left out
+    TestApp::Instance().messageHandler = [](const CString&, UINT) { return IDOK; }; // what the import left out
     for (const char* name : {"exA", "exB", "exC", "exH"}) {
         SCOPED_TRACE(name);
         const auto [status, rows] = Printed(QString::fromStdString((folder / (std::string(name) + ".3dd")).string()));

@@ -1,11 +1,11 @@
 // The document as the dialogs see it: generation, additions, observers, names, selection, connection.
 #include "host/document/HostDocument.h"
-#include "model/Asta.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Setto.h"
-#include "model/Solaio.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
 #include "tests/host/TestModel.h"
 
 #include <gtest/gtest.h>
@@ -117,7 +117,7 @@ TEST(DocumentGeneration, MeshMeetsItsNeighbour) {
     EXPECT_TRUE(document.IsUnica());
     CGrandezza area;
     document.GetIndexSolaio(3)->GetArea(area);
-    EXPECT_NEAR(area.GetValore(), 1, 1e-12);
+    EXPECT_NEAR(area.GetValue(), 1, 1e-12);
 }
 
 TEST(Document, AddingRefusesWhatCannotBe) {

@@ -1,9 +1,9 @@
 // Moving, rotating, mirroring and copying the selection: where things end up and what they carry.
 #include "host/document/HostDocument.h"
-#include "model/Carico.h"
-#include "model/CasoCarico.h"
-#include "model/Setto.h"
-#include "model/Trave.h"
+#include "model/element/Setto.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/load/Carico.h"
 
 #include <gtest/gtest.h>
 
@@ -15,16 +15,16 @@ class DocumentTransformTest : public testing::Test {
   protected:
     CNodo* Node(double x, double y, double z) {
         CFPoint place(x, y, z);
-        return document.AddNodo(place, nullptr, 1);
+        return m_document.AddNodo(place, nullptr, 1);
     }
-    CTrave* Beam(CNodo* a, CNodo* b) { return document.AddTrave(a->GetID(), b->GetID(), nullptr); }
+    CTrave* Beam(CNodo* a, CNodo* b) { return m_document.AddTrave(a->GetID(), b->GetID(), nullptr); }
     CNodo* Find(double x, double y, double z) {
         CFPoint place(x, y, z);
-        return document.GetNodo(place, nullptr, 1e-9);
+        return m_document.GetNodo(place, nullptr, 1e-9);
     }
-    HostSelection& Selection() { return document.Selection(); }
+    HostSelection& Selection() { return m_document.Selection(); }
 
-    HostDocument document;
+    HostDocument m_document;
 };
 
 // Copying onto what is there: neither nodes nor elements are doubled.
@@ -37,31 +37,31 @@ TEST_F(DocumentTransformTest, CopiesMeetWhatIsThere) {
     Beam(b, c);
     Selection().Add(first);
     Selection().TraslaSelezione(1, 0, 0, 2, UNIONE_TRAVI);
-    EXPECT_EQ(document.GetSizeNodi(), 4);
-    EXPECT_EQ(document.GetSizeTravi(), 3) << "the second place has its beam, and so has each join";
-    const std::size_t steps = document.Undo().UndoCount();
+    EXPECT_EQ(m_document.GetSizeNodi(), 4);
+    EXPECT_EQ(m_document.GetSizeTravi(), 3) << "the second place has its beam, and so has each join";
+    const std::size_t steps = m_document.Undo().UndoCount();
     for (const int copies : {0, 2})
         Selection().TraslaSelezione(0, 0, 0, copies, UNIONE_TRAVI);
     Selection().TraslaSelezione(std::nan(""), 0, 0, 2, UNIONE_TRAVI);
     Selection().RuotaSelezione(1, 1, 1, 1, 1, 1, 90, 2, UNIONE_TRAVI);
     Selection().RuotaSelezione(0, 1, 7, 2, UNIONE_TRAVI);
-    EXPECT_EQ(document.Undo().UndoCount(), steps);
+    EXPECT_EQ(m_document.Undo().UndoCount(), steps);
     Selection().TraslaSelezione(0, 0, 9, 1, UNIONE_NIENTE);
-    EXPECT_EQ(document.GetIndexTrave(3)->GetBeta(), 15);
+    EXPECT_EQ(m_document.GetIndexTrave(3)->GetBeta(), 15);
 }
 
 TEST_F(DocumentTransformTest, CopiesCarryRestraintsSpringsAndLoads) {
     CNodo* a = Node(0, 0, 0);
     CTrave* beam = Beam(a, Node(5, 0, 0));
-    CVincolo fixed(CVincolo::Tutti);
-    CCasoCarico* loadCase = document.GetIndexCasoCarico(0);
+    CVincolo fixed(CVincolo::All);
+    CCasoCarico* loadCase = m_document.GetIndexCasoCarico(0);
     CCarico* load =
-        document.AddCarico(*loadCase, std::make_unique<CCaricoUniforme>(CFPoint(0, 2, -3), CCarico::Locale));
-    document.Modify(*a, [&] {
-        a->SetVincolo(&fixed);
-        a->AddMolla(CMolla(CMolla::Traslazionale, 10, {1, 0, 0}));
+        m_document.AddCarico(*loadCase, std::make_unique<CCaricoUniforme>(CFPoint(0, 2, -3), CCarico::Local));
+    m_document.Modify(*a, [&] {
+        a->SetRestraint(&fixed);
+        a->AddSpring(CMolla(CMolla::Translational, 10, {1, 0, 0}));
     });
-    document.Modify(*beam, [&] {
+    m_document.Modify(*beam, [&] {
         beam->AddCarico(load, 0);
         beam->AddSpecifica(new CSpecificheSvincoliTrave(1, 0, 0, 1, 0));
     });
@@ -69,20 +69,20 @@ TEST_F(DocumentTransformTest, CopiesCarryRestraintsSpringsAndLoads) {
     Selection().RuotaSelezione(0, 0, 0, 0, 0, 1, 90, 1, UNIONE_NIENTE);
     CNodo* far = Find(0, 5, 0);
     ASSERT_NE(far, nullptr) << "a quarter turn is exact";
-    EXPECT_EQ(document.GetSizeNodi(), 3) << "the node on the axis is met";
-    CTrave* copy = document.GetIndexTrave(1);
+    EXPECT_EQ(m_document.GetSizeNodi(), 3) << "the node on the axis is met";
+    CTrave* copy = m_document.GetIndexTrave(1);
     EXPECT_EQ(copy->GetNodoIniziale(), a);
     EXPECT_EQ(copy->GetIndexCarico(0), load);
-    EXPECT_EQ(copy->GetSvincoli(1), 4u);
+    EXPECT_EQ(copy->GetReleases(1), 4u);
     Selection().TraslaSelezione(0, 0, 10, 1, UNIONE_NIENTE);
     CNodo* above = Find(0, 0, 10);
     ASSERT_NE(above, nullptr);
     ASSERT_NE(above->GetVincolo(), nullptr);
-    EXPECT_EQ(above->GetVincolo()->GetMaschera(), static_cast<unsigned>(CVincolo::Tutti));
+    EXPECT_EQ(above->GetVincolo()->GetMask(), static_cast<unsigned>(CVincolo::All));
     EXPECT_EQ(above->GetSizeMolle(), 1);
     // Mirrored in the X-Z plane, axis 2 points to the other side: so does what acts along it.
     Selection().SpecchiaSelezione(0, -1, 0, 2);
-    CTrave* mirrored = document.GetIndexTrave(document.GetSizeTravi() - 1);
+    CTrave* mirrored = m_document.GetIndexTrave(m_document.GetSizeTravi() - 1);
     EXPECT_EQ(mirrored->GetBeta(), 0);
     auto* other = static_cast<CCaricoUniforme*>(mirrored->GetIndexCarico(0));
     ASSERT_NE(other, nullptr);
@@ -100,14 +100,14 @@ TEST_F(DocumentTransformTest, LocalAxesTurnWithTheElement) {
     std::vector<CFPoint> thirds;
     CFPoint one, two, three;
     for (int i = 0; i < 3; ++i) {
-        document.GetIndexTrave(i)->GetAssiLocali(one, two, three);
+        m_document.GetIndexTrave(i)->GetLocalAxes(one, two, three);
         thirds.push_back(three);
     }
-    document.SelezionaTutto();
+    m_document.SelectAll();
     // A third of a turn about the space diagonal: X becomes Y, Y becomes Z, Z becomes X.
     Selection().RuotaSelezione(0, 0, 0, 1, 1, 1, 120, 0, UNIONE_NIENTE);
     for (int i = 0; i < 3; ++i) {
-        ASSERT_TRUE(document.GetIndexTrave(i)->GetAssiLocali(one, two, three));
+        ASSERT_TRUE(m_document.GetIndexTrave(i)->GetLocalAxes(one, two, three));
         const CFPoint& before = thirds[static_cast<std::size_t>(i)];
         EXPECT_NEAR(CFPoint::GetMod(three, {before.z, before.x, before.y}), 0, 1e-12) << i;
     }
@@ -119,15 +119,15 @@ TEST_F(DocumentTransformTest, MirroredWallsKeepTheirSide) {
     Node(4, 0, 0);
     Node(4, 0, 3);
     Node(0, 0, 3);
-    CSetto* wall = document.AddSetto({1, 2, 3, 4});
+    CSetto* wall = m_document.AddSetto({1, 2, 3, 4});
     CFPoint normal, mirrored;
     wall->GetDir(normal, 2);
     Selection().Add(wall);
     Selection().SpecchiaSelezione(-1, 0, 0, 1);
-    ASSERT_EQ(document.GetSizeSetti(), 2);
-    document.GetIndexSetto(1)->GetDir(mirrored, 2);
+    ASSERT_EQ(m_document.GetSizeSetti(), 2);
+    m_document.GetIndexSetto(1)->GetDir(mirrored, 2);
     EXPECT_NEAR(CFPoint::GetMod(normal, mirrored), 0, 1e-12);
-    EXPECT_EQ(document.GetIndexSetto(1)->GetIndexNodo(0), Find(-2, 0, 0));
+    EXPECT_EQ(m_document.GetIndexSetto(1)->GetIndexNodo(0), Find(-2, 0, 0));
 }
 
 TEST_F(DocumentTransformTest, MovingTakesTheNodesOfElementsAlongOnce) {
@@ -140,17 +140,17 @@ TEST_F(DocumentTransformTest, MovingTakesTheNodesOfElementsAlongOnce) {
     Selection().TraslaSelezione(1, 2, 3, 0, 0);
     EXPECT_EQ(Find(6, 2, 3), b) << "moved once, though three selected objects have it";
     EXPECT_EQ(Find(5, 0, 0), nullptr);
-    EXPECT_EQ(document.GetSizeNodi(), 3);
-    document.Undo().Undo();
+    EXPECT_EQ(m_document.GetSizeNodi(), 3);
+    m_document.Undo().Undo();
     EXPECT_EQ(Find(5, 0, 0), b) << "the search by position follows";
 }
 
 TEST_F(DocumentTransformTest, SelectionByPlaneAndRange) {
     for (const CFPoint& place : {CFPoint(0, 0, 0), CFPoint(5, 0, 0), CFPoint(5, 5, 0), CFPoint(5, 5, 5)})
         Node(place.x, place.y, place.z);
-    document.AddTrave(1, 2, nullptr);
-    document.AddTrave(3, 4, nullptr);
-    document.AddAsta(2, 3, nullptr);
+    m_document.AddTrave(1, 2, nullptr);
+    m_document.AddTrave(3, 4, nullptr);
+    m_document.AddAsta(2, 3, nullptr);
     Selection().SelezionaElementiRange({-1, -1, -1}, {6, 6, 1}, 0, 1, 1, 1, 1);
     EXPECT_EQ(Selection().Size(Kind::Beam), 1);
     EXPECT_EQ(Selection().Size(Kind::Truss), 1);
@@ -158,20 +158,20 @@ TEST_F(DocumentTransformTest, SelectionByPlaneAndRange) {
     Selection().Clear();
     CPoligono ground;
     for (int i = 0; i < 3; ++i)
-        ground.AggiungiVertice(document.GetIndexNodo(i));
+        ground.AggiungiVertice(m_document.GetIndexNodo(i));
     Selection().SelezionaElementiPiano(&ground);
     EXPECT_EQ(Selection().All().size(), 2u);
     Selection().Clear();
-    document.SelezionaTutto();
+    m_document.SelectAll();
     Node(0, 0, 2);
     Node(1, 0, 2);
     Node(0, 1, 2);
     CPoligono above;
     for (int i = 4; i < 7; ++i)
-        above.AggiungiVertice(document.GetIndexNodo(i));
+        above.AggiungiVertice(m_document.GetIndexNodo(i));
     Selection().IntersezioneLineePiano(&above);
     EXPECT_NE(Find(5, 5, 2), nullptr);
-    EXPECT_EQ(document.GetSizeNodi(), 8);
+    EXPECT_EQ(m_document.GetSizeNodi(), 8);
 }
 
 } // namespace

@@ -2,14 +2,14 @@
 
 #include "host/document/HostDocument.h"
 #include "host/files/LoadValues.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/LineaFisica.h"
-#include "model/Materiale.h"
-#include "model/Poligono.h"
-#include "model/Sezione.h"
-#include "model/Spessore.h"
+#include "model/element/LineaFisica.h"
+#include "model/element/Poligono.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 
 #include <gtest/gtest.h>
 
@@ -71,10 +71,10 @@ class Dumper {
     }
 
     void Node(CNodo& node) {
-        Add(*node.GetPunto(), node.GetVincolo() ? static_cast<int>(node.GetVincolo()->GetMaschera()) : -1);
+        Add(*node.GetPunto(), node.GetVincolo() ? static_cast<int>(node.GetVincolo()->GetMask()) : -1);
         for (int i = 0; i < node.GetSizeMolle(); ++i) {
             CMolla& spring = *node.GetIndexMolla(i);
-            Add(spring.GetTipo(), spring.GetRigidezza().GetValore(), spring.GetDirezione());
+            Add(spring.GetTipo(), spring.GetStiffness().GetValue(), spring.GetDirection());
         }
         Add(node.GetSizeElementi());
     }
@@ -85,9 +85,9 @@ class Dumper {
             line.GetBeta());
         for (int i = 0; i < line.GetSizeSpecifiche(); ++i) {
             auto* release = static_cast<CSpecificheSvincoliTrave*>(line.GetIndexSpecifica(i));
-            Add(release->GetID(), release->GetEstremo());
+            Add(release->GetID(), release->GetEnd());
             for (int j = 0; j < 4; ++j)
-                Add(release->GetSvincolo(j));
+                Add(release->GetRelease(j));
         }
     }
 
@@ -102,15 +102,15 @@ class Dumper {
             Loads(static_cast<CCasoCarico&>(object));
         if (kind == Kind::Material) {
             auto& m = static_cast<CMateriale&>(object);
-            Add(m.GetE(), m.GetG(), m.GetPoisson(), m.GetDensita(), m.GetAlfa());
+            Add(m.GetE(), m.GetG(), m.GetPoisson(), m.GetDensity(), m.GetAlpha());
         }
         if (kind == Kind::Section) {
             auto& s = static_cast<CSezione&>(object);
             Add(s.GetArea(), s.GetArea2(), s.GetArea3(), s.GetJ(), s.GetI2(), s.GetI3(), s.GetW2(), s.GetW3(),
-                s.GetBase(), s.GetAltezza());
+                s.GetBase(), s.GetHeight());
         }
         if (kind == Kind::Thickness)
-            Add(static_cast<CSpessore&>(object).GetSpessore());
+            Add(static_cast<CSpessore&>(object).GetThickness());
         if (kind == Kind::Combination) {
             auto& combination = static_cast<CCombinazione&>(object);
             for (int i = 0; i < combination.GetSizeCDC(); ++i) {
@@ -122,7 +122,7 @@ class Dumper {
         if (kind == Kind::Group) {
             auto& group = static_cast<CGruppo&>(object);
             for (int i = 0; i < group.GetSizeElementi(); ++i)
-                Add(group.GetTipoIndexElemento(i), group.GetIDIndexElemento(i));
+                Add(group.GetElementKindAt(i), group.GetElementIdAt(i));
         }
     }
 
@@ -130,8 +130,7 @@ class Dumper {
         for (int i = 0; i < loadCase.GetSizeCarichi(); ++i) {
             CCarico& load = *loadCase.GetIndexCarico(i);
             m_text += "\n  ";
-            Add(load.GetID(), load.GetIDCasoCarico(), load.GetTipoElemento(), load.GetRiferimento(),
-                load.GetIDInsieme());
+            Add(load.GetID(), load.GetIDCasoCarico(), load.GetTipoElemento(), load.GetReference(), load.GetSetId());
             const host::LoadValues list = host::ValuesOf(load);
             for (int j = 0; j < list.count; ++j)
                 Add(*list.values[static_cast<std::size_t>(j)]);

@@ -2,11 +2,11 @@
 #include "host/document/DocumentData.h"
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddImport.h"
-#include "model/Carico.h"
-#include "model/CasoCarico.h"
-#include "model/Materiale.h"
-#include "model/Sezione.h"
-#include "model/Trave.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/load/Carico.h"
 #include "tests/host/Dump.h"
 
 #include <gtest/gtest.h>
@@ -63,11 +63,11 @@ TEST(Import, EverythingArrives) {
     std::vector<CString> notes;
     DocumentData data = ImportFrame3ddText(model, &notes);
     EXPECT_EQ(data.Info().title, "Un portale (kN,m,t)");
-    EXPECT_EQ(data.Units().length, Lunghezza::Metri);
-    EXPECT_EQ(data.Units().force, Forza::ChiloNewton);
+    EXPECT_EQ(data.Units().length, Lunghezza::Metres);
+    EXPECT_EQ(data.Units().force, Forza::KiloNewtons);
     ASSERT_EQ(data.Size(Kind::Node), 4);
-    EXPECT_TRUE(*data.CercaNodo(4)->GetPunto() == CFPoint(4, 0, 3));
-    EXPECT_EQ(data.CercaNodo(2)->GetVincolo()->GetMaschera(), 7u);
+    EXPECT_TRUE(*data.FindNode(4)->GetPunto() == CFPoint(4, 0, 3));
+    EXPECT_EQ(data.FindNode(2)->GetVincolo()->GetMask(), 7u);
     ASSERT_EQ(data.Size(Kind::Beam), 3);
     EXPECT_EQ(data.Size(Kind::Material), 1);
     ASSERT_EQ(data.Size(Kind::Section), 2);
@@ -78,22 +78,22 @@ TEST(Import, EverythingArrives) {
     auto* beam = data.FindAs<CTrave>(Kind::Beam, 2);
     EXPECT_EQ(beam->GetBeta(), 30);
     EXPECT_EQ(beam->GetSezione(), section);
-    EXPECT_EQ(beam->GetMateriale()->GetDensita(), 2.5);
+    EXPECT_EQ(beam->GetMateriale()->GetDensity(), 2.5);
     ASSERT_EQ(data.Size(Kind::LoadCase), 2);
     auto* loads = data.As<CCasoCarico>(Kind::LoadCase, 0);
     ASSERT_EQ(loads->GetSizeCarichi(), 7);
-    EXPECT_EQ(static_cast<CCaricoPesoProprio*>(loads->GetIndexCarico(0))->GetAccelerazione().z, -9.81);
-    EXPECT_EQ(static_cast<CCaricoNodale*>(data.CercaNodo(3)->GetIndexCarico(0))->GetVettoreMomento().y, 5);
-    EXPECT_EQ(static_cast<CCaricoSpostamento*>(data.CercaNodo(2)->GetIndexCarico(0))->GetSpostamento().x, 0.01);
+    EXPECT_EQ(static_cast<CCaricoPesoProprio*>(loads->GetIndexCarico(0))->GetAcceleration().z, -9.81);
+    EXPECT_EQ(static_cast<CCaricoNodale*>(data.FindNode(3)->GetIndexCarico(0))->GetMomentVector().y, 5);
+    EXPECT_EQ(static_cast<CCaricoSpostamento*>(data.FindNode(2)->GetIndexCarico(0))->GetDisplacement().x, 0.01);
     ASSERT_EQ(beam->GetSizeCarichi(), 3);
-    EXPECT_EQ(static_cast<CCaricoUniforme*>(beam->GetIndexCarico(0))->GetRiferimento(), CCarico::Locale);
-    EXPECT_EQ(static_cast<CCaricoTrapezoidale*>(beam->GetIndexCarico(1))->GetTratto(1).fine, 3);
-    EXPECT_EQ(static_cast<CCaricoConcentrato*>(beam->GetIndexCarico(2))->GetDistanza(), 1.5);
+    EXPECT_EQ(static_cast<CCaricoUniforme*>(beam->GetIndexCarico(0))->GetReference(), CCarico::Local);
+    EXPECT_EQ(static_cast<CCaricoTrapezoidale*>(beam->GetIndexCarico(1))->GetStretch(1).fine, 3);
+    EXPECT_EQ(static_cast<CCaricoConcentrato*>(beam->GetIndexCarico(2))->GetDistance(), 1.5);
     auto* heat = data.FindAs<CTrave>(Kind::Beam, 1)->GetCaricoTemperatura(1);
     ASSERT_NE(heat, nullptr);
-    EXPECT_DOUBLE_EQ(heat->GetTemperatura(), 12.5);
-    EXPECT_DOUBLE_EQ(heat->GetGradiente2(), 10 / 0.3);
-    EXPECT_DOUBLE_EQ(heat->GetGradiente3(), 40 / 0.3);
+    EXPECT_DOUBLE_EQ(heat->GetTemperature(), 12.5);
+    EXPECT_DOUBLE_EQ(heat->GetGradient2(), 10 / 0.3);
+    EXPECT_DOUBLE_EQ(heat->GetGradient3(), 40 / 0.3);
     EXPECT_EQ(notes.size(), 2u) << "a radius and the geometric stiffness are left out, and said so";
 }
 
@@ -101,12 +101,12 @@ TEST(Import, ShearAreasAndUnitsFollowTheFile) {
     DocumentData data = ImportFrame3ddText(Replaced(model, "1 1 10 1 -1", "0 0 10 1 -1"));
     EXPECT_EQ(data.As<CSezione>(Kind::Section, 0)->GetArea2(), 0);
     const std::pair<const char*, DocumentUnits> titles[] = {
-        {"Esempio (kips,in) ", {Lunghezza::Pollici, Forza::ChiloLibbre}},
-        {"Esempio (units: kip, in)", {Lunghezza::Pollici, Forza::ChiloLibbre}},
-        {"Esempio (N,mm,ton)", {Lunghezza::Millimetri, Forza::Newton}},
-        {"Esempio (m)", {Lunghezza::Millimetri, Forza::Newton}},
-        {"Esempio", {Lunghezza::Millimetri, Forza::Newton}},
-        {")(", {Lunghezza::Millimetri, Forza::Newton}}};
+        {"Esempio (kips,in) ", {Lunghezza::Inches, Forza::Kips}},
+        {"Esempio (units: kip, in)", {Lunghezza::Inches, Forza::Kips}},
+        {"Esempio (N,mm,ton)", {Lunghezza::Millimetres, Forza::Newton}},
+        {"Esempio (m)", {Lunghezza::Millimetres, Forza::Newton}},
+        {"Esempio", {Lunghezza::Millimetres, Forza::Newton}},
+        {")(", {Lunghezza::Millimetres, Forza::Newton}}};
     for (const auto& [title, units] : titles) {
         DocumentData named = ImportFrame3ddText(Replaced(model, "Un portale (kN,m,t)", title));
         EXPECT_EQ(named.Units().length, units.length) << title;

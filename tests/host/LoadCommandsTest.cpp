@@ -9,11 +9,11 @@
 #include "host/document/HostDocument.h"
 #include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "platform/window/Application.h"
 #include "tests/host/Dump.h"
 #include "tests/host/TestModel.h"
 #include "tests/host/WorkspaceTest.h"
@@ -37,7 +37,7 @@ class LoadCommandsTest : public WorkspaceTest {
 
     // Runs a modal command; the action closes its dialog.
     void Run(const char* command, const std::function<void(DialogDriver&)>& action) {
-        user.WhenDialogOpens(action);
+        m_user.WhenDialogOpens(action);
         Trigger(command);
         CWinApp::PumpMessages();
     }
@@ -53,7 +53,7 @@ class LoadCommandsTest : public WorkspaceTest {
         ExpectOneStep(name, [&] { RunList(action); });
     }
     void AnswerName(const std::string& name) {
-        user.WhenDialogOpens([name](DialogDriver& driver) {
+        m_user.WhenDialogOpens([name](DialogDriver& driver) {
             driver.SetText(CDialogCreaCasoCarico::IDC_NOME, name);
             driver.Click(IDOK);
         });
@@ -66,7 +66,7 @@ class LoadCommandsTest : public WorkspaceTest {
         EXPECT_EQ(Dump(LoadProject(path)), State());
     }
 
-    QComboBox& CaseBox() { return *workspace->Window().findChild<QComboBox*>("carico"); }
+    QComboBox& CaseBox() { return *m_workspace->Window().findChild<QComboBox*>("carico"); }
     int CurrentCase() { return Document().Data().CurrentCase(); }
 };
 
@@ -82,11 +82,11 @@ TEST_F(LoadCommandsTest, ANewLoadCaseIsTheCurrentOne) {
     EXPECT_EQ(CaseBox().currentData().toInt(), made->GetID());
     // Refused names keep the dialog going; Cancel makes nothing.
     const std::string before = State();
-    user.ExpectMessage("Il Caso Carico c'è già!");
-    user.ExpectMessage("Il nome non è valido!");
+    m_user.ExpectMessage("Il Caso Carico c'è già!");
+    m_user.ExpectMessage("Il nome non è valido!");
     AnswerName("SLU"); // a combination's
     AnswerName(" x");
-    user.WhenDialogOpens([](DialogDriver& driver) {
+    m_user.WhenDialogOpens([](DialogDriver& driver) {
         EXPECT_EQ(driver.Text(CDialogCreaCasoCarico::IDC_NOME), " x");
         driver.Press(VK_ESCAPE);
     });
@@ -190,8 +190,8 @@ TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
     // Catches a name that a case bears already: the project would be saved and could not be read again.
     const std::string taken = Document().GetIndexCasoCarico(0)->GetNome().ToUtf8();
     const std::string kept = made->GetNome().ToUtf8();
-    user.ExpectMessage("Il nome \"" + taken + "\" non è ammesso o è già usato: la combinazione conserva il nome \"" +
-                       kept + "\".");
+    m_user.ExpectMessage("Il nome \"" + taken + "\" non è ammesso o è già usato: la combinazione conserva il nome \"" +
+                         kept + "\".");
     Run("carichi.Modifica Combinazione", [&taken](DialogDriver& driver) {
         driver.Type(CDialogCreaCombinazione::IDC_NOME, taken);
         driver.Click(IDOK);
@@ -201,16 +201,16 @@ TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
 }
 
 TEST_F(LoadCommandsTest, GroupsAreMadeOfTheSelection) {
-    user.ExpectMessage("Selezionare prima gli elementi del gruppo.");
+    m_user.ExpectMessage("Selezionare prima gli elementi del gruppo.");
     Trigger("carichi.Crea Gruppo");
     Document().Selection().Add(Document().GetIndexTrave(3));
     Document().Selection().Add(Document().GetIndexNodo(7));
     CWinApp::PumpMessages();
-    user.ExpectMessage("Immettere il nome del gruppo.");
-    user.ExpectMessage("Esiste già un gruppo con lo stesso nome.");
+    m_user.ExpectMessage("Immettere il nome del gruppo.");
+    m_user.ExpectMessage("Esiste già un gruppo con lo stesso nome.");
     ExpectOneStep("Crea gruppo", [this] {
         for (const char* name : {"", "Copertura"})
-            user.WhenDialogOpens([name](DialogDriver& driver) {
+            m_user.WhenDialogOpens([name](DialogDriver& driver) {
                 driver.SetText(CDialogCreaGruppo::IDC_NOME, name);
                 driver.Click(IDOK);
             });
@@ -219,7 +219,7 @@ TEST_F(LoadCommandsTest, GroupsAreMadeOfTheSelection) {
             driver.Click(IDOK);
         });
     });
-    CGruppo* group = Document().GetGruppo("Facciata");
+    CGruppo* group = Document().GetGroup("Facciata");
     ASSERT_TRUE(group);
     EXPECT_EQ(group->GetSizeElementi(), 2);
     EXPECT_TRUE(Document().GetIndexTrave(3)->IsGruppo(group->GetID()));
@@ -233,10 +233,10 @@ TEST_F(LoadCommandsTest, GroupsAreMadeOfTheSelection) {
 TEST_F(LoadCommandsTest, TheGroupListDeletesInOneStepAndFollowsUndo) {
     Document().Selection().Add(Document().GetIndexTrave(0));
     for (const char* name : {"B", "C", "D"})
-        Document().CreaGruppo(name);
+        Document().CreateGroup(name);
     Trigger("carichi.Lista Gruppi");
     CWinApp::PumpMessages();
-    CDialogDocument* list = workspace->ToolOf(View());
+    CDialogDocument* list = m_workspace->ToolOf(View());
     ASSERT_TRUE(list);
     DialogDriver driver(*list);
     const std::vector<std::string> all = {"Copertura", "B", "C", "D"};
@@ -258,15 +258,15 @@ TEST_F(LoadCommandsTest, TheGroupListDeletesInOneStepAndFollowsUndo) {
 TEST_F(LoadCommandsTest, SwapsTheSignsOfRealResults) {
     BuildExample(Document());
     CCasoCarico* seismic = Document().GetIndexCasoCarico(0);
-    Document().Modify(*seismic, [seismic] { seismic->SetTipo(CASO_SISMICO_DINAMICO); });
-    ASSERT_TRUE(Document().EseguiAnalisi().done);
+    Document().Modify(*seismic, [seismic] { seismic->SetTipo(dynamicSeismicCase); });
+    ASSERT_TRUE(Document().RunAnalysis().done);
     CTrave* column = Document().GetIndexTrave(0);
-    const auto axial = [column](int end) { return column->GetRisultati()->GetNodoRisultati(end)->GetV1(); };
+    const auto axial = [column](int end) { return column->GetRisultati()->GetNodeResults(end)->GetV1(); };
     const double near = axial(0), far = axial(1);
     ASSERT_NE(far, 0);
-    CDialogListaCasiCarico dialog(&Document(), &workspace->Window().Frame());
+    CDialogListaCasiCarico dialog(&Document(), &m_workspace->Window().Frame());
     const auto swap = [&](int row) {
-        user.WhenDialogOpens([&](DialogDriver& driver) {
+        m_user.WhenDialogOpens([&](DialogDriver& driver) {
             driver.ClickRow(casesId, row);
             dialog.SendMessage(WM_COMMAND, MAKEWPARAM(CDialogListaCasiCarico::IDC_PERMUTA, BN_CLICKED), 0);
             driver.Click(IDCANCEL);

@@ -2,11 +2,11 @@
 #include "host/ui/MainWindow.h"
 #include "dialogs/frame/DialogDocument.h"
 #include "dialogs/frame/QuovarGlobal.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/Commands.h"
-#include "host/ui/ViewWidget.h"
-#include "model/Nodo.h"
-#include "platform/Application.h"
+#include "host/view/ViewWidget.h"
+#include "model/element/Nodo.h"
+#include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
 #include <QAction>
@@ -39,12 +39,12 @@ class Witness final : public CDialogDocument {
 class MainWindowTest : public WorkspaceTest {
   protected:
     Witness* OpenWitness(HostView& view) {
-        return static_cast<Witness*>(
-            workspace->Tools().Open(std::make_unique<Witness>(&workspace->Window().Frame(), hints, alive), view));
+        return static_cast<Witness*>(m_workspace->Tools().Open(
+            std::make_unique<Witness>(&m_workspace->Window().Frame(), m_hints, m_alive), view));
     }
 
-    std::vector<long> hints;
-    int alive = 0;
+    std::vector<long> m_hints;
+    int m_alive = 0;
 };
 
 // Catches a close request that is ignored for one of its two values, a dialog deleted inside its own handler (the
@@ -62,10 +62,10 @@ TEST_F(MainWindowTest, CloseRequestEndsTheDialogForBothValues) {
         else
             dialog->OnCancel();
         EXPECT_FALSE(dialog->IsWindow()) << "the window goes at once";
-        EXPECT_EQ(alive, 1) << "the object waits for its handlers to return";
-        EXPECT_FALSE(workspace->ToolOf(View()));
+        EXPECT_EQ(m_alive, 1) << "the object waits for its handlers to return";
+        EXPECT_FALSE(m_workspace->ToolOf(View()));
         CWinApp::PumpMessages();
-        EXPECT_EQ(alive, 0);
+        EXPECT_EQ(m_alive, 0);
     }
 }
 
@@ -75,20 +75,20 @@ TEST_F(MainWindowTest, OneToolDialogPerViewHearsItsDocumentOnly) {
     OpenWitness(first);
     Witness* dialog = OpenWitness(first);
     CWinApp::PumpMessages();
-    EXPECT_EQ(alive, 1) << "opening another ends the former";
-    EXPECT_EQ(workspace->ToolOf(first), dialog);
+    EXPECT_EQ(m_alive, 1) << "opening another ends the former";
+    EXPECT_EQ(m_workspace->ToolOf(first), dialog);
 
-    HostView& other = workspace->NewDocument();
+    HostView& other = m_workspace->NewDocument();
     CWinApp::PumpMessages();
-    hints.clear();
+    m_hints.clear();
     other.Document().UpdateAllViews(nullptr, 77, nullptr);
-    EXPECT_TRUE(hints.empty());
+    EXPECT_TRUE(m_hints.empty());
     first.Document().UpdateAllViews(nullptr, 77, nullptr);
-    EXPECT_EQ(hints, std::vector<long>{77});
-    workspace->NewView(first.Document());
-    hints.clear();
+    EXPECT_EQ(m_hints, std::vector<long>{77});
+    m_workspace->NewView(first.Document());
+    m_hints.clear();
     first.Document().UpdateAllViews(nullptr, 78, nullptr);
-    EXPECT_EQ(hints, std::vector<long>{78}) << "once, however many views the document has";
+    EXPECT_EQ(m_hints, std::vector<long>{78}) << "once, however many views the document has";
 }
 
 // Catches a dialog that dies with its view or keeps the pointer, one that is never offered the next view, and an
@@ -98,20 +98,20 @@ TEST_F(MainWindowTest, ClosingAViewLeavesItsDialogWithoutOne) {
     HostView& view = View();
     Witness* dialog = OpenWitness(view);
     EXPECT_EQ(dialog->Bound(), &view.Document());
-    EXPECT_TRUE(workspace->CloseView(view));
+    EXPECT_TRUE(m_workspace->CloseView(view));
     CWinApp::PumpMessages();
-    ASSERT_EQ(alive, 1);
+    ASSERT_EQ(m_alive, 1);
     EXPECT_TRUE(dialog->IsWindow());
     EXPECT_FALSE(dialog->HasView());
     dialog->OnOK();
     EXPECT_TRUE(dialog->IsWindow()) << "without a view nobody is asked";
 
-    HostView& next = workspace->NewDocument();
+    HostView& next = m_workspace->NewDocument();
     EXPECT_EQ(dialog->Bound(), &next.Document());
-    EXPECT_EQ(workspace->ToolOf(next), dialog);
-    workspace->CloseView(next);
+    EXPECT_EQ(m_workspace->ToolOf(next), dialog);
+    m_workspace->CloseView(next);
     dialog->OnCancel();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return alive == 0; }, 3000)) << "a cancelled dialog without a view goes";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_alive == 0; }, 3000)) << "a cancelled dialog without a view goes";
 }
 
 // Catches a second view that replaces the first, titles that do not tell them apart, a question for a view that is not
@@ -123,11 +123,11 @@ TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
     HostView& second = View();
     ASSERT_NE(&first, &second);
     EXPECT_EQ(&first.Document(), &second.Document());
-    EXPECT_EQ(workspace->TitleOf(first), "Senza titolo 1:1");
-    EXPECT_EQ(workspace->TitleOf(second), "Senza titolo 1:2");
-    EXPECT_EQ(workspace->Window().Area().subWindowList().size(), 2);
-    second.SetDirection(Adv3d::Alto);
-    EXPECT_FALSE(first.Vista().GetAsse(2) == second.Vista().GetAsse(2));
+    EXPECT_EQ(m_workspace->TitleOf(first), "Senza titolo 1:1");
+    EXPECT_EQ(m_workspace->TitleOf(second), "Senza titolo 1:2");
+    EXPECT_EQ(m_workspace->Window().Area().subWindowList().size(), 2);
+    second.SetDirection(Adv3d::Top);
+    EXPECT_FALSE(first.Vista().GetAxis(2) == second.Vista().GetAxis(2));
     const unsigned drawnFirst = first.Widget().DrawCount(), drawnSecond = second.Widget().DrawCount();
     first.Document().GenNodi2Punti(CFPoint(0, 0, 9), CFPoint(1, 0, 9), 2);
     CWinApp::PumpMessages();
@@ -135,49 +135,49 @@ TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
     second.Widget().grab();
     EXPECT_GT(first.Widget().DrawCount(), drawnFirst);
     EXPECT_GT(second.Widget().DrawCount(), drawnSecond);
-    EXPECT_EQ(workspace->TitleOf(first), "Senza titolo 1*:1");
+    EXPECT_EQ(m_workspace->TitleOf(first), "Senza titolo 1*:1");
 
-    EXPECT_TRUE(workspace->CloseView(second)) << "no question: another view is left";
+    EXPECT_TRUE(m_workspace->CloseView(second)) << "no question: another view is left";
     CWinApp::PumpMessages();
-    EXPECT_EQ(workspace->ActiveView(), &first);
-    user.ExpectMessage("Salvare le modifiche a \"Senza titolo 1\"?", IDCANCEL, MB_YESNOCANCEL | MB_ICONQUESTION);
-    EXPECT_FALSE(workspace->CloseView(first));
-    user.ExpectMessage("Salvare le modifiche a \"Senza titolo 1\"?", IDNO);
-    EXPECT_TRUE(workspace->CloseView(first));
-    EXPECT_FALSE(workspace->ActiveView());
+    EXPECT_EQ(m_workspace->ActiveView(), &first);
+    m_user.ExpectMessage("Salvare le modifiche a \"Senza titolo 1\"?", IDCANCEL, MB_YESNOCANCEL | MB_ICONQUESTION);
+    EXPECT_FALSE(m_workspace->CloseView(first));
+    m_user.ExpectMessage("Salvare le modifiche a \"Senza titolo 1\"?", IDNO);
+    EXPECT_TRUE(m_workspace->CloseView(first));
+    EXPECT_FALSE(m_workspace->ActiveView());
     EXPECT_FALSE(CQuovarGlobal::_GetActiveDoc());
 }
 
 // Catches a key that the toolkit's own window commands share with the menu: neither would run.
 TEST_F(MainWindowTest, ClosingByKey) {
     for (const char* arrangement : {"finestra.schede", "finestra.affianca"}) {
-        workspace->NewView(Document());
+        m_workspace->NewView(Document());
         Trigger(arrangement);
-        const std::size_t views = workspace->Views().size();
+        const std::size_t views = m_workspace->Views().size();
         QTest::keyClick(View().Widget().QWidget::window()->windowHandle(), Qt::Key_W, Qt::ControlModifier);
         CWinApp::PumpMessages();
-        EXPECT_EQ(workspace->Views().size(), views - 1) << arrangement;
+        EXPECT_EQ(m_workspace->Views().size(), views - 1) << arrangement;
     }
 }
 
 // Two quick keys: the dialog has gone with the first, its command has not. Catches a document that is closed under it.
 TEST_F(MainWindowTest, NoCommandStartsInsideAnother) {
-    user.WhenDialogOpens([this](DialogDriver& dialog) {
+    m_user.WhenDialogOpens([this](DialogDriver& dialog) {
         dialog.Press(VK_RETURN);
-        workspace->Window().Command("file.chiudi")->trigger();
-        workspace->Window().Frame().SendMessage(WM_CLOSE);
-        EXPECT_EQ(workspace->Views().size(), 1u);
+        m_workspace->Window().Command("file.chiudi")->trigger();
+        m_workspace->Window().Frame().SendMessage(WM_CLOSE);
+        EXPECT_EQ(m_workspace->Views().size(), 1u);
     });
     const int cases = Document().GetSizeCasiCarico();
     Trigger("carichi.Crea Caso di Carico");
-    ASSERT_EQ(workspace->Views().size(), 1u);
+    ASSERT_EQ(m_workspace->Views().size(), 1u);
     EXPECT_EQ(Document().GetSizeCasiCarico(), cases + 1);
 }
 
 // Catches a menu that shows a command without a dialog or leaves one out, and undo that does not name its step.
 TEST_F(MainWindowTest, MenusShowWhatThereIs) {
     QStringList titles;
-    for (QAction* action : workspace->Window().menuBar()->actions()) {
+    for (QAction* action : m_workspace->Window().menuBar()->actions()) {
         titles << action->text().remove('&');
         ASSERT_TRUE(action->menu());
         EXPECT_FALSE(action->menu()->actions().isEmpty()) << qPrintable(action->text());
@@ -192,7 +192,7 @@ TEST_F(MainWindowTest, MenusShowWhatThereIs) {
         EXPECT_TRUE(caption.find(offered) != std::string::npos || offered.find(caption) != std::string::npos)
             << caption;
     }
-    MainWindow& window = workspace->Window();
+    MainWindow& window = m_workspace->Window();
     window.Refresh();
     EXPECT_FALSE(window.Command("modifica.annulla")->isEnabled());
     Document().GenNodi2Punti(CFPoint(0, 0, 0), CFPoint(1, 0, 0), 2);
@@ -204,7 +204,7 @@ TEST_F(MainWindowTest, MenusShowWhatThereIs) {
     EXPECT_FALSE(View().IsSelectTravi());
     window.Refresh();
     EXPECT_FALSE(window.Command("filtro.Travi")->isChecked());
-    workspace->NewDocument();
+    m_workspace->NewDocument();
     window.Refresh();
     EXPECT_TRUE(window.Command("filtro.Travi")->isChecked()) << "each view has its own filters";
 }
@@ -216,21 +216,21 @@ TEST_F(MainWindowTest, WaitBarKeepsTheWindowAliveAndTheUserOut) {
     const unsigned drawn = View().Widget().DrawCount();
     {
         const WaitBar wait("Copia in corso", 3);
-        EXPECT_TRUE(workspace->IsWaiting());
+        EXPECT_TRUE(m_workspace->IsWaiting());
         const WaitBar inner("Altro", 10);
         CMainFrame::_StepBar();
-        EXPECT_EQ(workspace->Window().Wait().Done(), 0u) << "an inner wait does not move the outer one's bar";
-        workspace->Window().Command("file.nuovo")->trigger();
-        EXPECT_EQ(workspace->Views().size(), 1u);
+        EXPECT_EQ(m_workspace->Window().Wait().Done(), 0u) << "an inner wait does not move the outer one's bar";
+        m_workspace->Window().Command("file.nuovo")->trigger();
+        EXPECT_EQ(m_workspace->Views().size(), 1u);
         View().Document().UpdateAllViews(nullptr, MODIFICA_STRUTTURA, nullptr);
         View().Widget().grab();
         EXPECT_EQ(View().Widget().DrawCount(), drawn);
     }
-    EXPECT_FALSE(workspace->IsWaiting());
+    EXPECT_FALSE(m_workspace->IsWaiting());
     View().Widget().grab();
     EXPECT_GT(View().Widget().DrawCount(), drawn);
     CMainFrame::_FineAttesa();
-    EXPECT_FALSE(workspace->IsWaiting()) << "an end without a beginning does nothing";
+    EXPECT_FALSE(m_workspace->IsWaiting()) << "an end without a beginning does nothing";
 }
 
 // Catches hints whose parts do not agree with each other or with the values that dialogs send as they are.

@@ -3,7 +3,7 @@
 #include "host/document/HostDocument.h"
 #include "host/files/FileError.h"
 #include "host/files/Sqlite.h"
-#include "model/Materiale.h"
+#include "model/entity/Materiale.h"
 #include "tests/host/Dump.h"
 #include "tests/host/TestModel.h"
 
@@ -36,19 +36,19 @@ class ProjectFileTest : public testing::Test {
   protected:
     void SetUp() override {
         std::string pattern = (fs::temp_directory_path() / "progetto_XXXXXX").string();
-        folder = mkdtemp(pattern.data());
-        file = folder / "prova 100%? #1.asg"; // what an address would take for something else
-        BuildEverything(document);
+        m_folder = mkdtemp(pattern.data());
+        m_file = m_folder / "prova 100%? #1.asg"; // what an address would take for something else
+        BuildEverything(m_document);
     }
-    void TearDown() override { fs::remove_all(folder); }
+    void TearDown() override { fs::remove_all(m_folder); }
 
-    void Save() { SaveProject(document.Data(), file.string(), "1.2.3"); }
-    std::string Loaded() { return Dump(LoadProject(file.string())); }
+    void Save() { SaveProject(m_document.Data(), m_file.string(), "1.2.3"); }
+    std::string Loaded() { return Dump(LoadProject(m_file.string())); }
 
     // The message of the refusal; "" when the file was taken.
     std::string Refusal() {
         try {
-            LoadProject(file.string());
+            LoadProject(m_file.string());
             return "";
         } catch (const FileError& error) {
             return error.what();
@@ -59,7 +59,7 @@ class ProjectFileTest : public testing::Test {
     std::string RefusalAfter(const char* sql) {
         Save();
         {
-            host::Database database(file.string(), host::Database::Mode::WritePrivate);
+            host::Database database(m_file.string(), host::Database::Mode::WritePrivate);
             sqlite3_limit(database.Handle(), SQLITE_LIMIT_LENGTH, 100 << 20); // a hostile file keeps to no limit
             database.Execute("PRAGMA writable_schema = ON");
             database.Execute(sql);
@@ -67,85 +67,85 @@ class ProjectFileTest : public testing::Test {
         return Refusal();
     }
 
-    fs::path folder, file;
-    HostDocument document;
+    fs::path m_folder, m_file;
+    HostDocument m_document;
 };
 
 // Every field, in full precision, accents included; counters restart above the highest number.
 TEST_F(ProjectFileTest, RoundTripIsExact) {
     Save();
     const std::string first = Loaded();
-    EXPECT_EQ(first, Dump(document.Data()));
-    document.Replace(LoadProject(file.string()));
-    EXPECT_EQ(document.Data().Info().title, "Prova: perché no?"_t);
-    EXPECT_FALSE(document.IsModified());
+    EXPECT_EQ(first, Dump(m_document.Data()));
+    m_document.Replace(LoadProject(m_file.string()));
+    EXPECT_EQ(m_document.Data().Info().title, "Prova: perché no?"_t);
+    EXPECT_FALSE(m_document.IsModified());
     Save();
     EXPECT_EQ(Loaded(), first);
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1) << "no file is left beside the project";
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder), {}), 1) << "no file is left beside the project";
     HostDocument empty;
-    SaveProject(empty.Data(), file.string(), "1.2.3");
+    SaveProject(empty.Data(), m_file.string(), "1.2.3");
     EXPECT_EQ(Loaded(), Dump(empty.Data()));
 }
 
 // Catches limits of the reader that a model passes by being shown in another unit, or by its own settings.
 TEST_F(ProjectFileTest, WhatIsSavedCanBeRead) {
-    document.MoveNodes({{document.GetIndexNodo(0), CFPoint(-1e12, 0, 1e12)}});
-    document.SetTolleranza(1e7);
-    document.ChangeUnits(Lunghezza::Millimetri, Forza::Newton);
+    m_document.MoveNodes({{m_document.GetIndexNodo(0), CFPoint(-1e12, 0, 1e12)}});
+    m_document.SetTolerance(1e7);
+    m_document.ChangeUnits(Lunghezza::Millimetres, Forza::Newton);
     Save();
-    EXPECT_EQ(Loaded(), Dump(document.Data()));
+    EXPECT_EQ(Loaded(), Dump(m_document.Data()));
 }
 
 // A project that could not be read again is not written, and the old file stays.
 TEST_F(ProjectFileTest, WhatCannotBeReadIsNotSaved) {
     Save();
-    const std::string before = Bytes(file);
-    document.Data().Info().notes = CString(std::string((1 << 20) + 1, 'n'));
+    const std::string before = Bytes(m_file);
+    m_document.Data().Info().notes = CString(std::string((1 << 20) + 1, 'n'));
     EXPECT_THROW(Save(), FileError);
-    document.Data().Info().notes = "";
-    document.Data().As<CMateriale>(Kind::Material, 0)->SetE(1e307);
-    document.ChangeUnits(Lunghezza::Metri, Forza::Newton);
-    EXPECT_FALSE(std::isfinite(document.Data().As<CMateriale>(Kind::Material, 0)->GetE()));
+    m_document.Data().Info().notes = "";
+    m_document.Data().As<CMateriale>(Kind::Material, 0)->SetE(1e307);
+    m_document.ChangeUnits(Lunghezza::Metres, Forza::Newton);
+    EXPECT_FALSE(std::isfinite(m_document.Data().As<CMateriale>(Kind::Material, 0)->GetE()));
     EXPECT_THROW(Save(), FileError);
-    EXPECT_EQ(Bytes(file), before);
+    EXPECT_EQ(Bytes(m_file), before);
 }
 
 TEST_F(ProjectFileTest, SavingKeepsLinksAndPermissions) {
     Save();
-    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-    const fs::path link = folder / "collegamento.asg";
-    fs::create_symlink(file, link);
-    SaveProject(document.Data(), link.string(), "1.2.3");
+    fs::permissions(m_file, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    const fs::path link = m_folder / "collegamento.asg";
+    fs::create_symlink(m_file, link);
+    SaveProject(m_document.Data(), link.string(), "1.2.3");
     EXPECT_TRUE(fs::is_symlink(link));
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-    EXPECT_THROW(SaveProject(document.Data(), (folder / "nessuna" / "a.asg").string(), "1"), FileError);
-    EXPECT_THROW(LoadProject((folder / "manca.asg").string()), FileError);
-    EXPECT_THROW(LoadProject(folder.string()), FileError);
+    EXPECT_EQ(fs::status(m_file).permissions(), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EXPECT_THROW(SaveProject(m_document.Data(), (m_folder / "nessuna" / "a.asg").string(), "1"), FileError);
+    EXPECT_THROW(LoadProject((m_folder / "manca.asg").string()), FileError);
+    EXPECT_THROW(LoadProject(m_folder.string()), FileError);
 }
 
 // A copy that stopped half-way: refused, and never the cause of a crash.
 TEST_F(ProjectFileTest, EveryTruncationIsRefused) {
     Save();
-    const std::string whole = Bytes(file);
+    const std::string whole = Bytes(m_file);
     for (std::size_t size = 0; size < whole.size(); size += size < 1024 ? 16 : 509) {
-        Write(file, std::string_view(whole).substr(0, size));
+        Write(m_file, std::string_view(whole).substr(0, size));
         EXPECT_NE(Refusal(), "") << size << " of " << whole.size();
     }
-    Write(file, "Questo non è un progetto, ma un testo qualunque abbastanza lungo da non essere vuoto.");
+    Write(m_file, "Questo non è un progetto, ma un testo qualunque abbastanza lungo da non essere vuoto.");
     EXPECT_EQ(Refusal(), "Il file non è un progetto.");
 }
 
 // Damaged bytes are refused or give some whole document; run under the sanitizers this also catches wild reads.
 TEST_F(ProjectFileTest, FlippedBitsNeverCrash) {
     Save();
-    const std::string whole = Bytes(file);
+    const std::string whole = Bytes(m_file);
     std::mt19937 random(12345);
     int refused = 0;
     for (int round = 0; round < 400; ++round) {
         std::string damaged = whole;
         for (int i = 0; i <= round % 8; ++i)
             damaged[random() % damaged.size()] ^= static_cast<char>(1u << random() % 8);
-        Write(file, damaged);
+        Write(m_file, damaged);
         refused += Refusal() != "";
     }
     EXPECT_GT(refused, 0);
@@ -216,8 +216,8 @@ TEST_F(ProjectFileTest, HostileContentIsRefusedWithItsPlace) {
 TEST_F(ProjectFileTest, KilledWhileSavingTheFileIsOldOrNew) {
     Save();
     const std::string before = Loaded();
-    document.GenNodiLineare({0, 0, 50}, {1, 0, 50}, 0.01, 3000);
-    const std::string after = Dump(document.Data());
+    m_document.GenNodiLineare({0, 0, 50}, {1, 0, 50}, 0.01, 3000);
+    const std::string after = Dump(m_document.Data());
     int seenOld = 0;
     for (int round = 0; round < 40; ++round) {
         const pid_t child = fork();

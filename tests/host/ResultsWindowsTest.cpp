@@ -1,15 +1,15 @@
 // The windows of results on a model that is really analysed, and the capture of their pictures.
 #include "dialogs/results/DialogDiagrammi.h"
 #include "dialogs/results/DialogNodoReazioniVincolari.h"
+#include "host/commands/Commands.h"
 #include "host/document/ExampleModel.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/Commands.h"
-#include "host/ui/HostView.h"
 #include "host/ui/MainWindow.h"
-#include "model/Nodo.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
-#include "platform/DeviceContext.h"
+#include "host/view/HostView.h"
+#include "model/element/Nodo.h"
+#include "model/element/Trave.h"
+#include "platform/drawing/DeviceContext.h"
+#include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
 #include <QApplication>
@@ -25,7 +25,7 @@ class ResultsWindows : public WorkspaceTest {
     Dialog* Open(const std::string& caption) {
         for (const ToolCommand& command : ToolCommands())
             if (command.caption == caption)
-                return dynamic_cast<Dialog*>(workspace->Run(command));
+                return dynamic_cast<Dialog*>(m_workspace->Run(command));
         return nullptr;
     }
     CNodo* Support() {
@@ -52,7 +52,7 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
     CWinApp::PumpMessages();
     DialogDriver driver(*diagrams);
     EXPECT_TRUE(driver.Caption().ends_with("Diagramma - (I risultati non sono validi)")) << driver.Caption();
-    ASSERT_TRUE(Document().EseguiAnalisi().done);
+    ASSERT_TRUE(Document().RunAnalysis().done);
     CWinApp::PumpMessages();
     EXPECT_TRUE(driver.Caption().ends_with("Diagramma - Trave " + std::to_string(beam->GetID()))) << driver.Caption();
     diagrams->GetM2() = 0;
@@ -80,7 +80,7 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
 TEST_F(ResultsWindows, OutlivesItsDocument) {
     BuildExample(Document());
     Document().Selection().Add(Document().GetIndexTrave(0));
-    ASSERT_TRUE(Document().EseguiAnalisi().done);
+    ASSERT_TRUE(Document().RunAnalysis().done);
     auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
     ASSERT_TRUE(diagrams);
     diagrams->SendMessage(WM_COMMAND, CDialogDiagrammi::ID_DIAGRAMMI_VISUALIZZAVALORI);
@@ -88,10 +88,10 @@ TEST_F(ResultsWindows, OutlivesItsDocument) {
     DialogDriver driver(*diagrams);
     driver.MoveTo(60, 40);
     Document().MarkSaved(); // nobody asks whether to keep it
-    ASSERT_TRUE(workspace->CloseView(View()));
+    ASSERT_TRUE(m_workspace->CloseView(View()));
     CWinApp::PumpMessages();
     driver.MoveTo(80, 50);
-    workspace->NewDocument();
+    m_workspace->NewDocument();
     CWinApp::PumpMessages();
     driver.MoveTo(100, 60);
     EXPECT_TRUE(driver.Caption().ends_with("Diagramma - (Nessuna trave selezionata)")) << driver.Caption();
@@ -117,12 +117,12 @@ TEST_F(ResultsWindows, CaptureGoesToClipboardAndFile) {
         EXPECT_EQ(picture.pixel(2, 2), qRgb(200, 0, 0));
         EXPECT_EQ(picture.pixel(picture.width() - 1, picture.height() - 1), qRgb(0, 200, 0));
     }
-    workspace->Window().activateWindow();
+    m_workspace->Window().activateWindow();
     QApplication::clipboard()->clear();
     Capture(*diagrams, {});
     EXPECT_EQ(QApplication::clipboard()->image().pixel(2, 2), qRgb(200, 0, 0)) << "the dialog, not what it lies over";
     EXPECT_EQ(QApplication::clipboard()->image().size(), copied.size());
-    user.ExpectMessage("Impossibile scrivere l'immagine \"" + folder.filePath("figura.nonso").toStdString() + "\".");
+    m_user.ExpectMessage("Impossibile scrivere l'immagine \"" + folder.filePath("figura.nonso").toStdString() + "\".");
     Capture(*diagrams, folder.filePath("figura.nonso"));
 }
 

@@ -6,11 +6,11 @@
 #include "dialogs/selection/DialogRuota.h"
 #include "dialogs/selection/DialogSpecchia.h"
 #include "host/document/HostDocument.h"
-#include "model/Asta.h"
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
+#include "model/element/Asta.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Trave.h"
+#include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
 namespace {
@@ -30,7 +30,7 @@ class SelectionCommandsTest : public WorkspaceTest {
     // From the menu, as the only tool of the view.
     CDialogDocument& Open(const char* caption) {
         Trigger((std::string("selezione.") + caption).c_str());
-        CDialogDocument* dialog = workspace->ToolOf(View());
+        CDialogDocument* dialog = m_workspace->ToolOf(View());
         if (!dialog)
             throw std::runtime_error(std::string("the dialog does not open: ") + caption);
         return *dialog;
@@ -165,7 +165,7 @@ TEST_F(SelectionCommandsTest, RotatesAboutAGlobalAndAGeneralAxis) {
     EXPECT_EQ(beam->GetNodoIniziale(), Find(0, 4, 0));
     EXPECT_EQ(beam->GetNodoFinale(), Find(0, 8, 0));
     EXPECT_EQ(Document().GetIndexTrave(0)->GetNodoFinale(), beam->GetNodoIniziale());
-    workspace->Undo();
+    m_workspace->Undo();
     // Half a turn about the vertical through the beam's first node.
     Run("Ruota", [this](DialogDriver& driver) {
         Pick({4, 0, 0});
@@ -244,7 +244,7 @@ TEST_F(SelectionCommandsTest, TooManyCopiesAreRefused) {
     driver.Type(CopiaRuota::IDC_X2, "0.25");
     driver.Type(CopiaRuota::IDC_ANGOLO, "1.5");
     driver.Type(CopiaRuota::IDC_COPIE, "10000000");
-    user.ExpectMessage("Troppe copie: il comando non è stato eseguito.", IDOK, MB_OK);
+    m_user.ExpectMessage("Troppe copie: il comando non è stato eseguito.", IDOK, MB_OK);
     driver.Press(VK_RETURN);
     ASSERT_TRUE(driver.IsOpen());
     EXPECT_EQ(State(), before);

@@ -2,10 +2,10 @@
 
 #include "host/document/ExampleModel.h"
 #include "host/document/HostDocument.h"
-#include "model/Asta.h"
-#include "model/Carico.h"
-#include "model/CasoCarico.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/load/Carico.h"
 
 namespace {
 
@@ -20,16 +20,16 @@ void AddLoads(HostDocument& document) {
     };
     carry(node, std::make_unique<CCaricoNodale>(CFPoint(1, -2, 3), CFPoint(0.1, 0.2, 0.3)));
     carry(document.GetIndexNodo(0), std::make_unique<CCaricoSpostamento>(CFPoint(0.01, 0, 0), CFPoint(0, 0.001, 0)));
-    carry(beam, std::make_unique<CCaricoUniforme>(CFPoint(0, 1.5, -2.5), CCarico::Locale));
+    carry(beam, std::make_unique<CCaricoUniforme>(CFPoint(0, 1.5, -2.5), CCarico::Local));
     auto trapezoid = std::make_unique<CCaricoTrapezoidale>();
-    trapezoid->GetTratto(1) = {0.5, 1.5, -4, 2};
-    trapezoid->GetTratto(2) = {0, 2, 1, 1};
+    trapezoid->GetStretch(1) = {0.5, 1.5, -4, 2};
+    trapezoid->GetStretch(2) = {0, 2, 1, 1};
     carry(beam, std::move(trapezoid));
-    carry(beam, std::make_unique<CCaricoConcentrato>(CFPoint(0, 7, -9), 1.25, CCarico::Locale));
+    carry(beam, std::make_unique<CCaricoConcentrato>(CFPoint(0, 7, -9), 1.25, CCarico::Local));
     auto heat = std::make_unique<CCaricoTemperatura>();
-    heat->GetTemperatura() = 25;
-    heat->GetGradiente2() = 3;
-    heat->GetAlfa() = 1.2e-5;
+    heat->GetTemperature() = 25;
+    heat->GetGradient2() = 3;
+    heat->GetAlpha() = 1.2e-5;
     carry(beam, std::move(heat));
 }
 
@@ -48,8 +48,8 @@ void BuildEverything(HostDocument& document) {
     });
     CNodo* node = document.GetIndexNodo(10);
     document.Modify(*node, [&] {
-        node->AddMolla(CMolla(CMolla::Traslazionale, 1234.5, {0, 0, 1}));
-        node->AddMolla(CMolla(CMolla::Rotazionale, 77, {1, 0, 0}));
+        node->AddSpring(CMolla(CMolla::Translational, 1234.5, {0, 0, 1}));
+        node->AddSpring(CMolla(CMolla::Rotational, 77, {1, 0, 0}));
     });
     CFPoint place(2.5, 2.5, 9);
     document.AddNodo(place, nullptr, 1);

@@ -1,12 +1,12 @@
 // Undo and redo: exact, one step per command, whatever the bracketing.
 #include "host/document/HostDocument.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
-#include "model/Materiale.h"
-#include "model/Sezione.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
 #include "tests/host/Dump.h"
 #include "tests/host/TestModel.h"
 
@@ -19,68 +19,68 @@ namespace {
 class UndoTest : public testing::Test {
   protected:
     void SetUp() override {
-        BuildEverything(document);
-        document.Undo().Clear();
+        BuildEverything(m_document);
+        m_document.Undo().Clear();
     }
 
     void ExpectExact(const char* what, const std::function<void()>& command) {
         SCOPED_TRACE(what);
         ::ExpectExact(
-            document, command, [this] { EXPECT_TRUE(document.Undo().Undo()); },
-            [this] { EXPECT_TRUE(document.Undo().Redo()); });
+            m_document, command, [this] { EXPECT_TRUE(m_document.Undo().Undo()); },
+            [this] { EXPECT_TRUE(m_document.Undo().Redo()); });
     }
 
-    HostDocument document;
+    HostDocument m_document;
 };
 
 // Catches a kind of change that the journal forgets, links to the wrong object, or brings back in another order.
 TEST_F(UndoTest, EveryCommandComesBackBitForBit) {
-    HostSelection& selection = document.Selection();
-    ExpectExact("generation", [&] { document.GenNodiLineare({0, 0, 20}, {1, 0, 20}, 0.5, 10); });
-    ExpectExact("mesh", [&] { document.Mesh4Punti({0, 0, 30}, {4, 0, 30}, {4, 4, 30}, {0, 4, 30}, 3, 2); });
-    ExpectExact("beam", [&] { document.AddTrave(1, 18, nullptr); });
-    document.SelezionaTutto();
+    HostSelection& selection = m_document.Selection();
+    ExpectExact("generation", [&] { m_document.GenNodiLineare({0, 0, 20}, {1, 0, 20}, 0.5, 10); });
+    ExpectExact("mesh", [&] { m_document.Mesh4Punti({0, 0, 30}, {4, 0, 30}, {4, 4, 30}, {0, 4, 30}, 3, 2); });
+    ExpectExact("beam", [&] { m_document.AddTrave(1, 18, nullptr); });
+    m_document.SelectAll();
     ExpectExact("move", [&] { selection.TraslaSelezione(0.1, 0.2, 0.3, 0, 0); });
     ExpectExact("rotate", [&] { selection.RuotaSelezione(0, 0, 0, 1, 1, 1, 37, 0, 0); });
     ExpectExact("mirror", [&] { selection.SpecchiaSelezione(-3, 0, 0, 1); });
     ExpectExact("copy", [&] { selection.TraslaSelezione(40, 0, 0, 3, UNIONE_TRAVI); });
-    ExpectExact("units", [&] { document.ChangeUnits(Lunghezza::Pollici, Forza::ChiloLibbre); });
-    ExpectExact("units again", [&] { document.ChangeUnits(Lunghezza::Millimetri, Forza::Newton); });
-    ExpectExact("beta", [&] { document.AssegnaBetaSelezione(12.5, 1, 0); });
-    ExpectExact("tolerance", [&] { document.SetTolleranza(0.25); });
+    ExpectExact("units", [&] { m_document.ChangeUnits(Lunghezza::Inches, Forza::Kips); });
+    ExpectExact("units again", [&] { m_document.ChangeUnits(Lunghezza::Millimetres, Forza::Newton); });
+    ExpectExact("beta", [&] { m_document.AssegnaBetaSelezione(12.5, 1, 0); });
+    ExpectExact("tolerance", [&] { m_document.SetTolerance(0.25); });
 }
 
 TEST_F(UndoTest, RemovingGivesEverythingBack) {
-    document.Selection().Add(document.GetIndexNodo(7)); // carries loads, meets beams, slabs and a wall
-    document.Selection().Add(document.GetIndexTrave(3));
-    ExpectExact("node with its elements", [&] { document.EliminaSelezione(); });
-    EXPECT_TRUE(document.Selection().IsEmpty());
-    ExpectExact("load case", [&] { document.EliminaCasoCarico(document.GetIndexCasoCarico(2)->GetID()); });
-    ExpectExact("current load case in a combination", [&] { document.EliminaCasoCarico(1); });
-    EXPECT_FALSE(document.GetIndexCombinazione(0)->IsCDC(1)); // the combination is whole without it
-    ExpectExact("group", [&] { document.EliminaGruppo(0); });
-    ExpectExact("material", [&] { document.Remove({document.GetIndexMateriale(0)}); });
-    ExpectExact("section", [&] { document.Remove({document.GetIndexSezione(1)}); });
-    ExpectExact("thickness", [&] { document.Remove({document.GetIndexSpessore(0)}); });
-    document.SelezionaTutto();
-    ExpectExact("everything", [&] { document.EliminaSelezione(); });
-    EXPECT_EQ(document.GetSizeNodi(), 0);
+    m_document.Selection().Add(m_document.GetIndexNodo(7)); // carries loads, meets beams, slabs and a wall
+    m_document.Selection().Add(m_document.GetIndexTrave(3));
+    ExpectExact("node with its elements", [&] { m_document.DeleteSelection(); });
+    EXPECT_TRUE(m_document.Selection().IsEmpty());
+    ExpectExact("load case", [&] { m_document.EliminaCasoCarico(m_document.GetIndexCasoCarico(2)->GetID()); });
+    ExpectExact("current load case in a combination", [&] { m_document.EliminaCasoCarico(1); });
+    EXPECT_FALSE(m_document.GetIndexCombinazione(0)->IsCDC(1)); // the combination is whole without it
+    ExpectExact("group", [&] { m_document.EliminaGruppo(0); });
+    ExpectExact("material", [&] { m_document.Remove({m_document.GetIndexMateriale(0)}); });
+    ExpectExact("section", [&] { m_document.Remove({m_document.GetIndexSezione(1)}); });
+    ExpectExact("thickness", [&] { m_document.Remove({m_document.GetIndexSpessore(0)}); });
+    m_document.SelectAll();
+    ExpectExact("everything", [&] { m_document.DeleteSelection(); });
+    EXPECT_EQ(m_document.GetSizeNodi(), 0);
     // All the way back over all of these, and forth again.
-    const std::string last = Dump(document.Data());
-    while (document.Undo().Undo()) {
+    const std::string last = Dump(m_document.Data());
+    while (m_document.Undo().Undo()) {
     }
-    while (document.Undo().Redo()) {
+    while (m_document.Undo().Redo()) {
     }
-    EXPECT_EQ(Dump(document.Data()), last);
+    EXPECT_EQ(Dump(m_document.Data()), last);
 }
 
 // Catches steps that swallow the next command, double, or never close.
 TEST_F(UndoTest, BracketsNestAndSurviveBeingForgotten) {
-    HostUndo& undo = document.Undo();
+    HostUndo& undo = m_document.Undo();
     const auto begin = [&](unsigned kind) { undo.BeginUndo(kind, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0); };
     const auto addNode = [&](double x) {
         CFPoint place(x, 50, 50);
-        return document.AddNodo(place, nullptr, 1);
+        return m_document.AddNodo(place, nullptr, 1);
     };
     begin(4);
     undo.EndUndo(4);
@@ -116,42 +116,42 @@ TEST_F(UndoTest, BracketsNestAndSurviveBeingForgotten) {
 // A node made again after its undo has the number that it had: otherwise numbers drift with every undo.
 TEST_F(UndoTest, NumbersAreGivenAgainAfterUndo) {
     CFPoint place(60, 0, 0);
-    const int id = document.AddNodo(place, nullptr, 1)->GetID();
-    document.Undo().Undo();
-    EXPECT_EQ(document.AddNodo(place, nullptr, 1)->GetID(), id);
+    const int id = m_document.AddNodo(place, nullptr, 1)->GetID();
+    m_document.Undo().Undo();
+    EXPECT_EQ(m_document.AddNodo(place, nullptr, 1)->GetID(), id);
 }
 
 TEST_F(UndoTest, ModifiedFollowsTheSavedState) {
-    document.MarkSaved();
-    EXPECT_FALSE(document.IsModified());
-    document.GenNodi2Punti({70, 0, 0}, {80, 0, 0}, 5);
-    EXPECT_TRUE(document.IsModified());
-    document.Undo().Undo();
-    EXPECT_FALSE(document.IsModified());
-    document.Undo().Redo();
-    document.MarkSaved();
-    document.Undo().Undo();
-    EXPECT_TRUE(document.IsModified());
+    m_document.MarkSaved();
+    EXPECT_FALSE(m_document.IsModified());
+    m_document.GenNodi2Punti({70, 0, 0}, {80, 0, 0}, 5);
+    EXPECT_TRUE(m_document.IsModified());
+    m_document.Undo().Undo();
+    EXPECT_FALSE(m_document.IsModified());
+    m_document.Undo().Redo();
+    m_document.MarkSaved();
+    m_document.Undo().Undo();
+    EXPECT_TRUE(m_document.IsModified());
     // Another change in the place of the saved one is not the saved one.
-    document.GenNodi2Punti({70, 0, 0}, {80, 0, 0}, 6);
-    EXPECT_TRUE(document.IsModified());
+    m_document.GenNodi2Punti({70, 0, 0}, {80, 0, 0}, 6);
+    EXPECT_TRUE(m_document.IsModified());
 }
 
 // With a scheduler, what happens before control is back in the loop is one step and one notification.
 TEST_F(UndoTest, ChangesOfOneTurnOfTheLoopAreOneStep) {
     int scheduled = 0;
-    document.SetIdleScheduler([&] { ++scheduled; });
+    m_document.SetIdleScheduler([&] { ++scheduled; });
     for (int i = 0; i < 10; ++i) {
         CFPoint place(i, 90, 0);
-        document.AddNodo(place, nullptr, 1);
+        m_document.AddNodo(place, nullptr, 1);
     }
     EXPECT_EQ(scheduled, 1);
-    document.Idle();
-    EXPECT_EQ(document.Undo().UndoCount(), 1u);
+    m_document.Idle();
+    EXPECT_EQ(m_document.Undo().UndoCount(), 1u);
     CFPoint place(0, 91, 0);
-    document.AddNodo(place, nullptr, 1);
-    document.Idle();
-    EXPECT_EQ(document.Undo().UndoCount(), 2u);
+    m_document.AddNodo(place, nullptr, 1);
+    m_document.Idle();
+    EXPECT_EQ(m_document.Undo().UndoCount(), 2u);
 }
 
 // A journal that looked for each object anew would outlast the runner's limit.

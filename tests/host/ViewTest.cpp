@@ -2,11 +2,11 @@
 #include "dialogs/frame/DialogDocument.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
-#include "host/ui/ViewWidget.h"
-#include "model/Nodo.h"
-#include "model/TipoElemento.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
+#include "host/view/ViewWidget.h"
+#include "model/element/Nodo.h"
+#include "model/element/TipoElemento.h"
+#include "model/element/Trave.h"
+#include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
 #include <vector>
@@ -15,7 +15,7 @@ namespace {
 
 enum : int { EditStartX = 1200, EditStartZ = 1202, EditX1 = 1227, EditX2 = 1230 }; // of the linear generation
 
-std::vector<CElemento*> selected(HostDocument& document) {
+std::vector<CElemento*> Selected(HostDocument& document) {
     return document.Selection().All();
 }
 
@@ -60,12 +60,12 @@ TEST_F(ViewTest, CameraDoesNotInterruptPickingButEscapeDoes) {
     DialogDriver driver(*OpenLinear());
     Click(PixelOf(*Document().GetIndexNodo(1)));
     const CPoint middle = View().Vista().GetViewport().CenterPoint();
-    const CFPoint axis = View().Vista().GetAsse(0);
+    const CFPoint axis = View().Vista().GetAxis(0);
     Drag(middle, {middle.x + 60, middle.y + 25}, Qt::RightButton);
-    EXPECT_FALSE(View().Vista().GetAsse(0) == axis) << "the right button turns the model";
-    const double scale = View().Vista().GetScala();
+    EXPECT_FALSE(View().Vista().GetAxis(0) == axis) << "the right button turns the model";
+    const double scale = View().Vista().GetScale();
     Wheel(middle, 1);
-    EXPECT_GT(View().Vista().GetScala(), scale);
+    EXPECT_GT(View().Vista().GetScale(), scale);
     const CPoint before = PixelOf(*Document().GetIndexNodo(2));
     Drag(middle, {middle.x - 30, middle.y + 10}, Qt::MiddleButton);
     EXPECT_EQ(PixelOf(*Document().GetIndexNodo(2)).x, before.x - 30);
@@ -80,7 +80,7 @@ TEST_F(ViewTest, CameraDoesNotInterruptPickingButEscapeDoes) {
     EXPECT_TRUE(driver.IsOpen()) << "only the mode ends";
     Click(PixelOf(*Document().GetIndexNodo(3)));
     EXPECT_EQ(driver.Text(EditX1), "4") << "the dialog gets no picks any more";
-    EXPECT_EQ(selected(Document()), Elements{Document().GetIndexNodo(3)});
+    EXPECT_EQ(Selected(Document()), Elements{Document().GetIndexNodo(3)});
 }
 
 // Catches a restart that goes on with a second point, and a prompt that the status bar does not show.
@@ -89,15 +89,15 @@ TEST_F(ViewTest, RestartAsksForAFirstPointAndShowsItsPrompt) {
     View().StartDefinisciVettore("Definisci il primo nodo.", "");
     Click(PixelOf(*Document().GetIndexNodo(0)));
     EXPECT_TRUE(View().Vector().secondIsNext);
-    EXPECT_EQ(workspace->Window().PromptText(), "Definisci il primo nodo.");
+    EXPECT_EQ(m_workspace->Window().PromptText(), "Definisci il primo nodo.");
     View().StopDefinisciVettore();
     View().StartDefinisciVettore("Definisci il secondo nodo.", "");
     EXPECT_FALSE(View().Vector().secondIsNext);
-    workspace->Window().Refresh();
-    EXPECT_EQ(workspace->Window().PromptText(), "Definisci il secondo nodo.");
+    m_workspace->Window().Refresh();
+    EXPECT_EQ(m_workspace->Window().PromptText(), "Definisci il secondo nodo.");
     View().StopDefinisciVettore();
-    workspace->Window().Refresh();
-    EXPECT_EQ(workspace->Window().PromptText(), "");
+    m_workspace->Window().Refresh();
+    EXPECT_EQ(m_workspace->Window().PromptText(), "");
 }
 
 // Catches a click that adds, a Ctrl-click that replaces, a rectangle that replaces or takes what it only touches.
@@ -107,13 +107,13 @@ TEST_F(ViewTest, ClickReplacesCtrlTogglesRectangleAdds) {
     CTrave* beam = document.GetIndexTrave(0);
     CTrave* other = document.GetIndexTrave(1);
     Click(PixelOf(CFPoint(2, 0, 0)));
-    EXPECT_EQ(selected(document), Elements{beam});
+    EXPECT_EQ(Selected(document), Elements{beam});
     Click(PixelOf(CFPoint(6, 0, 0)));
-    EXPECT_EQ(selected(document), Elements{other});
+    EXPECT_EQ(Selected(document), Elements{other});
     Click(PixelOf(CFPoint(2, 0, 0)), Qt::ControlModifier);
-    EXPECT_EQ(selected(document), (Elements{other, beam}));
+    EXPECT_EQ(Selected(document), (Elements{other, beam}));
     Click(PixelOf(CFPoint(6, 0, 0)), Qt::ControlModifier);
-    EXPECT_EQ(selected(document), Elements{beam});
+    EXPECT_EQ(Selected(document), Elements{beam});
 
     const CPoint corner = PixelOf(CFPoint(5.5, 0, 3.5));
     const CPoint far = PixelOf(CFPoint(8.5, 0, 6.5));
@@ -124,7 +124,7 @@ TEST_F(ViewTest, ClickReplacesCtrlTogglesRectangleAdds) {
     EXPECT_EQ(document.GetSizeSolaiSelect(), 0);
 
     Click(PixelOf(CFPoint(-0.8, 0, 5)));
-    EXPECT_TRUE(selected(document).empty()) << "a click on nothing empties the selection";
+    EXPECT_TRUE(Selected(document).empty()) << "a click on nothing empties the selection";
 }
 
 // Catches filters that are not asked, and hits on objects that the view does not show.
@@ -139,18 +139,18 @@ TEST_F(ViewTest, FiltersAndHiddenKindsAreNotHit) {
     EXPECT_TRUE(View().IsSelectElementi());
     Click(PixelOf(CFPoint(2, 0, 0)));
     Click(PixelOf(*document.GetIndexNodo(1)), Qt::ControlModifier);
-    EXPECT_TRUE(selected(document).empty());
+    EXPECT_TRUE(Selected(document).empty());
     Click(PixelOf(CFPoint(3, 0, 5)));
     EXPECT_EQ(document.GetSizeSolaiSelect(), 1);
     View().SetFilter({false, false, false, false, false});
     EXPECT_FALSE(View().IsSelectElementi());
     Drag({3, 3}, {View().Widget().width() - 3, View().Widget().height() - 3});
-    EXPECT_EQ(selected(document).size(), 1u) << "an empty filter selects nothing";
+    EXPECT_EQ(Selected(document).size(), 1u) << "an empty filter selects nothing";
 
     View().SetFilter({});
-    View().SetShown(TipoElemento::Trave, CElementoSettings::Oggetto, false);
+    View().SetShown(TipoElemento::Trave, CElementoSettings::Object, false);
     Click(PixelOf(CFPoint(2, 0, 0)));
-    EXPECT_TRUE(selected(document).empty());
+    EXPECT_TRUE(Selected(document).empty());
 }
 
 // Catches a view that draws the model at every mouse move, and one that keeps a picture which is out of date.
@@ -172,13 +172,13 @@ TEST_F(ViewTest, DrawsTheModelOnlyWhenItChanged) {
 // Catches an orbit that tilts columns, and a zoom that loses the point under the pointer.
 TEST_F(ViewTest, OrbitKeepsTheVerticalAndZoomThePointer) {
     BuildSmallModel();
-    View().SetDirection(Adv3d::Assonometria);
+    View().SetDirection(Adv3d::Axonometry);
     View().Orbit(70, -20);
-    EXPECT_NEAR(View().Vista().GetAsse(0).z, 0, 1e-9) << "the screen's horizontal stays level";
+    EXPECT_NEAR(View().Vista().GetAxis(0).z, 0, 1e-9) << "the screen's horizontal stays level";
     const CPoint at(200, 150);
     const CFPoint under = View().Vista().Unproject(at, View().Vista().GetTarget());
     View().Zoom(2, at);
     EXPECT_NEAR(CFPoint::GetMod(View().Vista().Unproject(at, View().Vista().GetTarget()), under), 0, 1e-6);
     View().Zoom(1e30, at);
-    EXPECT_LT(View().Vista().GetScala(), 1e9);
+    EXPECT_LT(View().Vista().GetScale(), 1e9);
 }

@@ -2,13 +2,13 @@
 
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
-#include "host/ui/ViewWidget.h"
-#include "model/Asta.h"
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Solaio.h"
-#include "model/Trave.h"
-#include "platform/Application.h"
+#include "host/view/ViewWidget.h"
+#include "model/element/Asta.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "platform/window/Application.h"
 #include "tests/host/Dump.h"
 #include "tests/support/DialogTest.h"
 
@@ -19,14 +19,14 @@
 
 WorkspaceTest::WorkspaceTest() {
     AttachDialogModule();
-    workspace = std::make_unique<Workspace>();
-    workspace->Window().show();
-    workspace->NewDocument();
+    m_workspace = std::make_unique<Workspace>();
+    m_workspace->Window().show();
+    m_workspace->NewDocument();
     CWinApp::PumpMessages();
 }
 
 WorkspaceTest::~WorkspaceTest() {
-    workspace.reset();
+    m_workspace.reset();
     CWinApp::PumpMessages();
 }
 
@@ -45,7 +45,7 @@ void WorkspaceTest::BuildSmallModel() {
     CWinApp::PumpMessages();
     document.Undo().Clear();
     document.MarkSaved();
-    View().SetDirection(Adv3d::Fronte);
+    View().SetDirection(Adv3d::Front);
     CWinApp::PumpMessages();
 }
 
@@ -55,27 +55,27 @@ CPoint WorkspaceTest::PixelOf(CNodo& node) {
 
 namespace {
 
-QPoint inWindow(HostView& view, CPoint at) {
+QPoint InWindow(HostView& view, CPoint at) {
     return view.Widget().mapTo(view.Widget().QWidget::window(), QPoint(at.x, at.y));
 }
 
-QWindow* nativeWindow(HostView& view) {
+QWindow* NativeWindow(HostView& view) {
     return view.Widget().QWidget::window()->windowHandle();
 }
 
 } // namespace
 
 void WorkspaceTest::Click(CPoint at, Qt::KeyboardModifiers modifiers) {
-    QTest::mouseClick(nativeWindow(View()), Qt::LeftButton, modifiers, inWindow(View(), at));
+    QTest::mouseClick(NativeWindow(View()), Qt::LeftButton, modifiers, InWindow(View(), at));
     CWinApp::PumpMessages();
 }
 
 void WorkspaceTest::Drag(CPoint from, CPoint to, Qt::MouseButton button) {
-    QWindow* window = nativeWindow(View());
-    QTest::mousePress(window, button, Qt::NoModifier, inWindow(View(), from));
-    QTest::mouseMove(window, inWindow(View(), CPoint((from.x + to.x) / 2, (from.y + to.y) / 2)));
-    QTest::mouseMove(window, inWindow(View(), to));
-    QTest::mouseRelease(window, button, Qt::NoModifier, inWindow(View(), to));
+    QWindow* window = NativeWindow(View());
+    QTest::mousePress(window, button, Qt::NoModifier, InWindow(View(), from));
+    QTest::mouseMove(window, InWindow(View(), CPoint((from.x + to.x) / 2, (from.y + to.y) / 2)));
+    QTest::mouseMove(window, InWindow(View(), to));
+    QTest::mouseRelease(window, button, Qt::NoModifier, InWindow(View(), to));
     CWinApp::PumpMessages();
 }
 
@@ -91,13 +91,13 @@ void WorkspaceTest::Press(Qt::Key key) {
     View().Widget().activateWindow();
     View().Widget().setFocus();
     CWinApp::PumpMessages();
-    QTest::keyClick(nativeWindow(View()), key);
+    QTest::keyClick(NativeWindow(View()), key);
     CWinApp::PumpMessages();
 }
 
 void WorkspaceTest::Trigger(const char* command) {
-    workspace->Window().Refresh();
-    QAction* action = workspace->Window().Command(command);
+    m_workspace->Window().Refresh();
+    QAction* action = m_workspace->Window().Command(command);
     ASSERT_TRUE(action) << "no command " << command;
     ASSERT_TRUE(action->isEnabled()) << command << " is disabled";
     action->trigger();
@@ -106,7 +106,7 @@ void WorkspaceTest::Trigger(const char* command) {
 
 CDialogDocument* WorkspaceTest::OpenLinear() {
     Trigger("genera.Generazione Nodi Lineare");
-    CDialogDocument* dialog = workspace->ToolOf(View());
+    CDialogDocument* dialog = m_workspace->ToolOf(View());
     EXPECT_TRUE(dialog) << "the dialog does not open";
     return dialog;
 }

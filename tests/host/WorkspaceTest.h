@@ -1,8 +1,8 @@
 // Base of the tests of the application's windows: a workspace with one document, driven by keys and pointer.
 #pragma once
 
-#include "host/ui/HostView.h"
 #include "host/ui/Workspace.h"
+#include "host/view/HostView.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/UserScript.h"
 
@@ -22,12 +22,12 @@ class WorkspaceTest : public testing::Test {
     WorkspaceTest();
     ~WorkspaceTest() override;
 
-    HostView& View() { return *workspace->ActiveView(); }
+    HostView& View() { return *m_workspace->ActiveView(); }
     HostDocument& Document() { return View().Document(); }
     // Two beams along X with three nodes, a truss member, a slab above and a wall; unmodified, seen along Y.
     void BuildSmallModel();
 
-    CPoint PixelOf(const CFPoint& point) { return View().Vista().Project(point).pixel(); }
+    CPoint PixelOf(const CFPoint& point) { return View().Vista().Project(point).Pixel(); }
     CPoint PixelOf(CNodo& node);
     void Click(CPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void Drag(CPoint from, CPoint to, Qt::MouseButton button = Qt::LeftButton);
@@ -43,6 +43,6 @@ class WorkspaceTest : public testing::Test {
     // One step of that name; see ExpectExact.
     void ExpectOneStep(const char* name, const std::function<void()>& command);
 
-    UserScript user;
-    std::unique_ptr<Workspace> workspace;
+    UserScript m_user;
+    std::unique_ptr<Workspace> m_workspace;
 };

@@ -1,6 +1,6 @@
 // Copies for undo: whole, free of pointers, and good for bringing an object back.
-#include "model/CasoCarico.h"
-#include "model/Copia.h"
+#include "model/element/Copy.h"
+#include "model/entity/CasoCarico.h"
 #include "tests/model/SmallModel.h"
 
 #include <algorithm>
@@ -8,18 +8,18 @@
 
 namespace {
 
-class Finder : public CercaModello {
+class Finder : public ModelLookup {
   public:
     Finder(SmallModel& model, CCasoCarico& loadCase) : m_model(model), m_case(loadCase) {}
 
-    CNodo* CercaNodo(int id) override {
+    CNodo* FindNode(int id) override {
         const auto found = std::ranges::find(m_model.nodes, id, [](const auto& node) { return node->GetID(); });
         return found == m_model.nodes.end() ? nullptr : found->get();
     }
-    CMateriale* CercaMateriale(int id) override { return id == 1 ? &m_model.material : nullptr; }
-    CSezione* CercaSezione(int id) override { return id == 1 ? &m_model.section : nullptr; }
-    CSpessore* CercaSpessore(int id) override { return id == 1 ? &m_model.thickness : nullptr; }
-    CCarico* CercaCarico(int idCase, int id) override {
+    CMateriale* FindMaterial(int id) override { return id == 1 ? &m_model.material : nullptr; }
+    CSezione* FindSection(int id) override { return id == 1 ? &m_model.section : nullptr; }
+    CSpessore* FindThickness(int id) override { return id == 1 ? &m_model.thickness : nullptr; }
+    CCarico* FindLoad(int idCase, int id) override {
         return idCase == m_case.GetID() ? m_case.GetCarico(id, nullptr) : nullptr;
     }
 
@@ -30,19 +30,19 @@ class Finder : public CercaModello {
 
 class CopyTest : public testing::Test {
   protected:
-    CopyTest() { loadCase.SetID(3); }
+    CopyTest() { m_loadCase.SetID(3); }
 
-    CCasoCarico loadCase;
-    SmallModel m;
-    Finder finder{m, loadCase};
+    CCasoCarico m_loadCase;
+    SmallModel m_m;
+    Finder m_finder{m_m, m_loadCase};
 };
 
 // Faults: a copy that enters the nodes' lists, keeps pointers, forgets a field, or shares what the original owns.
 TEST_F(CopyTest, ALineComesBackAfterEverythingElseChanged) {
-    CNodo &a = m.node(0, 0, 0), &b = m.node(1, 0, 0), &c = m.node(2, 0, 0);
-    auto* load = new CCaricoUniforme(CFPoint(0, 0, -1), CCarico::Globale);
-    loadCase.AddCarico(load);
-    CTrave& beam = m.beam(a, b);
+    CNodo &a = m_m.Node(0, 0, 0), &b = m_m.Node(1, 0, 0), &c = m_m.Node(2, 0, 0);
+    auto* load = new CCaricoUniforme(CFPoint(0, 0, -1), CCarico::Global);
+    m_loadCase.AddCarico(load);
+    CTrave& beam = m_m.Beam(a, b);
     beam.SetBeta(45);
     beam.SetSelect(1);
     beam.AddCarico(load, 1);
@@ -51,11 +51,11 @@ TEST_F(CopyTest, ALineComesBackAfterEverythingElseChanged) {
     const auto state = [&] {
         return std::tuple(beam.GetNodoIniziale(), beam.GetNodoFinale(), a.GetSizeElementi(), c.GetSizeElementi(),
                           beam.GetBeta(), beam.IsSelect(), beam.GetSezione(), beam.GetIndexCarico(0), beam.IsGruppo(2),
-                          beam.GetSvincoli(0), beam.GetID());
+                          beam.GetReleases(0), beam.GetID());
     };
     const auto before = state();
 
-    const std::unique_ptr<CElemento> copy = CreaCopia(beam);
+    const std::unique_ptr<CElemento> copy = CopyOf(beam);
     auto* const line = dynamic_cast<CTrave*>(copy.get());
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(state(), before);
@@ -71,64 +71,64 @@ TEST_F(CopyTest, ALineComesBackAfterEverythingElseChanged) {
     beam.EliminaGruppo(2);
     beam.EliminaIndexSpecifica(0);
     beam.SetID(99);
-    EXPECT_TRUE(RipristinaStato(beam, *copy, finder));
+    EXPECT_TRUE(RestoreState(beam, *copy, m_finder));
     EXPECT_EQ(state(), before);
-    EXPECT_EQ(beam.GetSvincoli(0), 8u);
+    EXPECT_EQ(beam.GetReleases(0), 8u);
     EXPECT_EQ(line->GetSizeSpecifiche(), 1);
 }
 
 // Faults: what cannot be found is passed over in silence, or tears a hole into the rest.
 TEST_F(CopyTest, MissingObjectsAreReported) {
-    CNodo &a = m.node(0, 0, 0), &b = m.node(1, 0, 0);
+    CNodo &a = m_m.Node(0, 0, 0), &b = m_m.Node(1, 0, 0);
     auto* load = new CCaricoNodale;
-    const int number = loadCase.AddCarico(load);
-    CTrave& beam = m.beam(a, b);
+    const int number = m_loadCase.AddCarico(load);
+    CTrave& beam = m_m.Beam(a, b);
     beam.AddCarico(load, 1);
-    const std::unique_ptr<CElemento> copy = CreaCopia(beam);
+    const std::unique_ptr<CElemento> copy = CopyOf(beam);
     beam.EliminaCarichi();
-    loadCase.EliminaCarico(number);
-    EXPECT_FALSE(RipristinaStato(beam, *copy, finder));
+    m_loadCase.EliminaCarico(number);
+    EXPECT_FALSE(RestoreState(beam, *copy, m_finder));
     EXPECT_EQ(beam.GetNodoFinale(), &b);
     EXPECT_EQ(beam.GetSizeCarichi(), 1); // the reference stays, unlinked
     EXPECT_EQ(beam.GetIndexCarico(0), nullptr);
 
-    const std::unique_ptr<CElemento> orphan = CreaCopia(beam);
-    m.nodes.pop_back();
-    EXPECT_FALSE(Ricollega(*orphan, finder));
+    const std::unique_ptr<CElemento> orphan = CopyOf(beam);
+    m_m.nodes.pop_back();
+    EXPECT_FALSE(Relink(*orphan, m_finder));
     EXPECT_EQ(orphan->GetIndexNodo(0), nullptr); // no half lines
     EXPECT_EQ(a.GetSizeElementi(), 1);
 }
 
 TEST_F(CopyTest, NodesPolygonsAndEntities) {
     NodeGrid grid;
-    CNodo &a = m.node(0, 0, 0), &b = m.node(1, 0, 0), &c = m.node(0, 1, 0);
+    CNodo &a = m_m.Node(0, 0, 0), &b = m_m.Node(1, 0, 0), &c = m_m.Node(0, 1, 0);
     grid.Insert(&a);
     const CVincolo clamp(63u);
-    a.SetVincolo(&clamp);
-    a.AddMolla(CMolla(0, 5, CFPoint(1, 0, 0)));
-    CSetto& wall = m.polygon<CSetto>({&a, &b, &c});
-    const std::unique_ptr<CElemento> node = CreaCopia(a), polygon = CreaCopia(wall);
+    a.SetRestraint(&clamp);
+    a.AddSpring(CMolla(0, 5, CFPoint(1, 0, 0)));
+    CSetto& wall = m_m.Polygon<CSetto>({&a, &b, &c});
+    const std::unique_ptr<CElemento> node = CopyOf(a), polygon = CopyOf(wall);
     EXPECT_EQ(grid.GetSize(), 1);
-    a.SetPunto(CFPoint(5, 5, 5));
-    a.SetVincolo(nullptr);
-    a.EliminaMolle();
+    a.SetPoint(CFPoint(5, 5, 5));
+    a.SetRestraint(nullptr);
+    a.RemoveSprings();
     wall.EliminaVertice(1);
-    EXPECT_TRUE(RipristinaStato(a, *node, finder));
-    EXPECT_TRUE(RipristinaStato(wall, *polygon, finder));
+    EXPECT_TRUE(RestoreState(a, *node, m_finder));
+    EXPECT_TRUE(RestoreState(wall, *polygon, m_finder));
     EXPECT_EQ(grid.Find({0, 0, 0}, nullptr, 1e-5), &a);
-    EXPECT_EQ(a.GetVincolo()->GetMaschera(), 63u);
+    EXPECT_EQ(a.GetVincolo()->GetMask(), 63u);
     EXPECT_EQ(a.GetSizeMolle(), 1);
     EXPECT_EQ(wall.GetSize(), 3);
     EXPECT_EQ(wall.GetVertice(1), &b);
     EXPECT_EQ(b.GetSizeElementi(), 1);
 
-    m.material.SetNome("C25/30");
-    const std::unique_ptr<CElemento> material = CreaCopia(m.material);
-    m.material.SetE(1);
-    m.material.SetNome("");
-    EXPECT_TRUE(RipristinaStato(m.material, *material, finder));
-    EXPECT_EQ(m.material.GetE(), 3e7);
-    EXPECT_STREQ(m.material.GetNome(), "C25/30");
+    m_m.material.SetNome("C25/30");
+    const std::unique_ptr<CElemento> material = CopyOf(m_m.material);
+    m_m.material.SetE(1);
+    m_m.material.SetNome("");
+    EXPECT_TRUE(RestoreState(m_m.material, *material, m_finder));
+    EXPECT_EQ(m_m.material.GetE(), 3e7);
+    EXPECT_STREQ(m_m.material.GetNome(), "C25/30");
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // Named entities: load cases and their loads, combinations, groups, sections; and the loads that elements carry.
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/Gruppo.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
 #include "tests/model/SmallModel.h"
 
 #include <cmath>
@@ -63,31 +63,31 @@ TEST(EntityTest, Groups) {
     EXPECT_TRUE(group.AddElemento(TipoElemento::Trave, 5));
     EXPECT_TRUE(group.AddElemento(TipoElemento::Asta, 1));
     EXPECT_FALSE(group.AddElemento(TipoElemento::Trave, 5));
-    EXPECT_TRUE(group.EliminaElemento(TipoElemento::Nodo, 5));
+    EXPECT_TRUE(group.RemoveElement(TipoElemento::Nodo, 5));
     EXPECT_TRUE(group.IsElemento(TipoElemento::Trave, 5));
-    EXPECT_TRUE(group.EliminaElemento(TipoElemento::Asta, 1) && group.EliminaElemento(TipoElemento::Trave, 5));
+    EXPECT_TRUE(group.RemoveElement(TipoElemento::Asta, 1) && group.RemoveElement(TipoElemento::Trave, 5));
     EXPECT_EQ(group.GetSizeElementi(), 0);
-    EXPECT_EQ(group.GetIDIndexElemento(0), 0);
+    EXPECT_EQ(group.GetElementIdAt(0), 0);
 }
 
 // Faults: width and height swapped, a power of the length forgotten in one property.
 TEST(EntityTest, SectionsAndMaterialsChangeUnits) {
     CSezione s;
-    EXPECT_FALSE(s.SetRettangolo(0, 1));
-    ASSERT_TRUE(s.SetRettangolo(0.3, 0.5));
+    EXPECT_FALSE(s.SetRectangle(0, 1));
+    ASSERT_TRUE(s.SetRectangle(0.3, 0.5));
     // A vertical load bends about axis 2: the height counts.
-    expectNumbers({{s.GetI2(), 0.3 * 0.125 / 12}, {s.GetI3(), 0.5 * 0.027 / 12}});
+    ExpectNumbers({{s.GetI2(), 0.3 * 0.125 / 12}, {s.GetI3(), 0.5 * 0.027 / 12}});
     EXPECT_NEAR(s.GetJ(), 0.002817, 1e-5); // handbook: 0.2087 b^3 h at h/b = 5/3
-    s.ChangeLunghezza(Lunghezza::Centimetri);
-    expectNumbers({{s.GetArea(), 1500}, {s.GetI2(), 312500}, {s.GetW2(), 12500}, {s.GetBase(), 30}});
+    s.ChangeLunghezza(Lunghezza::Centimetres);
+    ExpectNumbers({{s.GetArea(), 1500}, {s.GetI2(), 312500}, {s.GetW2(), 12500}, {s.GetBase(), 30}});
 
     CMateriale steel; // in kN and m
     steel.SetE(2.1e8);
-    steel.SetPesoSpecifico(78.5);
-    steel.ChangeLunghezza(Lunghezza::Millimetri);
+    steel.SetUnitWeight(78.5);
+    steel.ChangeLunghezza(Lunghezza::Millimetres);
     steel.ChangeForza(Forza::Newton);
-    expectNumbers({{steel.GetE(), 210000}, {steel.GetPesoSpecifico(), 7.85e-5}});
-    EXPECT_NEAR(steel.GetDensita(), 8.0047e-9, 1e-13); // t/mm^3
+    ExpectNumbers({{steel.GetE(), 210000}, {steel.GetUnitWeight(), 7.85e-5}});
+    EXPECT_NEAR(steel.GetDensity(), 8.0047e-9, 1e-13); // t/mm^3
 }
 
 // Faults: loads shared by the copy, the copy's loads still naming the source case (the list dialog then loses them), a
@@ -97,7 +97,7 @@ TEST(LoadTest, CopyingACaseCopiesItsLoads) {
     source.SetID(1);
     source.SetNome("Vento");
     copy.SetID(8);
-    auto* load = new CCaricoUniforme(CFPoint(0, 0, -5), CCarico::Globale);
+    auto* load = new CCaricoUniforme(CFPoint(0, 0, -5), CCarico::Global);
     const int number = source.AddCarico(load);
     source.AddCarico(new CCaricoNodale(CFPoint(1, 2, 3), CFPoint()));
     EXPECT_EQ(source.AddCarico(nullptr), 0);
@@ -117,7 +117,7 @@ TEST(LoadTest, CopyingACaseCopiesItsLoads) {
     EXPECT_EQ(copy.GetCarico(99, &index), nullptr);
     EXPECT_EQ(index, -1);
 
-    const std::unique_ptr<CCarico> taken = source.StaccaCarico(number);
+    const std::unique_ptr<CCarico> taken = source.DetachLoad(number);
     EXPECT_EQ(taken.get(), load);
     EXPECT_NE(source.AddCarico(new CCaricoNodale), number); // numbers are not given twice
     EXPECT_EQ(source.GetSizeCarichi(), 2);
@@ -128,11 +128,11 @@ TEST(LoadTest, ElementsReferToLoads) {
     CCasoCarico wind, snow;
     wind.SetID(1);
     snow.SetID(2);
-    auto* w = new CCaricoUniforme(CFPoint(0, 1, 0), CCarico::Globale);
+    auto* w = new CCaricoUniforme(CFPoint(0, 1, 0), CCarico::Global);
     auto* s = new CCaricoTemperatura;
     wind.AddCarico(w);
     snow.AddCarico(s); // both are load 1 of their case
-    s->SetIDInsieme(6);
+    s->SetSetId(6);
     CTrave beam;
     EXPECT_FALSE(beam.AddCarico(nullptr, 1));
     EXPECT_TRUE(beam.AddCarico(w, 1));
@@ -147,7 +147,7 @@ TEST(LoadTest, ElementsReferToLoads) {
     EXPECT_FALSE(beam.ThereCaricoTemperatura(1));
     EXPECT_TRUE(beam.IsCaricoInsieme(2, 6));
     EXPECT_EQ(beam.EliminaCaricoInsieme(1, 6), 0);
-    EXPECT_EQ(beam.EliminaCarichiCaso(1), 1);
+    EXPECT_EQ(beam.RemoveLoadsOfCase(1), 1);
     EXPECT_EQ(beam.GetIndexCarico(0), s);
     EXPECT_EQ(beam.EliminaCarico(2, 1), 1);
     EXPECT_FALSE(beam.EliminaCarico(0));
@@ -159,31 +159,31 @@ TEST(LoadTest, LoadsChangeUnitsWithTheirCase) {
     const auto add = [&](auto* load) { return c.AddCarico(load), load; };
     auto* nodal = add(new CCaricoNodale(CFPoint(1, 0, 0), CFPoint(0, 2, 0)));
     auto* settlement = add(new CCaricoSpostamento(CFPoint(0, 0, 0.01), CFPoint(0.5, 0, 0)));
-    auto* uniform = add(new CCaricoUniforme(CFPoint(0, 0, 3), CCarico::Locale));
+    auto* uniform = add(new CCaricoUniforme(CFPoint(0, 0, 3), CCarico::Local));
     auto* trapezoid = add(new CCaricoTrapezoidale);
-    trapezoid->GetTratto(1) = {1, 2, 3, 4};
-    auto* point = add(new CCaricoConcentrato(CFPoint(0, 5, 0), 1.5, CCarico::Locale));
+    trapezoid->GetStretch(1) = {1, 2, 3, 4};
+    auto* point = add(new CCaricoConcentrato(CFPoint(0, 5, 0), 1.5, CCarico::Local));
     auto* heat = add(new CCaricoTemperatura);
-    heat->GetTemperatura() = 20;
-    heat->GetGradiente2() = 10;
+    heat->GetTemperature() = 20;
+    heat->GetGradient2() = 10;
     auto* weight = add(new CCaricoPesoProprio(CFPoint(0, 0, -9.80665)));
-    c.ChangeLunghezza(Lunghezza::Millimetri);
+    c.ChangeLunghezza(Lunghezza::Millimetres);
     c.ChangeForza(Forza::Newton);
 
     // kN/m is N/mm.
-    expectNumbers({{nodal->GetVettoreForza().x, 1000}, {nodal->GetVettoreMomento().y, 2e6}});
-    expectNumbers({{settlement->GetSpostamento().z, 10}, {settlement->GetRotazione().x, 0.5}});
-    expectNumbers({{uniform->GetCarico().z, 3}, {weight->GetAccelerazione().z, -9806.65}});
-    expectNumbers({{trapezoid->GetTratto(1).a, 2000}, {trapezoid->GetTratto(1).fine, 4}});
-    expectNumbers({{point->GetVettoreForza().y, 5000}, {point->GetDistanza(), 1500}});
-    expectNumbers({{heat->GetTemperatura(), 20}, {heat->GetGradiente2(), 0.01}});
-    EXPECT_EQ(weight->GetLunghezza(), Lunghezza::Millimetri);
+    ExpectNumbers({{nodal->GetForceVector().x, 1000}, {nodal->GetMomentVector().y, 2e6}});
+    ExpectNumbers({{settlement->GetDisplacement().z, 10}, {settlement->GetRotation().x, 0.5}});
+    ExpectNumbers({{uniform->GetCarico().z, 3}, {weight->GetAcceleration().z, -9806.65}});
+    ExpectNumbers({{trapezoid->GetStretch(1).a, 2000}, {trapezoid->GetStretch(1).fine, 4}});
+    ExpectNumbers({{point->GetForceVector().y, 5000}, {point->GetDistance(), 1500}});
+    ExpectNumbers({{heat->GetTemperature(), 20}, {heat->GetGradient2(), 0.01}});
+    EXPECT_EQ(weight->GetLunghezza(), Lunghezza::Millimetres);
 
     // A load that comes later is in the case's units already.
     auto* late = new CCaricoNodale(CFPoint(1, 0, 0), CFPoint());
     c.AddCarico(late);
-    c.ChangeForza(Forza::ChiloNewton);
-    EXPECT_NEAR(late->GetVettoreForza().x, 0.001, 1e-15);
+    c.ChangeForza(Forza::KiloNewtons);
+    EXPECT_NEAR(late->GetForceVector().x, 0.001, 1e-15);
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 
 namespace {
 
-void expectPoint(const CFPoint& got, const CFPoint& wanted) {
+void ExpectPoint(const CFPoint& got, const CFPoint& wanted) {
     EXPECT_NEAR(got.x, wanted.x, 1e-12);
     EXPECT_NEAR(got.y, wanted.y, 1e-12);
     EXPECT_NEAR(got.z, wanted.z, 1e-12);
@@ -31,12 +31,12 @@ TEST(LineTest, LocalAxes) {
     };
     for (const Case& c : cases) {
         SmallModel m;
-        CTrave& beam = m.beam(m.node(c.from.x, c.from.y, c.from.z), m.node(c.to.x, c.to.y, c.to.z));
+        CTrave& beam = m.Beam(m.Node(c.from.x, c.from.y, c.from.z), m.Node(c.to.x, c.to.y, c.to.z));
         beam.SetBeta(c.beta);
         CFPoint axis;
         for (int i = 0; i < 3; ++i) {
             ASSERT_TRUE(beam.GetDir(axis, i));
-            expectPoint(axis, c.axes[i]);
+            ExpectPoint(axis, c.axes[i]);
         }
         EXPECT_FALSE(beam.GetDir(axis, 3));
     }
@@ -45,7 +45,7 @@ TEST(LineTest, LocalAxes) {
 // Fault: a division by the length of a line that has none.
 TEST(LineTest, ALineWithoutLengthHasNoDirection) {
     SmallModel m;
-    CTrave& point = m.beam(m.node(1, 1, 1), m.node(1, 1, 1));
+    CTrave& point = m.Beam(m.Node(1, 1, 1), m.Node(1, 1, 1));
     CTrave empty;
     for (CTrave* line : {&point, &empty}) {
         CFPoint axis(9, 9, 9);
@@ -59,7 +59,7 @@ TEST(LineTest, ALineWithoutLengthHasNoDirection) {
 
 TEST(LineTest, RangeAndParallel) {
     SmallModel m;
-    CTrave& beam = m.beam(m.node(0, 0, 0), m.node(3, 4, 0));
+    CTrave& beam = m.Beam(m.Node(0, 0, 0), m.Node(3, 4, 0));
     EXPECT_DOUBLE_EQ(beam.GetLunghezzaLinea(), 5);
     EXPECT_TRUE(beam.IsInRange(CFPoint(3, 4, 0), CFPoint(0, 0, 0)));    // corners in any order, limits included
     EXPECT_FALSE(beam.IsInRange(CFPoint(0, 0, 0), CFPoint(2.9, 4, 0))); // one end outside
@@ -71,45 +71,45 @@ TEST(LineTest, RangeAndParallel) {
 // Faults: the ends mixed up, a second specification hiding the first, ownership lost (leaks show under the sanitizer).
 TEST(LineTest, ReleasesOfBothEnds) {
     SmallModel m;
-    CTrave& beam = m.beam(m.node(0, 0, 0), m.node(5, 0, 0));
-    EXPECT_EQ(beam.GetSvincoli(0), 0u);
+    CTrave& beam = m.Beam(m.Node(0, 0, 0), m.Node(5, 0, 0));
+    EXPECT_EQ(beam.GetReleases(0), 0u);
     EXPECT_FALSE(beam.AddSpecifica(nullptr));
     beam.AddSpecifica(new CSpecificheSvincoliTrave(0, 0, 0, 1, 0));
     beam.AddSpecifica(new CSpecificheSvincoliTrave(0, 0, 1, 0, 0));
     beam.AddSpecifica(new CSpecificheSvincoliTrave(1, 1, 0, 0, 1));
-    EXPECT_EQ(beam.GetSvincoli(0), 1u << CSpecificheSvincoliTrave::M2 | 1u << CSpecificheSvincoliTrave::T);
-    EXPECT_EQ(beam.GetSvincoli(1), 1u << CSpecificheSvincoliTrave::N | 1u << CSpecificheSvincoliTrave::M3);
+    EXPECT_EQ(beam.GetReleases(0), 1u << CSpecificheSvincoliTrave::M2 | 1u << CSpecificheSvincoliTrave::T);
+    EXPECT_EQ(beam.GetReleases(1), 1u << CSpecificheSvincoliTrave::N | 1u << CSpecificheSvincoliTrave::M3);
     EXPECT_EQ(beam.GetIndexSpecifica(3), nullptr);
 
     const int id = beam.GetIndexIDSpecifiche(1);
     EXPECT_TRUE(beam.EliminaSpecifica(id));
     EXPECT_FALSE(beam.EliminaSpecifica(id));
-    EXPECT_EQ(beam.GetSvincoli(0), 1u << CSpecificheSvincoliTrave::M2);
+    EXPECT_EQ(beam.GetReleases(0), 1u << CSpecificheSvincoliTrave::M2);
 
     CSpecificheSvincoliTrave changed(1, 0, 0, 0, 0);
     changed.SetID(beam.GetIndexIDSpecifiche(1));
     CObArray array;
     array.Add(&changed);
     EXPECT_EQ(beam.AggiornaSpecifiche(&array), 1);
-    EXPECT_EQ(beam.GetSvincoli(1), 0u);
+    EXPECT_EQ(beam.GetReleases(1), 0u);
     EXPECT_TRUE(beam.SetSpecifica(0, 9, new CSpecificheSvincoliTrave(0, 1, 1, 1, 1)));
-    EXPECT_EQ(beam.GetSvincoli(0), 15u);
+    EXPECT_EQ(beam.GetReleases(0), 15u);
     EXPECT_TRUE(beam.EliminaIndexSpecifica(0));
-    EXPECT_EQ(beam.GetSvincoli(0), 0u);
+    EXPECT_EQ(beam.GetReleases(0), 0u);
 }
 
 // Faults: assigning by the wrong static type copies the node pointers too, and both lines then leave the lists for one.
 TEST(LineTest, AssignmentTakesAttributesAndNotNodes) {
     SmallModel m;
-    CNodo &a = m.node(0, 0, 0), &b = m.node(1, 0, 0), &c = m.node(2, 0, 0), &d = m.node(3, 0, 0);
-    CTrave& from = m.beam(a, b);
+    CNodo &a = m.Node(0, 0, 0), &b = m.Node(1, 0, 0), &c = m.Node(2, 0, 0), &d = m.Node(3, 0, 0);
+    CTrave& from = m.Beam(a, b);
     from.SetBeta(30);
     from.AddGruppo(4);
     from.AddSpecifica(new CSpecificheSvincoliTrave(1, 0, 0, 1, 0));
     from.SetSelect(1);
     from.SetVisible(0);
     for (int way = 0; way < 3; ++way) {
-        CTrave& to = m.beam(c, d);
+        CTrave& to = m.Beam(c, d);
         const int id = to.GetID();
         to.SetMateriale(0, nullptr);
         if (way == 0)
@@ -123,13 +123,13 @@ TEST(LineTest, AssignmentTakesAttributesAndNotNodes) {
         EXPECT_EQ(to.GetBeta(), 30);
         EXPECT_EQ(to.GetMateriale(), &m.material);
         EXPECT_TRUE(to.IsGruppo(4));
-        EXPECT_EQ(to.GetSvincoli(1), 4u);
+        EXPECT_EQ(to.GetReleases(1), 4u);
         EXPECT_FALSE(to.IsSelect() || to.IsVisible());
     }
     EXPECT_EQ(a.GetSizeElementi(), 1);
 
     // A truss member takes what both kinds have.
-    CAsta& member = m.line<CAsta>(c, d);
+    CAsta& member = m.Line<CAsta>(c, d);
     member.SetSezione(0, nullptr);
     EXPECT_TRUE(member.AssegnaAttributi(&from));
     EXPECT_EQ(member.GetSezione(), &m.section);

@@ -6,7 +6,7 @@
 
 namespace {
 
-std::set<CElemento*> at(CNodo& node) {
+std::set<CElemento*> At(CNodo& node) {
     std::set<CElemento*> found;
     for (int i = 0; i < node.GetSizeElementi(); ++i)
         found.insert(node.GetIndexElemento(i));
@@ -22,19 +22,19 @@ using Elements = std::set<CElemento*>;
 // air.
 TEST(LinksTest, ALineFollowsItsNodes) {
     SmallModel m;
-    CNodo &a = m.node(0, 0, 0), &b = m.node(6, 0, 0), &c = m.node(2, 0, 0);
-    CTrave& beam = m.beam(a, b);
+    CNodo &a = m.Node(0, 0, 0), &b = m.Node(6, 0, 0), &c = m.Node(2, 0, 0);
+    CTrave& beam = m.Beam(a, b);
     EXPECT_TRUE(beam.SetNodi(&a, &c)); // as the division of a line does
-    EXPECT_EQ(at(a), Elements{&beam});
-    EXPECT_EQ(at(b), Elements{});
-    EXPECT_EQ(at(c), Elements{&beam});
+    EXPECT_EQ(At(a), Elements{&beam});
+    EXPECT_EQ(At(b), Elements{});
+    EXPECT_EQ(At(c), Elements{&beam});
     EXPECT_EQ(beam.GetIDNodoFinale(), c.GetID());
 
     EXPECT_FALSE(beam.SetNodi(&a, &a));
-    EXPECT_EQ(at(a), Elements{&beam});
-    EXPECT_EQ(at(c), Elements{});
+    EXPECT_EQ(At(a), Elements{&beam});
+    EXPECT_EQ(At(c), Elements{});
     EXPECT_FALSE(beam.SetNodi(nullptr, nullptr));
-    EXPECT_EQ(at(a), Elements{});
+    EXPECT_EQ(At(a), Elements{});
     EXPECT_EQ(beam.GetNodoIniziale(), nullptr);
 }
 
@@ -50,7 +50,7 @@ TEST(LinksTest, EitherSideMayGoFirst) {
         gone.SetNodi(b.get(), a.get());
         EXPECT_EQ(a->GetSizeElementi(), 2);
     }
-    EXPECT_EQ(at(*a), Elements{kept.get()});
+    EXPECT_EQ(At(*a), Elements{kept.get()});
 
     a.reset();
     EXPECT_EQ(kept->GetNodoIniziale(), nullptr);
@@ -64,35 +64,35 @@ TEST(LinksTest, EitherSideMayGoFirst) {
 // Fault: an element that waits in the undo store is still found at its nodes.
 TEST(LinksTest, AnElementOutOfTheModelIsNotListed) {
     SmallModel m;
-    CNodo &a = m.node(0, 0, 0), &b = m.node(1, 0, 0), &c = m.node(1, 1, 0);
-    CTrave& beam = m.beam(a, b);
-    CSolaio& slab = m.polygon<CSolaio>({&a, &b, &c});
+    CNodo &a = m.Node(0, 0, 0), &b = m.Node(1, 0, 0), &c = m.Node(1, 1, 0);
+    CTrave& beam = m.Beam(a, b);
+    CSolaio& slab = m.Polygon<CSolaio>({&a, &b, &c});
     beam.StaccaNodi();
     slab.StaccaNodi();
-    EXPECT_EQ(at(b), Elements{});
+    EXPECT_EQ(At(b), Elements{});
     EXPECT_EQ(beam.GetNodoFinale(), &b);
-    beam.CollegaNodi();
-    beam.CollegaNodi(); // twice changes nothing
-    slab.CollegaNodi();
-    EXPECT_EQ(at(b), (Elements{&beam, &slab}));
+    beam.LinkNodes();
+    beam.LinkNodes(); // twice changes nothing
+    slab.LinkNodes();
+    EXPECT_EQ(At(b), (Elements{&beam, &slab}));
 }
 
 // Faults: the list's growth past its inside places, removal from the middle, the merge of nodes leaving one out.
 TEST(LinksTest, ManyElementsMeetAtANode) {
     SmallModel m;
-    CNodo &hub = m.node(0, 0, 0), &other = m.node(0, 0, 1);
+    CNodo &hub = m.Node(0, 0, 0), &other = m.Node(0, 0, 1);
     std::vector<CTrave*> beams;
     for (int i = 0; i < 20; ++i)
-        beams.push_back(&m.beam(hub, m.node(i + 1, 0, 0)));
+        beams.push_back(&m.Beam(hub, m.Node(i + 1, 0, 0)));
     for (int i : {10, 0, 19})
         beams[static_cast<std::size_t>(i)]->SetNodi(nullptr, nullptr);
-    EXPECT_EQ(at(hub).size(), 17u);
-    EXPECT_EQ(at(hub).count(beams[10]), 0u);
+    EXPECT_EQ(At(hub).size(), 17u);
+    EXPECT_EQ(At(hub).count(beams[10]), 0u);
 
     for (CTrave* beam : beams)
         beam->UpdateVertex(&hub, &other);
     EXPECT_EQ(hub.GetSizeElementi(), 0);
-    EXPECT_EQ(at(other).size(), 17u);
+    EXPECT_EQ(At(other).size(), 17u);
     EXPECT_EQ(beams[5]->GetIDNodoIniziale(), other.GetID());
     EXPECT_EQ(beams[5]->UpdateVertex(&hub, &other), 0);
 }
@@ -100,7 +100,7 @@ TEST(LinksTest, ManyElementsMeetAtANode) {
 // Faults: a dialog's own polygon shows up as an element of the model; a wall does not.
 TEST(LinksTest, OnlyPolygonsOfTheModelEnterTheirNodes) {
     SmallModel m;
-    CNodo &a = m.node(0, 0, 0), &b = m.node(1, 0, 0), &c = m.node(0, 1, 0), &d = m.node(5, 5, 0);
+    CNodo &a = m.Node(0, 0, 0), &b = m.Node(1, 0, 0), &c = m.Node(0, 1, 0), &d = m.Node(5, 5, 0);
     {
         CPoligono plane;
         EXPECT_TRUE(plane.AggiungiVertice(&a));
@@ -108,16 +108,16 @@ TEST(LinksTest, OnlyPolygonsOfTheModelEnterTheirNodes) {
         EXPECT_FALSE(plane.AggiungiVertice(&a)); // a plane through the same node twice is none
         EXPECT_FALSE(plane.AggiungiVertice(nullptr));
         EXPECT_EQ(plane.GetSize(), 2);
-        EXPECT_EQ(at(a), Elements{});
+        EXPECT_EQ(At(a), Elements{});
     }
-    CSetto& wall = m.polygon<CSetto>({&a, &b, &c});
-    EXPECT_EQ(at(a), Elements{&wall});
+    CSetto& wall = m.Polygon<CSetto>({&a, &b, &c});
+    EXPECT_EQ(At(a), Elements{&wall});
     wall.SetVertice(&d, 0);
-    EXPECT_EQ(at(a), Elements{});
-    EXPECT_EQ(at(d), Elements{&wall});
+    EXPECT_EQ(At(a), Elements{});
+    EXPECT_EQ(At(d), Elements{&wall});
     EXPECT_EQ(wall.GetIndexVertice(a.GetID()), -1);
     wall.EliminaVertice(0);
-    EXPECT_EQ(at(d), Elements{});
+    EXPECT_EQ(At(d), Elements{});
     EXPECT_EQ(wall.GetSize(), 2);
     EXPECT_EQ(wall.GetIDVertice(0), b.GetID());
 

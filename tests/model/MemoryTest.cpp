@@ -1,5 +1,5 @@
 // A million nodes and a million beams fit in a gibibyte, their search by position and identifier included.
-#include "model/IdIndex.h"
+#include "model/index/IdIndex.h"
 #include "tests/model/SmallModel.h"
 
 #include <malloc.h>

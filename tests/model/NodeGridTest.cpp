@@ -1,6 +1,6 @@
 // Finding by position and by identifier.
-#include "model/NodeGrid.h"
-#include "model/IdIndex.h"
+#include "model/index/NodeGrid.h"
+#include "model/index/IdIndex.h"
 #include "tests/model/SmallModel.h"
 
 #include <cmath>
@@ -14,7 +14,7 @@ namespace {
 TEST(NodeGridTest, FindsTheNearestWithinTheTolerance) {
     SmallModel m;
     NodeGrid grid;
-    CNodo &a = m.node(0, 0, 0), &b = m.node(1, 0, 0), &c = m.node(1.25, 0, 0);
+    CNodo &a = m.Node(0, 0, 0), &b = m.Node(1, 0, 0), &c = m.Node(1.25, 0, 0);
     for (const auto& node : m.nodes)
         ASSERT_TRUE(grid.Insert(node.get()));
     EXPECT_FALSE(grid.Insert(&a));
@@ -38,7 +38,7 @@ TEST(NodeGridTest, AgreesWithAPlainSearch) {
     std::uniform_real_distribution<double> coordinate(-3, 3);
     const auto anywhere = [&] { return CFPoint(coordinate(random), coordinate(random), coordinate(random)); };
     for (int i = 0; i < 300; ++i)
-        grid.Insert(&m.node(coordinate(random), coordinate(random), coordinate(random)));
+        grid.Insert(&m.Node(coordinate(random), coordinate(random), coordinate(random)));
 
     std::set<CNodo*> inside;
     for (const auto& node : m.nodes)
@@ -47,7 +47,7 @@ TEST(NodeGridTest, AgreesWithAPlainSearch) {
     for (int round = 0; round < 4000; ++round) {
         CNodo& changed = *m.nodes[random() % m.nodes.size()];
         if (round % 3 == 0) {
-            changed.SetPunto(round % 2 ? anywhere() : *m.nodes[random() % m.nodes.size()]->GetPunto());
+            changed.SetPoint(round % 2 ? anywhere() : *m.nodes[random() % m.nodes.size()]->GetPunto());
         } else if (round % 3 == 1 && inside.erase(&changed)) {
             ASSERT_TRUE(grid.Remove(&changed));
         } else if (grid.Insert(&changed)) {
@@ -88,9 +88,9 @@ TEST(NodeGridTest, ForgetsNodesAndEndures) {
     EXPECT_TRUE(grid.Insert(&far));
     EXPECT_FALSE(grid.Insert(&wild));
     EXPECT_EQ(grid.Find({1e18, -1e300, 0}, nullptr, 1e-5), &far);
-    far.SetPunto(CFPoint(0, INFINITY, 0));
+    far.SetPoint(CFPoint(0, INFINITY, 0));
     EXPECT_EQ(grid.GetSize(), 0);
-    far.SetPunto(CFPoint(0, 0, 0));
+    far.SetPoint(CFPoint(0, 0, 0));
     EXPECT_TRUE(grid.Insert(&far));
     {
         NodeGrid brief;

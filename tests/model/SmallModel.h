@@ -1,15 +1,15 @@
 // A model of a few objects for the tests of this folder, destroyed in the order that a document uses: nodes last.
 #pragma once
 
-#include "model/Asta.h"
-#include "model/Materiale.h"
-#include "model/NodeGrid.h"
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Sezione.h"
-#include "model/Solaio.h"
-#include "model/Spessore.h"
-#include "model/Trave.h"
+#include "model/element/Asta.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
+#include "model/index/NodeGrid.h"
 
 #include <gtest/gtest.h>
 
@@ -26,20 +26,20 @@ class SmallModel {
         thickness.SetID(1);
         material.SetE(3e7);
         material.SetG(1.25e7);
-        section.SetRettangolo(0.3, 0.5);
-        thickness.SetSpessore(0.2);
+        section.SetRectangle(0.3, 0.5);
+        thickness.SetThickness(0.2);
     }
 
-    CNodo& node(double x, double y, double z) {
+    CNodo& Node(double x, double y, double z) {
         nodes.push_back(std::make_unique<CNodo>(CFPoint(x, y, z)));
         nodes.back()->SetID(static_cast<int>(nodes.size()));
         return *nodes.back();
     }
     // A line with material and section.
-    template <typename Line>
-    Line& line(CNodo& from, CNodo& to) {
-        auto made = std::make_unique<Line>();
-        Line& result = *made;
+    template <typename T>
+    T& Line(CNodo& from, CNodo& to) {
+        auto made = std::make_unique<T>();
+        T& result = *made;
         result.SetID(static_cast<int>(elements.size()) + 1);
         result.SetNodi(&from, &to);
         result.SetMateriale(1, &material);
@@ -47,27 +47,27 @@ class SmallModel {
         elements.push_back(std::move(made));
         return result;
     }
-    CTrave& beam(CNodo& from, CNodo& to) { return line<CTrave>(from, to); }
+    CTrave& Beam(CNodo& from, CNodo& to) { return Line<CTrave>(from, to); }
     // A wall or slab with material and thickness.
-    template <typename Polygon>
-    Polygon& polygon(std::initializer_list<CNodo*> corners) {
-        auto made = std::make_unique<Polygon>();
-        Polygon& result = *made;
+    template <typename T>
+    T& Polygon(std::initializer_list<CNodo*> corners) {
+        auto made = std::make_unique<T>();
+        T& result = *made;
         result.SetID(static_cast<int>(elements.size()) + 1);
         for (CNodo* corner : corners)
             result.AggiungiVertice(corner);
         result.SetMateriale(1, &material);
-        result.SetSpessore(1, &thickness);
+        result.SetThickness(1, &thickness);
         elements.push_back(std::move(made));
         return result;
     }
 
     // The same with nodes of its own.
-    template <typename Polygon>
-    Polygon& polygon(std::initializer_list<CFPoint> corners) {
-        auto& result = polygon<Polygon>(std::initializer_list<CNodo*>{});
+    template <typename T>
+    T& Polygon(std::initializer_list<CFPoint> corners) {
+        auto& result = Polygon<T>(std::initializer_list<CNodo*>{});
         for (const CFPoint& corner : corners)
-            result.AggiungiVertice(&node(corner.x, corner.y, corner.z));
+            result.AggiungiVertice(&Node(corner.x, corner.y, corner.z));
         return result;
     }
 
@@ -79,7 +79,7 @@ class SmallModel {
 };
 
 // The messages of an object's own check, one a line; empty when it says that it is sound.
-inline std::string check(CElemento& element) {
+inline std::string Check(CElemento& element) {
     CStringArray messages;
     const int sound = element.CheckElemento(messages);
     std::string text = sound == (messages.GetSize() == 0) ? "" : "result and messages disagree\n";
@@ -89,7 +89,7 @@ inline std::string check(CElemento& element) {
 }
 
 // Pairs of what came out and what is right, to twelve digits.
-inline void expectNumbers(std::initializer_list<std::pair<double, double>> pairs) {
+inline void ExpectNumbers(std::initializer_list<std::pair<double, double>> pairs) {
     for (const auto& [got, wanted] : pairs)
         EXPECT_NEAR(got, wanted, std::abs(wanted) * 1e-12);
 }

@@ -1,8 +1,8 @@
 // Points, units and paths: plain values, no window.
-#include "model/ExceptionEx.h"
-#include "model/FPoint.h"
-#include "model/Path.h"
-#include "model/Units.h"
+#include "model/values/ExceptionEx.h"
+#include "model/values/FPoint.h"
+#include "model/values/Path.h"
+#include "model/values/Units.h"
 
 #include <gtest/gtest.h>
 
@@ -33,25 +33,25 @@ TEST(PointTest, DistanceAndDirectionHoldAtAnySize) {
 // Faults: the factor used upside down, an exponent forgotten, rounding in a conversion to the same unit, symbols off by
 // one.
 TEST(UnitsTest, QuantitiesConvertByTheirDimension) {
-    CGrandezza pressure(1, -2, 1, Lunghezza::Metri, Forza::ChiloNewton);
-    pressure.ChangeLunghezza(Lunghezza::Millimetri);
+    CGrandezza pressure(1, -2, 1, Lunghezza::Metres, Forza::KiloNewtons);
+    pressure.ChangeLunghezza(Lunghezza::Millimetres);
     pressure.ChangeForza(Forza::Newton);
-    EXPECT_NEAR(pressure.GetValore(), 1e-3, 1e-18);
-    EXPECT_STREQ(pressure.GetStringUnita(), "N/mm^2");
-    EXPECT_STREQ(CGrandezza(1, 1, 1).GetStringUnita(), "kN*m");
-    EXPECT_STREQ(CGrandezza(1, -1, 0).GetStringUnita(), "1/m");
-    EXPECT_STREQ(CGrandezza(1).GetStringUnita(), "");
+    EXPECT_NEAR(pressure.GetValue(), 1e-3, 1e-18);
+    EXPECT_STREQ(pressure.GetUnitText(), "N/mm^2");
+    EXPECT_STREQ(CGrandezza(1, 1, 1).GetUnitText(), "kN*m");
+    EXPECT_STREQ(CGrandezza(1, -1, 0).GetUnitText(), "1/m");
+    EXPECT_STREQ(CGrandezza(1).GetUnitText(), "");
 
-    CGrandezza odd(0.1 + 0.2, 4, 1, Lunghezza::Piedi, Forza::Libbre);
-    odd.ChangeLunghezza(Lunghezza::Piedi);
-    odd.ChangeForza(Forza::Libbre);
-    EXPECT_EQ(odd.GetValore(), 0.1 + 0.2);
+    CGrandezza odd(0.1 + 0.2, 4, 1, Lunghezza::Feet, Forza::Pounds);
+    odd.ChangeLunghezza(Lunghezza::Feet);
+    odd.ChangeForza(Forza::Pounds);
+    EXPECT_EQ(odd.GetValue(), 0.1 + 0.2);
 
-    EXPECT_NEAR(CGrandezza::_FattoreForza(Forza::Tonnellate, Forza::ChiloNewton), 9.80665, 1e-12);
-    EXPECT_NEAR(CGrandezza::_FattoreForza(Forza::ChiloLibbre, Forza::Newton), 4448.2216152605, 1e-9);
-    EXPECT_NEAR(CGrandezza::_FattoreLunghezza(Lunghezza::Piedi, Lunghezza::Pollici), 12, 1e-12);
-    EXPECT_NEAR(CGrandezza::_Gravita(Lunghezza::Millimetri), 9806.65, 1e-9);
-    EXPECT_STREQ(CGrandezza::_GetStringLunghezza(Lunghezza::Centimetri), "cm");
+    EXPECT_NEAR(CGrandezza::_ForceFactor(Forza::Tonnes, Forza::KiloNewtons), 9.80665, 1e-12);
+    EXPECT_NEAR(CGrandezza::_ForceFactor(Forza::Kips, Forza::Newton), 4448.2216152605, 1e-9);
+    EXPECT_NEAR(CGrandezza::_LengthFactor(Lunghezza::Feet, Lunghezza::Inches), 12, 1e-12);
+    EXPECT_NEAR(CGrandezza::_Gravity(Lunghezza::Millimetres), 9806.65, 1e-9);
+    EXPECT_STREQ(CGrandezza::_GetStringLunghezza(Lunghezza::Centimetres), "cm");
     EXPECT_STREQ(CGrandezza::_GetStringLunghezza(static_cast<Lunghezza>(-1)), "");
 }
 

@@ -1,9 +1,9 @@
 // Buttons: what a click changes and tells.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/Button.h"
-#include "platform/Static.h"
-#include "platform/private/WindowPeer.h"
+#include "platform/controls/Button.h"
+#include "platform/controls/Static.h"
+#include "platform/private/peers/WindowPeer.h"
 
 #include <QTest>
 #include <QWindow>
@@ -12,81 +12,81 @@ namespace {
 
 class Button : public testing::Test {
   protected:
-    CButton& button(int id) { return dialog.control<CButton>(id); }
+    CButton& Control(int id) { return m_dialog.Control<CButton>(id); }
 
-    ControlDialog dialog{ControlRows()
-                             .add("BUTTON", "&Attivo", 100, BS_AUTOCHECKBOX | WS_TABSTOP)
-                             .add("BUTTON", "Tre", 101, BS_AUTO3STATE | WS_TABSTOP)
-                             .add("BUTTON", "A mano", 102, BS_CHECKBOX | WS_TABSTOP)
-                             .radio("Uno", 201, true)
-                             .radio("Due", 202)
-                             .radio("Altro", 203, true)
-                             .button("Dai && via", 300)
-                             .button("OK", IDOK, BS_DEFPUSHBUTTON)};
-    DialogDriver& user = dialog.user;
+    ControlDialog m_dialog{ControlRows()
+                               .Add("BUTTON", "&Attivo", 100, BS_AUTOCHECKBOX | WS_TABSTOP)
+                               .Add("BUTTON", "Tre", 101, BS_AUTO3STATE | WS_TABSTOP)
+                               .Add("BUTTON", "A mano", 102, BS_CHECKBOX | WS_TABSTOP)
+                               .Radio("Uno", 201, true)
+                               .Radio("Due", 202)
+                               .Radio("Altro", 203, true)
+                               .Button("Dai && via", 300)
+                               .Button("OK", IDOK, BS_DEFPUSHBUTTON)};
+    DialogDriver& m_user = m_dialog.user;
 };
 
 } // namespace
 
 TEST_F(Button, OnlyTheUserClicks) {
     for (const int id : {100, 101, 202, 300})
-        button(id).SetCheck(1);
-    EXPECT_EQ(dialog.take(), Log{});
-    EXPECT_EQ(button(100).GetCheck(), 1);
+        Control(id).SetCheck(1);
+    EXPECT_EQ(m_dialog.Take(), Log{});
+    EXPECT_EQ(Control(100).GetCheck(), 1);
 }
 
 TEST_F(Button, ChecksChangeBeforeTheClickIsTold) {
     int seen = -1;
-    dialog.onCommand = [&] { seen = button(100).GetCheck(); };
-    user.Click(100);
-    EXPECT_EQ(dialog.take(), Log{told(100, BN_CLICKED)});
+    m_dialog.onCommand = [&] { seen = Control(100).GetCheck(); };
+    m_user.Click(100);
+    EXPECT_EQ(m_dialog.Take(), Log{Told(100, BN_CLICKED)});
     EXPECT_EQ(seen, 1);
-    user.Press(VK_SPACE);
-    EXPECT_EQ(button(100).GetCheck(), 0);
-    dialog.take();
-    user.Press('A', AltKey); // a shortcut of the toolkit's would click a second time, past PreTranslateMessage
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{told(100, BN_CLICKED)});
-    EXPECT_EQ(button(100).GetCheck(), 1);
-    EXPECT_EQ(user.Text(100) + user.Text(300), "&AttivoDai && via"); // the texts keep their ampersands
+    m_user.Press(VK_SPACE);
+    EXPECT_EQ(Control(100).GetCheck(), 0);
+    m_dialog.Take();
+    m_user.Press('A', AltKey); // a shortcut of the toolkit's would click a second time, past PreTranslateMessage
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), Log{Told(100, BN_CLICKED)});
+    EXPECT_EQ(Control(100).GetCheck(), 1);
+    EXPECT_EQ(m_user.Text(100) + m_user.Text(300), "&AttivoDai && via"); // the texts keep their ampersands
 }
 
 TEST_F(Button, ThreeStatesGoRoundAndAPlainBoxWaitsForTheProgram) {
     std::vector<int> states;
     for (int click = 0; click < 3; ++click) {
-        user.Click(101);
-        states.push_back(button(101).GetCheck());
+        m_user.Click(101);
+        states.push_back(Control(101).GetCheck());
     }
     EXPECT_EQ(states, (std::vector{1, 2, 0}));
-    user.Click(102);
-    EXPECT_EQ(button(102).GetCheck(), 0);
+    m_user.Click(102);
+    EXPECT_EQ(Control(102).GetCheck(), 0);
 }
 
 TEST_F(Button, ARadioButtonUnchecksItsGroupOnly) {
-    button(201).SetCheck(1);
-    button(203).SetCheck(1); // another group
-    user.Click(202);
-    EXPECT_EQ(dialog.GetCheckedRadioButton(201, 202), 202);
-    EXPECT_EQ(button(201).GetCheck(), 0);
-    EXPECT_EQ(button(203).GetCheck(), 1);
+    Control(201).SetCheck(1);
+    Control(203).SetCheck(1); // another group
+    m_user.Click(202);
+    EXPECT_EQ(m_dialog.GetCheckedRadioButton(201, 202), 202);
+    EXPECT_EQ(Control(201).GetCheck(), 0);
+    EXPECT_EQ(Control(203).GetCheck(), 1);
 }
 
 TEST_F(Button, AClickThatEndsOutsideOrOnADisabledButtonIsNone) {
-    QWidget* widget = button(300).m_hWnd->widget;
+    QWidget* widget = Control(300).m_hWnd->widget;
     QWindow* window = widget->window()->windowHandle();
     const QPoint inside = widget->mapTo(widget->window(), widget->rect().center());
     QTest::mousePress(window, Qt::LeftButton, {}, inside);
     QTest::mouseMove(window, inside + QPoint(150, 0));
     QTest::mouseRelease(window, Qt::LeftButton, {}, inside + QPoint(150, 0));
     TestApp::PumpMessages();
-    button(300).EnableWindow(FALSE);
-    button(300).m_hWnd->click();
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{});
+    Control(300).EnableWindow(FALSE);
+    Control(300).m_hWnd->Click();
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), Log{});
 }
 
 TEST(Static, TellsClicksOnlyWhenAskedTo) {
     ControlDialog dialog(
-        ControlRows().add("STATIC", "muta", 100, SS_LEFT).add("STATIC", "parla", 101, SS_LEFT | SS_NOTIFY).edit(102));
+        ControlRows().Add("STATIC", "muta", 100, SS_LEFT).Add("STATIC", "parla", 101, SS_LEFT | SS_NOTIFY).Edit(102));
     dialog.user.Click(100);
     dialog.user.Click(101);
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{told(101, STN_CLICKED)});
+    EXPECT_EQ(WithoutFocus(dialog.Take()), Log{Told(101, STN_CLICKED)});
 }

@@ -1,4 +1,4 @@
-#include "platform/Collections.h"
+#include "platform/core/Collections.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@ namespace {
 
 // The framework's exceptions are pointers: runs the operation and says which kind was thrown, ending it.
 template <typename Operation>
-CString thrownBy(Operation operation) {
+CString ThrownBy(Operation operation) {
     try {
         operation();
     } catch (CException* exception) {
@@ -17,7 +17,7 @@ CString thrownBy(Operation operation) {
     return "nothing";
 }
 
-CString joined(const CStringArray& array) {
+CString Joined(const CStringArray& array) {
     CString text;
     for (int i = 0; i < array.GetSize(); ++i)
         text += array[i] + "|";
@@ -31,18 +31,18 @@ TEST(Array, InsertsRemovesAndGrows) {
     EXPECT_EQ(array.Add("b"), 0);
     array.InsertAt(0, "a");
     array.InsertAt(4, "e"); // beyond the end: the gap is empty texts
-    EXPECT_EQ(joined(array), "a|b|||e|");
+    EXPECT_EQ(Joined(array), "a|b|||e|");
     array.SetAtGrow(5, array[0]); // an element of its own, which growing moves
     array.RemoveAt(2, 2);
-    EXPECT_EQ(joined(array), "a|b|e|a|");
+    EXPECT_EQ(Joined(array), "a|b|e|a|");
     array.InsertAt(1, "x", 2);
-    EXPECT_EQ(joined(array), "a|x|x|b|e|a|");
+    EXPECT_EQ(Joined(array), "a|x|x|b|e|a|");
     array.SetSize(2);
     EXPECT_EQ(array.Append(array), 2);
     CStringArray copy;
     copy.Copy(array);
     array.RemoveAll();
-    EXPECT_EQ(joined(copy), "a|x|a|x|");
+    EXPECT_EQ(Joined(copy), "a|x|a|x|");
     EXPECT_EQ(array.GetUpperBound(), -1);
     EXPECT_EQ(array.GetData(), nullptr);
     CUIntArray numbers;
@@ -55,14 +55,14 @@ TEST(Array, RefusesPositionsOutside) {
     CObArray array;
     array.Add(nullptr);
     const char* const refused = "CInvalidArgException";
-    EXPECT_EQ(thrownBy([&] { array.GetAt(1); }), refused);
-    EXPECT_EQ(thrownBy([&] { array[-1] = nullptr; }), refused);
-    EXPECT_EQ(thrownBy([&] { array.SetAt(1, nullptr); }), refused);
-    EXPECT_EQ(thrownBy([&] { array.SetAtGrow(-1, nullptr); }), refused);
-    EXPECT_EQ(thrownBy([&] { array.InsertAt(-1, static_cast<CObject*>(nullptr)); }), refused);
-    EXPECT_EQ(thrownBy([&] { array.RemoveAt(0, 2); }), refused);
-    EXPECT_EQ(thrownBy([&] { array.RemoveAt(1, 0x7fffffff); }), refused);
-    EXPECT_EQ(thrownBy([&] { array.SetSize(-1); }), refused);
+    EXPECT_EQ(ThrownBy([&] { array.GetAt(1); }), refused);
+    EXPECT_EQ(ThrownBy([&] { array[-1] = nullptr; }), refused);
+    EXPECT_EQ(ThrownBy([&] { array.SetAt(1, nullptr); }), refused);
+    EXPECT_EQ(ThrownBy([&] { array.SetAtGrow(-1, nullptr); }), refused);
+    EXPECT_EQ(ThrownBy([&] { array.InsertAt(-1, static_cast<CObject*>(nullptr)); }), refused);
+    EXPECT_EQ(ThrownBy([&] { array.RemoveAt(0, 2); }), refused);
+    EXPECT_EQ(ThrownBy([&] { array.RemoveAt(1, 0x7fffffff); }), refused);
+    EXPECT_EQ(ThrownBy([&] { array.SetSize(-1); }), refused);
     EXPECT_EQ(array.GetSize(), 1);
 }
 
@@ -108,8 +108,8 @@ TEST(List, WalksInsertsAndRemoves) {
     EXPECT_EQ(list.Find("c", second), nullptr);
     list.RemoveAll();
     EXPECT_TRUE(list.IsEmpty() && !list.GetHeadPosition() && !list.GetTailPosition());
-    EXPECT_EQ(thrownBy([&] { list.GetHead(); }), "CInvalidArgException");
-    EXPECT_EQ(thrownBy([&] { list.RemoveTail(); }), "CInvalidArgException");
+    EXPECT_EQ(ThrownBy([&] { list.GetHead(); }), "CInvalidArgException");
+    EXPECT_EQ(ThrownBy([&] { list.RemoveTail(); }), "CInvalidArgException");
 }
 
 TEST(Map, FindsAndWalks) {

@@ -1,7 +1,7 @@
 // Combo boxes.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/ComboBox.h"
+#include "platform/controls/ComboBox.h"
 
 namespace {
 
@@ -9,11 +9,11 @@ class ComboDialog : public ControlDialog {
   public:
     explicit ComboDialog(DWORD style)
         : ControlDialog(
-              ControlRows().edit(50).add("COMBOBOX", "", 100, WS_TABSTOP | style).button("OK", IDOK, BS_DEFPUSHBUTTON)),
-          box(control<CComboBox>(100)) {
+              ControlRows().Edit(50).Add("COMBOBOX", "", 100, WS_TABSTOP | style).Button("OK", IDOK, BS_DEFPUSHBUTTON)),
+          box(Control<CComboBox>(100)) {
         for (const char* text : {"rosso", "Verde", "blu"})
             box.SetItemData(box.AddString(text), static_cast<DWORD_PTR>(text[0]));
-        take();
+        Take();
     }
 
     CComboBox& box;
@@ -27,12 +27,12 @@ TEST(ComboBox, OnlyTheUsersChoiceIsTold) {
     dialog.box.SetCurSel(0);
     dialog.user.Press(VK_TAB);
     EXPECT_EQ(dialog.user.Focus(), 100);
-    dialog.take();
+    dialog.Take();
     dialog.user.Press(VK_DOWN);
-    EXPECT_EQ(dialog.take(), Log{told(100, CBN_SELCHANGE)});
+    EXPECT_EQ(dialog.Take(), Log{Told(100, CBN_SELCHANGE)});
     EXPECT_EQ(dialog.box.GetCurSel(), 1);
     dialog.box.ResetContent();
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
 }
 
 TEST(ComboBox, SortsWithoutCaseAndKeepsData) {
@@ -55,14 +55,14 @@ TEST(ComboBox, TypingIsToldAndIsNoRow) {
     DialogDriver& user = dialog.user;
     dialog.box.SetWindowText("");
     user.Press(VK_TAB);
-    dialog.take();
+    dialog.Take();
     user.TypeKeys("v");
-    EXPECT_EQ(dialog.take(), (Log{told(100, CBN_EDITUPDATE), told(100, CBN_EDITCHANGE)}));
+    EXPECT_EQ(dialog.Take(), (Log{Told(100, CBN_EDITUPDATE), Told(100, CBN_EDITCHANGE)}));
     EXPECT_EQ(user.Text(100), "v"); // not completed
     EXPECT_EQ(dialog.box.GetCurSel(), CB_ERR);
     dialog.box.SetCurSel(2);
     EXPECT_EQ(user.Text(100), "blu");
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
     user.Press(VK_TAB); // the dialog's key, also from the field inside
     EXPECT_EQ(user.Focus(), IDOK);
 }
@@ -75,10 +75,10 @@ TEST(ComboBox, DroppingTheListKeepsTheFocusAndTheTemplatesHeightIsTheLists) {
     second.GetWindowRect(rect);
     EXPECT_LT(rect.Height(), 26); // the closed box is one line
     dialog.box.SetFocus();
-    dialog.take();
+    dialog.Take();
     dialog.box.ShowDropDown();
     EXPECT_TRUE(dialog.box.GetDroppedState());
     dialog.box.ShowDropDown(FALSE);
     EXPECT_FALSE(dialog.box.GetDroppedState());
-    EXPECT_EQ(dialog.take(), (Log{told(100, CBN_DROPDOWN), told(100, CBN_CLOSEUP)}));
+    EXPECT_EQ(dialog.Take(), (Log{Told(100, CBN_DROPDOWN), Told(100, CBN_CLOSEUP)}));
 }

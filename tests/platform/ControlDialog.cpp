@@ -1,6 +1,6 @@
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/private/WindowPeer.h"
+#include "platform/private/peers/WindowPeer.h"
 
 #include <QTest>
 #include <QWindow>
@@ -9,8 +9,8 @@ BEGIN_MESSAGE_MAP(ControlDialog, CDialog)
     ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
-void ControlDialog::clickOn(const CWnd& control, CPoint at, bool twice) {
-    QWidget* surface = control.m_hWnd->surface();
+void ControlDialog::ClickOn(const CWnd& control, CPoint at, bool twice) {
+    QWidget* surface = control.m_hWnd->Surface();
     QWindow* window = surface->window()->windowHandle();
     const QPoint point = surface->mapTo(surface->window(), QPoint(at.x, at.y));
     if (twice)

@@ -16,7 +16,7 @@ class ControlDialog : public CDialog {
 
   public:
     // Open and active; the log is empty.
-    explicit ControlDialog(const ControlRows& rows) : CDialog(1), m_template(rows), user(opened()) { log.clear(); }
+    explicit ControlDialog(const ControlRows& rows) : CDialog(1), m_template(rows), user(OpenIt()) { log.clear(); }
     ~ControlDialog() override { DestroyWindow(); }
 
     // "command 100:768" or "notify 100:-2" or "scroll 4:17", in the order in which they came.
@@ -26,13 +26,13 @@ class ControlDialog : public CDialog {
     const void* scrollBar = nullptr; // of the last scroll message
     DialogDriver user;
 
-    std::vector<std::string> take() { return std::exchange(log, {}); }
-    template <class Control>
-    Control& control(int id) {
-        return dynamic_cast<Control&>(*GetDlgItem(id));
+    std::vector<std::string> Take() { return std::exchange(log, {}); }
+    template <class T>
+    T& Control(int id) {
+        return dynamic_cast<T&>(*GetDlgItem(id));
     }
     // A click of the left button on a point of the control's surface, pixels.
-    static void clickOn(const CWnd& control, CPoint at, bool twice = false);
+    static void ClickOn(const CWnd& control, CPoint at, bool twice = false);
 
   protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
@@ -54,7 +54,7 @@ class ControlDialog : public CDialog {
     DECLARE_MESSAGE_MAP()
 
   private:
-    CWnd& opened() {
+    CWnd& OpenIt() {
         Create(1);
         TestApp::PumpMessages();
         return *this;
@@ -62,16 +62,16 @@ class ControlDialog : public CDialog {
 };
 
 // "command 100:768" of one control's code.
-inline std::string told(int id, UINT code) {
+inline std::string Told(int id, UINT code) {
     return "command " + std::to_string(id) + ":" + std::to_string(code);
 }
-inline std::string notified(int id, int code) {
+inline std::string Notified(int id, int code) {
     return "notify " + std::to_string(id) + ":" + std::to_string(code);
 }
 using Log = std::vector<std::string>;
 
 // The lines without what the coming and going of the focus tells.
-inline Log withoutFocus(Log log) {
+inline Log WithoutFocus(Log log) {
     std::erase_if(log, [](const std::string& line) {
         for (const int code : {int(EN_SETFOCUS), int(EN_KILLFOCUS), int(LBN_SETFOCUS), int(LBN_KILLFOCUS),
                                int(NM_SETFOCUS), int(NM_KILLFOCUS)})

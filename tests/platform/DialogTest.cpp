@@ -1,9 +1,9 @@
 // What dialogs rely on: life of windows, order of messages, the keys of a dialog, focus at opening, modality.
-#include "platform/Edit.h"
+#include "platform/controls/Edit.h"
 #include "tests/platform/LoggedDialog.h"
 
 TEST(Dialog, DialogUnitsAreTheSameOnEveryMachine) {
-    const TestTemplate source(twoEdits(), WS_POPUP | WS_CAPTION | WS_VISIBLE, 84, 64);
+    const TestTemplate source(TwoEdits(), WS_POPUP | WS_CAPTION | WS_VISIBLE, 84, 64);
     LoggedDialog dialog;
     ASSERT_TRUE(dialog.Open());
     CRect client;
@@ -34,7 +34,7 @@ TEST(Dialog, OperationsWithoutAWindowAreHarmless) {
 }
 
 TEST(Dialog, FirstTabStopHasTheFocusUnlessTheDialogSetItItself) {
-    const TestTemplate source(ControlRows().label("n.ro").edit(100).disabled().edit(101).edit(102));
+    const TestTemplate source(ControlRows().Label("n.ro").Edit(100).Disabled().Edit(101).Edit(102));
     for (const bool itself : {false, true}) {
         LoggedDialog dialog;
         dialog.focusResult = !itself;
@@ -51,14 +51,14 @@ TEST(Dialog, FirstTabStopHasTheFocusUnlessTheDialogSetItItself) {
 TEST(Dialog, EnterAndEscapeAreTheDefaultButtonAndCancel) {
     const auto enter = [](DialogDriver& user) { user.Press(VK_RETURN); };
     const auto escape = [](DialogDriver& user) { user.Press(VK_ESCAPE); };
-    for (const ControlRows& rows : {twoEdits(), ControlRows().edit(100)}) {
+    for (const ControlRows& rows : {TwoEdits(), ControlRows().Edit(100)}) {
         const TestTemplate source(rows);
         LoggedDialog dialog;
         EXPECT_EQ(dialog.Run(enter), IDOK);
         EXPECT_EQ(dialog.Run(escape), IDCANCEL);
         EXPECT_EQ(dialog.Run([](DialogDriver& user) { user.CloseBox(); }), IDCANCEL);
     }
-    const TestTemplate source(ControlRows().edit(100).button("OK", IDOK, BS_DEFPUSHBUTTON).disabled());
+    const TestTemplate source(ControlRows().Edit(100).Button("OK", IDOK, BS_DEFPUSHBUTTON).Disabled());
     LoggedDialog dialog;
     bool stillOpen = false;
     const auto both = [&](DialogDriver& user) {
@@ -72,12 +72,12 @@ TEST(Dialog, EnterAndEscapeAreTheDefaultButtonAndCancel) {
 
 TEST(Dialog, TabFollowsTheTemplateAndEntersAGroupAtItsCheckedButton) {
     Opened<> dialog(ControlRows()
-                        .edit(100)
-                        .radio("X", 301, true)
-                        .radio("Y", 302)
-                        .radio("Z", 303)
-                        .button("OK", IDOK, BS_DEFPUSHBUTTON | WS_GROUP)
-                        .button("Annulla", IDCANCEL),
+                        .Edit(100)
+                        .Radio("X", 301, true)
+                        .Radio("Y", 302)
+                        .Radio("Z", 303)
+                        .Button("OK", IDOK, BS_DEFPUSHBUTTON | WS_GROUP)
+                        .Button("Annulla", IDCANCEL),
                     [](LoggedDialog& made) { made.CheckRadioButton(301, 303, 302); });
     for (const int focus : {100, 302, int{IDOK}, int{IDCANCEL}}) {
         EXPECT_EQ(dialog.user.Focus(), focus);
@@ -86,12 +86,12 @@ TEST(Dialog, TabFollowsTheTemplateAndEntersAGroupAtItsCheckedButton) {
     EXPECT_EQ(dialog.user.Focus(), 100);
     dialog.user.Press(VK_TAB, ShiftKey);
     EXPECT_EQ(dialog.user.Focus(), 2);
-    EXPECT_EQ(dialog.count("radio 302"), 0); // passing through clicks nothing
+    EXPECT_EQ(dialog.Count("radio 302"), 0); // passing through clicks nothing
 }
 
 TEST(Dialog, ArrowsInARadioGroupClickTheButtonThatTheyCheck) {
     Opened<> dialog(
-        ControlRows().radio("X", 301, true).radio("Y", 302).radio("Z", 303).add("EDIT", "", 100, WS_TABSTOP | WS_GROUP),
+        ControlRows().Radio("X", 301, true).Radio("Y", 302).Radio("Z", 303).Add("EDIT", "", 100, WS_TABSTOP | WS_GROUP),
         [](LoggedDialog& made) { made.CheckRadioButton(301, 303, 303); });
     DialogDriver& user = dialog.user;
     EXPECT_EQ(user.Focus(), 303);
@@ -99,27 +99,27 @@ TEST(Dialog, ArrowsInARadioGroupClickTheButtonThatTheyCheck) {
     EXPECT_EQ(user.Focus(), 301);
     EXPECT_TRUE(user.Checked(301));
     EXPECT_FALSE(user.Checked(303));
-    EXPECT_EQ(dialog.count("radio 301"), 1);
+    EXPECT_EQ(dialog.Count("radio 301"), 1);
     user.Press(VK_UP);
     EXPECT_TRUE(user.Checked(303));
 }
 
 TEST(Dialog, MnemonicsGoToTheNextTabStopAndClickButtons) {
     Opened<> dialog(ControlRows()
-                        .edit(99)
-                        .label("n.ro &Copie :")
-                        .edit(100)
-                        .button("&Altro", 200)
-                        .add("BUTTON", "&Segmento", -1, BS_GROUPBOX)
-                        .edit(102));
+                        .Edit(99)
+                        .Label("n.ro &Copie :")
+                        .Edit(100)
+                        .Button("&Altro", 200)
+                        .Add("BUTTON", "&Segmento", -1, BS_GROUPBOX)
+                        .Edit(102));
     DialogDriver& user = dialog.user;
     user.Press('C', AltKey);
     EXPECT_EQ(user.Focus(), 100);
     user.TypeKeys("ca"); // in an edit a letter alone is text
     EXPECT_EQ(user.Text(100), "ca");
-    EXPECT_EQ(dialog.count("button"), 0);
+    EXPECT_EQ(dialog.Count("button"), 0);
     user.Press('A', AltKey);
-    EXPECT_EQ(dialog.count("button"), 1); // at once, not after the toolkit's animation
+    EXPECT_EQ(dialog.Count("button"), 1); // at once, not after the toolkit's animation
     user.Press('C');                      // on a button a letter alone is a mnemonic
     EXPECT_EQ(user.Focus(), 100);
     user.Press('S', AltKey);
@@ -144,7 +144,7 @@ TEST(Dialog, AModalDialogRestsItsParentReturnsItsCodeAndEndsWithItsOwner) {
     dialog.log.clear();
     EXPECT_EQ(dialog.Run([&](DialogDriver&) { parent.DestroyWindow(); }), IDCANCEL);
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(dialog.count("destroy, children there"), 1);
+    EXPECT_EQ(dialog.Count("destroy, children there"), 1);
 }
 
 TEST(Window, TimersAreRestartedByTheirIdAndEndWithTheWindow) {
@@ -152,11 +152,11 @@ TEST(Window, TimersAreRestartedByTheirIdAndEndWithTheWindow) {
     dialog.SetTimer(3, 5);
     dialog.SetTimer(3, 60000); // the same timer, now far away
     dialog.SetTimer(4, 1);
-    while (!dialog.count("timer 4"))
+    while (!dialog.Count("timer 4"))
         CWinApp::PumpMessages();
     EXPECT_TRUE(dialog.KillTimer(4));
     EXPECT_FALSE(dialog.KillTimer(4));
-    EXPECT_EQ(dialog.count("timer 3"), 0);
+    EXPECT_EQ(dialog.Count("timer 3"), 0);
     dialog.SetTimer(3, 0);
     dialog.DestroyWindow();
     dialog.log.clear();
@@ -178,11 +178,11 @@ TEST(Window, PostedMessagesComeThroughTheLoopAndTheRawHookSeesThemFirst) {
     EXPECT_EQ(dialog.SendMessage(WM_FIRST, 2), 42);
     EXPECT_EQ(dialog.log, Log{"hook 2"});
     CWinApp::PumpMessages();
-    EXPECT_EQ(dialog.count("hook 1"), 1);
+    EXPECT_EQ(dialog.Count("hook 1"), 1);
 }
 
 TEST(Window, ResizingTellsTheNewSizeOnce) {
-    const TestTemplate source(twoEdits(), WS_POPUP | WS_CAPTION | WS_VISIBLE | WS_THICKFRAME);
+    const TestTemplate source(TwoEdits(), WS_POPUP | WS_CAPTION | WS_VISIBLE | WS_THICKFRAME);
     LoggedDialog dialog;
     ASSERT_TRUE(dialog.Open());
     CWinApp::PumpMessages();
@@ -201,14 +201,14 @@ TEST(Window, ResizingTellsTheNewSizeOnce) {
 }
 
 TEST(Window, TheContextMenuComesFromTheRightButtonAndFromTheKeyboard) {
-    Opened<> dialog(ControlRows().button("&Altro", 200).edit(100));
+    Opened<> dialog(ControlRows().Button("&Altro", 200).Edit(100));
     dialog.user.RightClick(200);
-    EXPECT_EQ(dialog.count("menu over 200"), 1);
+    EXPECT_EQ(dialog.Count("menu over 200"), 1);
     CRect rect;
     dialog.GetDlgItem(200)->GetWindowRect(rect);
     EXPECT_TRUE(rect.PtInRect(dialog.menuPoint)); // a point of the screen
     dialog.user.Press(VK_APPS);
-    EXPECT_EQ(dialog.count("menu over 200"), 2);
+    EXPECT_EQ(dialog.Count("menu over 200"), 2);
 }
 
 // A handler may end its own dialog, window and object, from inside any message.

@@ -14,9 +14,9 @@ TEST(Lines, ExcludeTheirLastPoint) {
     const CRect lines[] = {{1, 0, 5, 0}, {5, 2, 1, 2}, {7, 0, 7, 4},  {9, 4, 9, 0},
                            {0, 4, 3, 7}, {6, 7, 3, 4}, {11, 5, 11, 5}}; // no length, no pixel
     for (const CRect& line : lines)
-        sheet.line(line.left, line.top, line.right, line.bottom);
+        sheet.Line(line.left, line.top, line.right, line.bottom);
     EXPECT_EQ(sheet->GetCurrentPosition(), CPoint(11, 5));
-    EXPECT_EQ(sheet.rows(), ".####..#..../"
+    EXPECT_EQ(sheet.Rows(), ".####..#..../"
                             ".......#.#../"
                             "..####.#.#../"
                             ".......#.#../"
@@ -36,12 +36,12 @@ TEST(Lines, BatchesEqualSingleLines) {
         single->SetROP2(mode);
         batch->PolyPolyline(points, counts, 3);
         for (const int from : {0, 1, 2, 4, 6})
-            single.line(points[from].x, points[from].y, points[from + 1].x, points[from + 1].y);
-        EXPECT_EQ(batch.rows(), single.rows());
+            single.Line(points[from].x, points[from].y, points[from + 1].x, points[from + 1].y);
+        EXPECT_EQ(batch.Rows(), single.Rows());
     }
     Sheet sheet(3, 3);
     EXPECT_FALSE(sheet->Polyline(points, 1));
-    EXPECT_EQ(sheet.rows(), "");
+    EXPECT_EQ(sheet.Rows(), "");
 }
 
 TEST(Lines, WidePensAreCentred) {
@@ -51,8 +51,8 @@ TEST(Lines, WidePensAreCentred) {
         CPen pen(width == 3 ? PS_SOLID : PS_DASH, width, red); // broken pens are solid from two pixels on
         sheet->SelectObject(&pen);
         sheet->Polyline(ends, 2);
-        EXPECT_EQ(sheet.box(), CRect(2, 2, 7 + width, 2 + width));
-        EXPECT_EQ(sheet.pixel(5, 2), qRgb(255, 0, 0));
+        EXPECT_EQ(sheet.Box(), CRect(2, 2, 7 + width, 2 + width));
+        EXPECT_EQ(sheet.Pixel(5, 2), qRgb(255, 0, 0));
     }
 }
 
@@ -61,17 +61,17 @@ TEST(Lines, BrokenPensShowTheBackgroundInTheirGaps) {
     CPen dots(PS_DOT, 1, RGB(0, 0, 0));
     sheet->SelectObject(&dots);
     sheet->SetBkMode(TRANSPARENT);
-    sheet.line(0, 0, 12, 0);
-    EXPECT_EQ(sheet.rows(), "###...###...../");
+    sheet.Line(0, 0, 12, 0);
+    EXPECT_EQ(sheet.Rows(), "###...###...../");
     sheet->SetBkMode(OPAQUE);
     sheet->SetBkColor(red);
-    sheet.line(0, 2, 12, 2);
-    EXPECT_EQ(sheet.pixel(0, 2), qRgb(0, 0, 0));
-    EXPECT_EQ(sheet.pixel(4, 2), qRgb(255, 0, 0));
+    sheet.Line(0, 2, 12, 2);
+    EXPECT_EQ(sheet.Pixel(0, 2), qRgb(0, 0, 0));
+    EXPECT_EQ(sheet.Pixel(4, 2), qRgb(255, 0, 0));
     CPen none(PS_NULL, 5, red);
     sheet->SelectObject(&none);
-    sheet.line(0, 3, 12, 3);
-    EXPECT_EQ(sheet.pixel(5, 3), qRgb(255, 255, 255));
+    sheet.Line(0, 3, 12, 3);
+    EXPECT_EQ(sheet.Pixel(5, 3), qRgb(255, 255, 255));
 }
 
 // Catches rectangles that paint over their neighbours or leave a gap before them.
@@ -87,7 +87,7 @@ TEST(Shapes, RectanglesExcludeRightAndBottom) {
     sheet->FillRect(&filled, &brush); // turned round: empty
     const CRect right(12, 0, 15, 4);
     sheet->FillRect(&right, &brush);
-    EXPECT_EQ(sheet.rows(), "#####.####..###./"
+    EXPECT_EQ(sheet.Rows(), "#####.####..###./"
                             "#...#.####..###./"
                             "#...#.####..###./"
                             "#####.......###./");
@@ -100,7 +100,7 @@ TEST(Shapes, WideOutlinesKeepTheirPlace) {
         sheet->SelectObject(&pen);
         sheet->SelectStockObject(NULL_BRUSH);
         sheet->Rectangle(5, 5, 15, 15);
-        return sheet.box();
+        return sheet.Box();
     };
     EXPECT_EQ(boxOf(PS_SOLID, 3), CRect(4, 4, 16, 16));
     for (const auto& [style, width] : {std::pair{PS_SOLID, 1}, {PS_INSIDEFRAME, 3}, {PS_INSIDEFRAME, 4}, {PS_DOT, 1}})
@@ -117,29 +117,29 @@ TEST(Shapes, EllipsesFollowTheirBox) {
         bare->SelectStockObject(NULL_PEN);
         bare->Ellipse(2, 3, 3 + size, 4 + size); // one pixel less, as with rectangles
         for (const Sheet* sheet : {&outlined, &bare}) {
-            EXPECT_EQ(sheet->box(), CRect(2, 3, 2 + size, 3 + size));
+            EXPECT_EQ(sheet->Box(), CRect(2, 3, 2 + size, 3 + size));
             for (int y = 0; y < size; ++y)
                 for (int x = 0; x < size; ++x)
-                    EXPECT_EQ(sheet->pixel(2 + x, 3 + y), sheet->pixel(1 + size - x, 3 + y))
+                    EXPECT_EQ(sheet->Pixel(2 + x, 3 + y), sheet->Pixel(1 + size - x, 3 + y))
                         << size << ": " << x << "," << y;
         }
     }
     Sheet flat(20, 20);
     flat->Ellipse(2, 2, 3, 9);
-    EXPECT_EQ(flat.box(), CRect(2, 2, 3, 9));
+    EXPECT_EQ(flat.Box(), CRect(2, 2, 3, 9));
 }
 
 TEST(Shapes, ArcsRunCounterclockwise) {
     Sheet sheet(22, 22);
     const CRect box(0, 0, 21, 21);
     sheet->Arc(&box, {20, 10}, {10, 0}); // from the right to the top
-    EXPECT_EQ(sheet.box(), CRect(10, 0, 21, 11));
+    EXPECT_EQ(sheet.Box(), CRect(10, 0, 21, 11));
     Sheet pie(22, 22);
     CBrush brush(red);
     pie->SelectObject(&brush);
     pie->Pie(&box, {10, 0}, {20, 10}); // the other three quarters
-    EXPECT_EQ(pie.pixel(5, 15), qRgb(255, 0, 0));
-    EXPECT_EQ(pie.pixel(14, 6), qRgb(255, 255, 255));
+    EXPECT_EQ(pie.Pixel(5, 15), qRgb(255, 0, 0));
+    EXPECT_EQ(pie.Pixel(14, 6), qRgb(255, 255, 255));
 }
 
 TEST(Shapes, PolygonsFillByTheirMode) {
@@ -151,8 +151,8 @@ TEST(Shapes, PolygonsFillByTheirMode) {
         sheet->SelectObject(&brush);
         sheet->SetPolyFillMode(mode);
         sheet->Polygon(twice, 8);
-        EXPECT_EQ(sheet.pixel(5, 5), inside);
-        EXPECT_EQ(sheet.box(), CRect(2, 2, 10, 10)) << "the outline passes through the points";
+        EXPECT_EQ(sheet.Pixel(5, 5), inside);
+        EXPECT_EQ(sheet.Box(), CRect(2, 2, 10, 10)) << "the outline passes through the points";
     }
 }
 
@@ -167,11 +167,11 @@ TEST(Shapes, PointsBetweenPixels) {
         (*sheet)->SelectObject(&brush);
     first->Polygon(whole, 3);
     second->Polygon(same, 3);
-    EXPECT_EQ(second.rows(), first.rows());
+    EXPECT_EQ(second.Rows(), first.Rows());
     Sheet doubled(12, 12, 2);
     const FinePoint level[] = {{2, 3.5}, {6, 3.5}};
     EXPECT_TRUE(doubled->Polyline(level, 2));
-    EXPECT_EQ(doubled.box(), CRect(4, 7, 14, 9)) << "device pixels";
+    EXPECT_EQ(doubled.Box(), CRect(4, 7, 14, 9)) << "device pixels";
 }
 
 TEST(Fills, FramesAndBevels) {
@@ -179,7 +179,7 @@ TEST(Fills, FramesAndBevels) {
     CBrush brush(red);
     const CRect rect(0, 0, 5, 4);
     sheet->FrameRect(&rect, &brush);
-    EXPECT_EQ(sheet.rows(), "#####./#...#./#...#./#####./");
+    EXPECT_EQ(sheet.Rows(), "#####./#...#./#...#./#####./");
     sheet->Draw3dRect(&rect, RGB(1, 1, 1), RGB(2, 2, 2));
     EXPECT_EQ(sheet->GetPixel(0, 0), RGB(1, 1, 1));
     EXPECT_EQ(sheet->GetPixel(4, 0), RGB(2, 2, 2)) << "the corner belongs to the right line";
@@ -194,21 +194,21 @@ TEST(Fills, FramesAndBevels) {
 TEST(Modes, DrawingTwiceRestores) {
     Sheet sheet(20, 20);
     sheet->FillSolidRect(3, 3, 9, 9, RGB(10, 200, 30));
-    const std::string before = sheet.rows();
+    const std::string before = sheet.Rows();
     const CRect rect(1, 1, 15, 12);
     const std::function<void()> drawings[] = {[&] { sheet->DrawFocusRect(&rect); }, [&] { sheet->InvertRect(&rect); },
                                               [&] {
                                                   CPen pen(PS_SOLID, 3, RGB(77, 0, 200));
-                                                  const ObjectSelection selected(sheet.dc(), pen);
+                                                  const ObjectSelection selected(sheet.Dc(), pen);
                                                   const int old = sheet->SetROP2(R2_XORPEN);
                                                   sheet->Rectangle(&rect);
                                                   sheet->SetROP2(old);
                                               }};
     for (const auto& draw : drawings) {
         draw();
-        EXPECT_NE(sheet.rows(), before);
+        EXPECT_NE(sheet.Rows(), before);
         draw();
-        EXPECT_EQ(sheet.rows(), before);
+        EXPECT_EQ(sheet.Rows(), before);
     }
     EXPECT_EQ(sheet->GetPixel(5, 5), RGB(10, 200, 30));
 }
@@ -219,13 +219,13 @@ TEST(State, SelectionReturnsWhatWasThere) {
     CPen* original = sheet->SelectObject(&first);
     ASSERT_NE(original, nullptr);
     {
-        const ObjectSelection selected(sheet.dc(), second);
+        const ObjectSelection selected(sheet.Dc(), second);
         EXPECT_EQ(sheet->GetCurrentPen(), &second);
     }
     EXPECT_EQ(sheet->SelectObject(&unmade), nullptr);
     EXPECT_EQ(sheet->GetCurrentPen(), &first);
     first.DeleteObject(); // while selected: the context has its copy
-    sheet.line(0, 0, 2, 0);
+    sheet.Line(0, 0, 2, 0);
     EXPECT_EQ(sheet->GetPixel(0, 0), red);
     EXPECT_EQ(sheet->SelectObject(original), &first);
     LOGPEN description;
@@ -247,15 +247,15 @@ TEST(State, ClipsOriginsAndSavedStates) {
     sheet->GetClipBox(&clip);
     EXPECT_EQ(clip, CRect(2, 3, 6, 7));
     sheet->FillSolidRect(0, 0, 10, 10, red);
-    EXPECT_EQ(sheet.box(), CRect(2, 3, 6, 7));
+    EXPECT_EQ(sheet.Box(), CRect(2, 3, 6, 7));
     EXPECT_TRUE(sheet->RestoreDC(saved));
     EXPECT_FALSE(sheet->RestoreDC(saved));
     EXPECT_EQ(sheet->GetTextColor(), RGB(0, 0, 0));
     sheet->FillSolidRect(0, 0, 1, 5, red);
-    EXPECT_EQ(sheet.box(), CRect(2, 3, 6, 8));
+    EXPECT_EQ(sheet.Box(), CRect(2, 3, 6, 8));
     sheet->ExcludeClipRect(0, 0, 8, 6);
     sheet->FillSolidRect(0, 0, 8, 7, red);
-    EXPECT_EQ(sheet.box(), CRect(2, 3, 10, 10));
+    EXPECT_EQ(sheet.Box(), CRect(2, 3, 10, 10));
 }
 
 // Catches a scaled screen that shows 100 % drawing enlarged unevenly, shifted or smoothed.
@@ -263,7 +263,7 @@ TEST(Scale, EverythingIsSharpAtTwoHundredPercent) {
     const auto draw = [](Sheet& sheet) {
         CPen wide(PS_SOLID, 2, red);
         sheet->Rectangle(1, 1, 8, 7);
-        sheet.line(3, 4, 6, 4);
+        sheet.Line(3, 4, 6, 4);
         const CPoint corner[] = {{12, 9}, {10, 9}, {10, 2}};
         sheet->Polyline(corner, 3);
         sheet->FillSolidRect(0, 9, 3, 2, red);
@@ -274,12 +274,12 @@ TEST(Scale, EverythingIsSharpAtTwoHundredPercent) {
     Sheet plain(20, 12), fine(20, 12, 2);
     draw(plain);
     draw(fine);
-    EXPECT_EQ(drawnRows(plain.image().scaled(40, 24)), fine.rows());
+    EXPECT_EQ(DrawnRows(plain.Image().scaled(40, 24)), fine.Rows());
     Sheet circle(20, 20, 2);
     circle->Ellipse(2, 3, 12, 13);
-    EXPECT_EQ(circle.box(), CRect(4, 6, 24, 26));
+    EXPECT_EQ(circle.Box(), CRect(4, 6, 24, 26));
     for (int x = 0; x < 40; ++x)
-        EXPECT_EQ(circle.pixel(x, 6), circle.pixel(x, 25)) << "top and bottom row, " << x;
+        EXPECT_EQ(circle.Pixel(x, 6), circle.Pixel(x, 25)) << "top and bottom row, " << x;
 }
 
 TEST(Bitmaps, CopyBetweenContexts) {
@@ -298,7 +298,7 @@ TEST(Bitmaps, CopyBetweenContexts) {
     EXPECT_EQ(memory.GetPixel(3, 3), RGB(255, 255, 255));
     Sheet sheet(12, 12);
     sheet->BitBlt(5, 6, 3, 3, &memory, 0, 0, SRCCOPY);
-    EXPECT_EQ(sheet.rows().substr(6 * 13), ".....##...../.....###..../......##..../");
+    EXPECT_EQ(sheet.Rows().substr(6 * 13), ".....##...../.....###..../......##..../");
     sheet->BitBlt(5, 6, 3, 3, &memory, 0, 0, SRCINVERT);
     EXPECT_EQ(sheet->GetPixel(5, 6), RGB(0, 0, 0));
     EXPECT_EQ(memory.SelectObject(before), &bitmap);

@@ -1,82 +1,82 @@
 // Edit fields: what they tell, what the user may type, where the caret goes.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/Edit.h"
+#include "platform/controls/Edit.h"
 
 #include <QApplication>
 #include <QClipboard>
 
 namespace {
 
-ControlRows oneEdit(DWORD style = 0) {
-    return ControlRows().edit(100, style).edit(101).button("OK", IDOK, BS_DEFPUSHBUTTON);
+ControlRows OneEdit(DWORD style = 0) {
+    return ControlRows().Edit(100, style).Edit(101).Button("OK", IDOK, BS_DEFPUSHBUTTON);
 }
 
 class Edit : public testing::Test {
   protected:
-    ControlDialog dialog{oneEdit()};
-    CEdit& edit = dialog.control<CEdit>(100);
-    DialogDriver& user = dialog.user;
+    ControlDialog m_dialog{OneEdit()};
+    CEdit& m_edit = m_dialog.Control<CEdit>(100);
+    DialogDriver& m_user = m_dialog.user;
 };
 
 } // namespace
 
 TEST_F(Edit, EveryChangeTellsUpdateAndThenChange) {
-    const Log change{told(100, EN_UPDATE), told(100, EN_CHANGE)};
-    edit.SetWindowText("abc"); // a dialog that follows its own writing relies on it
-    EXPECT_EQ(withoutFocus(dialog.take()), change);
-    user.Click(100);
-    dialog.take();
-    user.TypeKeys("d");
-    EXPECT_EQ(withoutFocus(dialog.take()), change);
-    edit.SetSel(0, -1);
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{}); // selecting changes nothing
-    edit.ReplaceSel("x");
-    EXPECT_EQ(withoutFocus(dialog.take()), change);
+    const Log change{Told(100, EN_UPDATE), Told(100, EN_CHANGE)};
+    m_edit.SetWindowText("abc"); // a dialog that follows its own writing relies on it
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), change);
+    m_user.Click(100);
+    m_dialog.Take();
+    m_user.TypeKeys("d");
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), change);
+    m_edit.SetSel(0, -1);
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), Log{}); // selecting changes nothing
+    m_edit.ReplaceSel("x");
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), change);
 }
 
 TEST_F(Edit, AHandlerMayEndTheDialogInTheMiddle) {
     // A second notification to a dialog that the first one destroyed would be a use after its end.
-    dialog.onCommand = [&] { dialog.DestroyWindow(); };
-    edit.SetWindowText("x");
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{told(100, EN_UPDATE)});
+    m_dialog.onCommand = [&] { m_dialog.DestroyWindow(); };
+    m_edit.SetWindowText("x");
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), Log{Told(100, EN_UPDATE)});
 }
 
 TEST_F(Edit, TheFocusIsToldAlsoWhileTheDialogCloses) {
-    user.Click(100);
-    dialog.take();
-    user.Press(VK_TAB);
-    EXPECT_EQ(dialog.take(), (Log{told(100, EN_KILLFOCUS), told(101, EN_SETFOCUS)}));
-    dialog.DestroyWindow();
-    EXPECT_EQ(dialog.take(), Log{told(101, EN_KILLFOCUS)});
+    m_user.Click(100);
+    m_dialog.Take();
+    m_user.Press(VK_TAB);
+    EXPECT_EQ(m_dialog.Take(), (Log{Told(100, EN_KILLFOCUS), Told(101, EN_SETFOCUS)}));
+    m_dialog.DestroyWindow();
+    EXPECT_EQ(m_dialog.Take(), Log{Told(101, EN_KILLFOCUS)});
 }
 
 TEST_F(Edit, SelectionsReachFromByteToByteAndSentKeysMoveTheCaret) {
-    edit.SetWindowText("perch\xE9 no");
+    m_edit.SetWindowText("perch\xE9 no");
     int start = 0;
     int end = 0;
-    edit.SetSel(0, -1);
-    edit.GetSel(start, end);
+    m_edit.SetSel(0, -1);
+    m_edit.GetSel(start, end);
     EXPECT_EQ(std::pair(start, end), std::pair(0, 9));
-    edit.SetSel(5, 6);
-    edit.ReplaceSel("e'");
-    EXPECT_EQ(user.Text(100), "perche' no");
-    edit.SetSel(-1, 0);
-    edit.GetSel(start, end);
+    m_edit.SetSel(5, 6);
+    m_edit.ReplaceSel("e'");
+    EXPECT_EQ(m_user.Text(100), "perche' no");
+    m_edit.SetSel(-1, 0);
+    m_edit.GetSel(start, end);
     EXPECT_EQ(start, end);
-    edit.SetSel(0, 0);
-    edit.SendMessage(WM_KEYDOWN, VK_END); // by the program
-    edit.SendMessage(WM_CHAR, '3');
-    EXPECT_EQ(user.Text(100), "perche' no3");
+    m_edit.SetSel(0, 0);
+    m_edit.SendMessage(WM_KEYDOWN, VK_END); // by the program
+    m_edit.SendMessage(WM_CHAR, '3');
+    EXPECT_EQ(m_user.Text(100), "perche' no3");
 }
 
 TEST(EditStyles, DecideWhatCanBeTyped) {
     ControlDialog dialog(ControlRows()
-                             .edit(100, ES_NUMBER)
-                             .edit(101, ES_UPPERCASE)
-                             .edit(102, ES_READONLY)
-                             .edit(103)
-                             .button("OK", IDOK, BS_DEFPUSHBUTTON));
+                             .Edit(100, ES_NUMBER)
+                             .Edit(101, ES_UPPERCASE)
+                             .Edit(102, ES_READONLY)
+                             .Edit(103)
+                             .Button("OK", IDOK, BS_DEFPUSHBUTTON));
     dialog.SetDlgItemText(102, "fisso");
     struct Case {
         int id;
@@ -90,21 +90,21 @@ TEST(EditStyles, DecideWhatCanBeTyped) {
 }
 
 TEST_F(Edit, TheLimitIsTheUsersOnly) {
-    edit.LimitText(3);
-    user.Type(100, "12345");
-    EXPECT_EQ(user.Text(100), "123");
-    edit.SetWindowText("123456");
-    EXPECT_EQ(user.Text(100), "123456");
-    user.Type(100, "98765"); // over the long text, back under the limit
-    EXPECT_EQ(user.Text(100), "987");
-    EXPECT_TRUE(edit.GetModify());
-    edit.SetWindowText("1");
-    EXPECT_FALSE(edit.GetModify());
+    m_edit.LimitText(3);
+    m_user.Type(100, "12345");
+    EXPECT_EQ(m_user.Text(100), "123");
+    m_edit.SetWindowText("123456");
+    EXPECT_EQ(m_user.Text(100), "123456");
+    m_user.Type(100, "98765"); // over the long text, back under the limit
+    EXPECT_EQ(m_user.Text(100), "987");
+    EXPECT_TRUE(m_edit.GetModify());
+    m_edit.SetWindowText("1");
+    EXPECT_FALSE(m_edit.GetModify());
 }
 
 TEST(EditStyles, AFieldOfSeveralLinesKeepsItsLineEndsAndLeavesTheDialogItsKeys) {
-    ControlDialog dialog(oneEdit(ES_MULTILINE | ES_WANTRETURN));
-    auto& edit = dialog.control<CEdit>(100);
+    ControlDialog dialog(OneEdit(ES_MULTILINE | ES_WANTRETURN));
+    auto& edit = dialog.Control<CEdit>(100);
     edit.SetWindowText("uno\r\ndue");
     EXPECT_EQ(edit.GetWindowText(), CString("uno\r\ndue"));
     EXPECT_EQ(edit.GetLineCount(), 2);
@@ -121,9 +121,9 @@ TEST(EditStyles, AFieldOfSeveralLinesKeepsItsLineEndsAndLeavesTheDialogItsKeys) 
 
 // Cells copied from a sheet bring line ends; a clipboard may hold anything.
 TEST(EditStyles, PastedTextsAreCutToTheirField) {
-    ControlDialog dialog(ControlRows().edit(100).edit(102, ES_MULTILINE));
-    auto& line = dialog.control<CEdit>(100);
-    auto& lines = dialog.control<CEdit>(102);
+    ControlDialog dialog(ControlRows().Edit(100).Edit(102, ES_MULTILINE));
+    auto& line = dialog.Control<CEdit>(100);
+    auto& lines = dialog.Control<CEdit>(102);
     QApplication::clipboard()->setText("12.5\r\n");
     line.Paste();
     EXPECT_EQ(line.GetWindowText(), CString("12.5"));

@@ -1,6 +1,6 @@
 // Data exchange: what is accepted as a number, what is written, which messages come, what stays as typed.
-#include "platform/DataExchange.h"
-#include "platform/Edit.h"
+#include "platform/controls/Edit.h"
+#include "platform/window/DataExchange.h"
 #include "tests/platform/TestDialogs.h"
 #include "tests/support/DialogDriver.h"
 
@@ -12,14 +12,14 @@ namespace {
 
 class ExchangeDialog : public CDialog {
     TestTemplate m_source{ControlRows()
-                              .edit(100)
-                              .edit(101)
-                              .edit(102)
-                              .radio("X", 301, true)
-                              .radio("Y", 302)
-                              .add("STATIC", "nel gruppo", -1, 0)
-                              .radio("Z", 303)
-                              .button("Segno", 400, BS_AUTOCHECKBOX | WS_GROUP)};
+                              .Edit(100)
+                              .Edit(101)
+                              .Edit(102)
+                              .Radio("X", 301, true)
+                              .Radio("Y", 302)
+                              .Add("STATIC", "nel gruppo", -1, 0)
+                              .Radio("Z", 303)
+                              .Button("Segno", 400, BS_AUTOCHECKBOX | WS_GROUP)};
 
   public:
     ExchangeDialog() : CDialog(1) { EXPECT_TRUE(Create(1)); }
@@ -55,14 +55,14 @@ END_MESSAGE_MAP()
 class Exchange : public testing::Test {
   protected:
     // The message box that reading the dialog brings, empty for none.
-    std::string message() {
+    std::string Message() {
         const Boxes boxes;
-        const BOOL read = dialog.UpdateData(TRUE);
+        const BOOL read = m_dialog.UpdateData(TRUE);
         EXPECT_EQ(read, boxes.texts.empty());
         return boxes.texts.empty() ? "" : boxes.texts.front();
     }
 
-    ExchangeDialog dialog;
+    ExchangeDialog m_dialog;
 };
 
 } // namespace
@@ -70,16 +70,16 @@ class Exchange : public testing::Test {
 TEST_F(Exchange, NumbersAreReadWhole) {
     const std::pair<const char*, int> good[] = {{"12", 12}, {"  12  ", 12}, {"-5", -5}, {"+8", 8}};
     for (const auto& [typed, value] : good) {
-        dialog.SetDlgItemText(100, typed);
-        EXPECT_EQ(message(), "") << typed;
-        EXPECT_EQ(dialog.integer, value) << typed;
+        m_dialog.SetDlgItemText(100, typed);
+        EXPECT_EQ(Message(), "") << typed;
+        EXPECT_EQ(m_dialog.integer, value) << typed;
     }
     for (const char* typed :
          {"", "   ", "12a", "1 2", "0x10", "1.0", "--1", "+-1", "4294967297", "99999999999999999999"}) {
-        dialog.SetDlgItemText(100, typed);
-        EXPECT_EQ(message(), "Immettere un numero intero.") << typed;
-        EXPECT_EQ(dialog.integer, 8) << typed;
-        EXPECT_STREQ(dialog.GetDlgItem(100)->GetWindowText(), typed); // what was typed is kept
+        m_dialog.SetDlgItemText(100, typed);
+        EXPECT_EQ(Message(), "Immettere un numero intero.") << typed;
+        EXPECT_EQ(m_dialog.integer, 8) << typed;
+        EXPECT_STREQ(m_dialog.GetDlgItem(100)->GetWindowText(), typed); // what was typed is kept
     }
 }
 
@@ -87,13 +87,13 @@ TEST_F(Exchange, DoublesKnowOnlyTheFullStop) {
     const std::pair<const char*, double> good[] = {{"1.5", 1.5}, {" -2 ", -2},  {".5", .5},
                                                    {"3.", 3},    {"1e3", 1000}, {"+0.25", .25}};
     for (const auto& [typed, value] : good) {
-        dialog.SetDlgItemText(101, typed);
-        EXPECT_EQ(message(), "") << typed;
-        EXPECT_EQ(dialog.number, value) << typed;
+        m_dialog.SetDlgItemText(101, typed);
+        EXPECT_EQ(Message(), "") << typed;
+        EXPECT_EQ(m_dialog.number, value) << typed;
     }
     for (const char* typed : {"", "1,5", "1.5m", "1.2.3", "nan", "inf", "1e999", "e5", "0x1p3"}) {
-        dialog.SetDlgItemText(101, typed);
-        EXPECT_EQ(message(), "Immettere un numero.") << typed;
+        m_dialog.SetDlgItemText(101, typed);
+        EXPECT_EQ(Message(), "Immettere un numero.") << typed;
     }
     EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C"); // the toolkit must not leave the machine's
 }
@@ -102,59 +102,59 @@ TEST_F(Exchange, DoublesAreWrittenWithFifteenDigits) {
     const std::pair<double, const char*> cases[] = {{0.1, "0.1"},    {0.1 + 0.2, "0.3"}, {1.0 / 3, "0.333333333333333"},
                                                     {1e20, "1e+20"}, {-0.5, "-0.5"},     {3, "3"}};
     for (const auto& [value, shown] : cases) {
-        dialog.number = value;
-        dialog.UpdateData(FALSE);
-        EXPECT_STREQ(dialog.GetDlgItem(101)->GetWindowText(), shown);
+        m_dialog.number = value;
+        m_dialog.UpdateData(FALSE);
+        EXPECT_STREQ(m_dialog.GetDlgItem(101)->GetWindowText(), shown);
     }
 }
 
 TEST_F(Exchange, ARangeIsCheckedOnReadingOnlyAndTheFieldIsSelected) {
-    dialog.integer = 5000;
-    dialog.UpdateData(FALSE); // writing a value out of range says nothing
-    dialog.GetDlgItem(101)->SetFocus();
-    EXPECT_EQ(message(), "Immettere un numero compreso tra -5 e 1000.");
-    DialogDriver user(dialog);
+    m_dialog.integer = 5000;
+    m_dialog.UpdateData(FALSE); // writing a value out of range says nothing
+    m_dialog.GetDlgItem(101)->SetFocus();
+    EXPECT_EQ(Message(), "Immettere un numero compreso tra -5 e 1000.");
+    DialogDriver user(m_dialog);
     EXPECT_EQ(user.Focus(), 100);
     user.TypeKeys("9"); // over the selected text
     EXPECT_EQ(user.Text(100), "9");
 }
 
 TEST_F(Exchange, TheFirstFieldThatFailsEndsIt) {
-    dialog.SetDlgItemText(100, "3");
-    dialog.SetDlgItemText(101, "x");
-    dialog.SetDlgItemText(102, "nuovo");
-    EXPECT_EQ(message(), "Immettere un numero.");
-    EXPECT_EQ(dialog.integer, 3);
-    EXPECT_EQ(dialog.text, CString("testo"));
+    m_dialog.SetDlgItemText(100, "3");
+    m_dialog.SetDlgItemText(101, "x");
+    m_dialog.SetDlgItemText(102, "nuovo");
+    EXPECT_EQ(Message(), "Immettere un numero.");
+    EXPECT_EQ(m_dialog.integer, 3);
+    EXPECT_EQ(m_dialog.text, CString("testo"));
 }
 
 TEST_F(Exchange, WritingFieldsNeverReachesTheirChangeHandlers) {
-    EXPECT_EQ(dialog.changes, 0);
-    dialog.number = 44;
-    dialog.integer = 3;
-    dialog.UpdateData(FALSE);
-    EXPECT_EQ(dialog.changes, 0);
-    dialog.SetDlgItemText(100, "8"); // the program's own writing does
-    EXPECT_EQ(dialog.changes, 1);
-    DialogDriver user(dialog);
+    EXPECT_EQ(m_dialog.changes, 0);
+    m_dialog.number = 44;
+    m_dialog.integer = 3;
+    m_dialog.UpdateData(FALSE);
+    EXPECT_EQ(m_dialog.changes, 0);
+    m_dialog.SetDlgItemText(100, "8"); // the program's own writing does
+    EXPECT_EQ(m_dialog.changes, 1);
+    DialogDriver user(m_dialog);
     user.Type(101, "12"); // emptied and two digits
-    EXPECT_GE(dialog.changes, 3);
+    EXPECT_GE(m_dialog.changes, 3);
 }
 
 TEST_F(Exchange, ARadioFieldBindsTheWholeGroup) {
-    EXPECT_TRUE(dialog.IsDlgButtonChecked(302));
-    dialog.radio = 2; // behind a label in the middle of the group
-    dialog.check = 1;
-    dialog.UpdateData(FALSE);
-    EXPECT_TRUE(dialog.IsDlgButtonChecked(303));
-    EXPECT_FALSE(dialog.IsDlgButtonChecked(302));
-    EXPECT_TRUE(dialog.IsDlgButtonChecked(400));
-    dialog.radio = -1;
-    dialog.UpdateData(FALSE);
-    EXPECT_EQ(dialog.GetCheckedRadioButton(301, 303), 0);
-    EXPECT_EQ(message(), "");
-    EXPECT_EQ(dialog.radio, -1);
-    DialogDriver(dialog).Click(301);
-    EXPECT_EQ(message(), "");
-    EXPECT_EQ(dialog.radio, 0);
+    EXPECT_TRUE(m_dialog.IsDlgButtonChecked(302));
+    m_dialog.radio = 2; // behind a label in the middle of the group
+    m_dialog.check = 1;
+    m_dialog.UpdateData(FALSE);
+    EXPECT_TRUE(m_dialog.IsDlgButtonChecked(303));
+    EXPECT_FALSE(m_dialog.IsDlgButtonChecked(302));
+    EXPECT_TRUE(m_dialog.IsDlgButtonChecked(400));
+    m_dialog.radio = -1;
+    m_dialog.UpdateData(FALSE);
+    EXPECT_EQ(m_dialog.GetCheckedRadioButton(301, 303), 0);
+    EXPECT_EQ(Message(), "");
+    EXPECT_EQ(m_dialog.radio, -1);
+    DialogDriver(m_dialog).Click(301);
+    EXPECT_EQ(Message(), "");
+    EXPECT_EQ(m_dialog.radio, 0);
 }

@@ -1,8 +1,8 @@
 // What dialogs rely on beyond the single control: the road of a message, activation, keys on their way to the dialog,
 // and ends that come in the middle of something.
-#include "platform/Edit.h"
-#include "platform/Exception.h"
-#include "platform/private/WindowPeer.h"
+#include "platform/controls/Edit.h"
+#include "platform/core/Exception.h"
+#include "platform/private/peers/WindowPeer.h"
 #include "tests/platform/LoggedDialog.h"
 
 #include <QApplication>
@@ -83,9 +83,9 @@ TEST(Framework, ActivationIsToldToBothWindows) {
     Opened<> first;
     first.log.clear();
     const Opened<> second;
-    EXPECT_EQ(first.count("inactive"), 1);
-    EXPECT_EQ(second.count("active"), 1); // by the program, not by a click
-    EXPECT_EQ(second.count("active by click"), 0);
+    EXPECT_EQ(first.Count("inactive"), 1);
+    EXPECT_EQ(second.Count("active"), 1); // by the program, not by a click
+    EXPECT_EQ(second.Count("active by click"), 0);
 }
 
 // The frame's own moves are the window manager's; the arrival from outside stands for them, inside moves do not.
@@ -102,9 +102,9 @@ TEST(Framework, ThePointersArrivalStandsForTheFrame) {
         QApplication::sendEvent(widget, &event);
     };
     enter(dialog.GetDlgItem(100)->m_hWnd->widget); // from the dialog's ground into a control
-    EXPECT_EQ(dialog.count("caption"), 0);
+    EXPECT_EQ(dialog.Count("caption"), 0);
     enter(dialog.m_hWnd->widget);
-    EXPECT_EQ(dialog.count("caption"), 1);
+    EXPECT_EQ(dialog.Count("caption"), 1);
 }
 
 // The keypad's digits are told from the others; a key that one of the two spends does not navigate.
@@ -121,7 +121,7 @@ TEST(Framework, AKeyIsSeenByTheControlAndThenByTheDialog) {
     user.SetFocus(100);
     dialog.log.clear();
     user.Press(VK_TAB);
-    EXPECT_EQ(dialog.count("edit sees"), 1);
+    EXPECT_EQ(dialog.Count("edit sees"), 1);
     EXPECT_EQ(seen, std::vector<UINT>{VK_TAB});
     EXPECT_EQ(user.Focus(), 101);
     eats = true;
@@ -150,13 +150,13 @@ TEST(Framework, AClickOnAButtonMovesTheFocus) {
     EXPECT_EQ(user.Focus(), 200);
     EXPECT_EQ(dialog.log, (Log{"left", "button"}));
     user.Press(VK_RETURN); // that button's, not the default one's
-    EXPECT_EQ(dialog.count("button"), 2);
+    EXPECT_EQ(dialog.Count("button"), 2);
     EXPECT_TRUE(user.IsOpen());
 }
 
 // The default OK reads the fields and closes only when they are right; Cancel reads nothing.
 TEST(Framework, OkReadsTheFieldsAndCancelDoesNot) {
-    const TestTemplate source(twoEdits());
+    const TestTemplate source(TwoEdits());
     LoggedDialog dialog;
     dialog.exchanges = true;
     const Boxes boxes;
@@ -196,7 +196,7 @@ TEST(Framework, AnExceptionEndsWithItsMessage) {
     EXPECT_EQ(boxes.texts.back(), "Memoria esaurita.");
     dialog.onButton = nullptr;
     user.Click(200); // and the dialog goes on
-    EXPECT_EQ(dialog.count("button"), 4);
+    EXPECT_EQ(dialog.Count("button"), 4);
 }
 
 TEST(Framework, MessageBoxesHaveTheirIconsCaptionAndButtons) {
@@ -216,7 +216,7 @@ TEST(Framework, MessageBoxesHaveTheirIconsCaptionAndButtons) {
             EXPECT_EQ(box->windowTitle(), "Quovar");
             box->defaultButton()->click();
         });
-        EXPECT_EQ(TestApp::instance().CWinApp::DoMessageBox("Testo", type, 0), answer) << type;
+        EXPECT_EQ(TestApp::Instance().CWinApp::DoMessageBox("Testo", type, 0), answer) << type;
     }
 }
 
@@ -228,7 +228,7 @@ TEST(Framework, AMessageBoxOutlivesTheWindowUnderIt) {
         if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
             box->reject();
     });
-    EXPECT_EQ(TestApp::instance().ShowMessageBox("Testo", "Quovar", MB_YESNO), IDCANCEL);
+    EXPECT_EQ(TestApp::Instance().ShowMessageBox("Testo", "Quovar", MB_YESNO), IDCANCEL);
     EXPECT_FALSE(dialog.user.IsOpen());
 }
 
@@ -245,7 +245,7 @@ TEST(Framework, AMessageFromTheFocusThatLeavesAClosingDialog) {
         dialog.onKillFocus = [] { AfxMessageBox("Nodo inesistente"); };
         dialog.DestroyWindow();
         EXPECT_EQ(boxes.texts.size(), 1u);
-        EXPECT_EQ(dialog.count("destroy, children there"), 1);
+        EXPECT_EQ(dialog.Count("destroy, children there"), 1);
         EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
     }
 }

@@ -1,25 +1,25 @@
 // List boxes: rows, selecting by program and by the user, a hundred thousand rows.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/ListBox.h"
+#include "platform/controls/ListBox.h"
 
 namespace {
 
-constexpr DWORD Plain = LBS_NOTIFY | WS_TABSTOP | WS_VSCROLL | WS_BORDER;
+constexpr DWORD plain = LBS_NOTIFY | WS_TABSTOP | WS_VSCROLL | WS_BORDER;
 
-ControlRows list(DWORD style) {
-    return ControlRows().edit(50).button("OK", IDOK, BS_DEFPUSHBUTTON).add("LISTBOX", "", 100, Plain | style);
+ControlRows List(DWORD style) {
+    return ControlRows().Edit(50).Button("OK", IDOK, BS_DEFPUSHBUTTON).Add("LISTBOX", "", 100, plain | style);
 }
 
 class ListDialog : public ControlDialog {
   public:
-    explicit ListDialog(DWORD style, int count = 6) : ControlDialog(list(style)), box(control<CListBox>(100)) {
+    explicit ListDialog(DWORD style, int count = 6) : ControlDialog(List(style)), box(Control<CListBox>(100)) {
         box.MoveWindow(5, 60, 150, 110);
         for (int row = 0; row < count; ++row)
             box.AddString(CString("riga ") + CString(static_cast<char>('A' + row)));
-        take();
+        Take();
     }
-    std::vector<int> selected() const {
+    std::vector<int> Selected() const {
         std::vector<int> rows(static_cast<std::size_t>(std::max(0, box.GetSelCount())));
         box.GetSelItems(static_cast<int>(rows.size()), rows.data());
         return rows;
@@ -28,7 +28,7 @@ class ListDialog : public ControlDialog {
     CListBox& box;
 };
 
-const Log Selected{told(100, LBN_SELCHANGE)};
+const Log selected{Told(100, LBN_SELCHANGE)};
 
 using Rows = std::vector<int>;
 
@@ -43,39 +43,39 @@ TEST(ListBox, TheProgramsSelectingAndEmptyingTellNobody) {
     EXPECT_EQ(dialog.box.GetCurSel(), LB_ERR);
     dialog.box.ResetContent();
     TestApp::PumpMessages();
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
     EXPECT_EQ(dialog.box.GetCount(), 0);
 }
 
 TEST(ListBox, ADoubleClickTellsTheSelectionOnceAndThenItself) {
     ListDialog dialog(0);
     dialog.user.DoubleClickRow(100, 3);
-    EXPECT_EQ(withoutFocus(dialog.take()), (Log{told(100, LBN_SELCHANGE), told(100, LBN_DBLCLK)}));
+    EXPECT_EQ(WithoutFocus(dialog.Take()), (Log{Told(100, LBN_SELCHANGE), Told(100, LBN_DBLCLK)}));
     EXPECT_EQ(dialog.box.GetCurSel(), 3);
 }
 
 TEST(ListBox, WithoutItsStyleItTellsNothing) {
-    ControlDialog dialog(ControlRows().edit(50).add("LISTBOX", "", 100, WS_TABSTOP));
-    auto& box = dialog.control<CListBox>(100);
+    ControlDialog dialog(ControlRows().Edit(50).Add("LISTBOX", "", 100, WS_TABSTOP));
+    auto& box = dialog.Control<CListBox>(100);
     box.AddString("x");
     dialog.user.ClickRow(100, 0);
     EXPECT_EQ(box.GetCurSel(), 0);
-    EXPECT_EQ(dialog.take(), (Log{told(50, EN_KILLFOCUS)}));
+    EXPECT_EQ(dialog.Take(), (Log{Told(50, EN_KILLFOCUS)}));
 }
 
 TEST(ListBox, KeysMoveASingleSelection) {
     ListDialog dialog(0, 20);
     dialog.user.ClickRow(100, 1);
-    dialog.take();
+    dialog.Take();
     dialog.user.Press(VK_DOWN);
     EXPECT_EQ(dialog.box.GetCurSel(), 2);
-    EXPECT_EQ(dialog.take(), Selected);
+    EXPECT_EQ(dialog.Take(), selected);
     dialog.user.Press(VK_END);
     EXPECT_EQ(dialog.box.GetCurSel(), 19);
     EXPECT_GT(dialog.box.GetTopIndex(), 0); // scrolled to it
-    dialog.take();
+    dialog.Take();
     dialog.user.Press(VK_DOWN); // nowhere to go
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
     dialog.user.Press(VK_HOME);
     dialog.user.TypeKeys("riga f");
     EXPECT_EQ(dialog.box.GetCurSel(), 5);
@@ -85,32 +85,32 @@ TEST(ListBox, ExtendedSelectionFollowsCtrlAndShift) {
     ListDialog dialog(LBS_EXTENDEDSEL);
     dialog.user.ClickRow(100, 1);
     dialog.user.ClickRow(100, 3, ShiftKey);
-    EXPECT_EQ(dialog.selected(), (Rows{1, 2, 3}));
+    EXPECT_EQ(dialog.Selected(), (Rows{1, 2, 3}));
     dialog.user.ClickRow(100, 2, CtrlKey);
-    EXPECT_EQ(dialog.selected(), (Rows{1, 3}));
+    EXPECT_EQ(dialog.Selected(), (Rows{1, 3}));
     EXPECT_EQ(dialog.box.GetCurSel(), 2); // the focus rectangle, selected or not
     dialog.user.ClickRow(100, 5);
     dialog.user.Press(VK_UP, ShiftKey);
-    EXPECT_EQ(dialog.selected(), (Rows{4, 5}));
-    dialog.take();
+    EXPECT_EQ(dialog.Selected(), (Rows{4, 5}));
+    dialog.Take();
     dialog.user.Press(VK_UP, CtrlKey); // moves the rectangle alone
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
     EXPECT_EQ(dialog.box.GetCaretIndex(), 3);
-    EXPECT_EQ(dialog.selected(), (Rows{4, 5}));
+    EXPECT_EQ(dialog.Selected(), (Rows{4, 5}));
 }
 
 TEST(ListBox, MultipleSelectionTogglesRowByRow) {
     ListDialog dialog(LBS_MULTIPLESEL);
     for (const int row : {1, 3, 1})
         dialog.user.ClickRow(100, row);
-    EXPECT_EQ(dialog.selected(), Rows{3});
-    dialog.take();
+    EXPECT_EQ(dialog.Selected(), Rows{3});
+    dialog.Take();
     dialog.user.Press(VK_DOWN); // the rectangle only
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
     EXPECT_EQ(dialog.box.GetCurSel(), 2);
     dialog.user.Press(VK_SPACE);
-    EXPECT_EQ(dialog.selected(), (Rows{2, 3}));
-    EXPECT_EQ(dialog.take(), Selected);
+    EXPECT_EQ(dialog.Selected(), (Rows{2, 3}));
+    EXPECT_EQ(dialog.Take(), selected);
 }
 
 TEST(ListBox, TheProgramSelectsRangesAndAll) {
@@ -118,13 +118,13 @@ TEST(ListBox, TheProgramSelectsRangesAndAll) {
     EXPECT_EQ(dialog.box.SetSel(-1, TRUE), LB_OKAY);
     EXPECT_EQ(dialog.box.GetSelCount(), 6);
     dialog.box.SelItemRange(FALSE, 1, 4);
-    EXPECT_EQ(dialog.selected(), (Rows{0, 5}));
+    EXPECT_EQ(dialog.Selected(), (Rows{0, 5}));
     EXPECT_EQ(dialog.box.SetCurSel(2), LB_ERR); // of single selection
     dialog.box.DeleteString(0);
     EXPECT_EQ(dialog.box.GetSelCount(), 1);
     EXPECT_GT(dialog.box.GetSel(4), 0);
     EXPECT_EQ(dialog.box.SetSel(99, TRUE), LB_ERR);
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
 }
 
 TEST(ListBox, SortedRowsDisregardCaseAndKeepTheirData) {
@@ -164,12 +164,12 @@ TEST(ListBox, PlacesFitTheRowsThatAreSeen) {
 TEST(ListBox, AHundredThousandRowsStayWhole) {
     // Announcing every row to the view, or searching the selection for each, would outlast the runner's limit.
     ListDialog dialog(LBS_EXTENDEDSEL, 0);
-    constexpr int Count = 100000;
-    for (int row = 0; row < Count; ++row)
+    constexpr int count = 100000;
+    for (int row = 0; row < count; ++row)
         dialog.box.SetItemData(dialog.box.AddString("riga"), static_cast<DWORD_PTR>(row));
     dialog.box.SetSel(-1, TRUE);
-    EXPECT_EQ(dialog.user.SelectedRows(100).size(), std::size_t{Count}); // asks row by row
-    EXPECT_EQ(dialog.selected().size(), std::size_t{Count});
-    dialog.box.SetTopIndex(Count - 1);
-    EXPECT_GT(dialog.box.GetTopIndex(), Count - 20); // the last page
+    EXPECT_EQ(dialog.user.SelectedRows(100).size(), std::size_t{count}); // asks row by row
+    EXPECT_EQ(dialog.Selected().size(), std::size_t{count});
+    dialog.box.SetTopIndex(count - 1);
+    EXPECT_GT(dialog.box.GetTopIndex(), count - 20); // the last page
 }

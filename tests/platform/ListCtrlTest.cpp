@@ -1,15 +1,15 @@
 // List views: columns, selection and what is told of it.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/ListCtrl.h"
+#include "platform/controls/ListCtrl.h"
 
 namespace {
 
 class ViewDialog : public ControlDialog {
   public:
     explicit ViewDialog(DWORD style)
-        : ControlDialog(ControlRows().edit(50).add("SysListView32", "", 100, WS_TABSTOP | WS_BORDER | style)),
-          view(control<CListCtrl>(100)) {
+        : ControlDialog(ControlRows().Edit(50).Add("SysListView32", "", 100, WS_TABSTOP | WS_BORDER | style)),
+          view(Control<CListCtrl>(100)) {
         view.MoveWindow(5, 40, 280, 140);
         if ((style & LVS_TYPEMASK) == LVS_REPORT) {
             view.InsertColumn(0, "Campi", LVCFMT_LEFT, 110);
@@ -18,12 +18,12 @@ class ViewDialog : public ControlDialog {
         for (const char* text : {"ID", "B", "H"})
             view.InsertItem(view.GetItemCount(), text);
         TestApp::PumpMessages();
-        take();
+        Take();
     }
-    void click(int row, bool twice = false, int below = 0) {
+    void Click(int row, bool twice = false, int below = 0) {
         CRect rect;
         ASSERT_TRUE(view.GetItemRect(row, &rect, LVIR_LABEL));
-        clickOn(view, CPoint(rect.left + 6, rect.CenterPoint().y + below), twice);
+        ClickOn(view, CPoint(rect.left + 6, rect.CenterPoint().y + below), twice);
     }
 
     CListCtrl& view;
@@ -46,42 +46,42 @@ TEST(ListView, SelectionsAreToldWhoeverMakesThem) {
     for (const DWORD kind : {LVS_REPORT, LVS_LIST}) {
         ViewDialog dialog(kind | LVS_SINGLESEL);
         EXPECT_EQ(dialog.view.GetNextItem(-1, LVNI_SELECTED), -1);
-        dialog.click(1);
+        dialog.Click(1);
         EXPECT_EQ(dialog.view.GetNextItem(-1, LVNI_SELECTED), 1);
-        EXPECT_EQ(withoutFocus(dialog.take()), (Log{notified(100, LVN_ITEMCHANGED), notified(100, NM_CLICK)}));
+        EXPECT_EQ(WithoutFocus(dialog.Take()), (Log{Notified(100, LVN_ITEMCHANGED), Notified(100, NM_CLICK)}));
         dialog.view.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
-        EXPECT_EQ(dialog.take(),
-                  (Log{notified(100, LVN_ITEMCHANGED), notified(100, LVN_ITEMCHANGED)})); // one off, one on
+        EXPECT_EQ(dialog.Take(),
+                  (Log{Notified(100, LVN_ITEMCHANGED), Notified(100, LVN_ITEMCHANGED)})); // one off, one on
         EXPECT_EQ(dialog.view.GetSelectedCount(), 1u);
         dialog.view.DeleteAllItems();
-        EXPECT_EQ(dialog.take(), Log{});
+        EXPECT_EQ(dialog.Take(), Log{});
         EXPECT_EQ(dialog.view.GetItemCount(), 0);
     }
 }
 
 TEST(ListView, ADoubleClickIsToldAndMayEndTheDialog) {
     ViewDialog dialog(LVS_LIST | LVS_SINGLESEL);
-    dialog.click(0, true);
-    EXPECT_EQ(withoutFocus(dialog.take()).back(), notified(100, NM_DBLCLK));
+    dialog.Click(0, true);
+    EXPECT_EQ(WithoutFocus(dialog.Take()).back(), Notified(100, NM_DBLCLK));
     dialog.onNotify = [&](int code) -> LRESULT {
         if (code == NM_DBLCLK)
             dialog.DestroyWindow();
         return 0;
     };
-    dialog.click(1, true);
+    dialog.Click(1, true);
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
 }
 
 TEST(ListView, KeysAreToldFirstAndThoseOfTheProgramMoveToo) {
     ViewDialog dialog(LVS_REPORT | LVS_SINGLESEL);
-    dialog.click(0);
-    dialog.take();
+    dialog.Click(0);
+    dialog.Take();
     dialog.user.Press(VK_DOWN);
-    EXPECT_EQ(dialog.take(),
-              (Log{notified(100, LVN_KEYDOWN), notified(100, LVN_ITEMCHANGED), notified(100, LVN_ITEMCHANGED)}));
+    EXPECT_EQ(dialog.Take(),
+              (Log{Notified(100, LVN_KEYDOWN), Notified(100, LVN_ITEMCHANGED), Notified(100, LVN_ITEMCHANGED)}));
     dialog.view.SendMessage(WM_KEYDOWN, VK_DOWN); // as a dialog that passes keys on does
     EXPECT_EQ(dialog.view.GetNextItem(-1, LVNI_SELECTED), 2);
-    dialog.click(2, false, 60); // beside the rows
+    dialog.Click(2, false, 60); // beside the rows
     EXPECT_EQ(dialog.view.GetNextItem(-1, LVNI_SELECTED), -1);
 }
 
@@ -91,7 +91,7 @@ TEST(ListView, SortingKeepsDataAndSelectionWithTheirRows) {
         dialog.view.SetItemData(row, static_cast<DWORD_PTR>(10 - row));
     dialog.view.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
     dialog.view.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
-    dialog.take();
+    dialog.Take();
     dialog.view.SortItems([](LPARAM a, LPARAM b, LPARAM) { return static_cast<int>(a - b); }, 0);
     EXPECT_EQ(dialog.view.GetItemText(0, 0), CString("H"));
     EXPECT_EQ(dialog.view.GetItemData(2), 10u);
@@ -99,6 +99,6 @@ TEST(ListView, SortingKeepsDataAndSelectionWithTheirRows) {
     for (POSITION at = dialog.view.GetFirstSelectedItemPosition(); at;)
         selected.push_back(dialog.view.GetNextSelectedItem(at));
     EXPECT_EQ(selected, (std::vector{1, 2}));
-    EXPECT_EQ(dialog.take(), Log{});
+    EXPECT_EQ(dialog.Take(), Log{});
     EXPECT_EQ(dialog.view.FindItem("id"), 2);
 }

@@ -1,7 +1,7 @@
 // A dialog that writes down what its window and its controls tell it, and runs what a test wants in its handlers.
 #pragma once
 
-#include "platform/DataExchange.h"
+#include "platform/window/DataExchange.h"
 #include "tests/platform/TestDialogs.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/TestApp.h"
@@ -33,7 +33,7 @@ class LoggedDialog : public CDialog {
     std::function<BOOL(UINT message, WPARAM wParam, LRESULT& result)> onMessage; // whether it is handled
     std::function<BOOL(UINT key)> onKey;                                         // whether it is spent
 
-    int count(const std::string& line) const { return static_cast<int>(std::count(log.begin(), log.end(), line)); }
+    int Count(const std::string& line) const { return static_cast<int>(std::count(log.begin(), log.end(), line)); }
     BOOL Open() { return Create(1, m_pParentWnd); }
     // Runs the modal dialog; what the user does once it is up.
     int Run(const std::function<void(DialogDriver&)>& script) {
@@ -95,13 +95,13 @@ class LoggedDialog : public CDialog {
 };
 
 // Fields 100 and 101 and three buttons.
-inline ControlRows twoEdits() {
+inline ControlRows TwoEdits() {
     return ControlRows()
-        .edit(100)
-        .edit(101)
-        .button("OK", IDOK, BS_DEFPUSHBUTTON)
-        .button("Annulla", IDCANCEL)
-        .button("Altro", 200);
+        .Edit(100)
+        .Edit(101)
+        .Button("OK", IDOK, BS_DEFPUSHBUTTON)
+        .Button("Annulla", IDCANCEL)
+        .Button("Altro", 200);
 }
 
 // One that is open and active, with a template of its own. The log is what opening told.
@@ -110,13 +110,13 @@ class Opened : public Base {
     TestTemplate m_template;
 
   public:
-    explicit Opened(const ControlRows& rows = twoEdits(), std::function<void(LoggedDialog&)> init = {})
-        : m_template(rows), user(opened(std::move(init))) {}
+    explicit Opened(const ControlRows& rows = TwoEdits(), std::function<void(LoggedDialog&)> init = {})
+        : m_template(rows), user(OpenIt(std::move(init))) {}
 
     DialogDriver user;
 
   private:
-    CWnd& opened(std::function<void(LoggedDialog&)> init) {
+    CWnd& OpenIt(std::function<void(LoggedDialog&)> init) {
         this->onInit = std::move(init);
         this->Open();
         return *this;

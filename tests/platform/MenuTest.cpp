@@ -1,7 +1,7 @@
 // Menus: loading, states, tracking.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/Menu.h"
+#include "platform/window/Menu.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -10,32 +10,32 @@
 
 namespace {
 
-constexpr platform::MenuItemTemplate Items[] = {
+constexpr platform::MenuItemTemplate items[] = {
     {0, "Diagrammi", false, true, 3, false, false}, {501, "N", false, false, 0, false, false},
     {0, "", true, false, 0, false, false},          {0, "Altri", false, true, 1, false, false},
     {502, "M&3", false, false, 0, false, true},
 };
-constexpr platform::MenuTemplate Template{351, 1, Items};
+constexpr platform::MenuTemplate Template{351, 1, items};
 
 class Menu : public testing::Test {
   protected:
     Menu() {
-        platform::AppendResources(&module, &module);
-        EXPECT_TRUE(menu.LoadMenu(351));
+        platform::AppendResources(&m_module, &m_module);
+        EXPECT_TRUE(m_menu.LoadMenu(351));
     }
     ~Menu() override {
         platform::popupMenuHook = nullptr;
-        platform::RemoveResources(&module);
+        platform::RemoveResources(&m_module);
     }
 
-    platform::ResourceModule module{"menus", {}, {&Template, 1}, {}, {}};
-    CMenu menu;
+    platform::ResourceModule m_module{"menus", {}, {&Template, 1}, {}, {}};
+    CMenu m_menu;
 };
 
 } // namespace
 
 TEST_F(Menu, LoadsNestedItemsAlongTheChainOrByHandle) {
-    CMenu* popup = menu.GetSubMenu(0);
+    CMenu* popup = m_menu.GetSubMenu(0);
     ASSERT_TRUE(popup);
     EXPECT_EQ(popup->GetMenuItemCount(), 3u); // the items of the inner pop-up are not its own
     EXPECT_EQ(popup->GetMenuItemID(0), 501u);
@@ -49,30 +49,30 @@ TEST_F(Menu, LoadsNestedItemsAlongTheChainOrByHandle) {
     EXPECT_FALSE(second.LoadMenu(999));
     ASSERT_TRUE(second.Attach(LoadMenu(AfxFindResourceHandle(351, RT_MENU), 351)));
     EXPECT_EQ(second.GetMenuItemCount(), 1u);
-    EXPECT_EQ(LoadMenu(&module, 1), nullptr);
+    EXPECT_EQ(LoadMenu(&m_module, 1), nullptr);
 }
 
 TEST_F(Menu, StatesAreFoundByCommandInPopupsAsWell) {
-    EXPECT_EQ(menu.CheckMenuItem(502, MF_BYCOMMAND | MF_UNCHECKED), UINT{MF_CHECKED});
-    EXPECT_EQ(menu.CheckMenuItem(501, MF_CHECKED), UINT{MF_UNCHECKED});
-    EXPECT_EQ(menu.GetMenuState(501, MF_BYCOMMAND), UINT{MF_CHECKED});
-    EXPECT_EQ(menu.CheckMenuItem(777, MF_CHECKED), static_cast<UINT>(-1));
+    EXPECT_EQ(m_menu.CheckMenuItem(502, MF_BYCOMMAND | MF_UNCHECKED), UINT{MF_CHECKED});
+    EXPECT_EQ(m_menu.CheckMenuItem(501, MF_CHECKED), UINT{MF_UNCHECKED});
+    EXPECT_EQ(m_menu.GetMenuState(501, MF_BYCOMMAND), UINT{MF_CHECKED});
+    EXPECT_EQ(m_menu.CheckMenuItem(777, MF_CHECKED), static_cast<UINT>(-1));
 }
 
 TEST_F(Menu, TheChoiceReachesTheWindowUnlessItIsDisabled) {
-    ControlDialog dialog(ControlRows().button("OK", IDOK));
+    ControlDialog dialog(ControlRows().Button("OK", IDOK));
     platform::popupMenuHook = [](CMenu&, CWnd*) { return UINT{502}; };
-    menu.GetSubMenu(0)->TrackPopupMenu(TPM_RIGHTBUTTON, 10, 10, &dialog);
-    EXPECT_EQ(dialog.take(), Log{told(502, 0)});
-    EXPECT_EQ(menu.TrackPopupMenu(TPM_RETURNCMD, 10, 10, &dialog), 502);
-    EXPECT_EQ(dialog.take(), Log{});
-    menu.EnableMenuItem(502, MF_GRAYED);
-    EXPECT_FALSE(menu.TrackPopupMenu(0, 10, 10, &dialog));
-    EXPECT_EQ(dialog.take(), Log{});
+    m_menu.GetSubMenu(0)->TrackPopupMenu(TPM_RIGHTBUTTON, 10, 10, &dialog);
+    EXPECT_EQ(dialog.Take(), Log{Told(502, 0)});
+    EXPECT_EQ(m_menu.TrackPopupMenu(TPM_RETURNCMD, 10, 10, &dialog), 502);
+    EXPECT_EQ(dialog.Take(), Log{});
+    m_menu.EnableMenuItem(502, MF_GRAYED);
+    EXPECT_FALSE(m_menu.TrackPopupMenu(0, 10, 10, &dialog));
+    EXPECT_EQ(dialog.Take(), Log{});
 }
 
 TEST_F(Menu, TheShownMenuIsUsedByKeyboard) {
-    ControlDialog dialog(ControlRows().button("OK", IDOK));
+    ControlDialog dialog(ControlRows().Button("OK", IDOK));
     CMenu made;
     made.CreatePopupMenu();
     made.AppendMenu(MF_STRING, 11, "&Apri");
@@ -87,5 +87,5 @@ TEST_F(Menu, TheShownMenuIsUsedByKeyboard) {
         QTest::keyClick(shown, Qt::Key_Return);
     });
     EXPECT_TRUE(made.TrackPopupMenu(0, 20, 20, &dialog));
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{told(12, 0)});
+    EXPECT_EQ(WithoutFocus(dialog.Take()), Log{Told(12, 0)});
 }

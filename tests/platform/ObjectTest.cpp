@@ -1,5 +1,5 @@
-#include "platform/Exception.h"
-#include "platform/Geometry.h"
+#include "platform/core/Exception.h"
+#include "platform/core/Geometry.h"
 #include "tests/platform/TestDialogs.h"
 
 #include <gtest/gtest.h>

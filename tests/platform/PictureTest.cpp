@@ -1,10 +1,10 @@
 #include "tests/platform/Sheet.h"
 
-#include "platform/Application.h"
-#include "platform/ImageList.h"
-#include "platform/private/ImageListData.h"
-#include "platform/private/Picture.h"
-#include "platform/private/WindowPeer.h"
+#include "platform/controls/ImageList.h"
+#include "platform/private/paint/ImageListData.h"
+#include "platform/private/paint/Picture.h"
+#include "platform/private/peers/WindowPeer.h"
+#include "platform/window/Application.h"
 
 namespace {
 
@@ -15,24 +15,24 @@ class Shown : public CWnd {
   public:
     Shown() {
         Create("STATIC", "", WS_POPUP | WS_VISIBLE, CRect(0, 0, 40, 30), nullptr, 0);
-        settle();
+        Settle();
     }
 
     int painted = 0;
 
     // What the window shows on the screen.
-    QRgb shown(int x, int y) {
+    QRgb At(int x, int y) {
         CWinApp::PumpMessages();
         const QImage image = m_hWnd->widget->grab().toImage();
         return image.pixel((QPointF(x, y) * image.devicePixelRatio()).toPoint());
     }
-    void update(BOOL erase) {
+    void Update(BOOL erase) {
         Invalidate(erase);
         UpdateWindow();
     }
 
   protected:
-    void settle() {
+    void Settle() {
         CWinApp::PumpMessages();
         UpdateWindow();
     }
@@ -45,7 +45,7 @@ class Shown : public CWnd {
 // A window that draws a blue square whenever it is told to paint, the second time through a client context.
 class Painting : public Shown {
   public:
-    Painting() { settle(); }
+    Painting() { Settle(); }
 
   private:
     void OnPaint() {
@@ -59,7 +59,7 @@ BEGIN_MESSAGE_MAP(Painting, Shown)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
 
-COLORREF pixel(CWnd& window, int x, int y) {
+COLORREF Pixel(CWnd& window, int x, int y) {
     return CClientDC(&window).GetPixel(x, y);
 }
 
@@ -70,27 +70,27 @@ COLORREF pixel(CWnd& window, int x, int y) {
 TEST(Picture, KeepsWhatIsDrawnUntilInvalidateErasesIt) {
     Shown window;
     CClientDC(&window).FillSolidRect(0, 0, 5, 5, red);
-    EXPECT_EQ(window.shown(2, 2), qRgb(255, 0, 0));
-    EXPECT_EQ(window.shown(2, 2), qRgb(255, 0, 0)) << "a second look";
+    EXPECT_EQ(window.At(2, 2), qRgb(255, 0, 0));
+    EXPECT_EQ(window.At(2, 2), qRgb(255, 0, 0)) << "a second look";
     window.MoveWindow(0, 0, 60, 60);
     CClientDC(&window).FillSolidRect(50, 50, 5, 5, red);
-    EXPECT_EQ(pixel(window, 52, 52), red) << "the picture grows with its window";
+    EXPECT_EQ(Pixel(window, 52, 52), red) << "the picture grows with its window";
     CWinApp::PumpMessages();
     window.UpdateWindow(); // the resizing's own painting, which erases
     CClientDC(&window).FillSolidRect(50, 50, 5, 5, red);
     window.m_hWnd->widget->repaint();
-    EXPECT_EQ(pixel(window, 52, 52), red);
+    EXPECT_EQ(Pixel(window, 52, 52), red);
     const int before = window.painted;
     window.UpdateWindow(); // nothing is invalid
     EXPECT_EQ(window.painted, before);
-    window.update(FALSE);
+    window.Update(FALSE);
     EXPECT_EQ(window.painted, before + 1);
-    EXPECT_EQ(pixel(window, 52, 52), red);
+    EXPECT_EQ(Pixel(window, 52, 52), red);
     window.Invalidate();
-    EXPECT_EQ(pixel(window, 52, 52), red) << "not before it is painted";
+    EXPECT_EQ(Pixel(window, 52, 52), red) << "not before it is painted";
     window.UpdateWindow();
     EXPECT_EQ(window.painted, before + 2);
-    EXPECT_NE(pixel(window, 52, 52), red) << "erased before it returns";
+    EXPECT_NE(Pixel(window, 52, 52), red) << "erased before it returns";
 }
 
 // Catches two contexts on one window of which the second draws nothing or with the first one's pen.
@@ -102,11 +102,11 @@ TEST(Picture, ServesSeveralContextsAtOnce) {
     second.SelectObject(&bluePen);
     second.IntersectClipRect(0, 0, 10, 30);
     for (int y = 0; y < 4; ++y)
-        drawLine(y % 2 ? second : first, 0, y, 20, y);
-    EXPECT_EQ(pixel(window, 15, 2), red);
-    EXPECT_EQ(pixel(window, 5, 3), blue);
-    EXPECT_NE(pixel(window, 15, 3), blue);
-    EXPECT_EQ(window.shown(5, 2), qRgb(255, 0, 0)) << "shown while contexts are open";
+        DrawLine(y % 2 ? second : first, 0, y, 20, y);
+    EXPECT_EQ(Pixel(window, 15, 2), red);
+    EXPECT_EQ(Pixel(window, 5, 3), blue);
+    EXPECT_NE(Pixel(window, 15, 3), blue);
+    EXPECT_EQ(window.At(5, 2), qRgb(255, 0, 0)) << "shown while contexts are open";
 }
 
 TEST(Picture, OutlivesAndIsOutlived) {
@@ -118,7 +118,7 @@ TEST(Picture, OutlivesAndIsOutlived) {
     Shown window;
     CClientDC dc(&window);
     dc.FillSolidRect(0, 0, 5, 5, red);
-    window.update(TRUE); // erased under the open context
+    window.Update(TRUE); // erased under the open context
     EXPECT_NE(dc.GetPixel(2, 2), red);
     dc.FillSolidRect(0, 0, 5, 5, red);
     EXPECT_EQ(dc.GetPixel(2, 2), red);
@@ -136,9 +136,9 @@ TEST(Picture, InvertsOverTheBackground) {
     CClientDC dc(&window);
     const COLORREF background = dc.GetPixel(3, 3);
     dc.SetROP2(R2_NOT);
-    drawLine(dc, 0, 3, 9, 3);
+    DrawLine(dc, 0, 3, 9, 3);
     EXPECT_EQ(dc.GetPixel(3, 3), background ^ 0xffffff);
-    drawLine(dc, 0, 3, 9, 3);
+    DrawLine(dc, 0, 3, 9, 3);
     EXPECT_EQ(dc.GetPixel(3, 3), background);
 }
 
@@ -146,8 +146,8 @@ TEST(Picture, InvertsOverTheBackground) {
 TEST(Picture, PaintingEnds) {
     Painting window;
     window.Invalidate();
-    EXPECT_EQ(window.shown(22, 2), qRgb(0, 0, 255));
-    EXPECT_EQ(window.shown(32, 2), qRgb(0, 0, 255));
+    EXPECT_EQ(window.At(22, 2), qRgb(0, 0, 255));
+    EXPECT_EQ(window.At(32, 2), qRgb(0, 0, 255));
     const int before = window.painted;
     for (int i = 0; i < 5; ++i)
         CWinApp::PumpMessages();
@@ -157,16 +157,16 @@ TEST(Picture, PaintingEnds) {
 
 TEST(Picture, KeepsItsContentAcrossScales) {
     platform::Picture picture;
-    EXPECT_TRUE(picture.empty());
-    QPainter(&picture.canvas({10, 10}, 1)->image).fillRect(0, 0, 4, 4, Qt::red);
-    const QImage& fine = picture.canvas({12, 12}, 2)->image;
+    EXPECT_TRUE(picture.Empty());
+    QPainter(&picture.CanvasFor({10, 10}, 1)->image).fillRect(0, 0, 4, 4, Qt::red);
+    const QImage& fine = picture.CanvasFor({12, 12}, 2)->image;
     EXPECT_EQ(fine.size(), QSize(24, 24));
     EXPECT_EQ(fine.pixel(7, 7), qRgb(255, 0, 0));
     EXPECT_EQ(qAlpha(fine.pixel(8, 8)), 0);
-    EXPECT_FALSE(picture.empty());
-    picture.erase();
-    EXPECT_TRUE(picture.empty());
-    EXPECT_EQ(qAlpha(picture.canvas({12, 12}, 2)->image.pixel(7, 7)), 0);
+    EXPECT_FALSE(picture.Empty());
+    picture.Erase();
+    EXPECT_TRUE(picture.Empty());
+    EXPECT_EQ(qAlpha(picture.CanvasFor({12, 12}, 2)->image.pixel(7, 7)), 0);
 }
 
 TEST(ImageList, CutsAndMasks) {
@@ -183,9 +183,9 @@ TEST(ImageList, CutsAndMasks) {
     EXPECT_EQ(list.Add(&strip, red), 0);
     EXPECT_EQ(list.GetImageCount(), 2);
     Sheet sheet(8, 4);
-    EXPECT_TRUE(list.Draw(&sheet.dc(), 1, CPoint(2, 0), ILD_NORMAL));
-    EXPECT_EQ(sheet.rows(), "......../...#..../");
-    EXPECT_FALSE(list.Draw(&sheet.dc(), 2, CPoint(), ILD_NORMAL));
+    EXPECT_TRUE(list.Draw(&sheet.Dc(), 1, CPoint(2, 0), ILD_NORMAL));
+    EXPECT_EQ(sheet.Rows(), "......../...#..../");
+    EXPECT_FALSE(list.Draw(&sheet.Dc(), 2, CPoint(), ILD_NORMAL));
     EXPECT_EQ(list.Add(strip.m_hObject), 2) << "an icon is brought to the list's size";
     EXPECT_EQ(list.Data()->images[2].size(), QSize(4, 4));
     EXPECT_TRUE(list.Remove(0));

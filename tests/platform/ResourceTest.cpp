@@ -1,7 +1,7 @@
 // The resource chain, the start of modules and the compiler of resource scripts.
-#include "platform/Resource.h"
-#include "platform/Module.h"
-#include "platform/Styles.h"
+#include "platform/resource/Resource.h"
+#include "platform/resource/Module.h"
+#include "platform/window/Styles.h"
 
 #include <gtest/gtest.h>
 
@@ -23,16 +23,16 @@ constexpr DialogTemplate MakeDialog(int id, const char* caption) {
     return {id, 0, 0, 10, 10, caption, 0, 0, "", 0, 0, {}};
 }
 
-constexpr std::array kHostDialogs = {MakeDialog(60001, "host"), MakeDialog(60002, "host")};
-constexpr std::array kFirstDialogs = {MakeDialog(60002, "first"), MakeDialog(60003, "first")};
-constexpr std::array kSecondDialogs = {MakeDialog(60003, "second"), MakeDialog(60004, "second")};
-constexpr std::array kFirstMenus = {MenuTemplate{60376, 0, {}}};
-constexpr std::array<unsigned char, 1> kPicture = {'<'};
-constexpr std::array kHostIcons = {platform::BitmapResource{60355, kPicture}};
+constexpr std::array hostDialogs = {MakeDialog(60001, "host"), MakeDialog(60002, "host")};
+constexpr std::array firstDialogs = {MakeDialog(60002, "first"), MakeDialog(60003, "first")};
+constexpr std::array secondDialogs = {MakeDialog(60003, "second"), MakeDialog(60004, "second")};
+constexpr std::array firstMenus = {MenuTemplate{60376, 0, {}}};
+constexpr std::array<unsigned char, 1> pictureBytes = {'<'};
+constexpr std::array hostIcons = {platform::BitmapResource{60355, pictureBytes}};
 
-constexpr ResourceModule kHost{"host", kHostDialogs, {}, {}, kHostIcons};
-constexpr ResourceModule kFirst{"First", kFirstDialogs, kFirstMenus, {}, {}};
-constexpr ResourceModule kSecond{"Second", kSecondDialogs, {}, {}, {}};
+constexpr ResourceModule hostModule{"host", hostDialogs, {}, {}, hostIcons};
+constexpr ResourceModule firstModule{"First", firstDialogs, firstMenus, {}, {}};
+constexpr ResourceModule secondModule{"Second", secondDialogs, {}, {}, {}};
 
 std::string CaptionOf(int id) {
     const DialogTemplate* found = platform::FindDialogTemplate(id);
@@ -46,7 +46,7 @@ struct TestModule {
     int starts = 0;
     bool refusesLate = false; // after its link was made
 };
-TestModule g_first{&kFirst}, g_second{&kSecond};
+TestModule g_first{&firstModule}, g_second{&secondModule};
 
 template <TestModule& module>
 int Entry(HINSTANCE handle, UINT reason) {
@@ -62,14 +62,14 @@ int Entry(HINSTANCE handle, UINT reason) {
         module.state = {};
     return !module.refusesLate;
 }
-constexpr auto FirstEntry = &Entry<g_first>, SecondEntry = &Entry<g_second>;
+constexpr auto firstEntry = &Entry<g_first>, secondEntry = &Entry<g_second>;
 
 class ResourceChain : public testing::Test {
   protected:
-    void SetUp() override { platform::SetHostResources(&kHost); }
+    void SetUp() override { platform::SetHostResources(&hostModule); }
     void TearDown() override {
-        AfxDetachLinkedModule(FirstEntry);
-        AfxDetachLinkedModule(SecondEntry);
+        AfxDetachLinkedModule(firstEntry);
+        AfxDetachLinkedModule(secondEntry);
         platform::SetHostResources(nullptr);
         g_second.refusesLate = false;
     }
@@ -77,8 +77,8 @@ class ResourceChain : public testing::Test {
 
 // Catches a search that asks a module before the host, or modules in another order than they were loaded.
 TEST_F(ResourceChain, HostFirstThenModulesInLoadOrder) {
-    const HINSTANCE first = AfxAttachLinkedModule(FirstEntry);
-    const HINSTANCE second = AfxAttachLinkedModule(SecondEntry);
+    const HINSTANCE first = AfxAttachLinkedModule(firstEntry);
+    const HINSTANCE second = AfxAttachLinkedModule(secondEntry);
     ASSERT_TRUE(first && second && first != second);
     const char* const captions[] = {"host", "host", "first", "second", "none"};
     for (int id = 0; id < 5; ++id)
@@ -87,13 +87,13 @@ TEST_F(ResourceChain, HostFirstThenModulesInLoadOrder) {
     // Host resources that come late still go in front.
     platform::SetHostResources(nullptr);
     EXPECT_EQ(CaptionOf(60002), "first");
-    platform::SetHostResources(&kHost);
+    platform::SetHostResources(&hostModule);
     EXPECT_EQ(CaptionOf(60002), "host");
 }
 
 // Catches a handle that names the wrong module, kinds of resources mixed up, and a null handle for what is missing.
 TEST_F(ResourceChain, HandlesNameTheModuleThatHoldsTheResource) {
-    const HINSTANCE first = AfxAttachLinkedModule(FirstEntry);
+    const HINSTANCE first = AfxAttachLinkedModule(firstEntry);
     const HINSTANCE host = platform::HostInstance();
     EXPECT_EQ(AfxFindResourceHandle(60376, RT_MENU), first);
     EXPECT_EQ(AfxFindResourceHandle(60376, RT_DIALOG), host);
@@ -114,38 +114,38 @@ TEST_F(ResourceChain, HandlesNameTheModuleThatHoldsTheResource) {
 // a running one, which would put its resources into the chain twice.
 TEST_F(ResourceChain, AModuleStartsOnceAndDetachTakesOutOnlyIt) {
     const int before = g_first.starts;
-    const HINSTANCE first = AfxAttachLinkedModule(FirstEntry);
-    EXPECT_EQ(AfxAttachLinkedModule(FirstEntry), first);
+    const HINSTANCE first = AfxAttachLinkedModule(firstEntry);
+    EXPECT_EQ(AfxAttachLinkedModule(firstEntry), first);
     EXPECT_EQ(g_first.starts, before + 1);
     AFX_EXTENSION_MODULE again = g_first.state;
-    EXPECT_FALSE(AfxInitExtensionModule(again, first, &kFirst));
-    AfxAttachLinkedModule(SecondEntry);
-    EXPECT_TRUE(AfxDetachLinkedModule(FirstEntry));
-    EXPECT_FALSE(AfxDetachLinkedModule(FirstEntry));
+    EXPECT_FALSE(AfxInitExtensionModule(again, first, &firstModule));
+    AfxAttachLinkedModule(secondEntry);
+    EXPECT_TRUE(AfxDetachLinkedModule(firstEntry));
+    EXPECT_FALSE(AfxDetachLinkedModule(firstEntry));
     EXPECT_FALSE(g_first.state.bInitialized);
     EXPECT_EQ(CaptionOf(60003), "second");
     EXPECT_EQ(platform::FindMenu(60376), nullptr);
     EXPECT_EQ(CaptionOf(60001), "host");
-    EXPECT_TRUE(AfxAttachLinkedModule(FirstEntry)); // a detached one may start again
+    EXPECT_TRUE(AfxAttachLinkedModule(firstEntry)); // a detached one may start again
 }
 
 // Catches a refusal that is ignored, or that leaves resources of the refusing module behind.
 TEST_F(ResourceChain, ARefusedStartLeavesTheChainAsItWas) {
     AFX_EXTENSION_MODULE empty;
-    EXPECT_FALSE(AfxInitExtensionModule(empty, nullptr, &kFirst));
+    EXPECT_FALSE(AfxInitExtensionModule(empty, nullptr, &firstModule));
     EXPECT_FALSE(AfxInitExtensionModule(empty, &empty, nullptr));
     EXPECT_FALSE(empty.bInitialized);
     { const CDynLinkLibrary harmless(empty); }
 
-    g_first.state = {TRUE, &g_first.state, &kFirst}; // as if it ran already
-    EXPECT_EQ(AfxAttachLinkedModule(FirstEntry), nullptr);
+    g_first.state = {TRUE, &g_first.state, &firstModule}; // as if it ran already
+    EXPECT_EQ(AfxAttachLinkedModule(firstEntry), nullptr);
     EXPECT_EQ(CaptionOf(60003), "none");
     g_first.state = {};
 
     g_second.refusesLate = true;
-    EXPECT_EQ(AfxAttachLinkedModule(SecondEntry), nullptr);
+    EXPECT_EQ(AfxAttachLinkedModule(secondEntry), nullptr);
     EXPECT_EQ(CaptionOf(60004), "none");
-    EXPECT_FALSE(AfxDetachLinkedModule(SecondEntry));
+    EXPECT_FALSE(AfxDetachLinkedModule(secondEntry));
     EXPECT_EQ(AfxAttachLinkedModule(nullptr), nullptr);
 }
 
@@ -170,16 +170,16 @@ class Compiler : public testing::Test {
 
     void SetUp() override {
         std::string name = (std::filesystem::temp_directory_path() / "rescompilerXXXXXX").string();
-        folder_ = mkdtemp(name.data());
+        m_folder = mkdtemp(name.data());
         Put("a.svg", "<svg/>");
         Put("ids.h", "#pragma once\n#define IDD_ONE 9001 // a dialog\n#define IDC_BACK -1\n");
     }
-    void TearDown() override { std::filesystem::remove_all(folder_); }
+    void TearDown() override { std::filesystem::remove_all(m_folder); }
 
-    void Put(const std::string& name, const std::string& text) { std::ofstream(folder_ / name) << text; }
+    void Put(const std::string& name, const std::string& text) { std::ofstream(m_folder / name) << text; }
     std::string Get(const std::string& name) {
         std::stringstream text;
-        text << std::ifstream(folder_ / name).rdbuf();
+        text << std::ifstream(m_folder / name).rdbuf();
         return text.str();
     }
 
@@ -187,12 +187,12 @@ class Compiler : public testing::Test {
         Put("t.rc", script);
         const auto tool = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "rescompiler";
         const std::string command =
-            "cd " + folder_.string() + " && '" + tool.string() + "' Tables out.cpp out.d t.rc 2>errors";
+            "cd " + m_folder.string() + " && '" + tool.string() + "' Tables out.cpp out.d t.rc 2>errors";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("errors"), Get("out.cpp")};
     }
 
-    std::filesystem::path folder_;
+    std::filesystem::path m_folder;
 };
 
 std::string Hex(DWORD style) {

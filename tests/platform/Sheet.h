@@ -1,9 +1,9 @@
 // A white sheet to draw on in memory, read back as rows of text.
 #pragma once
 
-#include "platform/DeviceContext.h"
-#include "platform/private/GdiData.h"
-#include "platform/private/PainterDC.h"
+#include "platform/drawing/DeviceContext.h"
+#include "platform/private/paint/GdiData.h"
+#include "platform/private/paint/PainterDC.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@
 #include <string>
 
 // Rows from the first to the last that is not white, '#' for drawn and '.' for white pixels, each row ended by '/'.
-inline std::string drawnRows(const QImage& image) {
+inline std::string DrawnRows(const QImage& image) {
     std::string all;
     std::size_t used = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -28,7 +28,7 @@ inline std::string drawnRows(const QImage& image) {
 }
 
 // The smallest rectangle around what is drawn, in device pixels.
-inline CRect drawnBox(const QImage& image) {
+inline CRect DrawnBox(const QImage& image) {
     CRect box;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
@@ -37,7 +37,7 @@ inline CRect drawnBox(const QImage& image) {
     return box;
 }
 
-inline void drawLine(CDC& dc, int x1, int y1, int x2, int y2) {
+inline void DrawLine(CDC& dc, int x1, int y1, int x2, int y2) {
     dc.MoveTo(x1, y1);
     dc.LineTo(x2, y2);
 }
@@ -53,12 +53,12 @@ class Sheet {
     }
 
     CDC* operator->() { return &*m_dc; }
-    CDC& dc() { return *m_dc; }
-    void line(int x1, int y1, int x2, int y2) { drawLine(*m_dc, x1, y1, x2, y2); }
-    QRgb pixel(int x, int y) const { return m_image.pixel(x, y); }
-    std::string rows() const { return drawnRows(m_image); }
-    CRect box() const { return drawnBox(m_image); }
-    const QImage& image() const { return m_image; }
+    CDC& Dc() { return *m_dc; }
+    void Line(int x1, int y1, int x2, int y2) { DrawLine(*m_dc, x1, y1, x2, y2); }
+    QRgb Pixel(int x, int y) const { return m_image.pixel(x, y); }
+    std::string Rows() const { return DrawnRows(m_image); }
+    CRect Box() const { return DrawnBox(m_image); }
+    const QImage& Image() const { return m_image; }
 
   private:
     QImage m_image;

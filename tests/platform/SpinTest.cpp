@@ -1,68 +1,68 @@
 // Spin controls and their buddies.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/SpinButton.h"
-#include "platform/private/WindowPeer.h"
+#include "platform/controls/SpinButton.h"
+#include "platform/private/peers/WindowPeer.h"
 
 #include <QApplication>
 #include <QWheelEvent>
 
 namespace {
 
-constexpr DWORD Attached = UDS_SETBUDDYINT | UDS_AUTOBUDDY | UDS_ARROWKEYS | UDS_NOTHOUSANDS;
+constexpr DWORD attached = UDS_SETBUDDYINT | UDS_AUTOBUDDY | UDS_ARROWKEYS | UDS_NOTHOUSANDS;
 
-ControlRows spinBeside(DWORD style) {
+ControlRows SpinBeside(DWORD style) {
     return ControlRows()
-        .edit(50)
-        .edit(100)
-        .add("msctls_updown32", "", 200, style)
-        .button("OK", IDOK, BS_DEFPUSHBUTTON)
-        .add("COMBOBOX", "", 300, CBS_DROPDOWNLIST | WS_TABSTOP);
+        .Edit(50)
+        .Edit(100)
+        .Add("msctls_updown32", "", 200, style)
+        .Button("OK", IDOK, BS_DEFPUSHBUTTON)
+        .Add("COMBOBOX", "", 300, CBS_DROPDOWNLIST | WS_TABSTOP);
 }
 
 class Spin : public testing::Test {
   protected:
-    ControlDialog dialog{spinBeside(Attached)};
-    CSpinButtonCtrl& spin = dialog.control<CSpinButtonCtrl>(200);
-    DialogDriver& user = dialog.user;
+    ControlDialog m_dialog{SpinBeside(attached)};
+    CSpinButtonCtrl& m_spin = m_dialog.Control<CSpinButtonCtrl>(200);
+    DialogDriver& m_user = m_dialog.user;
 };
 
 } // namespace
 
 TEST_F(Spin, AStepReadsTheBuddyThenWritesItThenScrolls) {
-    spin.SetRange(1, 100);
-    EXPECT_EQ(spin.SetPos(1), 0);
-    EXPECT_EQ(user.Text(100), "1");
-    user.Type(100, "41");
-    dialog.take();
-    user.ClickSpinUp(200);
-    EXPECT_EQ(withoutFocus(dialog.take()), (Log{notified(200, UDN_DELTAPOS), told(100, EN_UPDATE), told(100, EN_CHANGE),
-                                                "scroll 4:42", "scroll 8:42"}));
-    EXPECT_EQ(dialog.scrollBar, static_cast<CScrollBar*>(&spin)); // handlers compare it with their member
-    EXPECT_EQ(user.Text(100), "42");
+    m_spin.SetRange(1, 100);
+    EXPECT_EQ(m_spin.SetPos(1), 0);
+    EXPECT_EQ(m_user.Text(100), "1");
+    m_user.Type(100, "41");
+    m_dialog.Take();
+    m_user.ClickSpinUp(200);
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), (Log{Notified(200, UDN_DELTAPOS), Told(100, EN_UPDATE),
+                                                  Told(100, EN_CHANGE), "scroll 4:42", "scroll 8:42"}));
+    EXPECT_EQ(m_dialog.scrollBar, static_cast<CScrollBar*>(&m_spin)); // handlers compare it with their member
+    EXPECT_EQ(m_user.Text(100), "42");
 }
 
 TEST_F(Spin, TypedNumbersCountAndStayAsTyped) {
-    spin.SetRange(1, 100);
-    user.Type(100, "37");
-    EXPECT_EQ(spin.GetPos(), 37);
-    user.Type(100, "250"); // beyond the range
-    (void)spin.GetPos();
-    EXPECT_EQ(user.Text(100), "250");
-    user.ClickSpinUp(200);
-    user.ClickSpinUp(200);
-    EXPECT_EQ(user.Text(100), "100");
-    user.Type(100, "abc"); // no number: the position before it
-    user.ClickSpinDown(200);
-    EXPECT_EQ(user.Text(100), "99");
-    spin.SetRange(-5000, 5000);
-    spin.SetPos(-1234); // no digit grouping
-    EXPECT_EQ(user.Text(100), "-1234");
+    m_spin.SetRange(1, 100);
+    m_user.Type(100, "37");
+    EXPECT_EQ(m_spin.GetPos(), 37);
+    m_user.Type(100, "250"); // beyond the range
+    (void)m_spin.GetPos();
+    EXPECT_EQ(m_user.Text(100), "250");
+    m_user.ClickSpinUp(200);
+    m_user.ClickSpinUp(200);
+    EXPECT_EQ(m_user.Text(100), "100");
+    m_user.Type(100, "abc"); // no number: the position before it
+    m_user.ClickSpinDown(200);
+    EXPECT_EQ(m_user.Text(100), "99");
+    m_spin.SetRange(-5000, 5000);
+    m_spin.SetPos(-1234); // no digit grouping
+    EXPECT_EQ(m_user.Text(100), "-1234");
 }
 
 TEST(SpinStyles, TheRangesEndsAreMetOrWrapped) {
-    ControlDialog dialog(spinBeside(Attached | UDS_WRAP));
-    auto& spin = dialog.control<CSpinButtonCtrl>(200);
+    ControlDialog dialog(SpinBeside(attached | UDS_WRAP));
+    auto& spin = dialog.Control<CSpinButtonCtrl>(200);
     spin.SetRange(1, 3);
     spin.SetPos(77);
     EXPECT_EQ(spin.GetPos(), 3);
@@ -75,31 +75,31 @@ TEST(SpinStyles, TheRangesEndsAreMetOrWrapped) {
 }
 
 TEST_F(Spin, ArrowKeysInTheBuddyStepAndAHandlerMayRefuse) {
-    spin.SetPos(10);
-    user.Click(100);
-    user.Press(VK_UP);
-    user.Press(VK_UP);
-    user.Press(VK_DOWN);
-    EXPECT_EQ(user.Text(100), "11");
-    dialog.onNotify = [](int code) -> LRESULT { return code == UDN_DELTAPOS; };
-    user.Press(VK_UP);
-    EXPECT_EQ(user.Text(100), "11");
+    m_spin.SetPos(10);
+    m_user.Click(100);
+    m_user.Press(VK_UP);
+    m_user.Press(VK_UP);
+    m_user.Press(VK_DOWN);
+    EXPECT_EQ(m_user.Text(100), "11");
+    m_dialog.onNotify = [](int code) -> LRESULT { return code == UDN_DELTAPOS; };
+    m_user.Press(VK_UP);
+    EXPECT_EQ(m_user.Text(100), "11");
 }
 
 TEST_F(Spin, TheBuddyIsTheControlBeforeItOrTheOneThatTheProgramNames) {
-    EXPECT_EQ(spin.GetBuddy(), dialog.GetDlgItem(100));
-    EXPECT_EQ(spin.SetBuddy(dialog.GetDlgItem(50)), dialog.GetDlgItem(100));
-    spin.SetPos(7);
-    EXPECT_EQ(user.Text(50), "7");
-    EXPECT_EQ(user.Text(100), "");
-    dialog.GetDlgItem(50)->DestroyWindow();
-    spin.SetPos(8); // the buddy is gone
-    EXPECT_EQ(spin.GetPos(), 8);
-    EXPECT_EQ(spin.GetBuddy(), nullptr);
+    EXPECT_EQ(m_spin.GetBuddy(), m_dialog.GetDlgItem(100));
+    EXPECT_EQ(m_spin.SetBuddy(m_dialog.GetDlgItem(50)), m_dialog.GetDlgItem(100));
+    m_spin.SetPos(7);
+    EXPECT_EQ(m_user.Text(50), "7");
+    EXPECT_EQ(m_user.Text(100), "");
+    m_dialog.GetDlgItem(50)->DestroyWindow();
+    m_spin.SetPos(8); // the buddy is gone
+    EXPECT_EQ(m_spin.GetPos(), 8);
+    EXPECT_EQ(m_spin.GetBuddy(), nullptr);
 }
 
 TEST(SpinStyles, AttachedToTheRightItTakesItsPlaceFromTheBuddy) {
-    ControlDialog dialog(spinBeside(Attached | UDS_ALIGNRIGHT));
+    ControlDialog dialog(SpinBeside(attached | UDS_ALIGNRIGHT));
     CRect edit, spin, plain;
     dialog.GetDlgItem(100)->GetWindowRect(edit);
     dialog.GetDlgItem(200)->GetWindowRect(spin);
@@ -110,16 +110,16 @@ TEST(SpinStyles, AttachedToTheRightItTakesItsPlaceFromTheBuddy) {
 }
 
 TEST_F(Spin, TheWheelChangesNothingWithoutTheFocus) {
-    spin.SetPos(5);
-    user.Click(50);
-    dialog.take();
+    m_spin.SetPos(5);
+    m_user.Click(50);
+    m_dialog.Take();
     for (const int id : {100, 200, 300}) {
-        QWidget* widget = dialog.GetDlgItem(id)->m_hWnd->widget;
+        QWidget* widget = m_dialog.GetDlgItem(id)->m_hWnd->widget;
         const QPointF centre(widget->rect().center());
         QWheelEvent wheel(centre, widget->mapToGlobal(centre), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);
         QApplication::sendEvent(widget, &wheel);
     }
-    EXPECT_EQ(dialog.take(), Log{});
-    EXPECT_EQ(user.Text(100), "5");
+    EXPECT_EQ(m_dialog.Take(), Log{});
+    EXPECT_EQ(m_user.Text(100), "5");
 }

@@ -1,4 +1,4 @@
-#include "platform/String.h"
+#include "platform/core/String.h"
 
 #include <gtest/gtest.h>
 
@@ -114,19 +114,19 @@ TEST(String, ComparesAndHashes) {
 }
 
 template <typename... Arguments>
-CString formatted(const char* format, const Arguments&... arguments) {
+CString Formatted(const char* format, const Arguments&... arguments) {
     CString text;
     text.Format(format, arguments...);
     return text;
 }
 
 TEST(Format, FollowsPrintf) {
-    EXPECT_EQ(formatted("%d : %s", 4, "Vento +X"_t), "4 : Vento +X");
-    EXPECT_EQ(formatted("%5.2f|%-6d|%06d|%+g|%.3e|%X|%c|%%", 3.14159, 42, -42, 0.5, 12345.678, 255, 'z'),
+    EXPECT_EQ(Formatted("%d : %s", 4, "Vento +X"_t), "4 : Vento +X");
+    EXPECT_EQ(Formatted("%5.2f|%-6d|%06d|%+g|%.3e|%X|%c|%%", 3.14159, 42, -42, 0.5, 12345.678, 255, 'z'),
               " 3.14|42    |-00042|+0.5|1.235e+04|FF|z|%");
-    EXPECT_EQ(formatted("%.15g %g %u %x %ld %lu", 0.1, 1e21, 4000000000u, -1, -5L, 5UL),
+    EXPECT_EQ(Formatted("%.15g %g %u %x %ld %lu", 0.1, 1e21, 4000000000u, -1, -5L, 5UL),
               "0.1 1e+21 4000000000 ffffffff -5 5");
-    CString text = formatted("%*d|%-*s|%.*f", 4, 7, 3, "a", 1, 2.55);
+    CString text = Formatted("%*d|%-*s|%.*f", 4, 7, 3, "a", 1, 2.55);
     EXPECT_EQ(text, "   7|a  |2.5");
     text.AppendFormat(" %s", CString('x', 300));
     EXPECT_EQ(text.GetLength(), 313) << "longer than any fixed buffer";
@@ -134,12 +134,12 @@ TEST(Format, FollowsPrintf) {
 
 // Catches a wrong pairing of conversion and argument that prints foreign memory or crashes.
 TEST(Format, SurvivesWrongArguments) {
-    EXPECT_EQ(formatted("%d %s %g", 2.9, 7, 3), "2 7 3");
-    EXPECT_EQ(formatted("%d", std::numeric_limits<double>::quiet_NaN()), "0");
-    EXPECT_EQ(formatted("[%s][%s]", static_cast<const char*>(nullptr)), "[][]");
-    EXPECT_EQ(formatted("100%"), "100");
-    EXPECT_EQ(formatted("a%n%yb"), "ab");
-    CString text = formatted("%99999999999d", 1);
+    EXPECT_EQ(Formatted("%d %s %g", 2.9, 7, 3), "2 7 3");
+    EXPECT_EQ(Formatted("%d", std::numeric_limits<double>::quiet_NaN()), "0");
+    EXPECT_EQ(Formatted("[%s][%s]", static_cast<const char*>(nullptr)), "[][]");
+    EXPECT_EQ(Formatted("100%"), "100");
+    EXPECT_EQ(Formatted("a%n%yb"), "ab");
+    CString text = Formatted("%99999999999d", 1);
     EXPECT_EQ(text.GetLength(), 9999);
     text.Format("%s", text); // the old text is the argument
     EXPECT_EQ(text.GetLength(), 9999);

@@ -1,8 +1,8 @@
 // Small templates of the window layer's own tests.
 #pragma once
 
-#include "platform/Dialog.h"
-#include "platform/Resource.h"
+#include "platform/resource/Resource.h"
+#include "platform/window/Dialog.h"
 #include "tests/support/TestApp.h"
 
 #include <functional>
@@ -32,23 +32,23 @@ class TestTemplate {
 // Controls of a template, one below the other unless a place is given.
 class ControlRows {
   public:
-    ControlRows& edit(int id, DWORD style = 0) {
-        return add("EDIT", "", id, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL | style);
+    ControlRows& Edit(int id, DWORD style = 0) {
+        return Add("EDIT", "", id, WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL | style);
     }
-    ControlRows& label(const char* text, int id = -1) { return add("STATIC", text, id, WS_GROUP); }
-    ControlRows& button(const char* text, int id, DWORD style = BS_PUSHBUTTON) {
-        return add("BUTTON", text, id, WS_TABSTOP | style);
+    ControlRows& Label(const char* text, int id = -1) { return Add("STATIC", text, id, WS_GROUP); }
+    ControlRows& Button(const char* text, int id, DWORD style = BS_PUSHBUTTON) {
+        return Add("BUTTON", text, id, WS_TABSTOP | style);
     }
-    ControlRows& radio(const char* text, int id, bool first = false) {
-        return add("BUTTON", text, id, BS_AUTORADIOBUTTON | (first ? WS_GROUP | WS_TABSTOP : 0u));
+    ControlRows& Radio(const char* text, int id, bool first = false) {
+        return Add("BUTTON", text, id, BS_AUTORADIOBUTTON | (first ? WS_GROUP | WS_TABSTOP : 0u));
     }
-    ControlRows& add(const char* className, const char* text, int id, DWORD style) {
+    ControlRows& Add(const char* className, const char* text, int id, DWORD style) {
         m_controls.push_back({platform::ControlTemplate::Kind::Custom, className, text, id, 5, m_y, 80, 12,
                               WS_CHILD | WS_VISIBLE | style, 0, 0});
         m_y += 14;
         return *this;
     }
-    ControlRows& disabled() {
+    ControlRows& Disabled() {
         m_controls.back().style |= WS_DISABLED;
         return *this;
     }
@@ -63,14 +63,14 @@ class ControlRows {
 class Boxes {
   public:
     explicit Boxes(std::function<void()> during = {}) {
-        TestApp::instance().messageHandler = [this, during](const CString& text, UINT) {
+        TestApp::Instance().messageHandler = [this, during](const CString& text, UINT) {
             texts.push_back(text.ToUtf8());
             if (during)
                 during();
             return int{IDOK};
         };
     }
-    ~Boxes() { TestApp::instance().messageHandler = nullptr; }
+    ~Boxes() { TestApp::Instance().messageHandler = nullptr; }
     Boxes(const Boxes&) = delete;
     Boxes& operator=(const Boxes&) = delete;
 

@@ -1,10 +1,10 @@
 #include "tests/platform/Sheet.h"
 
-#include "platform/private/Fonts.h"
+#include "platform/private/paint/Fonts.h"
 
 namespace {
 
-int widthOf(const char* face, int tenths, const CString& text) {
+int WidthOf(const char* face, int tenths, const CString& text) {
     CFont font;
     font.CreatePointFont(tenths, face);
     CDC dc;
@@ -17,13 +17,13 @@ int widthOf(const char* face, int tenths, const CString& text) {
 // Catches a machine without the substitutes, where another face changes every layout: the advances of these letters in
 // the classic faces are known (1479, 1139, 455, 455 and 1139 of 2048 to the em).
 TEST(Fonts, HaveTheClassicAdvances) {
-    EXPECT_EQ(widthOf("Arial", 7500, "Hello"), 2279);
-    EXPECT_EQ(widthOf("MS Sans Serif", 7500, "Hello"), 2279);
-    EXPECT_NEAR(widthOf("Arial Narrow", 7500, "Hello"), 2279 * 0.82, 4);
-    EXPECT_GT(widthOf("Arial Black", 7500, "Hello"), 2279);
-    EXPECT_EQ(widthOf("Courier New", 7500, "il"), widthOf("Courier New", 7500, "MW"));
-    EXPECT_EQ(widthOf("Arial", 7500, "\xe0"), widthOf("Arial", 7500, "a")) << "an accent changes no advance";
-    EXPECT_EQ(widthOf("Arial", 80, ""), 0);
+    EXPECT_EQ(WidthOf("Arial", 7500, "Hello"), 2279);
+    EXPECT_EQ(WidthOf("MS Sans Serif", 7500, "Hello"), 2279);
+    EXPECT_NEAR(WidthOf("Arial Narrow", 7500, "Hello"), 2279 * 0.82, 4);
+    EXPECT_GT(WidthOf("Arial Black", 7500, "Hello"), 2279);
+    EXPECT_EQ(WidthOf("Courier New", 7500, "il"), WidthOf("Courier New", 7500, "MW"));
+    EXPECT_EQ(WidthOf("Arial", 7500, "\xe0"), WidthOf("Arial", 7500, "a")) << "an accent changes no advance";
+    EXPECT_EQ(WidthOf("Arial", 80, ""), 0);
 }
 
 TEST(Fonts, SizesAreInTenthsOfAPointOrPixels) {
@@ -45,8 +45,8 @@ TEST(Fonts, SizesAreInTenthsOfAPointOrPixels) {
     dc.GetTextMetrics(&metrics);
     EXPECT_NEAR(metrics.tmHeight, 40, 1);
     EXPECT_EQ(metrics.tmWeight, 700);
-    EXPECT_EQ(platform::toolkitFont("Arial Black", 11, 400).weight(), 900);
-    EXPECT_EQ(platform::toolkitFont(nullptr, 0).pixelSize(), 11);
+    EXPECT_EQ(platform::ToolkitFont("Arial Black", 11, 400).weight(), 900);
+    EXPECT_EQ(platform::ToolkitFont(nullptr, 0).pixelSize(), 11);
 }
 
 // Catches labels that stand beside their place, and boxes of background that cover what is below a label.
@@ -56,7 +56,7 @@ TEST(Text, KeepsItsAlignmentAndBackground) {
         sheet->SetTextAlign(align);
         sheet->SetBkColor(RGB(200, 200, 200)); // opaque is the mode at the start
         sheet->TextOut(30, 20, "IMI");
-        return sheet.box();
+        return sheet.Box();
     };
     CDC dc;
     const CSize size = dc.GetTextExtent("IMI");
@@ -69,8 +69,8 @@ TEST(Text, KeepsItsAlignmentAndBackground) {
     sheet->SetBkMode(TRANSPARENT);
     sheet->SetTextColor(RGB(255, 0, 0));
     sheet->TextOut(30, 20, "I");
-    EXPECT_LT(sheet.box().Width(), dc.GetTextExtent("I").cx);
-    EXPECT_EQ(sheet.box().bottom, 30) << "a capital stands on the baseline";
+    EXPECT_LT(sheet.Box().Width(), dc.GetTextExtent("I").cx);
+    EXPECT_EQ(sheet.Box().bottom, 30) << "a capital stands on the baseline";
     sheet->SetTextAlign(TA_UPDATECP);
     sheet->MoveTo(2, 2);
     sheet->TextOut(0, 0, "IMI");
@@ -87,9 +87,9 @@ TEST(Text, TurnsCounterclockwise) {
     sheet->SetBkMode(TRANSPARENT);
     sheet->SelectObject(&upwards);
     sheet->TextOut(30, 40, "IIIIIIII");
-    EXPECT_LE(sheet.box().bottom, 40);
-    EXPECT_GE(sheet.box().left, 30);
-    EXPECT_GT(sheet.box().Height(), sheet.box().Width());
+    EXPECT_LE(sheet.Box().bottom, 40);
+    EXPECT_GE(sheet.Box().left, 30);
+    EXPECT_GT(sheet.Box().Height(), sheet.Box().Width());
 }
 
 TEST(Text, DrawTextPlacesLines) {
@@ -121,7 +121,7 @@ TEST(Text, DrawTextAlignsAndClips) {
         sheet->SetBkColor(RGB(200, 200, 200));
         CRect rect = frame;
         sheet->DrawText(text, rect, format);
-        return sheet.box();
+        return sheet.Box();
     };
     CDC dc;
     const CSize size = dc.GetTextExtent("IMI");

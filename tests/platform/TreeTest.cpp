@@ -1,30 +1,30 @@
 // Trees: the order of notifications and toggling, hit testing, walking.
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/TreeCtrl.h"
+#include "platform/controls/TreeCtrl.h"
 
 namespace {
 
 class TreeDialog : public ControlDialog {
   public:
     explicit TreeDialog(DWORD style = TVS_CHECKBOXES)
-        : ControlDialog(ControlRows().edit(50).add("SysTreeView32", "", 100, WS_TABSTOP | WS_BORDER | style)),
-          tree(control<CTreeCtrl>(100)) {
+        : ControlDialog(ControlRows().Edit(50).Add("SysTreeView32", "", 100, WS_TABSTOP | WS_BORDER | style)),
+          tree(Control<CTreeCtrl>(100)) {
         tree.MoveWindow(5, 40, 200, 120);
         for (int i = 0; i < 3; ++i) {
             items.push_back(tree.InsertItem(CString("Struttura n.ro ") + CString(static_cast<char>('1' + i))));
             tree.SetItemData(items.back(), static_cast<DWORD_PTR>(i));
         }
         TestApp::PumpMessages();
-        take();
+        Take();
     }
     // Clicks in the item's line, `dx` pixels right of the start of its text.
-    void click(HTREEITEM item, int dx, bool twice = false) {
+    void Click(HTREEITEM item, int dx, bool twice = false) {
         CRect text;
         ASSERT_TRUE(tree.GetItemRect(item, &text, TRUE));
-        clickOn(tree, CPoint(text.left + dx, text.CenterPoint().y), twice);
+        ClickOn(tree, CPoint(text.left + dx, text.CenterPoint().y), twice);
     }
-    void clickBox(HTREEITEM item) { click(item, -8); }
+    void ClickBox(HTREEITEM item) { Click(item, -8); }
 
     CTreeCtrl& tree;
     std::vector<HTREEITEM> items;
@@ -41,11 +41,11 @@ TEST(Tree, TheBoxTogglesAfterItsClickOrKeyWasHandled) {
             seen.push_back(dialog.tree.GetCheck(item));
         return code == NM_CLICK; // marked as handled, which dialogs do and the box toggles all the same
     };
-    dialog.clickBox(item);
+    dialog.ClickBox(item);
     EXPECT_TRUE(dialog.tree.GetCheck(item));
     EXPECT_FALSE(dialog.tree.GetCheck(dialog.items[0]));
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{notified(100, NM_CLICK)});
-    dialog.clickBox(item);
+    EXPECT_EQ(WithoutFocus(dialog.Take()), Log{Notified(100, NM_CLICK)});
+    dialog.ClickBox(item);
     EXPECT_FALSE(dialog.tree.GetCheck(item));
     dialog.tree.SelectItem(item);
     dialog.tree.SetFocus();
@@ -56,15 +56,15 @@ TEST(Tree, TheBoxTogglesAfterItsClickOrKeyWasHandled) {
 
 TEST(Tree, ClicksAndKeysSelectAndTheProgramsSelectionIsToldToo) {
     TreeDialog dialog;
-    dialog.click(dialog.items[2], 5);
+    dialog.Click(dialog.items[2], 5);
     EXPECT_EQ(dialog.tree.GetSelectedItem(), dialog.items[2]);
-    EXPECT_EQ(withoutFocus(dialog.take()),
-              (Log{notified(100, NM_CLICK), notified(100, TVN_SELCHANGING), notified(100, TVN_SELCHANGED)}));
+    EXPECT_EQ(WithoutFocus(dialog.Take()),
+              (Log{Notified(100, NM_CLICK), Notified(100, TVN_SELCHANGING), Notified(100, TVN_SELCHANGED)}));
     dialog.user.Press(VK_UP);
     EXPECT_EQ(dialog.tree.GetSelectedItem(), dialog.items[1]);
-    EXPECT_EQ(withoutFocus(dialog.take()), (Log{notified(100, TVN_KEYDOWN), notified(100, TVN_SELCHANGED)}));
+    EXPECT_EQ(WithoutFocus(dialog.Take()), (Log{Notified(100, TVN_KEYDOWN), Notified(100, TVN_SELCHANGED)}));
     dialog.tree.DeleteAllItems();
-    EXPECT_EQ(withoutFocus(dialog.take()), Log{});
+    EXPECT_EQ(WithoutFocus(dialog.Take()), Log{});
     EXPECT_EQ(dialog.tree.GetSelectedItem(), nullptr);
 }
 
@@ -75,7 +75,7 @@ TEST(Tree, ADoubleClickMayCloseTheDialog) {
             dialog.DestroyWindow();
         return 0;
     };
-    dialog.click(dialog.items[0], 5, true);
+    dialog.Click(dialog.items[0], 5, true);
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
 }
 

@@ -1,8 +1,8 @@
 #include "tests/support/DialogDriver.h"
 
-#include "platform/Dialog.h"
-#include "platform/ListBox.h"
-#include "platform/private/WindowPeer.h"
+#include "platform/controls/ListBox.h"
+#include "platform/private/peers/WindowPeer.h"
+#include "platform/window/Dialog.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -47,7 +47,7 @@ DialogDriver::DialogDriver(CWnd& dialog) : m_window(dialog.m_hWnd), m_dialog(&di
 bool DialogDriver::IsOpen() const {
     // The toolkit's list is asked instead of the dialog, whose object may be gone with its window.
     for (const QWidget* widget : QApplication::topLevelWidgets())
-        if (platform::peerOf(widget) == m_window && !m_window->destroyed)
+        if (platform::PeerOf(widget) == m_window && !m_window->destroyed)
             return true;
     return false;
 }
@@ -77,7 +77,7 @@ CWnd* DialogDriver::Control(int id) const {
 
 QWidget* DialogDriver::Surface(int id) const {
     const CWnd* control = Control(id);
-    return control && control->m_hWnd ? control->m_hWnd->surface() : nullptr;
+    return control && control->m_hWnd ? control->m_hWnd->Surface() : nullptr;
 }
 
 QWidget* DialogDriver::UsableSurface(int id) const {
@@ -99,7 +99,7 @@ void DialogDriver::Press(UINT key, unsigned modifiers) {
     Activate();
     Qt::KeyboardModifiers flags = ToolkitModifiers(modifiers);
     flags.setFlag(Qt::KeypadModifier, OnKeypad(key));
-    const int code = platform::toolkitKey(key);
+    const int code = platform::ToolkitKey(key);
     ASSERT_NE(code, 0) << "no such key: " << key;
     const bool printable = code >= Qt::Key_Space && code <= Qt::Key_ydiaeresis;
     // A key with Control makes no character.
@@ -193,7 +193,7 @@ bool DialogDriver::RowPoint(int id, int row, QPoint& point) const {
     }
     CRect area;
     list->GetItemRect(row, &area);
-    const QRect seen = list->m_hWnd->surface()->rect();
+    const QRect seen = list->m_hWnd->Surface()->rect();
     if (!seen.contains(area.CenterPoint().x, area.CenterPoint().y)) {
         list->SetTopIndex(row); // the wheel or the scroll bar of a user
         list->GetItemRect(row, &area);

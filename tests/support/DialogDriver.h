@@ -3,7 +3,7 @@
 // hidden, disabled, outside its dialog) fails the test.
 #pragma once
 
-#include "platform/Window.h"
+#include "platform/window/Window.h"
 
 #include <initializer_list>
 #include <string>

@@ -1,7 +1,7 @@
 #include "tests/support/DialogTest.h"
 
 #include "dialogs/frame/Module.h"
-#include "platform/Module.h"
+#include "platform/resource/Module.h"
 
 void AttachDialogModule() {
     // Harmless when the module is started already; a test of its own may have ended it.

@@ -14,6 +14,6 @@ class DialogTest : public testing::Test {
   protected:
     DialogTest() { AttachDialogModule(); }
 
-    RecordingHost host;
-    UserScript user;
+    RecordingHost m_host;
+    UserScript m_user;
 };

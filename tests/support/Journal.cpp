@@ -1,6 +1,6 @@
 #include "tests/support/Journal.h"
 
-#include "model/Elemento.h"
+#include "model/element/Elemento.h"
 
 #include <cstdio>
 

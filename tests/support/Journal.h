@@ -1,8 +1,8 @@
 // The list of calls that the recording host received, one line each: the name, then the arguments.
 #pragma once
 
-#include "model/FPoint.h"
-#include "platform/String.h"
+#include "model/values/FPoint.h"
+#include "platform/core/String.h"
 
 #include <concepts>
 #include <string>

@@ -1,5 +1,5 @@
-#include "model/ElementoRisultati.h"
-#include "model/Trave.h"
+#include "model/element/Trave.h"
+#include "model/result/ElementoRisultati.h"
 #include "tests/support/RecordingDoc.h"
 
 #include <algorithm>
@@ -9,37 +9,37 @@ namespace {
 std::unique_ptr<CElementoRisultati> Copy(CElementoRisultati& record) {
     auto copy = std::make_unique<CElementoRisultati>();
     copy->SetID(record.GetID());
-    copy->SetSizeNodiRisultati(record.GetSizeNodiRisultati());
-    for (int i = 0; i < record.GetSizeNodiRisultati(); ++i)
-        copy->GetNodoRisultati(i)->GetV1() = record.GetNodoRisultati(i)->GetV1();
+    copy->SetNodeResultCount(record.GetNodeResultCount());
+    for (int i = 0; i < record.GetNodeResultCount(); ++i)
+        copy->GetNodeResults(i)->GetV1() = record.GetNodeResults(i)->GetV1();
     return copy;
 }
 
 } // namespace
 
-RecordingAnalisi::~RecordingAnalisi() = default;
+RecordingAnalysis::~RecordingAnalysis() = default;
 
-void RecordingAnalisi::Store(int idCaso, int idTrave, const std::vector<double>& v1) {
+void RecordingAnalysis::Store(int idCaso, int idTrave, const std::vector<double>& v1) {
     auto record = std::make_unique<CElementoRisultati>();
     record->SetID(idTrave);
-    record->SetSizeNodiRisultati(static_cast<int>(v1.size()));
+    record->SetNodeResultCount(static_cast<int>(v1.size()));
     for (std::size_t i = 0; i < v1.size(); ++i)
-        record->GetNodoRisultati(static_cast<int>(i))->GetV1() = v1[i];
+        record->GetNodeResults(static_cast<int>(i))->GetV1() = v1[i];
     m_records[idCaso].push_back(std::move(record));
 }
 
-std::vector<double> RecordingAnalisi::Stored(int idCaso, int idTrave) const {
+std::vector<double> RecordingAnalysis::Stored(int idCaso, int idTrave) const {
     std::vector<double> v1;
     const auto found = m_records.find(idCaso);
     if (found == m_records.end())
         return v1;
     for (const auto& record : found->second)
-        for (int i = 0; record->GetID() == idTrave && i < record->GetSizeNodiRisultati(); ++i)
-            v1.push_back(record->GetNodoRisultati(i)->GetV1());
+        for (int i = 0; record->GetID() == idTrave && i < record->GetNodeResultCount(); ++i)
+            v1.push_back(record->GetNodeResults(i)->GetV1());
     return v1;
 }
 
-int RecordingAnalisi::LeggiRisultati(int idCaso, CObArray& out, int flag) {
+int RecordingAnalysis::LeggiRisultati(int idCaso, CObArray& out, int flag) {
     m_journal.Add("LeggiRisultati", idCaso, flag);
     for (const auto& record : m_records[idCaso])
         if (result)
@@ -47,7 +47,7 @@ int RecordingAnalisi::LeggiRisultati(int idCaso, CObArray& out, int flag) {
     return result;
 }
 
-int RecordingAnalisi::AggiornaRiferimentiRisultati(CObArray& risultati) {
+int RecordingAnalysis::AggiornaRiferimentiRisultati(CObArray& risultati) {
     m_journal.Add("AggiornaRiferimentiRisultati", risultati.GetSize());
     if (!result || !linked)
         return 0;
@@ -63,7 +63,7 @@ int RecordingAnalisi::AggiornaRiferimentiRisultati(CObArray& risultati) {
     return 1;
 }
 
-int RecordingAnalisi::CreaRisultati(int idCaso, CObArray& risultati, int flag) {
+int RecordingAnalysis::CreaRisultati(int idCaso, CObArray& risultati, int flag) {
     m_journal.Add("CreaRisultati", idCaso, risultati.GetSize(), flag);
     auto& records = m_records[idCaso];
     records.clear();
@@ -72,7 +72,7 @@ int RecordingAnalisi::CreaRisultati(int idCaso, CObArray& risultati, int flag) {
     return result;
 }
 
-int RecordingAnalisi::RipristinaRisultati() {
+int RecordingAnalysis::RipristinaRisultati() {
     m_journal.Add("RipristinaRisultati");
     for (const auto& [beam, own] : m_own)
         beam->SetRisultati(own);

@@ -1,7 +1,7 @@
 #include "tests/support/RecordingDoc.h"
 
-#include "model/Adv3dRect.h"
-#include "platform/Exception.h"
+#include "model/view/Adv3dRect.h"
+#include "platform/core/Exception.h"
 #include "tests/support/RecordingHost.h"
 
 RecordingDoc::RecordingDoc(Journal& journal)
@@ -17,7 +17,7 @@ RecordingDoc::~RecordingDoc() = default;
 CNodo* RecordingDoc::NewNodo(double x, double y, double z) {
     nodi.push_back(std::make_unique<CNodo>());
     nodi.back()->SetID(Size(nodi));
-    nodi.back()->SetPunto(CFPoint(x, y, z));
+    nodi.back()->SetPoint(CFPoint(x, y, z));
     return nodi.back().get();
 }
 

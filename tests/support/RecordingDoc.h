@@ -7,16 +7,16 @@
 #include "dialogs/frame/QuovarProgetto.h"
 #include "dialogs/frame/QuovarSelection.h"
 #include "dialogs/frame/QuovarUndo.h"
-#include "model/Asta.h"
-#include "model/CasoCarico.h"
-#include "model/Combinazione.h"
-#include "model/ElementoRisultati.h"
-#include "model/Gruppo.h"
-#include "model/Nodo.h"
-#include "model/Setto.h"
-#include "model/Solaio.h"
-#include "model/Trave.h"
-#include "platform/Collections.h"
+#include "model/element/Asta.h"
+#include "model/element/Nodo.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/CasoCarico.h"
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+#include "model/result/ElementoRisultati.h"
+#include "platform/core/Collections.h"
 #include "tests/support/Journal.h"
 
 #include <algorithm>
@@ -42,11 +42,11 @@ class RecordingUndo : public CQuovarUndo {
 };
 
 // Keeps result records of beams by load case, and lends them to the beams as an analysis does.
-class RecordingAnalisi : public CQuovarAnalisi {
+class RecordingAnalysis : public CQuovarAnalisi {
   public:
-    RecordingAnalisi(Journal& journal, std::vector<std::unique_ptr<CTrave>>& travi)
+    RecordingAnalysis(Journal& journal, std::vector<std::unique_ptr<CTrave>>& travi)
         : m_journal(journal), m_travi(travi) {}
-    ~RecordingAnalisi() override;
+    ~RecordingAnalysis() override;
 
     int result = 1; // of the next operations
     int linked = 1; // of the next linking, when the others succeed
@@ -126,7 +126,7 @@ class RecordingDoc : public CQuovarDoc {
     std::function<void(CView*, long, CObject*)> onUpdate; // reaches the open tool dialogs
     std::function<void()> onGroupGone;                    // before EliminaGruppo returns
 
-    RecordingAnalisi analisi;
+    RecordingAnalysis analisi;
     CQuovarProgetto progetto;
     RecordingSelection selezione;
     RecordingUndo undo;

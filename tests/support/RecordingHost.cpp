@@ -1,6 +1,6 @@
 #include "tests/support/RecordingHost.h"
 
-#include "model/CasoCarico.h"
+#include "model/entity/CasoCarico.h"
 
 #include <gtest/gtest.h>
 

@@ -10,8 +10,8 @@
 #include "dialogs/frame/DialogDocument.h"
 #include "dialogs/frame/MainFrame.h"
 #include "dialogs/frame/QuovarHost.h"
-#include "model/Adv3d.h"
-#include "model/ElementoSettings.h"
+#include "model/view/Adv3d.h"
+#include "model/view/ElementoSettings.h"
 #include "tests/support/Journal.h"
 #include "tests/support/RecordingDoc.h"
 

@@ -1,5 +1,5 @@
-#include "model/Adv3dRect.h"
-#include "model/Elemento.h"
+#include "model/element/Elemento.h"
+#include "model/view/Adv3dRect.h"
 #include "tests/support/RecordingDoc.h"
 
 void RecordingSelection::Deseleziona(CView* pView) {

@@ -1,7 +1,7 @@
 // The application of the tests: message boxes go to a handler that a test or the driver sets.
 #pragma once
 
-#include "platform/Application.h"
+#include "platform/window/Application.h"
 
 #include <functional>
 
@@ -14,5 +14,5 @@ class TestApp : public CWinApp {
 
     int DoMessageBox(LPCTSTR text, UINT type, UINT helpId) override;
 
-    static TestApp& instance();
+    static TestApp& Instance();
 };

@@ -31,7 +31,7 @@ int TestApp::DoMessageBox(LPCTSTR text, UINT type, UINT) {
     return IDCANCEL;
 }
 
-TestApp& TestApp::instance() {
+TestApp& TestApp::Instance() {
     return static_cast<TestApp&>(*AfxGetApp());
 }
 

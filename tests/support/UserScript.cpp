@@ -1,7 +1,7 @@
 #include "tests/support/UserScript.h"
 
-#include "platform/Dialog.h"
-#include "platform/private/WindowPeer.h"
+#include "platform/private/peers/WindowPeer.h"
+#include "platform/window/Dialog.h"
 #include "tests/support/TestApp.h"
 
 #include <QApplication>
@@ -17,14 +17,14 @@ constexpr int lookEveryMilliseconds = 5;
 }
 
 UserScript::UserScript() : m_timer(std::make_unique<QTimer>()) {
-    TestApp::instance().messageHandler = [this](const CString& text, UINT type) { return Answer(text, type); };
+    TestApp::Instance().messageHandler = [this](const CString& text, UINT type) { return Answer(text, type); };
     QObject::connect(m_timer.get(), &QTimer::timeout, [this] { LookForDialog(); });
     m_timer->start(lookEveryMilliseconds);
 }
 
 UserScript::~UserScript() {
     Verify();
-    TestApp::instance().messageHandler = nullptr;
+    TestApp::Instance().messageHandler = nullptr;
 }
 
 void UserScript::ExpectMessage(const std::string& text, int answer) {
@@ -66,7 +66,7 @@ int UserScript::Answer(const CString& text, UINT type) {
 
 void UserScript::LookForDialog() {
     QWidget* top = QApplication::activeModalWidget();
-    platform::WindowPeer* peer = top && top->isVisible() ? platform::peerOf(top) : nullptr;
+    platform::WindowPeer* peer = top && top->isVisible() ? platform::PeerOf(top) : nullptr;
     if (!peer || !peer->isDialog || std::find(m_handled.begin(), m_handled.end(), peer) != m_handled.end())
         return;
     m_handled.push_back(peer);
@@ -77,17 +77,17 @@ void UserScript::LookForDialog() {
 
 void UserScript::Act(HWND peer, const QPointer<QWidget>& alive) {
     if (alive && m_actions.empty()) {
-        ADD_FAILURE() << "undeclared modal dialog: " << peer->text().ToUtf8();
+        ADD_FAILURE() << "undeclared modal dialog: " << peer->Text().ToUtf8();
     } else if (alive) {
         const auto action = std::move(m_actions.front());
         m_actions.pop_front();
-        DialogDriver driver(*peer->window());
+        DialogDriver driver(*peer->Window());
         action(driver);
         if (alive && alive->isVisible())
-            ADD_FAILURE() << "a modal dialog was left open: " << peer->text().ToUtf8();
+            ADD_FAILURE() << "a modal dialog was left open: " << peer->Text().ToUtf8();
     }
     if (alive && alive->isVisible())
-        static_cast<CDialog*>(peer->window())->EndDialog(IDCANCEL);
+        static_cast<CDialog*>(peer->Window())->EndDialog(IDCANCEL);
     // Addresses are used again: a later dialog may be made where this one was.
     std::erase(m_handled, peer);
 }

@@ -1,6 +1,6 @@
 #include "tools/rescompiler/Checker.h"
 
-#include "platform/Styles.h"
+#include "platform/window/Styles.h"
 #include "tools/rescompiler/CodePage.h"
 
 #include <algorithm>
@@ -19,19 +19,19 @@ bool IsAnonymous(int id) {
 } // namespace
 
 std::vector<std::string> Checker::Check() {
-    CheckNumbers(tables_.dialogs, "dialog");
-    CheckNumbers(tables_.menus, "menu");
-    CheckNumbers(tables_.bitmaps, "bitmap");
-    CheckNumbers(tables_.icons, "icon");
-    for (Picture& picture : tables_.bitmaps)
+    CheckNumbers(m_tables.dialogs, "dialog");
+    CheckNumbers(m_tables.menus, "menu");
+    CheckNumbers(m_tables.bitmaps, "bitmap");
+    CheckNumbers(m_tables.icons, "icon");
+    for (Picture& picture : m_tables.bitmaps)
         ReadPicture(picture);
-    for (Picture& picture : tables_.icons)
+    for (Picture& picture : m_tables.icons)
         ReadPicture(picture);
-    for (const Dialog& dialog : tables_.dialogs)
+    for (const Dialog& dialog : m_tables.dialogs)
         CheckDialog(dialog);
-    for (const Menu& menu : tables_.menus)
+    for (const Menu& menu : m_tables.menus)
         CheckMenu(menu);
-    return std::move(messages_);
+    return std::move(m_messages);
 }
 
 template <class Resource>
@@ -86,11 +86,11 @@ void Checker::ReadPicture(Picture& picture) {
 bool Checker::HasPicture(const Control& control) const {
     const bool bitmap = control.kind == platform::ControlTemplate::Kind::Static &&
                         (control.style & SS_TYPEMASK) == SS_BITMAP && control.image != 0;
-    return !bitmap || std::ranges::any_of(tables_.bitmaps, [&](const Picture& p) { return p.id == control.image; });
+    return !bitmap || std::ranges::any_of(m_tables.bitmaps, [&](const Picture& p) { return p.id == control.image; });
 }
 
 void Checker::Report(const Place& place, const std::string& message) {
-    messages_.push_back(ScriptError(place, message).what());
+    m_messages.push_back(ScriptError(place, message).what());
 }
 
 } // namespace rescompiler

@@ -11,7 +11,7 @@ namespace rescompiler {
 class Checker {
   public:
     // Reads the pictures' files into the tables on the way.
-    explicit Checker(Tables& tables) : tables_(tables) {}
+    explicit Checker(Tables& tables) : m_tables(tables) {}
 
     // One message "file:line: message" for each fault; none when the tables may be written.
     std::vector<std::string> Check();
@@ -27,8 +27,8 @@ class Checker {
     bool HasPicture(const Control& control) const;
     void Report(const Place& place, const std::string& message);
 
-    Tables& tables_;
-    std::vector<std::string> messages_;
+    Tables& m_tables;
+    std::vector<std::string> m_messages;
 };
 
 } // namespace rescompiler

@@ -1,6 +1,6 @@
 #include "tools/rescompiler/DialogParser.h"
 
-#include "platform/Styles.h"
+#include "platform/window/Styles.h"
 #include "tools/rescompiler/Symbols.h"
 
 #include <algorithm>
@@ -44,52 +44,52 @@ const DialogParser::Statement* DialogParser::FindStatement(const Token& token) {
 }
 
 Dialog DialogParser::Parse(int id, const Place& place, bool extended) {
-    dialog_.id = id;
-    dialog_.place = place;
-    while (reader_.AcceptWord("DISCARDABLE") || reader_.AcceptWord("MOVEABLE") || reader_.AcceptWord("PURE")) {
+    m_dialog.id = id;
+    m_dialog.place = place;
+    while (m_reader.AcceptWord("DISCARDABLE") || m_reader.AcceptWord("MOVEABLE") || m_reader.AcceptWord("PURE")) {
     }
-    int* const bounds[] = {&dialog_.x, &dialog_.y, &dialog_.cx, &dialog_.cy};
+    int* const bounds[] = {&m_dialog.x, &m_dialog.y, &m_dialog.cx, &m_dialog.cy};
     for (int* bound : bounds) {
         if (bound != bounds[0])
-            reader_.ExpectComma();
-        *bound = reader_.ExpectNumber();
+            m_reader.ExpectComma();
+        *bound = m_reader.ExpectNumber();
     }
-    if (extended && reader_.AcceptMark(','))
-        reader_.ExpectNumber(); // a help number, which nothing uses
+    if (extended && m_reader.AcceptMark(','))
+        m_reader.ExpectNumber(); // a help number, which nothing uses
     ParseOptions(extended);
-    reader_.ExpectBegin();
-    while (!reader_.AcceptEnd())
-        dialog_.controls.push_back(ParseControl());
-    return std::move(dialog_);
+    m_reader.ExpectBegin();
+    while (!m_reader.AcceptEnd())
+        m_dialog.controls.push_back(ParseControl());
+    return std::move(m_dialog);
 }
 
 void DialogParser::ParseOptions(bool extended) {
     while (ParseOption(extended)) {
     }
-    if (!styled_)
-        dialog_.style |= WS_POPUP | WS_BORDER | WS_SYSMENU;
-    if (!dialog_.caption.empty())
-        dialog_.style |= WS_CAPTION;
-    if (!dialog_.fontFace.empty())
-        dialog_.style |= DS_SETFONT;
+    if (!m_styled)
+        m_dialog.style |= WS_POPUP | WS_BORDER | WS_SYSMENU;
+    if (!m_dialog.caption.empty())
+        m_dialog.style |= WS_CAPTION;
+    if (!m_dialog.fontFace.empty())
+        m_dialog.style |= DS_SETFONT;
 }
 
 bool DialogParser::ParseOption(bool extended) {
-    if (reader_.AcceptWord("STYLE")) {
-        dialog_.style = reader_.ExpectStyle(0);
-        styled_ = true;
-    } else if (reader_.AcceptWord("EXSTYLE")) {
-        dialog_.exStyle = reader_.ExpectStyle(0);
-    } else if (reader_.AcceptWord("CAPTION")) {
-        dialog_.caption = reader_.ExpectText();
-    } else if (reader_.AcceptWord("FONT")) {
+    if (m_reader.AcceptWord("STYLE")) {
+        m_dialog.style = m_reader.ExpectStyle(0);
+        m_styled = true;
+    } else if (m_reader.AcceptWord("EXSTYLE")) {
+        m_dialog.exStyle = m_reader.ExpectStyle(0);
+    } else if (m_reader.AcceptWord("CAPTION")) {
+        m_dialog.caption = m_reader.ExpectText();
+    } else if (m_reader.AcceptWord("FONT")) {
         ParseFont(extended);
-    } else if (reader_.AcceptWord("MENU")) {
-        dialog_.menu = reader_.ExpectNumber();
-    } else if (reader_.AcceptWord("LANGUAGE")) {
-        reader_.ExpectNumber();
-        reader_.ExpectComma();
-        reader_.ExpectNumber();
+    } else if (m_reader.AcceptWord("MENU")) {
+        m_dialog.menu = m_reader.ExpectNumber();
+    } else if (m_reader.AcceptWord("LANGUAGE")) {
+        m_reader.ExpectNumber();
+        m_reader.ExpectComma();
+        m_reader.ExpectNumber();
     } else {
         return false;
     }
@@ -97,19 +97,19 @@ bool DialogParser::ParseOption(bool extended) {
 }
 
 void DialogParser::ParseFont(bool extended) {
-    dialog_.fontPoints = reader_.ExpectNumber();
-    reader_.ExpectComma();
-    dialog_.fontFace = reader_.ExpectText();
-    while (extended && reader_.AcceptMark(','))
-        reader_.ExpectNumber(); // weight, slant and character set are the default's
+    m_dialog.fontPoints = m_reader.ExpectNumber();
+    m_reader.ExpectComma();
+    m_dialog.fontFace = m_reader.ExpectText();
+    while (extended && m_reader.AcceptMark(','))
+        m_reader.ExpectNumber(); // weight, slant and character set are the default's
 }
 
 Control DialogParser::ParseControl() {
-    const Token word = reader_.Take();
+    const Token word = m_reader.Take();
     Control control;
     control.place = word.place;
     if (word.kind == Token::Kind::End)
-        throw ScriptError(word.place, "dialog " + std::to_string(dialog_.id) + " without END");
+        throw ScriptError(word.place, "dialog " + std::to_string(m_dialog.id) + " without END");
     if (const Statement* statement = FindStatement(word))
         ParseStatement(control, *statement);
     else if (word.text == "CONTROL")
@@ -126,40 +126,40 @@ void DialogParser::ParseStatement(Control& control, const Statement& statement) 
     control.kind = windowClass.kind;
     control.className = windowClass.name;
     if (statement.hasText) {
-        control.text = reader_.ExpectText();
-        reader_.ExpectComma();
+        control.text = m_reader.ExpectText();
+        m_reader.ExpectComma();
     }
-    control.id = reader_.ExpectNumber();
-    reader_.ExpectComma();
+    control.id = m_reader.ExpectNumber();
+    m_reader.ExpectComma();
     ParseBounds(control);
     control.style = WS_CHILD | WS_VISIBLE | statement.style;
-    if (!reader_.AcceptMark(','))
+    if (!m_reader.AcceptMark(','))
         return;
-    control.style = reader_.ExpectStyle(control.style & ~statement.typeMask);
+    control.style = m_reader.ExpectStyle(control.style & ~statement.typeMask);
     if ((control.style & statement.typeMask) == 0)
         control.style |= statement.style & statement.typeMask;
-    if (reader_.AcceptMark(','))
-        control.exStyle = reader_.ExpectStyle(0);
+    if (m_reader.AcceptMark(','))
+        control.exStyle = m_reader.ExpectStyle(0);
 }
 
 void DialogParser::ParseGeneric(Control& control) {
     ParseImageOrText(control);
-    reader_.ExpectComma();
-    control.id = reader_.ExpectNumber();
-    reader_.ExpectComma();
-    const Place place = reader_.Peek().place;
-    const std::string name = reader_.ExpectText();
+    m_reader.ExpectComma();
+    control.id = m_reader.ExpectNumber();
+    m_reader.ExpectComma();
+    const Place place = m_reader.Peek().place;
+    const std::string name = m_reader.ExpectText();
     const auto windowClass = FindWindowClass(name);
     if (!windowClass)
         throw ScriptError(place, "unknown class \"" + name + "\"");
     control.kind = windowClass->kind;
     control.className = windowClass->name;
-    reader_.ExpectComma();
-    control.style = reader_.ExpectStyle(WS_CHILD | WS_VISIBLE);
-    reader_.ExpectComma();
+    m_reader.ExpectComma();
+    control.style = m_reader.ExpectStyle(WS_CHILD | WS_VISIBLE);
+    m_reader.ExpectComma();
     ParseBounds(control);
-    if (reader_.AcceptMark(','))
-        control.exStyle = reader_.ExpectStyle(0);
+    if (m_reader.AcceptMark(','))
+        control.exStyle = m_reader.ExpectStyle(0);
 }
 
 void DialogParser::ParseIcon(Control& control) {
@@ -167,27 +167,27 @@ void DialogParser::ParseIcon(Control& control) {
     control.className = "Static";
     control.style = WS_CHILD | WS_VISIBLE | SS_ICON;
     ParseImageOrText(control);
-    reader_.ExpectComma();
-    control.id = reader_.ExpectNumber();
-    reader_.ExpectComma();
+    m_reader.ExpectComma();
+    control.id = m_reader.ExpectNumber();
+    m_reader.ExpectComma();
     ParseBounds(control);
-    if (reader_.AcceptMark(','))
-        control.style = reader_.ExpectStyle(control.style);
+    if (m_reader.AcceptMark(','))
+        control.style = m_reader.ExpectStyle(control.style);
 }
 
 void DialogParser::ParseImageOrText(Control& control) {
-    if (reader_.AtNumber())
-        control.image = reader_.ExpectNumber();
+    if (m_reader.AtNumber())
+        control.image = m_reader.ExpectNumber();
     else
-        control.text = reader_.ExpectText();
+        control.text = m_reader.ExpectText();
 }
 
 void DialogParser::ParseBounds(Control& control) {
     int* const bounds[] = {&control.x, &control.y, &control.cx, &control.cy};
     for (int* bound : bounds) {
         if (bound != bounds[0])
-            reader_.ExpectComma();
-        *bound = reader_.ExpectNumber();
+            m_reader.ExpectComma();
+        *bound = m_reader.ExpectNumber();
     }
 }
 

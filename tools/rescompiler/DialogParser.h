@@ -8,7 +8,7 @@ namespace rescompiler {
 
 class DialogParser {
   public:
-    explicit DialogParser(TokenReader& reader) : reader_(reader) {}
+    explicit DialogParser(TokenReader& reader) : m_reader(reader) {}
 
     // The reader stands behind the word DIALOG or DIALOGEX. Throws ScriptError.
     Dialog Parse(int id, const Place& place, bool extended);
@@ -27,9 +27,9 @@ class DialogParser {
     void ParseImageOrText(Control& control);
     void ParseBounds(Control& control);
 
-    TokenReader& reader_;
-    Dialog dialog_;
-    bool styled_ = false;
+    TokenReader& m_reader;
+    Dialog m_dialog;
+    bool m_styled = false;
 };
 
 } // namespace rescompiler

@@ -7,11 +7,11 @@
 namespace rescompiler {
 
 void Parser::Parse() {
-    while (!reader_.AtEnd()) {
-        if (reader_.AcceptWord("LANGUAGE")) { // one language serves the whole module
-            reader_.ExpectNumber();
-            reader_.ExpectComma();
-            reader_.ExpectNumber();
+    while (!m_reader.AtEnd()) {
+        if (m_reader.AcceptWord("LANGUAGE")) { // one language serves the whole module
+            m_reader.ExpectNumber();
+            m_reader.ExpectComma();
+            m_reader.ExpectNumber();
         } else {
             ParseResource();
         }
@@ -19,49 +19,49 @@ void Parser::Parse() {
 }
 
 void Parser::ParseResource() {
-    const Place place = reader_.Peek().place;
-    const int id = reader_.ExpectNumber();
+    const Place place = m_reader.Peek().place;
+    const int id = m_reader.ExpectNumber();
     if (id <= 0 || id > 0xffff)
         throw ScriptError(place, "a resource's number lies between 1 and 65535");
-    if (reader_.AcceptWord("DIALOG"))
-        tables_.dialogs.push_back(DialogParser(reader_).Parse(id, place, false));
-    else if (reader_.AcceptWord("DIALOGEX"))
-        tables_.dialogs.push_back(DialogParser(reader_).Parse(id, place, true));
-    else if (reader_.AcceptWord("MENU"))
+    if (m_reader.AcceptWord("DIALOG"))
+        m_tables.dialogs.push_back(DialogParser(m_reader).Parse(id, place, false));
+    else if (m_reader.AcceptWord("DIALOGEX"))
+        m_tables.dialogs.push_back(DialogParser(m_reader).Parse(id, place, true));
+    else if (m_reader.AcceptWord("MENU"))
         ParseMenu(id, place);
-    else if (reader_.AcceptWord("BITMAP"))
-        tables_.bitmaps.push_back(ParsePicture(id, place));
-    else if (reader_.AcceptWord("ICON"))
-        tables_.icons.push_back(ParsePicture(id, place));
+    else if (m_reader.AcceptWord("BITMAP"))
+        m_tables.bitmaps.push_back(ParsePicture(id, place));
+    else if (m_reader.AcceptWord("ICON"))
+        m_tables.icons.push_back(ParsePicture(id, place));
     else
-        throw ScriptError(place, "unknown kind of resource \"" + reader_.Peek().text + "\"");
+        throw ScriptError(place, "unknown kind of resource \"" + m_reader.Peek().text + "\"");
 }
 
 void Parser::ParseMenu(int id, const Place& place) {
-    reader_.AcceptWord("DISCARDABLE");
+    m_reader.AcceptWord("DISCARDABLE");
     Menu menu;
     menu.place = place;
     menu.id = id;
     menu.itemCount = ParseMenuItems(menu);
-    tables_.menus.push_back(std::move(menu));
+    m_tables.menus.push_back(std::move(menu));
 }
 
 // Returns the number of items between BEGIN and END, those inside pop-ups not counted.
 int Parser::ParseMenuItems(Menu& menu) {
-    reader_.ExpectBegin();
+    m_reader.ExpectBegin();
     int count = 0;
-    for (; !reader_.AcceptEnd(); ++count)
+    for (; !m_reader.AcceptEnd(); ++count)
         ParseMenuItem(menu);
     return count;
 }
 
 void Parser::ParseMenuItem(Menu& menu) {
-    const Token word = reader_.Take();
+    const Token word = m_reader.Take();
     MenuItem item;
     item.place = word.place;
     if (word.text == "POPUP") {
         item.popup = true;
-        item.text = reader_.ExpectText();
+        item.text = m_reader.ExpectText();
         ParseMenuFlags(item);
         const std::size_t at = menu.items.size();
         menu.items.push_back(item);
@@ -71,36 +71,36 @@ void Parser::ParseMenuItem(Menu& menu) {
     }
     if (word.text != "MENUITEM")
         throw ScriptError(word.place, "expected POPUP or MENUITEM instead of \"" + word.text + "\"");
-    if (reader_.AcceptWord("SEPARATOR")) {
+    if (m_reader.AcceptWord("SEPARATOR")) {
         item.separator = true;
     } else {
-        item.text = reader_.ExpectText();
-        reader_.ExpectComma();
-        item.id = reader_.ExpectNumber();
+        item.text = m_reader.ExpectText();
+        m_reader.ExpectComma();
+        item.id = m_reader.ExpectNumber();
         ParseMenuFlags(item);
     }
     menu.items.push_back(item);
 }
 
 void Parser::ParseMenuFlags(MenuItem& item) {
-    while (reader_.AcceptMark(',')) {
-        const Place place = reader_.Peek().place;
-        if (reader_.AcceptWord("GRAYED") || reader_.AcceptWord("INACTIVE"))
+    while (m_reader.AcceptMark(',')) {
+        const Place place = m_reader.Peek().place;
+        if (m_reader.AcceptWord("GRAYED") || m_reader.AcceptWord("INACTIVE"))
             item.grayed = true;
-        else if (reader_.AcceptWord("CHECKED"))
+        else if (m_reader.AcceptWord("CHECKED"))
             item.checked = true;
         else
-            throw ScriptError(place, "unknown menu flag " + reader_.Peek().text);
+            throw ScriptError(place, "unknown menu flag " + m_reader.Peek().text);
     }
 }
 
 Picture Parser::ParsePicture(int id, const Place& place) {
-    while (reader_.AcceptWord("DISCARDABLE") || reader_.AcceptWord("MOVEABLE") || reader_.AcceptWord("PURE")) {
+    while (m_reader.AcceptWord("DISCARDABLE") || m_reader.AcceptWord("MOVEABLE") || m_reader.AcceptWord("PURE")) {
     }
     Picture picture;
     picture.place = place;
     picture.id = id;
-    picture.file = (std::filesystem::path(place.file).parent_path() / reader_.ExpectText()).string();
+    picture.file = (std::filesystem::path(place.file).parent_path() / m_reader.ExpectText()).string();
     return picture;
 }
 

@@ -9,7 +9,7 @@ namespace rescompiler {
 class Parser {
   public:
     // Both must outlive the parser; what the script declares is appended to the tables.
-    Parser(const Script& script, Tables& tables) : reader_(script), tables_(tables) {}
+    Parser(const Script& script, Tables& tables) : m_reader(script), m_tables(tables) {}
 
     // Throws ScriptError at the first fault.
     void Parse();
@@ -22,8 +22,8 @@ class Parser {
     void ParseMenuFlags(MenuItem& item);
     Picture ParsePicture(int id, const Place& place);
 
-    TokenReader reader_;
-    Tables& tables_;
+    TokenReader m_reader;
+    Tables& m_tables;
 };
 
 } // namespace rescompiler

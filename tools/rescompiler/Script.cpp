@@ -21,16 +21,16 @@ bool IsWordPart(char c) {
 // Cuts one file's text into tokens. Directives are handed back as lines.
 class Scanner {
   public:
-    Scanner(std::string text, std::string file) : text_(std::move(text)), place_{std::move(file), 1} {}
+    Scanner(std::string text, std::string file) : m_text(std::move(text)), m_place{std::move(file), 1} {}
 
     // The next token, or a Mark "#" whose text goes on with the rest of the directive's line.
     Token Next() {
         SkipBlanksAndComments();
         Token token;
-        token.place = place_;
-        if (at_ >= text_.size())
+        token.place = m_place;
+        if (m_at >= m_text.size())
             return token;
-        const char c = text_[at_];
+        const char c = m_text[m_at];
         if (c == '#')
             ScanDirective(token);
         else if (c == '"')
@@ -45,20 +45,20 @@ class Scanner {
     }
 
   private:
-    bool Looking(const char* start) const { return text_.compare(at_, 2, start) == 0; }
+    bool Looking(const char* start) const { return m_text.compare(m_at, 2, start) == 0; }
 
     void Step() {
-        if (text_[at_++] == '\n')
-            ++place_.line;
+        if (m_text[m_at++] == '\n')
+            ++m_place.line;
     }
 
     void SkipBlanksAndComments() {
-        while (at_ < text_.size()) {
-            if (std::isspace(static_cast<unsigned char>(text_[at_]))) {
+        while (m_at < m_text.size()) {
+            if (std::isspace(static_cast<unsigned char>(m_text[m_at]))) {
                 Step();
             } else if (Looking("//")) {
-                while (at_ < text_.size() && text_[at_] != '\n')
-                    ++at_;
+                while (m_at < m_text.size() && m_text[m_at] != '\n')
+                    ++m_at;
             } else if (Looking("/*")) {
                 SkipBlockComment();
             } else {
@@ -68,31 +68,31 @@ class Scanner {
     }
 
     void SkipBlockComment() {
-        const Place start = place_;
-        while (at_ < text_.size() && !Looking("*/"))
+        const Place start = m_place;
+        while (m_at < m_text.size() && !Looking("*/"))
             Step();
-        if (at_ >= text_.size())
+        if (m_at >= m_text.size())
             throw ScriptError(start, "comment without end");
-        at_ += 2;
+        m_at += 2;
     }
 
     void ScanDirective(Token& token) {
-        const std::size_t end = std::min(text_.find('\n', at_), text_.size());
+        const std::size_t end = std::min(m_text.find('\n', m_at), m_text.size());
         token.kind = Token::Kind::Mark;
-        token.text = text_.substr(at_, end - at_);
-        at_ = end;
+        token.text = m_text.substr(m_at, end - m_at);
+        m_at = end;
     }
 
     void ScanText(Token& token) {
         token.kind = Token::Kind::Text;
-        for (++at_;;) {
-            if (at_ >= text_.size() || text_[at_] == '\n')
+        for (++m_at;;) {
+            if (m_at >= m_text.size() || m_text[m_at] == '\n')
                 throw ScriptError(token.place, "text without closing quote");
-            const char c = text_[at_++];
+            const char c = m_text[m_at++];
             if (c == '"') {
-                if (at_ >= text_.size() || text_[at_] != '"')
+                if (m_at >= m_text.size() || m_text[m_at] != '"')
                     return;
-                ++at_; // a doubled quote stands for one
+                ++m_at; // a doubled quote stands for one
                 token.text += '"';
             } else {
                 token.text += c == '\\' ? Escaped() : c;
@@ -101,7 +101,7 @@ class Scanner {
     }
 
     char Escaped() {
-        const char c = at_ < text_.size() ? text_[at_++] : '\0';
+        const char c = m_at < m_text.size() ? m_text[m_at++] : '\0';
         switch (c) {
         case 't':
         case 'a': // in menus, the mark before the short cut
@@ -112,14 +112,14 @@ class Scanner {
         case '"':
             return c;
         default:
-            throw ScriptError(place_, std::string("unknown escape \\") + c);
+            throw ScriptError(m_place, std::string("unknown escape \\") + c);
         }
     }
 
     void ScanNumber(Token& token) {
         std::string digits;
-        while (at_ < text_.size() && IsWordPart(text_[at_]))
-            digits += text_[at_++];
+        while (m_at < m_text.size() && IsWordPart(m_text[m_at]))
+            digits += m_text[m_at++];
         token.kind = Token::Kind::Number;
         token.text = digits;
         if (digits.back() == 'L' || digits.back() == 'l')
@@ -136,20 +136,20 @@ class Scanner {
 
     void ScanWord(Token& token) {
         token.kind = Token::Kind::Word;
-        while (at_ < text_.size() && IsWordPart(text_[at_]))
-            token.text += text_[at_++];
+        while (m_at < m_text.size() && IsWordPart(m_text[m_at]))
+            token.text += m_text[m_at++];
     }
 
     void ScanMark(Token& token) {
         token.kind = Token::Kind::Mark;
-        token.text = text_[at_++];
+        token.text = m_text[m_at++];
         if (token.text.find_first_of(",|{}-") == std::string::npos)
             throw ScriptError(token.place, "unexpected character '" + token.text + "'");
     }
 
-    std::string text_;
-    std::size_t at_ = 0;
-    Place place_;
+    std::string m_text;
+    std::size_t m_at = 0;
+    Place m_place;
 };
 
 } // namespace
@@ -160,11 +160,11 @@ ScriptError::ScriptError(const Place& place, const std::string& message)
 
 Script::Script(const std::string& path) {
     ReadFile(path, {path, 1});
-    tokens_.push_back({Token::Kind::End, "", 0, {path, tokens_.empty() ? 1 : tokens_.back().place.line}});
+    m_tokens.push_back({Token::Kind::End, "", 0, {path, m_tokens.empty() ? 1 : m_tokens.back().place.line}});
 }
 
 void Script::ReadFile(const std::string& path, const Place& from) {
-    if (!files_.insert(path).second)
+    if (!m_files.insert(path).second)
         return; // a header counts once
     std::ifstream stream(path, std::ios::binary);
     if (!stream)
@@ -177,7 +177,7 @@ void Script::ReadFile(const std::string& path, const Place& from) {
         if (token.kind == Token::Kind::Mark && token.text.starts_with('#'))
             ReadDirective(token.text, token.place);
         else
-            tokens_.push_back(std::move(token));
+            m_tokens.push_back(std::move(token));
     }
 }
 
@@ -209,7 +209,7 @@ void Script::Define(const std::string& name, const std::string& value, const Pla
     }
     if (used != value.size())
         throw ScriptError(place, name + " is not defined as a number");
-    const auto [known, added] = names_.emplace(name, number);
+    const auto [known, added] = m_names.emplace(name, number);
     if (!added && known->second != number)
         throw ScriptError(place, name + " is defined twice");
 }

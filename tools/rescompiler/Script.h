@@ -36,18 +36,18 @@ class Script {
     // Throws ScriptError for a file that cannot be read or holds a bad token.
     explicit Script(const std::string& path);
 
-    const std::vector<Token>& Tokens() const { return tokens_; } // ends with one End token
-    const std::map<std::string, long long>& Names() const { return names_; }
-    const std::set<std::string>& Files() const { return files_; } // every file read
+    const std::vector<Token>& Tokens() const { return m_tokens; } // ends with one End token
+    const std::map<std::string, long long>& Names() const { return m_names; }
+    const std::set<std::string>& Files() const { return m_files; } // every file read
 
   private:
     void ReadFile(const std::string& path, const Place& from);
     void ReadDirective(const std::string& line, const Place& place);
     void Define(const std::string& name, const std::string& value, const Place& place);
 
-    std::vector<Token> tokens_;
-    std::map<std::string, long long> names_;
-    std::set<std::string> files_;
+    std::vector<Token> m_tokens;
+    std::map<std::string, long long> m_names;
+    std::set<std::string> m_files;
 };
 
 } // namespace rescompiler

@@ -1,6 +1,6 @@
 #include "tools/rescompiler/Symbols.h"
 
-#include "platform/Styles.h"
+#include "platform/window/Styles.h"
 
 #include <algorithm>
 #include <array>
@@ -152,7 +152,7 @@ const std::unordered_map<std::string, std::uint32_t>& Styles() {
     return styles;
 }
 
-constexpr std::array<WindowClass, 9> kClasses = {{
+constexpr std::array<WindowClass, 9> classes = {{
     {Kind::Button, "Button"},
     {Kind::Edit, "Edit"},
     {Kind::Static, "Static"},
@@ -177,8 +177,8 @@ std::optional<std::uint32_t> StyleValue(const std::string& name) {
 }
 
 std::optional<WindowClass> FindWindowClass(const std::string& name) {
-    const auto found = std::ranges::find_if(kClasses, [&](const WindowClass& c) { return SameName(c.name, name); });
-    return found == kClasses.end() ? std::nullopt : std::optional(*found);
+    const auto found = std::ranges::find_if(classes, [&](const WindowClass& c) { return SameName(c.name, name); });
+    return found == classes.end() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace rescompiler

@@ -1,7 +1,7 @@
 // Names of styles and window classes that every script knows.
 #pragma once
 
-#include "platform/Resource.h"
+#include "platform/resource/Resource.h"
 
 #include <cstdint>
 #include <optional>

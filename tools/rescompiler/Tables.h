@@ -1,7 +1,7 @@
 // What scripts declare, with the place of each declaration for messages. Texts are UTF-8.
 #pragma once
 
-#include "platform/Resource.h"
+#include "platform/resource/Resource.h"
 #include "tools/rescompiler/Script.h"
 
 #include <cstdint>

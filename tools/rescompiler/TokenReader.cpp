@@ -20,7 +20,7 @@ bool IsWord(const Token& token, const std::string& word) {
 const Token& TokenReader::Take() {
     const Token& token = Peek();
     if (!AtEnd())
-        ++at_;
+        ++m_at;
     return token;
 }
 
@@ -61,7 +61,7 @@ bool TokenReader::AcceptEnd() {
 bool TokenReader::AtNumber() const {
     const Token& token = Peek();
     return token.kind == Token::Kind::Number || (token.kind == Token::Kind::Mark && token.text == "-") ||
-           (token.kind == Token::Kind::Word && (script_.Names().contains(token.text) || StyleValue(token.text)));
+           (token.kind == Token::Kind::Word && (m_script.Names().contains(token.text) || StyleValue(token.text)));
 }
 
 int TokenReader::ExpectNumber() {
@@ -71,8 +71,8 @@ int TokenReader::ExpectNumber() {
     long long value = 0;
     if (token.kind == Token::Kind::Number)
         value = token.number;
-    else if (const auto name = script_.Names().find(token.text);
-             token.kind == Token::Kind::Word && name != script_.Names().end())
+    else if (const auto name = m_script.Names().find(token.text);
+             token.kind == Token::Kind::Word && name != m_script.Names().end())
         value = name->second;
     else if (const auto style = StyleValue(token.text); token.kind == Token::Kind::Word && style)
         value = *style;

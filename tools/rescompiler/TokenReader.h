@@ -11,9 +11,9 @@ namespace rescompiler {
 class TokenReader {
   public:
     // The script must outlive the reader.
-    explicit TokenReader(const Script& script) : script_(script) {}
+    explicit TokenReader(const Script& script) : m_script(script) {}
 
-    const Token& Peek() const { return script_.Tokens()[at_]; }
+    const Token& Peek() const { return m_script.Tokens()[m_at]; }
     const Token& Take();
     bool AtEnd() const { return Peek().kind == Token::Kind::End; }
 
@@ -39,8 +39,8 @@ class TokenReader {
     std::uint32_t StyleTerm();
     [[noreturn]] void FailExpected(const std::string& what) const;
 
-    const Script& script_;
-    std::size_t at_ = 0;
+    const Script& m_script;
+    std::size_t m_at = 0;
 };
 
 } // namespace rescompiler

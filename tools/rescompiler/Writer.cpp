@@ -57,88 +57,88 @@ const char* Flag(bool flag) {
 } // namespace
 
 void Writer::Write(const std::string& module) {
-    out_ << "// Compiled from resource scripts.\n#include \"platform/Resource.h\"\n\nnamespace {\n"
-         << "using Kind = platform::ControlTemplate::Kind;\n";
-    for (const Dialog& dialog : tables_.dialogs)
+    m_out << "// Compiled from resource scripts.\n#include \"platform/resource/Resource.h\"\n\nnamespace {\n"
+          << "using Kind = platform::ControlTemplate::Kind;\n";
+    for (const Dialog& dialog : m_tables.dialogs)
         WriteControls(dialog);
-    for (const Menu& menu : tables_.menus)
+    for (const Menu& menu : m_tables.menus)
         WriteMenuItems(menu);
     WriteDialogs();
     WriteMenus();
-    WritePictures(tables_.bitmaps, "bitmap");
-    WritePictures(tables_.icons, "icon");
-    out_ << "} // namespace\n\nnamespace resources {\nextern const platform::ResourceModule " << module << ";\n"
-         << "constinit const platform::ResourceModule " << module << "{\"" << module << "\", "
-         << (tables_.dialogs.empty() ? "{}" : "dialogs") << ", " << (tables_.menus.empty() ? "{}" : "menus") << ", "
-         << (tables_.bitmaps.empty() ? "{}" : "bitmaps") << ", " << (tables_.icons.empty() ? "{}" : "icons")
-         << "};\n} // namespace resources\n";
+    WritePictures(m_tables.bitmaps, "bitmap");
+    WritePictures(m_tables.icons, "icon");
+    m_out << "} // namespace\n\nnamespace resources {\nextern const platform::ResourceModule " << module << ";\n"
+          << "constinit const platform::ResourceModule " << module << "{\"" << module << "\", "
+          << (m_tables.dialogs.empty() ? "{}" : "dialogs") << ", " << (m_tables.menus.empty() ? "{}" : "menus") << ", "
+          << (m_tables.bitmaps.empty() ? "{}" : "bitmaps") << ", " << (m_tables.icons.empty() ? "{}" : "icons")
+          << "};\n} // namespace resources\n";
 }
 
 void Writer::WriteControls(const Dialog& dialog) {
     if (dialog.controls.empty())
         return;
-    out_ << "constexpr platform::ControlTemplate controls" << dialog.id << "[] = {\n";
+    m_out << "constexpr platform::ControlTemplate controls" << dialog.id << "[] = {\n";
     for (const Control& c : dialog.controls)
-        out_ << "    {Kind::" << KindName(c.kind) << ", " << Literal(c.className) << ", " << Literal(c.text) << ", "
-             << (c.id == 0xffff ? -1 : c.id) << ", " << c.x << ", " << c.y << ", " << c.cx << ", " << c.cy << ", "
-             << Style(c.style) << ", " << Style(c.exStyle) << ", " << c.image << "},\n";
-    out_ << "};\n";
+        m_out << "    {Kind::" << KindName(c.kind) << ", " << Literal(c.className) << ", " << Literal(c.text) << ", "
+              << (c.id == 0xffff ? -1 : c.id) << ", " << c.x << ", " << c.y << ", " << c.cx << ", " << c.cy << ", "
+              << Style(c.style) << ", " << Style(c.exStyle) << ", " << c.image << "},\n";
+    m_out << "};\n";
 }
 
 void Writer::WriteDialogs() {
-    if (tables_.dialogs.empty())
+    if (m_tables.dialogs.empty())
         return;
-    out_ << "constexpr platform::DialogTemplate dialogs[] = {\n";
-    for (const Dialog& d : tables_.dialogs) {
-        out_ << "    {" << d.id << ", " << d.x << ", " << d.y << ", " << d.cx << ", " << d.cy << ", "
-             << Literal(d.caption) << ", " << Style(d.style) << ", " << Style(d.exStyle) << ", " << Literal(d.fontFace)
-             << ", " << d.fontPoints << ", " << d.menu << ", ";
+    m_out << "constexpr platform::DialogTemplate dialogs[] = {\n";
+    for (const Dialog& d : m_tables.dialogs) {
+        m_out << "    {" << d.id << ", " << d.x << ", " << d.y << ", " << d.cx << ", " << d.cy << ", "
+              << Literal(d.caption) << ", " << Style(d.style) << ", " << Style(d.exStyle) << ", " << Literal(d.fontFace)
+              << ", " << d.fontPoints << ", " << d.menu << ", ";
         if (d.controls.empty())
-            out_ << "{}},\n";
+            m_out << "{}},\n";
         else
-            out_ << "controls" << d.id << "},\n";
+            m_out << "controls" << d.id << "},\n";
     }
-    out_ << "};\n";
+    m_out << "};\n";
 }
 
 void Writer::WriteMenuItems(const Menu& menu) {
     if (menu.items.empty())
         return;
-    out_ << "constexpr platform::MenuItemTemplate items" << menu.id << "[] = {\n";
+    m_out << "constexpr platform::MenuItemTemplate items" << menu.id << "[] = {\n";
     for (const MenuItem& item : menu.items)
-        out_ << "    {" << item.id << ", " << Literal(item.text) << ", " << Flag(item.separator) << ", "
-             << Flag(item.popup) << ", " << item.childCount << ", " << Flag(item.grayed) << ", " << Flag(item.checked)
-             << "},\n";
-    out_ << "};\n";
+        m_out << "    {" << item.id << ", " << Literal(item.text) << ", " << Flag(item.separator) << ", "
+              << Flag(item.popup) << ", " << item.childCount << ", " << Flag(item.grayed) << ", " << Flag(item.checked)
+              << "},\n";
+    m_out << "};\n";
 }
 
 void Writer::WriteMenus() {
-    if (tables_.menus.empty())
+    if (m_tables.menus.empty())
         return;
-    out_ << "constexpr platform::MenuTemplate menus[] = {\n";
-    for (const Menu& menu : tables_.menus) {
-        out_ << "    {" << menu.id << ", " << menu.itemCount << ", ";
+    m_out << "constexpr platform::MenuTemplate menus[] = {\n";
+    for (const Menu& menu : m_tables.menus) {
+        m_out << "    {" << menu.id << ", " << menu.itemCount << ", ";
         if (menu.items.empty())
-            out_ << "{}},\n";
+            m_out << "{}},\n";
         else
-            out_ << "items" << menu.id << "},\n";
+            m_out << "items" << menu.id << "},\n";
     }
-    out_ << "};\n";
+    m_out << "};\n";
 }
 
 void Writer::WritePictures(const std::vector<Picture>& pictures, const std::string& name) {
     if (pictures.empty())
         return;
     for (const Picture& picture : pictures) {
-        out_ << "constexpr unsigned char " << name << picture.id << "[] = {";
+        m_out << "constexpr unsigned char " << name << picture.id << "[] = {";
         for (std::size_t i = 0; i < picture.bytes.size(); ++i)
-            out_ << (i % 24 == 0 ? "\n    " : "") << int{static_cast<unsigned char>(picture.bytes[i])} << ',';
-        out_ << "\n};\n";
+            m_out << (i % 24 == 0 ? "\n    " : "") << int{static_cast<unsigned char>(picture.bytes[i])} << ',';
+        m_out << "\n};\n";
     }
-    out_ << "constexpr platform::BitmapResource " << name << "s[] = {\n";
+    m_out << "constexpr platform::BitmapResource " << name << "s[] = {\n";
     for (const Picture& picture : pictures)
-        out_ << "    {" << picture.id << ", " << name << picture.id << "},\n";
-    out_ << "};\n";
+        m_out << "    {" << picture.id << ", " << name << picture.id << "},\n";
+    m_out << "};\n";
 }
 
 } // namespace rescompiler

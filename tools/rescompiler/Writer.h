@@ -11,7 +11,7 @@ namespace rescompiler {
 class Writer {
   public:
     // The tables must have passed the check and outlive the writer.
-    Writer(const Tables& tables, std::ostream& out) : tables_(tables), out_(out) {}
+    Writer(const Tables& tables, std::ostream& out) : m_tables(tables), m_out(out) {}
 
     // The source defines `resources::<module>`, a platform::ResourceModule with that name.
     void Write(const std::string& module);
@@ -23,8 +23,8 @@ class Writer {
     void WriteMenus();
     void WritePictures(const std::vector<Picture>& pictures, const std::string& name);
 
-    const Tables& tables_;
-    std::ostream& out_;
+    const Tables& m_tables;
+    std::ostream& m_out;
 };
 
 } // namespace rescompiler

@@ -1,0 +1,20 @@
+#include "host/app/Example.h"
+
+#include "host/document/ExampleModel.h"
+#include "host/document/HostDocument.h"
+#include "host/files/FileError.h"
+#include "host/files/ProjectFile.h"
+
+#include <cstdio>
+
+int WriteExample(const std::string& path) {
+    HostDocument document;
+    BuildExample(document);
+    try {
+        SaveProject(document.Data(), path, QUOVAR_VERSION);
+    } catch (const FileError& error) {
+        std::fprintf(stderr, "quovar: %s\n", error.what());
+        return 1;
+    }
+    return 0;
+}

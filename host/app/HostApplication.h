@@ -1,0 +1,30 @@
+// The application object of `quovar`.
+#pragma once
+
+#include "host/app/Options.h"
+#include "platform/window/Application.h"
+
+#include <memory>
+
+class QTranslator;
+class Workspace;
+
+class HostApplication final : public CWinApp {
+  public:
+    // The module of the dialogs must have started, and ends after this object.
+    HostApplication(const Options& options, int& argc, char** argv);
+    ~HostApplication() override;
+
+    // Carries out what the options ask for and returns the exit status: 0 for success.
+    int Execute();
+
+    // The trial run has nobody who could answer: a box is noted, and cancelled.
+    int DoMessageBox(LPCTSTR text, UINT type, UINT helpId) override;
+
+  private:
+    int Open();
+
+    Options m_options;
+    std::unique_ptr<QTranslator> m_translator;
+    std::unique_ptr<Workspace> m_workspace;
+};

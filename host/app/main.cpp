@@ -1,0 +1,69 @@
+// The reference application.
+#include "dialogs/frame/Module.h"
+#include "host/app/Example.h"
+#include "host/app/Gallery.h"
+#include "host/app/HostApplication.h"
+#include "host/app/Options.h"
+#include "host/app/Results.h"
+#include "platform/resource/Module.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+enum ExitStatus { success = 0, failure = 1, badUsage = 2, noModule = 3 };
+
+// The dialogs' module, from before the first dialog until after the last.
+class DialogModule {
+  public:
+    DialogModule() : m_handle(AfxAttachLinkedModule(&QuovarModuleEntry)) {}
+    ~DialogModule() {
+        if (m_handle)
+            AfxDetachLinkedModule(&QuovarModuleEntry);
+    }
+    DialogModule(const DialogModule&) = delete;
+    DialogModule& operator=(const DialogModule&) = delete;
+
+    bool IsStarted() const { return m_handle; }
+
+  private:
+    HINSTANCE m_handle;
+};
+
+int RunApplication(const Options& options, int argc, char** argv) {
+    const DialogModule module;
+    if (!module.IsStarted()) {
+        std::fprintf(stderr, "quovar: il modulo dei dialoghi non si avvia.\n");
+        return noModule;
+    }
+    return HostApplication(options, argc, argv).Execute();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const Options options = ParseOptions(argc, argv);
+    switch (options.action) {
+    case Options::Action::Help:
+        std::fputs(usageText, stdout);
+        return success;
+    case Options::Action::Version:
+        std::puts("quovar " QUOVAR_VERSION);
+        return success;
+    case Options::Action::Invalid:
+        std::fprintf(stderr, "quovar: %s\n\n%s", options.error.c_str(), usageText);
+        return badUsage;
+    case Options::Action::Gallery:
+        return WriteGallery(argv[0], options.argument, options.model);
+    case Options::Action::WriteExample:
+        return WriteExample(options.argument);
+    case Options::Action::Results:
+        return PrintResults(options.argument);
+    case Options::Action::Check:
+        setenv("QT_QPA_PLATFORM", "offscreen", 1); // nothing is shown, and there may be no display
+        return RunApplication(options, argc, argv);
+    default:
+        return RunApplication(options, argc, argv);
+    }
+}

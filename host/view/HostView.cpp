@@ -1,0 +1,324 @@
+#include "host/view/HostView.h"
+
+#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/results/DialogDiagrammi.h"
+#include "host/document/HostDocument.h"
+#include "host/view/ViewOwner.h"
+#include "host/view/ViewRenderer.h"
+#include "host/view/ViewWidget.h"
+#include "model/element/Nodo.h"
+#include "model/element/TipoElemento.h"
+#include "platform/private/peers/WindowPeer.h"
+#include "platform/window/Application.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+IMPLEMENT_DYNAMIC(HostView, CView)
+
+BEGIN_MESSAGE_MAP(HostView, CView)
+    ON_MESSAGE(WM_FINEDIALOGO, OnFineDialogo)
+END_MESSAGE_MAP()
+
+namespace {
+constexpr int snapRadius = 12;          // pixels
+constexpr double degreesPerPixel = 0.4; // of orbit
+constexpr double firstScale = 50;       // pixels per metre of an empty document
+
+QString AskPictureFile(QWidget* parent) {
+    return QFileDialog::getSaveFileName(
+        parent, QStringLiteral("Salva immagine"), QStringLiteral("immagine.png"),
+        QStringLiteral("Immagini PNG (*.png);;Immagini JPEG (*.jpg);;Immagini BMP (*.bmp)"));
+}
+
+} // namespace
+
+std::function<QString()> HostView::pictureFileHook;
+
+HostView::HostView(HostDocument& document, ViewOwner& owner, HWND frame, QWidget* parent)
+    : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)) {
+    Attach(m_widget);
+    m_widget->live = true;
+    m_projection.SetScale(firstScale * CGrandezza::_LengthFactor(m_document.GetLunghezza(), Lunghezza::Metres));
+    // What a window of diagrams begins with.
+    for (const int kind : {CElementoSettings::V3, CElementoSettings::M2})
+        GetTraveSettings().SetRisultato(kind, 1);
+    m_document.AddObserver(this);
+    SetDirection(Adv3d::Axonometry);
+}
+
+HostView::~HostView() {
+    Close();
+}
+
+void HostView::Close() {
+    if (m_closed)
+        return;
+    m_closed = true;
+    m_document.RemoveObserver(this);
+    m_vector = {};
+    DestroyWindow();
+    m_widget->Leave(); // the loop deletes it
+}
+
+CQuovarDoc* HostView::GetDocument() {
+    return &m_document;
+}
+
+void HostView::StartDefinisciVettore(CString prompt, CString) {
+    m_vector = {true, false, prompt, std::nullopt};
+    m_widget->setCursor(Qt::CrossCursor);
+    m_widget->update();
+    m_owner.ViewChanged(*this);
+}
+
+void HostView::StopDefinisciVettore() {
+    if (!m_vector.active)
+        return;
+    m_vector = {};
+    m_widget->unsetCursor();
+    m_widget->update();
+    m_owner.ViewChanged(*this);
+}
+
+CElementoSettings& HostView::GetNodoSettings() {
+    return m_projection.GetSettings(TipoElemento::Nodo);
+}
+
+CElementoSettings& HostView::GetTraveSettings() {
+    return m_projection.GetSettings(TipoElemento::Trave);
+}
+
+CElementoSettings& HostView::GetSettoSettings() {
+    return m_projection.GetSettings(TipoElemento::Setto);
+}
+
+void HostView::SetRectImmagine(int left, int top, int right, int bottom) {
+    m_captureRect = CRect(left, top, right, bottom);
+    m_captureRect.NormalizeRect();
+}
+
+// The application's window that holds the place: a dialog before the main window that it lies over, the active one
+// before others; null for none.
+static QWidget* WindowAround(const QRect& place) {
+    const auto rank = [&place](const QWidget* window) {
+        if (!window->isVisible() || window->windowType() == Qt::Popup || !window->geometry().contains(place))
+            return 0;
+        return 1 + (window->windowType() == Qt::Window ? 0 : 2) + (window->isActiveWindow() ? 1 : 0);
+    };
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto best = std::max_element(windows.begin(), windows.end(),
+                                       [&rank](const QWidget* a, const QWidget* b) { return rank(a) < rank(b); });
+    return best == windows.end() || rank(*best) == 0 ? QApplication::topLevelAt(place.center()) : *best;
+}
+
+// What lies in the rectangle: of the application's own window there, which another program's may cover and a menu that
+// has just closed may still be over, or of the screen.
+QPixmap HostView::CapturedPicture() const {
+    if (m_captureRect.IsRectEmpty())
+        return m_widget->grab();
+    const QRect place(m_captureRect.left, m_captureRect.top, m_captureRect.Width(), m_captureRect.Height());
+    if (QWidget* window = WindowAround(place))
+        return window->grab(QRect(window->mapFromGlobal(place.topLeft()), place.size()));
+    QScreen* screen = m_widget->screen();
+    return screen ? screen->grabWindow(0, place.x(), place.y(), place.width(), place.height()) : QPixmap();
+}
+
+// The picture goes to the clipboard, from where a report takes it, and to a file when the user names one.
+void HostView::CatturaImmagine() {
+    if (m_closed)
+        return;
+    const QPixmap picture = CapturedPicture();
+    if (picture.isNull())
+        return;
+    QApplication::clipboard()->setPixmap(picture);
+    QString path = pictureFileHook ? pictureFileHook() : AskPictureFile(m_widget->QWidget::window());
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += ".png";
+    if (!picture.save(path))
+        AfxMessageBox("Impossibile scrivere l'immagine \"" + platform::FromQString(path) + "\".",
+                      MB_OK | MB_ICONEXCLAMATION);
+}
+
+void HostView::OnDocumentUpdate(CView* sender, long hint, CObject* pHint) {
+    if (m_empty && m_document.GetSizeNodi() > 1)
+        Fit();
+    Redraw();
+    m_owner.DocumentChanged(*this, sender, hint, pHint);
+}
+
+void HostView::Fit() {
+    CFPoint minimum, maximum;
+    if (GetBounds(m_document, minimum, maximum)) {
+        m_projection.FitToBounds(minimum, maximum);
+        m_fitted = true;
+        m_empty = m_document.GetSizeNodi() < 2;
+    }
+    Redraw();
+}
+
+void HostView::SetDirection(Adv3d::Direzione direction) {
+    m_projection.SetDirection(direction);
+    Fit();
+}
+
+void HostView::SetPerspective(bool perspective) {
+    m_projection.SetPerspective(perspective);
+    Redraw();
+    m_owner.ViewChanged(*this);
+}
+
+void HostView::Orbit(int dx, int dy) {
+    // About the world's vertical, so that columns stay upright on the screen.
+    const double angle = -dx * degreesPerPixel * std::numbers::pi / 180;
+    const double c = std::cos(angle), s = std::sin(angle);
+    const auto turn = [c, s](const CFPoint& v) { return CFPoint(c * v.x - s * v.y, s * v.x + c * v.y, v.z); };
+    m_projection.SetAxes(turn(m_projection.GetAxis(0)), turn(m_projection.GetAxis(1)));
+    m_projection.vista_ruotax(dy * degreesPerPixel);
+    Redraw();
+}
+
+void HostView::Pan(int dx, int dy) {
+    m_fitted = false;
+    m_projection.SetPan(m_projection.GetPanX() + dx, m_projection.GetPanY() + dy);
+    Redraw();
+}
+
+void HostView::Zoom(double factor, CPoint at) {
+    const double scale = m_projection.GetScale() * factor;
+    if (!(scale > 1e-9) || scale > 1e9) // beyond, pixels no longer fit their numbers
+        return;
+    m_fitted = false;
+    m_projection.Zoom(factor, at);
+    Redraw();
+}
+
+void HostView::SetViewport(int width, int height) {
+    const bool first = m_projection.GetViewport().IsRectEmpty();
+    m_projection.SetViewport(CRect(0, 0, width, height));
+    if (first || m_fitted)
+        Fit();
+    Redraw();
+}
+
+void HostView::SetFilter(const KindFilter& filter) {
+    m_filter = filter;
+    m_owner.ViewChanged(*this);
+}
+
+void HostView::SetShown(unsigned kind, unsigned item, bool shown) {
+    m_projection.GetSettings(kind).SetItem(item, shown);
+    Redraw();
+    m_owner.ViewChanged(*this);
+}
+
+bool HostView::IsShown(unsigned kind, unsigned item) {
+    return m_projection.GetSettings(kind).IsItem(item);
+}
+
+void HostView::SetResultShown(int kind, bool shown) {
+    GetTraveSettings().SetRisultato(kind, shown);
+    if (auto* diagrams = dynamic_cast<CDialogDiagrammi*>(m_owner.ToolOf(*this)))
+        diagrams->AggiornaRisultato(kind, shown);
+    Redraw();
+    m_owner.ViewChanged(*this);
+}
+
+void HostView::ClickAt(CPoint at, bool toggle) {
+    if (m_vector.active) {
+        Pick(at);
+        return;
+    }
+    HostSelection& selection = m_document.Selection();
+    CElemento* hit = ObjectAt(m_document, m_projection, at, m_filter);
+    if (toggle) {
+        if (hit && hit->IsSelect())
+            selection.Remove(hit);
+        else if (hit)
+            selection.Add(hit);
+        return;
+    }
+    selection.Clear();
+    if (hit)
+        selection.Add(hit);
+}
+
+void HostView::SelectRectangle(CPoint a, CPoint b) {
+    const std::vector<CElemento*> found = ObjectsIn(m_document, m_projection, a, b, m_filter);
+    if (!found.empty())
+        m_document.Selection().Add(found);
+}
+
+bool HostView::Pick(CPoint at) {
+    CNodo* node = SnapNode(at);
+    if (!node)
+        return false;
+    const CFPoint point = *node->GetPunto();
+    // The state moves on before the dialog hears of the point: it may restart the mode for the next one.
+    const bool second = m_vector.secondIsNext;
+    m_vector.secondIsNext = !second;
+    m_vector.from = second ? std::optional<CFPoint>() : point;
+    CDialogDocument* tool = m_owner.ToolOf(*this);
+    if (tool && second)
+        tool->SetVettoreTo(point);
+    else if (tool)
+        tool->SetVettoreFrom(point);
+    if (!m_closed) {
+        m_widget->update();
+        m_owner.ViewChanged(*this);
+    }
+    return true;
+}
+
+void HostView::LeaveVectorMode() {
+    StopDefinisciVettore();
+}
+
+CNodo* HostView::SnapNode(CPoint at) {
+    return NearestNode(m_document, m_projection, at, snapRadius);
+}
+
+CString HostView::Describe(CPoint at) {
+    CString text;
+    if (CNodo* node = SnapNode(at)) {
+        const CFPoint& point = *node->GetPunto();
+        text.Format("Nodo %d   x %.3f   y %.3f   z %.3f", node->GetID(), point.x, point.y, point.z);
+    } else {
+        const CFPoint point = m_projection.Unproject(at, m_projection.GetTarget());
+        text.Format("x %.3f   y %.3f   z %.3f", point.x, point.y, point.z);
+    }
+    return text;
+}
+
+CString HostView::Prompt() const {
+    if (!m_vector.active)
+        return {};
+    if (!m_vector.prompt.IsEmpty())
+        return m_vector.prompt;
+    return m_vector.secondIsNext ? "Fare clic sul secondo nodo del vettore (Esc per terminare)."
+                                 : "Fare clic sul primo nodo del vettore (Esc per terminare).";
+}
+
+void HostView::Redraw() {
+    if (!m_closed)
+        m_widget->Outdate();
+}
+
+// Sent from inside the dialog's OK or Cancel: its window goes now, the object when those handlers have returned.
+LRESULT HostView::OnFineDialogo(WPARAM wParam, LPARAM lParam) {
+    // A refused command leaves its dialog open with what was typed, for another try.
+    if (wParam == FINEDIALOGO_CONFERMATO && m_document.Selection().TakeRefusal())
+        return 0;
+    if (wParam == FINEDIALOGO_CONFERMATO || wParam == FINEDIALOGO_ANNULLATO)
+        m_owner.EndTool(*this, reinterpret_cast<const CDialogDocument*>(lParam));
+    return 0;
+}

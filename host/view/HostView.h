@@ -1,0 +1,122 @@
+// The 3D structure view: what it shows, what the user selects in it, and the points picked for its tool dialog.
+#pragma once
+
+#include "dialogs/frame/QuovarView.h"
+#include "host/document/DocumentObserver.h"
+#include "host/view/Picking.h"
+#include "model/view/Adv3d.h"
+#include "platform/window/MessageMap.h"
+
+#include <QPixmap>
+
+#include <functional>
+#include <optional>
+
+class HostDocument;
+class QWidget;
+class ViewOwner;
+class ViewWidget;
+
+// Picking of points for a tool dialog. Picks come in pairs; starting the mode makes the next one a first.
+struct VectorDefinition {
+    bool active = false;
+    bool secondIsNext = false;
+    CString prompt;              // the dialog's instruction; may be empty
+    std::optional<CFPoint> from; // the first point of the pair, while the second is awaited
+};
+
+class HostView final : public CQuovarView, public DocumentObserver {
+    DECLARE_DYNAMIC(HostView)
+
+  public:
+    // The window is a child of `parent`; its messages' parent is `frame`. Document and owner outlive the view's Close.
+    HostView(HostDocument& document, ViewOwner& owner, HWND frame, QWidget* parent);
+    ~HostView() override;
+
+    // Ends the window and leaves the document; nothing but the destructor may follow. The open tool dialog must have
+    // been told before.
+    void Close();
+    bool IsClosed() const { return m_closed; }
+
+    ViewWidget& Widget() const { return *m_widget; }
+    HostDocument& Document() const { return m_document; }
+    ViewOwner& Owner() const { return m_owner; }
+    Adv3d& Vista() { return m_projection; }
+
+    // ---- What the dialogs use; see CQuovarView.
+    CQuovarDoc* GetDocument() override;
+    void StartDefinisciVettore(CString prompt, CString prompt2) override;
+    void StopDefinisciVettore() override;
+    int IsDefinisciVettore() override { return m_vector.active; }
+    int IsSelectNodi() override { return m_filter.nodes; }
+    int IsSelectTravi() override { return m_filter.beams; }
+    int IsSelectAste() override { return m_filter.trusses; }
+    int IsSelectSetti() override { return m_filter.walls; }
+    int IsSelectSolai() override { return m_filter.slabs; }
+    int IsSelectElementi() override { return m_filter.AnyElement(); }
+    CElementoSettings& GetNodoSettings() override;
+    CElementoSettings& GetTraveSettings() override;
+    CElementoSettings& GetSettoSettings() override;
+    // Results and design of walls are not computed yet, so there is nothing of them to show.
+    int IsDrawRisultatoSetti() override { return 0; }
+    int IsDrawProgettoSetti() override { return 0; }
+    int IsDrawPressioneTerreno() override { return 0; }
+    int GetProgettoSetti() override { return 0; }
+    Adv3d* GetVista() override { return &m_projection; }
+    void SetRectImmagine(int left, int top, int right, int bottom) override;
+    void CatturaImmagine() override;
+    // Stands for the user who names the captured picture's file while it is set; an empty path is none.
+    static std::function<QString()> pictureFileHook;
+
+    void OnDocumentUpdate(CView* sender, long hint, CObject* pHint) override;
+
+    // ---- Camera. Points and distances in pixels.
+    void Fit();
+    void SetDirection(Adv3d::Direzione direction);
+    void SetPerspective(bool perspective);
+    // Turns about the world's vertical and the screen's horizontal through the middle of the model.
+    void Orbit(int dx, int dy);
+    void Pan(int dx, int dy);
+    void Zoom(double factor, CPoint at);
+    void SetViewport(int width, int height);
+
+    // ---- Display and filters.
+    const KindFilter& Filter() const { return m_filter; }
+    void SetFilter(const KindFilter& filter);
+    // A CElementoSettings::Item of one kind (code of TipoElemento), on or off.
+    void SetShown(unsigned kind, unsigned item, bool shown);
+    bool IsShown(unsigned kind, unsigned item);
+    // A result kind of beams, on or off, in the view and in its window of diagrams.
+    void SetResultShown(int kind, bool shown);
+
+    // ---- What the user does with the pointer.
+    // In vector definition the click picks; otherwise it replaces the selection, or toggles one object of it.
+    void ClickAt(CPoint at, bool toggle);
+    void SelectRectangle(CPoint a, CPoint b); // adds
+    void LeaveVectorMode();                   // the user's Escape
+    // The node that a pick at the point would take; null when none is near.
+    CNodo* SnapNode(CPoint at);
+    CString Describe(CPoint at); // for the status bar: coordinates, of the node where one is near
+
+    const VectorDefinition& Vector() const { return m_vector; }
+    CString Prompt() const; // the instruction for the next pick, in words of the view where the dialog gave none
+
+  private:
+    QPixmap CapturedPicture() const;
+    bool Pick(CPoint at);
+    void Redraw(); // the picture is out of date
+    LRESULT OnFineDialogo(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+
+    HostDocument& m_document;
+    ViewOwner& m_owner;
+    ViewWidget* m_widget; // owned by its parent widget
+    Adv3d m_projection;
+    KindFilter m_filter;
+    VectorDefinition m_vector;
+    CRect m_captureRect; // screen; empty captures the view
+    bool m_closed = false;
+    bool m_fitted = false; // the user has not moved away from the whole model, which then follows the window's size
+    bool m_empty = true;   // nothing was there to fit: the first nodes are fitted when they come
+};

@@ -1,0 +1,62 @@
+// The toolkit's side of a structure view: the picture, the pointer and the keys.
+#pragma once
+
+#include "platform/private/peers/Hosted.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPoint>
+#include <QTimer>
+
+class HostView;
+class QPainter;
+
+// Left button: click selects or picks, drag selects by rectangle. Right button: orbit. Middle button, or right with
+// Shift: pan. Wheel: zoom at the pointer. Escape leaves vector definition or drops a rectangle.
+class ViewWidget final : public platform::Hosted<QWidget> {
+  public:
+    ViewWidget(HostView& view, HWND frame, QWidget* parent);
+
+    void Leave();   // the view is closed: whatever still arrives concerns nobody
+    void Outdate(); // the model or its projection changed: drawn anew at the next paint
+    QSize sizeHint() const override { return {800, 600}; }
+    // How often the model was drawn; painting without a change takes the kept picture.
+    unsigned DrawCount() const { return m_drawCount; }
+
+    bool event(QEvent* event) override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    bool focusNextPrevChild(bool) override { return false; } // Tab belongs to nobody here
+
+  private:
+    enum class Drag { None, Press, Rectangle, Orbit, Pan };
+
+    void Draw(double pixelRatio);
+    int Stride() const;
+    void DrawTripod(QPainter& painter);
+    void DrawCaseName(QPainter& painter); // the current load case or combination
+    void DrawVector(QPainter& painter);
+    void BeginCamera(Drag drag);
+
+    HostView& m_view;
+    bool m_left = false;
+    QImage m_picture;
+    bool m_outdated = true;
+    bool m_coarse = false;     // m_picture leaves objects out
+    qint64 m_fullDrawTime = 0; // milliseconds of the last complete drawing
+    unsigned m_drawCount = 0;
+    QTimer m_settle; // draws completely when the camera rests
+
+    Drag m_drag = Drag::None;
+    QPoint m_pressed;
+    QPoint m_pointer{-1, -1}; // outside while negative
+};

@@ -1,0 +1,106 @@
+// The named entities that are lists of others: groups and combinations.
+#include "model/entity/Combinazione.h"
+#include "model/entity/Gruppo.h"
+
+IMPLEMENT_DYNCREATE(CGruppo, CElementoStrutturale)
+IMPLEMENT_DYNCREATE(CCombinazione, CElementoStrutturale)
+
+CElemento& CGruppo::operator=(CElemento& altro) {
+    CElementoStrutturale::operator=(altro);
+    if (const auto* group = DYNAMIC_DOWNCAST(CGruppo, &altro)) {
+        m_members = group->m_members;
+        m_positions = group->m_positions;
+    }
+    return *this;
+}
+
+int CGruppo::AddElemento(unsigned tipo, int id) {
+    if (!m_positions.emplace(Key(tipo, id), GetSizeElementi()).second)
+        return 0;
+    m_members.push_back({tipo, id});
+    return 1;
+}
+
+// The last member takes the place of the one that goes: a group is a set, and large ones are emptied one by one.
+int CGruppo::RemoveElement(unsigned tipo, int id) {
+    const auto found = m_positions.find(Key(tipo, id));
+    if (found == m_positions.end())
+        return 0;
+    const auto place = static_cast<std::size_t>(found->second);
+    m_positions.erase(found);
+    if (place + 1 < m_members.size()) {
+        m_members[place] = m_members.back();
+        m_positions[Key(m_members[place].kind, m_members[place].id)] = static_cast<int>(place);
+    }
+    m_members.pop_back();
+    return 1;
+}
+
+void CGruppo::RemoveElements() {
+    m_members.clear();
+    m_positions.clear();
+}
+
+int CGruppo::IsElemento(unsigned tipo, int id) const {
+    return m_positions.count(Key(tipo, id)) > 0;
+}
+
+unsigned CGruppo::GetElementKindAt(int i) const {
+    return i >= 0 && i < GetSizeElementi() ? m_members[static_cast<std::size_t>(i)].kind : 0;
+}
+
+int CGruppo::GetElementIdAt(int i) const {
+    return i >= 0 && i < GetSizeElementi() ? m_members[static_cast<std::size_t>(i)].id : 0;
+}
+
+CElemento& CCombinazione::operator=(CElemento& altro) {
+    CElementoStrutturale::operator=(altro);
+    if (const auto* combination = DYNAMIC_DOWNCAST(CCombinazione, &altro)) {
+        m_cases = combination->m_cases;
+        m_positions = combination->m_positions;
+    }
+    return *this;
+}
+
+int CCombinazione::GetIDCDC(int pos) const {
+    return pos >= 0 && pos < GetSizeCDC() ? m_cases[static_cast<std::size_t>(pos)].id : 0;
+}
+
+int CCombinazione::GetFattoreCDC(int pos, double& fattore) const {
+    if (pos < 0 || pos >= GetSizeCDC())
+        return 0;
+    fattore = m_cases[static_cast<std::size_t>(pos)].factor;
+    return 1;
+}
+
+int CCombinazione::SetFattoreCDC(int pos, double fattore) {
+    if (pos < 0 || pos >= GetSizeCDC())
+        return 0;
+    m_cases[static_cast<std::size_t>(pos)].factor = fattore;
+    return 1;
+}
+
+int CCombinazione::AddCDC(int id, double fattore) {
+    if (IsCDC(id))
+        return 0;
+    m_positions.Set(id, GetSizeCDC());
+    m_cases.push_back({id, fattore});
+    return 1;
+}
+
+// The order of the others is shown to the user and stays.
+int CCombinazione::EliminaCDC(int id) {
+    const int place = GetIndexCDC(id);
+    if (place < 0)
+        return 0;
+    m_cases.erase(m_cases.begin() + place);
+    m_positions.Rebuild(m_cases, [](const Case& c) { return c.id; });
+    return 1;
+}
+
+int CCombinazione::EliminaCDC() {
+    const int gone = GetSizeCDC();
+    m_cases.clear();
+    m_positions.Clear();
+    return gone > 0;
+}

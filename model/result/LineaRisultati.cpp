@@ -1,0 +1,379 @@
+#include "model/result/LineaRisultati.h"
+
+#include "model/entity/Sezione.h"
+#include "model/view/ElementoSettings.h"
+
+#include <algorithm>
+#include <cmath>
+
+IMPLEMENT_DYNCREATE(CTraveRisultati, CElementoRisultati)
+IMPLEMENT_DYNAMIC(CLineaRisultati, CLineaFisica)
+
+namespace {
+
+// Position of a kind among the six internal forces; -1 for none of them.
+int Component(int kind) {
+    switch (kind) {
+    case CElementoSettings::N:
+        return 0;
+    case CElementoSettings::V2:
+        return 1;
+    case CElementoSettings::V3:
+        return 2;
+    case CElementoSettings::T:
+        return 3;
+    case CElementoSettings::M2:
+        return 4;
+    case CElementoSettings::M3:
+        return 5;
+    default:
+        return -1;
+    }
+}
+
+// The local axis, 0 to 2, of the forces that bend as this component does: M2 comes from forces along 3.
+int BendingAxis(int component) {
+    return component == 4 ? 2 : 1;
+}
+
+// Sign of an internal force at the first end against the force on that end; at the second end it is the opposite. The
+// moment about 2 turns the other way round so that both moments stretch the negative side.
+double EndSign(int component) {
+    return component == 4 ? 1.0 : -1.0;
+}
+
+// The load's resultant before x along an axis, and its moment about x.
+void Resultant(const CTraveRisultati::Distributed& load, int axis, double x, double& force, double& moment) {
+    const double whole = load.a - load.da;
+    const double s = std::min(x, load.a) - load.da;
+    if (!(s > 0))
+        return;
+    const double q = load.inizio[axis];
+    const double slope = (load.fine[axis] - q) / whole;
+    const double sum = s * (q + slope * s / 2);
+    force += sum;
+    moment += s * s * (q / 2 + slope * s / 6) + sum * (x - load.da - s);
+}
+
+template <class Loads>
+void AppendScaled(Loads& to, const Loads& from, double factor) {
+    for (auto load : from) {
+        if constexpr (requires { load.inizio; }) {
+            for (int i = 0; i < 3; ++i) {
+                load.inizio[i] *= factor;
+                load.fine[i] *= factor;
+            }
+        } else {
+            for (int i = 0; i < 3; ++i) {
+                load.force[i] *= factor;
+                load.moment[i] *= factor;
+            }
+        }
+        to.push_back(load);
+    }
+}
+
+} // namespace
+
+// ---- Stretches
+
+int DiagramStretch::GetEnds(double (&x)[2]) const {
+    const double a2 = 3 * c[3], a1 = 2 * c[2], a0 = c[1];
+    double roots[2];
+    int count = 0;
+    if (a2 == 0) {
+        if (a1 != 0)
+            roots[count++] = -a0 / a1;
+    } else {
+        const double discriminant = a1 * a1 - 4 * a2 * a0;
+        if (discriminant > 0) {
+            // The root whose terms add up first, the other one from the product: no cancellation.
+            const double q = -(a1 + std::copysign(std::sqrt(discriminant), a1)) / 2;
+            roots[count++] = q / a2;
+            if (q != 0)
+                roots[count++] = a0 / q;
+        }
+    }
+    std::sort(roots, roots + count);
+    int inside = 0;
+    for (int i = 0; i < count; ++i)
+        if (roots[i] > 0 && roots[i] < a - da)
+            x[inside++] = da + roots[i];
+    return inside;
+}
+
+// Between its extremes the diagram goes one way only, so each part holds one zero at most.
+int DiagramStretch::GetZeros(double (&x)[3]) const {
+    double bounds[4] = {da};
+    double level[2];
+    int count = 1;
+    for (int i = 0, levels = GetEnds(level); i < levels; ++i)
+        bounds[count++] = level[i];
+    bounds[count++] = a;
+    int found = 0;
+    const auto add = [&](double place) {
+        if (found < 3 && (found == 0 || place > x[found - 1]))
+            x[found++] = place;
+    };
+    if (c[0] == 0 && c[1] == 0 && c[2] == 0 && c[3] == 0)
+        return 0;
+    for (int i = 0; i + 1 < count; ++i) {
+        double low = bounds[i], high = bounds[i + 1];
+        const double first = GetValue(low), last = GetValue(high);
+        if (first == 0)
+            add(low);
+        if (first * last < 0) {
+            for (double middle = (low + high) / 2; middle > low && middle < high; middle = (low + high) / 2)
+                (GetValue(middle) * first > 0 ? low : high) = middle;
+            add(low);
+        }
+        if (last == 0)
+            add(bounds[i + 1]);
+    }
+    return found;
+}
+
+// ---- Results of one line
+
+void CTraveRisultati::GetEndForces(double (&forze)[12]) const {
+    for (int i = 0; i < 6; ++i) {
+        forze[i] = EndSign(i) * GetNodeResults(0)->GetIndex(i);
+        forze[6 + i] = -EndSign(i) * GetNodeResults(1)->GetIndex(i);
+    }
+}
+
+void CTraveRisultati::SetEndForces(const double (&forze)[12]) {
+    for (int i = 0; i < 6; ++i) {
+        // Adding 0 turns a negative zero into the plain one, which is what users want to read.
+        GetNodeResults(0)->GetIndex(i) = EndSign(i) * forze[i] + 0.0;
+        GetNodeResults(1)->GetIndex(i) = -EndSign(i) * forze[6 + i] + 0.0;
+    }
+}
+
+double CTraveRisultati::GetLargestForce() const {
+    double largest = 0;
+    if (!(m_dLunghezza > 0))
+        return 0;
+    const auto see = [&largest](double force) { largest = std::max(largest, std::abs(force)); };
+    for (int i = 0; i < 3; ++i) {
+        for (int end = 0; end < 2; ++end) {
+            see(GetNodeResults(end)->GetIndex(i));
+            see(GetNodeResults(end)->GetIndex(i + 3) / m_dLunghezza);
+        }
+        for (const Distributed& load : m_distributed) {
+            see(load.inizio[i] * (load.a - load.da));
+            see(load.fine[i] * (load.a - load.da));
+        }
+        for (const PointForce& load : m_pointForces) {
+            see(load.force[i]);
+            see(load.moment[i] / m_dLunghezza);
+        }
+    }
+    return largest;
+}
+
+void CTraveRisultati::Sum(const CTraveRisultati& altro, double fattore) {
+    for (int end = 0; end < 2; ++end)
+        for (int i = 0; i < 6; ++i)
+            GetNodeResults(end)->GetIndex(i) += fattore * altro.GetNodeResults(end)->GetIndex(i);
+    m_dLunghezza = altro.m_dLunghezza;
+    if (fattore == 0)
+        return;
+    AppendScaled(m_distributed, altro.m_distributed, fattore);
+    AppendScaled(m_pointForces, altro.m_pointForces, fattore);
+}
+
+double CTraveRisultati::GetInternalForce(int tipo, double x, Side lato) const {
+    const int which = Component(tipo);
+    if (which < 0)
+        return 0;
+    const CNodoRisultati& first = *GetNodeResults(0);
+    const bool bending = which > 3;
+    const int axis = bending ? BendingAxis(which) : which;
+    double force = 0, moment = 0;
+    if (which != 3)
+        for (const Distributed& load : m_distributed)
+            Resultant(load, axis, x, force, moment);
+    double value = first.GetIndex(which) - (bending ? x * first.GetIndex(axis) - moment : force);
+    for (const PointForce& load : m_pointForces) {
+        if (load.x > x || (load.x == x && lato == Before))
+            continue;
+        if (bending)
+            value += load.force[axis] * (x - load.x) + EndSign(which) * load.moment[which - 3];
+        else
+            value -= which == 3 ? load.moment[0] : load.force[axis];
+    }
+    return value;
+}
+
+namespace {
+
+// Walks along a line from load to load and carries the internal force with it, so that many loads cost no more than one
+// look each.
+class DiagramWalk {
+  public:
+    DiagramWalk(const CTraveRisultati& line, int component)
+        : m_component(component),
+          m_axis(component > 3 ? BendingAxis(component) : component),
+          m_value(line.GetNodeResults(0)->GetIndex(component)),
+          m_shear(component > 3 ? line.GetNodeResults(0)->GetIndex(m_axis) : 0) {
+        for (const auto& load : line.GetDistributed())
+            m_waiting.push_back(&load);
+        for (const auto& load : line.GetPointForces())
+            m_points.push_back(&load);
+        const auto byStart = [](const auto* a, const auto* b) { return a->da > b->da; };
+        std::sort(m_waiting.begin(), m_waiting.end(), byStart); // the next one last
+        std::stable_sort(m_points.begin(), m_points.end(), [](const auto* a, const auto* b) { return a->x > b->x; });
+    }
+
+    DiagramStretch Next(double from, double to) {
+        PassPoints(from);
+        double q = 0, slope = 0;
+        Spread(from, q, slope);
+        DiagramStretch piece{from, to, {m_value}};
+        const double s = to - from;
+        if (m_component > 3) {
+            piece.c[1] = -m_shear;
+            piece.c[2] = q / 2;
+            piece.c[3] = slope / 6;
+            m_shear -= s * (q + s * slope / 2);
+        } else {
+            piece.c[1] = -q;
+            piece.c[2] = -slope / 2;
+        }
+        m_value = piece.GetValue(to);
+        return piece;
+    }
+
+  private:
+    void PassPoints(double from) {
+        for (; !m_points.empty() && m_points.back()->x <= from; m_points.pop_back()) {
+            const CTraveRisultati::PointForce& load = *m_points.back();
+            if (m_component > 3) {
+                m_value += EndSign(m_component) * load.moment[m_component - 3];
+                m_shear -= load.force[m_axis];
+            } else {
+                m_value -= m_component == 3 ? load.moment[0] : load.force[m_axis];
+            }
+        }
+    }
+
+    // The force per length at `from`, and how it grows, from the loads that lie there.
+    void Spread(double from, double& q, double& slope) {
+        for (; !m_waiting.empty() && m_waiting.back()->da <= from; m_waiting.pop_back())
+            m_present.push_back(m_waiting.back());
+        std::erase_if(m_present, [from](const auto* load) { return load->a <= from; });
+        if (m_component == 3)
+            return;
+        for (const auto* load : m_present) {
+            const double its = (load->fine[m_axis] - load->inizio[m_axis]) / (load->a - load->da);
+            q += load->inizio[m_axis] + its * (from - load->da);
+            slope += its;
+        }
+    }
+
+    int m_component;
+    int m_axis;
+    double m_value;
+    double m_shear; // of a moment
+    std::vector<const CTraveRisultati::Distributed*> m_waiting, m_present;
+    std::vector<const CTraveRisultati::PointForce*> m_points;
+};
+
+} // namespace
+
+std::vector<DiagramStretch> CTraveRisultati::GetDiagram(int tipo) const {
+    std::vector<DiagramStretch> pieces;
+    const int which = Component(tipo);
+    if (which < 0 || !(m_dLunghezza > 0))
+        return pieces;
+    std::vector<double> places{0, m_dLunghezza};
+    for (const Distributed& load : m_distributed)
+        places.insert(places.end(), {load.da, load.a});
+    for (const PointForce& load : m_pointForces)
+        places.push_back(load.x);
+    std::sort(places.begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
+    pieces.reserve(places.size() - 1);
+    DiagramWalk walk(*this, which);
+    for (std::size_t i = 0; i + 1 < places.size(); ++i)
+        pieces.push_back(walk.Next(places[i], places[i + 1]));
+    return pieces;
+}
+
+// ---- The line
+
+CTraveRisultati* CLineaRisultati::GetLineResults() {
+    return DYNAMIC_DOWNCAST(CTraveRisultati, static_cast<CObject*>(GetRisultati()));
+}
+
+// The internal force that a kind shows, and what it is divided by: 1, or a section property. 0 for a kind, or a stress,
+// that the line does not have.
+int CLineaRisultati::ForceKind(int tipo, double& divisor) {
+    const CSezione* section = GetSezione();
+    divisor = 1;
+    int base = tipo;
+    if (tipo == CElementoSettings::N_A) {
+        divisor = section ? section->GetArea() : 0;
+        base = CElementoSettings::N;
+    } else if (tipo == CElementoSettings::M2_W2) {
+        divisor = section ? section->GetW2() : 0;
+        base = CElementoSettings::M2;
+    } else if (tipo == CElementoSettings::M3_W3) {
+        divisor = section ? section->GetW3() : 0;
+        base = CElementoSettings::M3;
+    }
+    return divisor > 0 && Component(base) >= 0 ? base : 0;
+}
+
+int CLineaRisultati::GetDiagram(int tipo, std::vector<DiagramStretch>& tratti) {
+    double divisor;
+    const int kind = ForceKind(tipo, divisor);
+    const CTraveRisultati* results = GetLineResults();
+    if (!kind || !results)
+        return 0;
+    tratti = results->GetDiagram(kind);
+    for (DiagramStretch& piece : tratti)
+        for (double& coefficient : piece.c)
+            coefficient /= divisor;
+    return 1;
+}
+
+int CLineaRisultati::GetRisultato(int tipo, double x, CTraveRisultati::Side lato, double& valore) {
+    double divisor;
+    const int kind = ForceKind(tipo, divisor);
+    const CTraveRisultati* results = GetLineResults();
+    if (!kind || !results)
+        return 0;
+    valore = results->GetInternalForce(kind, x, lato) / divisor;
+    return 1;
+}
+
+int CLineaRisultati::GetRisultatoNodo(int nodo, int tipo, double& valore) {
+    CTraveRisultati* results = GetLineResults();
+    double divisor;
+    const int kind = ForceKind(tipo, divisor);
+    if (!kind || !results || nodo < 0 || nodo > 1)
+        return 0;
+    valore = results->GetNodeResults(nodo)->GetIndex(Component(kind)) / divisor;
+    return 1;
+}
+
+int CLineaRisultati::UpdateMinMaxRisultati(int tipo, int& primo, double& minimo, double& massimo) {
+    std::vector<DiagramStretch> pieces;
+    if (!GetDiagram(tipo, pieces) || pieces.empty())
+        return 0;
+    const auto widen = [&](double value) {
+        minimo = primo ? value : std::min(minimo, value);
+        massimo = primo ? value : std::max(massimo, value);
+        primo = 0;
+    };
+    for (const DiagramStretch& piece : pieces) {
+        double level[2];
+        widen(piece.GetValue(piece.da));
+        widen(piece.GetValue(piece.a));
+        for (int i = 0, count = piece.GetEnds(level); i < count; ++i)
+            widen(piece.GetValue(level[i]));
+    }
+    return 1;
+}

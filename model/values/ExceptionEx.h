@@ -1,0 +1,19 @@
+// The application's own exception: a message. Thrown by pointer, reported with ReportError, ended with Delete.
+#pragma once
+
+#include "platform/core/Exception.h"
+
+class CExceptionEx : public CException {
+    DECLARE_DYNAMIC(CExceptionEx)
+
+    explicit CExceptionEx(CString messaggio);
+
+    const CString& GetMessageText() const { return m_strMessage; }
+
+    BOOL GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext = nullptr) override;
+    // Shows the message, an empty one too, in a box of type `nType`; returns the button.
+    int ReportError(UINT nType = 0, UINT nMessageID = 0) override;
+
+  private:
+    CString m_strMessage;
+};

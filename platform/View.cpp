@@ -1,4 +1,0 @@
-#include "platform/View.h"
-
-IMPLEMENT_DYNAMIC(CDocument, CObject)
-IMPLEMENT_DYNAMIC(CView, CWnd)

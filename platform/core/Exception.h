@@ -1,0 +1,104 @@
+// The exceptions of the framework. They are thrown and caught by pointer; whoever catches one ends it with Delete():
+//
+//   try { ... } catch (CException* exception) { exception->ReportError(); exception->Delete(); }
+#pragma once
+
+#include "platform/core/Object.h"
+#include "platform/core/String.h"
+
+class CException : public CObject {
+    DECLARE_DYNAMIC(CException)
+
+    // `autoDelete` is TRUE for an exception made with new, FALSE for one that lives elsewhere.
+    explicit CException(BOOL autoDelete = TRUE) : m_bAutoDelete(autoDelete) {}
+
+    // Deletes the exception when it was made for that; nothing may touch it afterwards.
+    void Delete();
+
+    // Writes the text, cut to `size` bytes with the closing 0, and returns non-zero; 0 when the exception has none.
+    virtual BOOL GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext = nullptr);
+
+    // Shows the text in a message box of the given MB_ type (0 is one OK button) and returns the button's code. An
+    // exception without a text shows a general one. `messageId` is accepted for its callers and not used.
+    virtual int ReportError(UINT type = 0, UINT messageId = 0);
+
+  private:
+    BOOL m_bAutoDelete;
+};
+
+// An exception that is nothing but its text; an empty one stands for "no text of its own".
+class CSimpleException : public CException {
+    DECLARE_DYNAMIC(CSimpleException)
+
+    explicit CSimpleException(const CString& text, BOOL autoDelete = TRUE) : CException(autoDelete), m_strText(text) {}
+
+    BOOL GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext = nullptr) override;
+
+  private:
+    CString m_strText;
+};
+
+class CMemoryException : public CSimpleException {
+    DECLARE_DYNAMIC(CMemoryException)
+
+    explicit CMemoryException(BOOL autoDelete = TRUE);
+};
+
+class CNotSupportedException : public CSimpleException {
+    DECLARE_DYNAMIC(CNotSupportedException)
+
+    explicit CNotSupportedException(BOOL autoDelete = TRUE);
+};
+
+// A position outside an array, the head of an empty list and the like: a fault of the program, not of the user.
+class CInvalidArgException : public CSimpleException {
+    DECLARE_DYNAMIC(CInvalidArgException)
+
+    explicit CInvalidArgException(BOOL autoDelete = TRUE);
+};
+
+// Ends an operation that has already told the user why.
+class CUserException : public CSimpleException {
+    DECLARE_DYNAMIC(CUserException)
+
+    explicit CUserException(BOOL autoDelete = TRUE) : CSimpleException(CString(), autoDelete) {}
+};
+
+class CFileException : public CException {
+    DECLARE_DYNAMIC(CFileException)
+
+    enum Cause {
+        none,
+        genericException,
+        fileNotFound,
+        badPath,
+        tooManyOpenFiles,
+        accessDenied,
+        invalidFile,
+        removeCurrentDir,
+        directoryFull,
+        badSeek,
+        hardIO,
+        sharingViolation,
+        lockViolation,
+        diskFull,
+        endOfFile
+    };
+
+    // `osError` is an errno value, or -1 when there is none.
+    explicit CFileException(int cause = none, int osError = -1, const CString& fileName = CString());
+
+    BOOL GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext = nullptr) override;
+    static int ErrnoToException(int osError);
+
+    int m_cause;
+    int m_lOsError;
+    CString m_strFileName;
+};
+
+// Memory and argument exceptions are made beforehand: throwing them needs no memory, and Delete() leaves them.
+[[noreturn]] void AfxThrowMemoryException();
+[[noreturn]] void AfxThrowNotSupportedException();
+[[noreturn]] void AfxThrowInvalidArgException();
+[[noreturn]] void AfxThrowUserException();
+[[noreturn]] void AfxThrowFileException(int cause, int osError = -1, const CString& fileName = CString());

@@ -1,0 +1,176 @@
+// Points, sizes and rectangles in whole device-independent pixels, y growing downwards. A rectangle is half open: its
+// right and bottom edges are the first ones outside it.
+#pragma once
+
+#include "platform/core/Types.h"
+
+#include <algorithm>
+
+struct CSize {
+    LONG cx = 0;
+    LONG cy = 0;
+
+    constexpr CSize() = default;
+    constexpr CSize(int width, int height) : cx(width), cy(height) {}
+
+    constexpr void SetSize(int width, int height) {
+        cx = width;
+        cy = height;
+    }
+    constexpr bool operator==(const CSize&) const = default;
+    constexpr CSize operator+(CSize size) const { return {cx + size.cx, cy + size.cy}; }
+    constexpr CSize operator-(CSize size) const { return {cx - size.cx, cy - size.cy}; }
+    constexpr CSize operator-() const { return {-cx, -cy}; }
+    constexpr CSize& operator+=(CSize size) { return *this = *this + size; }
+    constexpr CSize& operator-=(CSize size) { return *this = *this - size; }
+};
+
+struct CPoint {
+    LONG x = 0;
+    LONG y = 0;
+
+    constexpr CPoint() = default;
+    constexpr CPoint(int left, int top) : x(left), y(top) {}
+    constexpr explicit CPoint(CSize size) : x(size.cx), y(size.cy) {}
+    // The point packed in a mouse message; the halves are signed, since a captured mouse goes left of its window.
+    constexpr explicit CPoint(LPARAM packed)
+        : x(static_cast<std::int16_t>(LOWORD(static_cast<std::uintptr_t>(packed)))),
+          y(static_cast<std::int16_t>(HIWORD(static_cast<std::uintptr_t>(packed)))) {}
+
+    constexpr void SetPoint(int left, int top) {
+        x = left;
+        y = top;
+    }
+    constexpr void Offset(int dx, int dy) {
+        x += dx;
+        y += dy;
+    }
+    constexpr void Offset(CSize size) { Offset(size.cx, size.cy); }
+    constexpr void Offset(CPoint point) { Offset(point.x, point.y); }
+    constexpr bool operator==(const CPoint&) const = default;
+    constexpr CPoint operator+(CSize size) const { return {x + size.cx, y + size.cy}; }
+    constexpr CPoint operator-(CSize size) const { return {x - size.cx, y - size.cy}; }
+    constexpr CPoint operator+(CPoint point) const { return {x + point.x, y + point.y}; }
+    constexpr CSize operator-(CPoint point) const { return {x - point.x, y - point.y}; }
+    constexpr CPoint operator-() const { return {-x, -y}; }
+    constexpr CPoint& operator+=(CSize size) { return *this = *this + size; }
+    constexpr CPoint& operator-=(CSize size) { return *this = *this - size; }
+    constexpr CPoint& operator+=(CPoint point) { return *this = *this + point; }
+    constexpr CPoint& operator-=(CPoint point) { return *this = CPoint(*this - point); }
+};
+
+// A point between pixels, for curves: whole pixels leave kinks in them.
+struct FinePoint {
+    double x = 0;
+    double y = 0;
+};
+
+struct CRect {
+    LONG left = 0;
+    LONG top = 0;
+    LONG right = 0;
+    LONG bottom = 0;
+
+    constexpr CRect() = default;
+    constexpr CRect(int l, int t, int r, int b) : left(l), top(t), right(r), bottom(b) {}
+    constexpr CRect(CPoint point, CSize size)
+        : left(point.x), top(point.y), right(point.x + size.cx), bottom(point.y + size.cy) {}
+    constexpr CRect(CPoint topLeft, CPoint bottomRight)
+        : left(topLeft.x), top(topLeft.y), right(bottomRight.x), bottom(bottomRight.y) {}
+
+    // Operations that fill or read a rectangle take its address; a rectangle itself may stand there.
+    constexpr operator CRect*() { return this; }
+    constexpr operator const CRect*() const { return this; }
+
+    constexpr int Width() const { return right - left; }
+    constexpr int Height() const { return bottom - top; }
+    constexpr CSize Size() const { return {Width(), Height()}; }
+    constexpr CPoint TopLeft() const { return {left, top}; }
+    constexpr CPoint BottomRight() const { return {right, bottom}; }
+    constexpr CPoint CenterPoint() const { return {(left + right) / 2, (top + bottom) / 2}; }
+    constexpr BOOL IsRectEmpty() const { return left >= right || top >= bottom; }
+    constexpr BOOL IsRectNull() const { return left == 0 && top == 0 && right == 0 && bottom == 0; }
+    constexpr BOOL PtInRect(CPoint point) const {
+        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
+    }
+
+    constexpr void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
+    constexpr void SetRectEmpty() { *this = CRect(); }
+    constexpr void CopyRect(const CRect* source) { *this = CRect(*source); }
+    constexpr BOOL EqualRect(const CRect* other) const { return *this == *other; }
+
+    constexpr void InflateRect(int dx, int dy) { InflateRect(dx, dy, dx, dy); }
+    constexpr void InflateRect(CSize size) { InflateRect(size.cx, size.cy); }
+    constexpr void InflateRect(int l, int t, int r, int b) {
+        left -= l;
+        top -= t;
+        right += r;
+        bottom += b;
+    }
+    constexpr void DeflateRect(int dx, int dy) { InflateRect(-dx, -dy); }
+    constexpr void DeflateRect(CSize size) { InflateRect(-size.cx, -size.cy); }
+    constexpr void DeflateRect(int l, int t, int r, int b) { InflateRect(-l, -t, -r, -b); }
+    constexpr void OffsetRect(int dx, int dy) { InflateRect(-dx, -dy, dx, dy); }
+    constexpr void OffsetRect(CSize size) { OffsetRect(size.cx, size.cy); }
+    constexpr void OffsetRect(CPoint point) { OffsetRect(point.x, point.y); }
+    constexpr void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
+    constexpr void MoveToXY(CPoint point) { MoveToXY(point.x, point.y); }
+
+    // Rectangles made from two picked corners may have them in any order; PtInRect and the unions need this first.
+    constexpr void NormalizeRect() {
+        *this = {std::min(left, right), std::min(top, bottom), std::max(left, right), std::max(top, bottom)};
+    }
+
+    // Both return 0 and leave this rectangle empty when the result is; an empty operand adds nothing to a union.
+    constexpr BOOL UnionRect(const CRect* a, const CRect* b) {
+        const CRect first = *a, second = *b;
+        if (first.IsRectEmpty() || second.IsRectEmpty())
+            *this = first.IsRectEmpty() ? second : first;
+        else
+            *this = {std::min(first.left, second.left), std::min(first.top, second.top),
+                     std::max(first.right, second.right), std::max(first.bottom, second.bottom)};
+        if (IsRectEmpty())
+            SetRectEmpty();
+        return !IsRectEmpty();
+    }
+    constexpr BOOL IntersectRect(const CRect* a, const CRect* b) {
+        const CRect first = *a, second = *b;
+        *this = {std::max(first.left, second.left), std::max(first.top, second.top),
+                 std::min(first.right, second.right), std::min(first.bottom, second.bottom)};
+        if (first.IsRectEmpty() || second.IsRectEmpty() || IsRectEmpty())
+            SetRectEmpty();
+        return !IsRectEmpty();
+    }
+
+    constexpr bool operator==(const CRect&) const = default;
+    constexpr CRect operator+(CPoint point) const { return Moved(point.x, point.y); }
+    constexpr CRect operator-(CPoint point) const { return Moved(-point.x, -point.y); }
+    constexpr CRect operator+(CSize size) const { return Moved(size.cx, size.cy); }
+    constexpr CRect operator-(CSize size) const { return Moved(-size.cx, -size.cy); }
+    constexpr CRect& operator+=(CPoint point) { return *this = *this + point; }
+    constexpr CRect& operator-=(CPoint point) { return *this = *this - point; }
+    constexpr CRect& operator+=(CSize size) { return *this = *this + size; }
+    constexpr CRect& operator-=(CSize size) { return *this = *this - size; }
+    constexpr CRect operator&(const CRect& other) const {
+        CRect result;
+        result.IntersectRect(this, &other);
+        return result;
+    }
+    constexpr CRect operator|(const CRect& other) const {
+        CRect result;
+        result.UnionRect(this, &other);
+        return result;
+    }
+    constexpr CRect& operator&=(const CRect& other) { return *this = *this & other; }
+    constexpr CRect& operator|=(const CRect& other) { return *this = *this | other; }
+
+  private:
+    constexpr CRect Moved(int dx, int dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
+};
+
+using POINT = CPoint;
+using SIZE = CSize;
+using RECT = CRect;
+using LPPOINT = CPoint*;
+using LPRECT = CRect*;
+using LPCRECT = const CRect*;

@@ -1,0 +1,42 @@
+// An image with the one painter that may be open on it. Several device contexts on one window share them.
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+
+#include <optional>
+#include <utility>
+
+namespace platform {
+
+class Canvas {
+  public:
+    explicit Canvas(QImage pixels) : image(std::move(pixels)) {}
+
+    // Opens the painter for one more user; every user ends with release().
+    void Use() {
+        if (m_users++ == 0)
+            m_painter.emplace(&image);
+    }
+    void Release() {
+        if (--m_users == 0) {
+            m_painter.reset();
+            artist = nullptr;
+        }
+    }
+    QPainter* Painter() { return &*m_painter; }
+
+    // Puts a colour under everything, once: operations that combine with what is there need something to be there.
+    void MakeOpaque(QRgb background);
+    void Clear();
+
+    QImage image;                 // premultiplied, at its scale; never copied while a painter is open on it
+    const void* artist = nullptr; // whose pen, brush and clipping the painter has now
+
+  private:
+    std::optional<QPainter> m_painter;
+    int m_users = 0;
+    bool m_opaque = false;
+};
+
+} // namespace platform

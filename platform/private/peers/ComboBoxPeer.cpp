@@ -1,0 +1,163 @@
+#include "platform/private/peers/ComboBoxPeer.h"
+
+#include "platform/controls/ComboBox.h"
+#include "platform/private/peers/Controls.h"
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+constexpr int closedHeight = 21; // pixels; what is left of the template's height is the list's
+
+} // namespace
+
+ComboBoxPeer::ComboBoxPeer(const ControlSpec& spec, WindowPeer& parentPeer)
+    : Hosted<QComboBox>(&parentPeer, parentPeer.Surface()) {
+    ApplySpec(*this, spec);
+    setFocusPolicy(Qt::StrongFocus); // the wheel alone does not bring the focus
+    setInsertPolicy(NoInsert);
+    const int listHeight = spec.place.height() - closedHeight;
+    resize(spec.place.width(), closedHeight);
+    setMaxVisibleItems(std::max(5, listHeight / std::max(1, fontMetrics().height())));
+    if ((spec.style & 3) != CBS_DROPDOWNLIST) {
+        setEditable(true);
+        setCompleter(nullptr);
+        connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
+            const QPointer<QWidget> alive = this;
+            NotifyParent(CBN_EDITUPDATE);
+            if (alive && !WindowPeer::destroyed)
+                NotifyParent(CBN_EDITCHANGE);
+        });
+        setEditText(ToQString(spec.text));
+    }
+    connect(this, &QComboBox::activated, this, [this](int index) {
+        if (std::exchange(m_told, index) != index)
+            NotifyParent(CBN_SELCHANGE);
+    });
+}
+
+void ComboBoxPeer::SetText(const CString& text) {
+    if (isEditable())
+        setEditText(ToQString(text));
+}
+
+// While the list hangs down, Enter and Escape close it.
+UINT ComboBoxPeer::DialogCode() const {
+    return WantsArrows | WantsCharacters | (m_dropped ? UINT{WantsAllKeys} : 0u);
+}
+
+std::unique_ptr<CWnd> ComboBoxPeer::MakeObject() const {
+    return std::make_unique<CComboBox>();
+}
+
+// The list that hangs down takes the focus and gives it back, which is nobody's business.
+void ComboBoxPeer::FocusChanged(bool gained) {
+    if (gained == m_focusTold || (!gained && m_dropped))
+        return;
+    m_focusTold = gained;
+    NotifyParent(gained ? CBN_SETFOCUS : CBN_KILLFOCUS);
+}
+
+LRESULT ComboBoxPeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
+    return PlayKey(*this, message, wParam);
+}
+
+int ComboBoxPeer::Add(const CString& text) {
+    if (!(WindowPeer::style & CBS_SORT))
+        return Insert(-1, text);
+    int place = count();
+    while (place > 0 && CompareNoCase(text.View(), FromQString(itemText(place - 1)).View()) < 0)
+        --place;
+    return Insert(place, text);
+}
+
+int ComboBoxPeer::Insert(int index, const CString& text) {
+    if (index < -1 || index > count())
+        return CB_ERR;
+    if (index < 0)
+        index = count();
+    const bool none = currentIndex() < 0;
+    const QString typed = currentText();
+    insertItem(index, ToQString(text), QVariant::fromValue<qulonglong>(0));
+    if (none) { // the toolkit selects the first row that comes
+        setCurrentIndex(-1);
+        if (isEditable())
+            setEditText(typed);
+    }
+    m_told = currentIndex();
+    return index;
+}
+
+bool ComboBoxPeer::Remove(int index) {
+    if (!Has(index))
+        return false;
+    const bool wasSelected = index == currentIndex();
+    removeItem(index);
+    if (wasSelected)
+        setCurrentIndex(-1);
+    m_told = currentIndex();
+    return true;
+}
+
+void ComboBoxPeer::Reset() {
+    clear();
+    m_told = -1;
+}
+
+int ComboBoxPeer::find(int startAfter, const CString& text, bool whole) const {
+    const int start = Has(startAfter) ? startAfter : -1;
+    for (int step = 1; step <= count(); ++step) {
+        const int index = (start + step) % count();
+        const CString candidate = FromQString(itemText(index));
+        if (CompareNoCase(whole ? candidate.View() : candidate.View().substr(0, text.View().size()), text.View()) == 0)
+            return index;
+    }
+    return CB_ERR;
+}
+
+int ComboBoxPeer::Selected() const {
+    const int index = currentIndex();
+    return isEditable() && index >= 0 && currentText() != itemText(index) ? CB_ERR : index;
+}
+
+void ComboBoxPeer::Select(int index) {
+    setCurrentIndex(Has(index) ? index : -1);
+    if (isEditable())
+        setEditText(itemText(currentIndex())); // the selection may be the same under a text that was typed over it
+    m_told = currentIndex();
+}
+
+void ComboBoxPeer::showPopup() {
+    const QPointer<QWidget> alive = this;
+    NotifyParent(CBN_DROPDOWN);
+    if (!alive || WindowPeer::destroyed)
+        return;
+    m_dropped = true;
+    QComboBox::showPopup();
+}
+
+// The toolkit also hides a list that is not shown.
+void ComboBoxPeer::hidePopup() {
+    QComboBox::hidePopup();
+    if (std::exchange(m_dropped, false))
+        NotifyParent(CBN_CLOSEUP);
+}
+
+void ComboBoxPeer::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+WindowPeer* CreateComboBox(const ControlSpec& spec, WindowPeer& parent) {
+    return new ComboBoxPeer(spec, parent);
+}
+
+} // namespace platform

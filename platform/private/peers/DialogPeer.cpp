@@ -1,0 +1,154 @@
+#include "platform/private/peers/DialogPeer.h"
+
+#include "platform/private/paint/Fonts.h"
+#include "platform/private/peers/Units.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+Qt::WindowFlags FlagsOf(const DialogTemplate& source) {
+    if (source.style & WS_CHILD)
+        return Qt::Widget;
+    Qt::WindowFlags flags = (source.exStyle & WS_EX_TOOLWINDOW ? Qt::Tool : Qt::Dialog) | Qt::CustomizeWindowHint |
+                            Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    // WS_MAXIMIZEBOX shares its bit with WS_TABSTOP; on a dialog it is the box, for one that can be sized.
+    if ((source.style & WS_THICKFRAME) && (source.style & WS_MAXIMIZEBOX))
+        flags |= Qt::WindowMaximizeButtonHint;
+    return flags;
+}
+
+QWidget* ToolkitParent(const DialogTemplate& source, WindowPeer* owner) {
+    if (!owner)
+        return nullptr;
+    return source.style & WS_CHILD ? owner->Surface() : owner->widget->window();
+}
+
+bool StartsGroup(const WindowPeer& peer) {
+    return peer.style & WS_GROUP;
+}
+
+// A group of radio buttons is entered at the one that is checked.
+WindowPeer* EntryOf(WindowPeer* stop, const std::vector<WindowPeer*>& all) {
+    if (!stop || !(stop->DialogCode() & IsRadioButton))
+        return stop;
+    const auto self = std::find(all.begin(), all.end(), stop);
+    auto first = self;
+    while (first != all.begin() && !StartsGroup(**first))
+        --first;
+    for (auto at = first; at != all.end() && (at == first || !StartsGroup(**at)); ++at)
+        if (((*at)->DialogCode() & IsRadioButton) && (*at)->Check() == 1 && (*at)->widget->isEnabled())
+            return *at;
+    return stop;
+}
+
+} // namespace
+
+DialogPeer::DialogPeer(const DialogTemplate& source, WindowPeer* owner, bool modal)
+    : Hosted<QWidget>(owner, ToolkitParent(source, owner), FlagsOf(source)) {
+    isDialog = true;
+    style = source.style;
+    exStyle = source.exStyle;
+    SetText(source.caption);
+    setMouseTracking(true);
+    if (modal)
+        setWindowModality(Qt::ApplicationModal);
+    if (source.fontPoints && (source.fontPoints != 8 || CString(source.fontFace) != "MS Sans Serif"))
+        setFont(ToolkitFont(source.fontFace, RoundedDivision(source.fontPoints * 96, 72), 400, false));
+    const QSize size(UnitsToX(source.cx), UnitsToY(source.cy));
+    if (source.style & WS_THICKFRAME)
+        resize(size);
+    else
+        setFixedSize(size);
+}
+
+void DialogPeer::AddControls(const DialogTemplate& source) {
+    children.reserve(source.controls.size());
+    for (const ControlTemplate& each : source.controls) {
+        const int left = UnitsToX(each.x);
+        const int top = UnitsToY(each.y);
+        const QRect place(left, top, UnitsToX(each.x + each.cx) - left, UnitsToY(each.y + each.cy) - top);
+        WindowPeer* control = CreateControl(
+            {each.className, each.text, each.style, each.exStyle, static_cast<UINT>(each.id), place, each.image},
+            *this);
+        if (!control)
+            continue;
+        if (each.style & WS_DISABLED)
+            control->widget->setEnabled(false);
+        if (!(each.style & WS_VISIBLE))
+            control->widget->hide();
+        control->live = true;
+    }
+}
+
+void DialogPeer::Open() {
+    // A dialog that OnInitDialog has placed stays there.
+    if (parent && isWindow() && !testAttribute(Qt::WA_Moved)) {
+        const QRect over = parent->widget->window()->frameGeometry();
+        move(over.center() - QPoint(width() / 2, height() / 2));
+    }
+    show();
+    if (isWindow())
+        activateWindow();
+}
+
+WindowPeer* DialogPeer::ChildHolding(WindowPeer* peer) const {
+    while (peer && peer->parent != this)
+        peer = peer->parent;
+    return peer;
+}
+
+WindowPeer* DialogPeer::NextTabStop(WindowPeer* from, bool backward) {
+    const auto count = static_cast<int>(children.size());
+    if (!count)
+        return nullptr;
+    from = ChildHolding(from);
+    const auto at = std::find(children.begin(), children.end(), from);
+    const int start = from && at != children.end() ? static_cast<int>(at - children.begin()) : backward ? count : -1;
+    const bool fromRadio = from && (from->DialogCode() & IsRadioButton);
+    for (int step = 1; step <= count; ++step) {
+        const int index = ((start + (backward ? -step : step)) % count + count) % count;
+        WindowPeer* candidate = children[static_cast<std::size_t>(index)];
+        if (!candidate->IsTabStop())
+            continue;
+        WindowPeer* entry = EntryOf(candidate, children);
+        // The other buttons of the group that the focus is leaving are not stops of their own.
+        if (fromRadio && entry == from && candidate != from)
+            continue;
+        if (!backward || entry != from || candidate == from)
+            return entry;
+    }
+    return from && from->IsTabStop() ? from : nullptr;
+}
+
+void DialogPeer::FocusNext(WindowPeer* from, bool backward) {
+    if (WindowPeer* next = NextTabStop(from, backward))
+        next->FocusByKeyboard();
+}
+
+void DialogPeer::FocusFirst() {
+    FocusNext(nullptr, false);
+}
+
+WindowPeer* DialogPeer::DefaultButton() const {
+    const auto found = std::find_if(children.begin(), children.end(), [](const WindowPeer* child) {
+        return (child->DialogCode() & IsPushButton) && (child->style & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+    });
+    return found == children.end() ? nullptr : *found;
+}
+
+void DialogPeer::SetDefaultButton(UINT buttonId) {
+    for (WindowPeer* child : children) {
+        if (!(child->DialogCode() & IsPushButton))
+            continue;
+        const DWORD wanted = child->id == buttonId ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        if ((child->style & BS_TYPEMASK) != wanted) {
+            child->style = (child->style & ~DWORD{BS_TYPEMASK}) | wanted;
+            child->StyleChanged();
+        }
+    }
+}
+
+} // namespace platform

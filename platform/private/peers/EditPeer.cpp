@@ -1,0 +1,330 @@
+#include "platform/private/peers/EditPeer.h"
+
+#include "platform/controls/Edit.h"
+#include "platform/private/peers/Controls.h"
+
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+void TellChange(WindowPeer& peer) {
+    const QPointer<QWidget> alive = peer.widget;
+    peer.NotifyParent(EN_UPDATE);
+    if (alive && !peer.destroyed)
+        peer.NotifyParent(EN_CHANGE);
+}
+
+bool WantsFrame(const ControlSpec& spec) {
+    return (spec.style & WS_BORDER) || (spec.exStyle & (WS_EX_CLIENTEDGE | WS_EX_STATICEDGE));
+}
+
+Qt::Alignment AlignmentOf(DWORD style) {
+    return style & ES_RIGHT ? Qt::AlignRight : style & ES_CENTER ? Qt::AlignHCenter : Qt::AlignLeft;
+}
+
+// A field that only shows looks like the dialog behind it.
+void ShowReadOnly(QWidget& widget, bool readOnly) {
+    QPalette palette;
+    if (readOnly)
+        palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    widget.setPalette(palette);
+}
+
+CString InCase(const CString& text, DWORD style) {
+    CString result = text;
+    if (style & ES_UPPERCASE)
+        result.MakeUpper();
+    else if (style & ES_LOWERCASE)
+        result.MakeLower();
+    return result;
+}
+
+// What a key may type into a field of that style; empty when it types nothing there. Characters outside the code page
+// would turn into question marks as soon as the program reads them.
+QString TypedText(const QString& text, DWORD style) {
+    if (text.isEmpty() || !text.at(0).isPrint())
+        return text;
+    const CString bytes = FromQString(text);
+    if (bytes.Find('?') >= 0 && !text.contains(QLatin1Char('?')))
+        return {};
+    const auto notDigit = [](QChar c) { return c < QLatin1Char('0') || c > QLatin1Char('9'); };
+    if ((style & ES_NUMBER) && std::any_of(text.begin(), text.end(), notDigit))
+        return {};
+    return ToQString(InCase(bytes, style));
+}
+
+bool IsTyping(const QKeyEvent& event) {
+    return !event.text().isEmpty() && event.text().at(0).isPrint() &&
+           !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
+// A field of one line holds no line ends: a number copied from a sheet brings one along and would be no number.
+class OneLine : public QValidator {
+  public:
+    using QValidator::QValidator;
+    State validate(QString& input, int& caret) const override {
+        const auto isLineEnd = [](QChar c) { return c == QLatin1Char('\n') || c == QLatin1Char('\r'); };
+        if (std::any_of(input.begin(), input.end(), isLineEnd)) {
+            caret -= static_cast<int>(std::count_if(input.begin(), input.begin() + caret, isLineEnd));
+            input.removeIf(isLineEnd);
+        }
+        return Acceptable;
+    }
+};
+
+CString WithLineEnds(const QString& text) {
+    QString lines = text;
+    lines.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    return FromQString(lines);
+}
+
+QString WithoutReturns(const CString& text) {
+    QString lines = ToQString(text);
+    lines.remove(QLatin1Char('\r'));
+    return lines;
+}
+
+} // namespace
+
+LineEditPeer::LineEditPeer(const ControlSpec& spec, WindowPeer& parentPeer)
+    : Hosted<QLineEdit>(&parentPeer, parentPeer.Surface()) {
+    ApplySpec(*this, spec);
+    setAlignment(AlignmentOf(spec.style) | Qt::AlignVCenter);
+    setFrame(WantsFrame(spec));
+    if (spec.style & ES_PASSWORD)
+        setEchoMode(Password);
+    if (spec.style & ES_READONLY)
+        SetReadOnly(true);
+    setValidator(new OneLine(this));
+    LineEditPeer::SetText(spec.text);
+    connect(this, &QLineEdit::textChanged, this, [this] { TellChange(*this); });
+}
+
+CString LineEditPeer::Text() const {
+    return FromQString(QLineEdit::text());
+}
+
+void LineEditPeer::SetText(const CString& text) {
+    const QString shown = ToQString(InCase(text, WindowPeer::style));
+    AllowLength(static_cast<int>(shown.size()));
+    QLineEdit::setText(shown);
+    if (!hasFocus())
+        setCursorPosition(0); // a long text shows its beginning
+}
+
+std::unique_ptr<CWnd> LineEditPeer::MakeObject() const {
+    return std::make_unique<CEdit>();
+}
+
+void LineEditPeer::FocusByKeyboard() {
+    setFocus(Qt::TabFocusReason);
+    selectAll();
+}
+
+void LineEditPeer::Select(int start, int end, bool) {
+    const int length = static_cast<int>(QLineEdit::text().size());
+    start = std::min(start, length);
+    end = std::min(end, length);
+    if (start == end)
+        setCursorPosition(end); // clears the selection as well
+    else
+        setSelection(start, end - start);
+}
+
+std::pair<int, int> LineEditPeer::Selection() const {
+    if (hasSelectedText())
+        return {selectionStart(), selectionEnd()};
+    return {cursorPosition(), cursorPosition()};
+}
+
+void LineEditPeer::Insert(const CString& text) {
+    AllowLength(static_cast<int>(QLineEdit::text().size()) + text.GetLength());
+    QLineEdit::insert(ToQString(InCase(text, WindowPeer::style)));
+}
+
+void LineEditPeer::SetLimit(int characters) {
+    m_limit = characters > 0 ? characters : 32767;
+    AllowLength(static_cast<int>(QLineEdit::text().size()));
+}
+
+// The limit is for the user; the toolkit would cut the program's text as well. Setting it sets the text again there,
+// and the selection with it is lost.
+void LineEditPeer::AllowLength(int length) {
+    const int wanted = std::max(m_limit, length);
+    if (wanted == maxLength())
+        return;
+    const auto [start, end] = Selection();
+    setMaxLength(wanted);
+    Select(start, end, false);
+}
+
+void LineEditPeer::SetReadOnly(bool readOnly) {
+    WindowPeer::style = readOnly ? WindowPeer::style | ES_READONLY : WindowPeer::style & ~DWORD{ES_READONLY};
+    QLineEdit::setReadOnly(readOnly);
+    ShowReadOnly(*this, readOnly);
+}
+
+void LineEditPeer::SetPassword(bool hidden) {
+    setEchoMode(hidden ? Password : Normal);
+}
+
+bool LineEditPeer::PlayKey(UINT message, WPARAM wParam) {
+    return platform::PlayKey(*this, message, wParam);
+}
+
+void LineEditPeer::keyPressEvent(QKeyEvent* event) {
+    const bool up = event->key() == Qt::Key_Up;
+    if (stepSpin && (up || event->key() == Qt::Key_Down)) {
+        stepSpin(up ? 1 : -1);
+        return;
+    }
+    if (!IsTyping(*event)) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    const QString typed = TypedText(event->text(), WindowPeer::style);
+    if (typed.isEmpty())
+        return;
+    AllowLength(static_cast<int>(QLineEdit::text().size()));
+    QKeyEvent changed(event->type(), event->key(), event->modifiers(), typed, event->isAutoRepeat());
+    QLineEdit::keyPressEvent(&changed);
+}
+
+TextEditPeer::TextEditPeer(const ControlSpec& spec, WindowPeer& parentPeer)
+    : HostedScrollArea<QPlainTextEdit>(&parentPeer, parentPeer.Surface()) {
+    ApplySpec(*this, spec);
+    setFocusPolicy(Qt::StrongFocus);
+    setTabChangesFocus(true);
+    setFrameShape(WantsFrame(spec) ? StyledPanel : NoFrame);
+    setLineWrapMode(spec.style & (ES_AUTOHSCROLL | WS_HSCROLL) ? NoWrap : WidgetWidth);
+    setVerticalScrollBarPolicy(spec.style & WS_VSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(spec.style & WS_HSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    if (spec.style & ES_READONLY)
+        SetReadOnly(true);
+    TextEditPeer::SetText(spec.text);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { TellChange(*this); });
+}
+
+CString TextEditPeer::Text() const {
+    return WithLineEnds(toPlainText());
+}
+
+void TextEditPeer::SetText(const CString& text) {
+    const QString shown = WithoutReturns(InCase(text, WindowPeer::style));
+    if (shown != toPlainText())
+        setPlainText(shown);
+    document()->setModified(false);
+}
+
+// Escape and Tab stay the dialog's; Enter is the field's when it asks for it.
+UINT TextEditPeer::DialogCode() const {
+    return WantsArrows | WantsCharacters | (WindowPeer::style & ES_WANTRETURN ? WantsReturn : 0u);
+}
+
+std::unique_ptr<CWnd> TextEditPeer::MakeObject() const {
+    return std::make_unique<CEdit>();
+}
+
+void TextEditPeer::FocusByKeyboard() {
+    setFocus(Qt::TabFocusReason);
+    selectAll();
+}
+
+LRESULT TextEditPeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
+    return PlayKey(*this, message, wParam);
+}
+
+int TextEditPeer::ToBytes(int position) const {
+    return position + document()->findBlock(position).blockNumber();
+}
+
+int TextEditPeer::FromBytes(int position) const {
+    int line = 0;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next(), ++line)
+        if (position - line < block.position() + block.length())
+            return std::max(position - line, block.position());
+    return document()->characterCount() - 1;
+}
+
+void TextEditPeer::Select(int start, int end, bool scroll) {
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(FromBytes(start));
+    cursor.setPosition(FromBytes(end), QTextCursor::KeepAnchor);
+    const int top = verticalScrollBar()->value();
+    setTextCursor(cursor);
+    if (scroll)
+        ensureCursorVisible();
+    else
+        verticalScrollBar()->setValue(top);
+}
+
+std::pair<int, int> TextEditPeer::Selection() const {
+    return {ToBytes(textCursor().selectionStart()), ToBytes(textCursor().selectionEnd())};
+}
+
+int TextEditPeer::Caret() const {
+    return ToBytes(textCursor().position());
+}
+
+void TextEditPeer::Insert(const CString& text) {
+    insertPlainText(WithoutReturns(InCase(text, WindowPeer::style)));
+}
+
+void TextEditPeer::SetReadOnly(bool readOnly) {
+    WindowPeer::style = readOnly ? WindowPeer::style | ES_READONLY : WindowPeer::style & ~DWORD{ES_READONLY};
+    QPlainTextEdit::setReadOnly(readOnly);
+    ShowReadOnly(*this, readOnly);
+}
+
+bool TextEditPeer::Modified() const {
+    return document()->isModified();
+}
+
+void TextEditPeer::SetModified(bool modified) {
+    document()->setModified(modified);
+}
+
+void TextEditPeer::ScrollLines(int lines) {
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + lines);
+}
+
+void TextEditPeer::keyPressEvent(QKeyEvent* event) {
+    if (!IsTyping(*event)) {
+        QPlainTextEdit::keyPressEvent(event);
+        return;
+    }
+    const QString typed = TypedText(event->text(), WindowPeer::style);
+    const bool full = m_limit > 0 && Text().GetLength() >= m_limit && !textCursor().hasSelection();
+    if (typed.isEmpty() || full)
+        return;
+    QKeyEvent changed(event->type(), event->key(), event->modifiers(), typed, event->isAutoRepeat());
+    QPlainTextEdit::keyPressEvent(&changed);
+}
+
+// What is pasted or dropped counts against the limit as well.
+void TextEditPeer::insertFromMimeData(const QMimeData* source) {
+    if (!source || !source->hasText())
+        return;
+    CString inserted = WithLineEnds(WithoutReturns(FromQString(source->text())));
+    if (m_limit > 0) {
+        const auto [start, end] = Selection();
+        inserted = inserted.Left(std::max(0, m_limit - (Text().GetLength() - (end - start))));
+    }
+    Insert(inserted);
+}
+
+WindowPeer* CreateEdit(const ControlSpec& spec, WindowPeer& parent) {
+    if (spec.style & ES_MULTILINE)
+        return new TextEditPeer(spec, parent);
+    return new LineEditPeer(spec, parent);
+}
+
+} // namespace platform

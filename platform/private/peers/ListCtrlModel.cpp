@@ -1,0 +1,156 @@
+#include "platform/private/peers/ListCtrlModel.h"
+
+#include "platform/controls/ListCtrl.h"
+#include "platform/private/paint/Icons.h"
+#include "platform/private/peers/WindowPeer.h"
+
+#include <algorithm>
+
+namespace platform {
+
+int ListCtrlModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : Count();
+}
+
+int ListCtrlModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : std::max(1, Columns());
+}
+
+QVariant ListCtrlModel::data(const QModelIndex& index, int role) const {
+    const Row* found = RowAt(index.row());
+    if (!found)
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return ToQString(Text(index.row(), index.column()));
+    case Qt::DecorationRole:
+        return index.column() == 0 && m_images && found->image >= 0 ? IconAt(m_images, found->image) : QVariant();
+    case Qt::TextAlignmentRole: {
+        const auto column = static_cast<std::size_t>(index.column());
+        const int format = column < m_columns.size() ? m_columns[column].format : LVCFMT_LEFT;
+        const Qt::Alignment side = format == LVCFMT_RIGHT    ? Qt::AlignRight
+                                   : format == LVCFMT_CENTER ? Qt::AlignHCenter
+                                                             : Qt::AlignLeft;
+        return QVariant::fromValue(side | Qt::AlignVCenter);
+    }
+    default:
+        return {};
+    }
+}
+
+QVariant ListCtrlModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    const auto column = static_cast<std::size_t>(section);
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || column >= m_columns.size())
+        return {};
+    return ToQString(m_columns[column].heading);
+}
+
+Qt::ItemFlags ListCtrlModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
+    return editable && index.column() == 0 ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool ListCtrlModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    const CString text = FromQString(value.toString());
+    if (role != Qt::EditRole || !acceptLabel || !acceptLabel(index.row(), text))
+        return false;
+    return SetText(index.row(), index.column(), text);
+}
+
+const ListCtrlModel::Row* ListCtrlModel::RowAt(int index) const {
+    return index >= 0 && index < Count() ? &m_rows[static_cast<std::size_t>(index)] : nullptr;
+}
+
+const CString& ListCtrlModel::Text(int index, int column) const {
+    static const CString none;
+    const Row* found = RowAt(index);
+    const bool has = found && column >= 0 && static_cast<std::size_t>(column) < found->texts.size();
+    return has ? found->texts[static_cast<std::size_t>(column)] : none;
+}
+
+void ListCtrlModel::InsertRowAt(int index, Row row) {
+    beginInsertRows({}, index, index);
+    m_rows.insert(m_rows.begin() + index, std::move(row));
+    endInsertRows();
+}
+
+void ListCtrlModel::RemoveRowAt(int index) {
+    beginRemoveRows({}, index, index);
+    m_rows.erase(m_rows.begin() + index);
+    endRemoveRows();
+}
+
+void ListCtrlModel::Clear() {
+    beginResetModel();
+    m_rows.clear();
+    endResetModel();
+}
+
+bool ListCtrlModel::SetText(int row, int column, const CString& text) {
+    if (!RowAt(row) || column < 0 || column >= columnCount())
+        return false;
+    std::vector<CString>& texts = m_rows[static_cast<std::size_t>(row)].texts;
+    if (texts.size() <= static_cast<std::size_t>(column))
+        texts.resize(static_cast<std::size_t>(column) + 1);
+    texts[static_cast<std::size_t>(column)] = text;
+    emit dataChanged(index(row, column), index(row, column));
+    return true;
+}
+
+bool ListCtrlModel::SetRowData(int row, DWORD_PTR data) {
+    if (!RowAt(row))
+        return false;
+    m_rows[static_cast<std::size_t>(row)].data = data;
+    return true;
+}
+
+bool ListCtrlModel::SetImage(int row, int image) {
+    if (!RowAt(row))
+        return false;
+    m_rows[static_cast<std::size_t>(row)].image = image;
+    emit dataChanged(index(row, 0), index(row, 0));
+    return true;
+}
+
+void ListCtrlModel::SetImages(const CImageList* images) {
+    m_images = images;
+    if (Count() > 0)
+        emit dataChanged(index(0, 0), index(Count() - 1, 0));
+}
+
+void ListCtrlModel::Reorder(const std::vector<int>& order) {
+    beginResetModel();
+    std::vector<Row> sorted;
+    sorted.reserve(m_rows.size());
+    for (const int former : order)
+        sorted.push_back(std::move(m_rows[static_cast<std::size_t>(former)]));
+    m_rows = std::move(sorted);
+    endResetModel();
+}
+
+void ListCtrlModel::InsertColumnAt(int index, Column column) {
+    // The first heading names the column that is there already.
+    const bool first = m_columns.empty();
+    if (!first)
+        beginInsertColumns({}, index, index);
+    m_columns.insert(m_columns.begin() + index, std::move(column));
+    for (Row& each : m_rows)
+        if (!first && each.texts.size() > static_cast<std::size_t>(index))
+            each.texts.insert(each.texts.begin() + index, CString());
+    if (first)
+        emit headerDataChanged(Qt::Horizontal, 0, 0);
+    else
+        endInsertColumns();
+}
+
+void ListCtrlModel::RemoveColumnAt(int index) {
+    beginResetModel();
+    m_columns.erase(m_columns.begin() + index);
+    for (Row& each : m_rows)
+        if (each.texts.size() > static_cast<std::size_t>(index))
+            each.texts.erase(each.texts.begin() + index);
+    endResetModel();
+}
+
+} // namespace platform

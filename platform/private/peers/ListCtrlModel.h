@@ -1,0 +1,62 @@
+// Rows and columns of a list view.
+#pragma once
+
+#include "platform/controls/ImageList.h"
+#include "platform/core/String.h"
+
+#include <QAbstractTableModel>
+
+#include <functional>
+#include <vector>
+
+namespace platform {
+
+class ListCtrlModel final : public QAbstractTableModel {
+  public:
+    struct Row {
+        std::vector<CString> texts; // by column; missing ones are empty
+        DWORD_PTR data = 0;
+        int image = -1;
+    };
+    struct Column {
+        CString heading;
+        int format = 0; // LVCFMT_
+    };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+    int Count() const { return static_cast<int>(m_rows.size()); }
+    const Row* RowAt(int index) const;
+    const CString& Text(int row, int column) const;
+    void InsertRowAt(int index, Row row);
+    void RemoveRowAt(int index);
+    void Clear();
+    bool SetText(int row, int column, const CString& text);
+    bool SetRowData(int row, DWORD_PTR data);
+    bool SetImage(int row, int image);
+    void SetImages(const CImageList* images);
+    const CImageList* Images() const { return m_images; }
+    // order[new row] is the old one.
+    void Reorder(const std::vector<int>& order);
+
+    int Columns() const { return static_cast<int>(m_columns.size()); }
+    void InsertColumnAt(int index, Column column);
+    void RemoveColumnAt(int index);
+
+    bool editable = false;
+    std::function<bool(int row, const CString& text)> acceptLabel; // asks whether an edited label may stay
+
+  private:
+    std::vector<Row> m_rows;
+    std::vector<Column> m_columns; // empty in a list without a heading, which has one column all the same
+    const CImageList* m_images = nullptr;
+};
+
+} // namespace platform

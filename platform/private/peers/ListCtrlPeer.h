@@ -1,0 +1,86 @@
+// List views on the toolkit's: a table for LVS_REPORT, a list for the other kinds.
+#pragma once
+
+#include "platform/controls/ListCtrl.h"
+#include "platform/private/peers/Hosted.h"
+#include "platform/private/peers/ListCtrlModel.h"
+
+#include <QAbstractItemView>
+#include <QItemSelection>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace platform {
+
+// What both views share. Selections are told from the selection model's signal, so that those of the program count too.
+class ListCtrlControl {
+  public:
+    virtual ~ListCtrlControl() = default;
+
+    virtual QAbstractItemView& View() = 0;
+    virtual WindowPeer& Peer() = 0;
+    virtual int ColumnWidth(int) { return 0; }
+    virtual void SetColumnWidth(int, int) {}
+    virtual QRect RowRect(int row, int part) = 0;
+
+    ListCtrlModel& Model() { return m_model; }
+    bool Selected(int row);
+    bool Focused(int row) { return View().currentIndex().row() == row; }
+    void SetState(int row, UINT state, UINT mask);
+    int SelectedCount();
+    int NextSelected(int after); // -1 for none
+    int RowAt(const QPoint& point) { return View().indexAt(point).row(); }
+    void SetImages(const CImageList* images);
+    int Insert(int row, ListCtrlModel::Row content);
+    void Remove(int row);
+    void Clear(); // tells nobody
+    void Sort(PFNLVCOMPARE compare, LPARAM argument);
+    int mark = -1; // the row from which a selection extends
+
+  protected:
+    void SetUp(const ControlSpec& spec); // when the view exists
+    void TellSelection(const QItemSelection& selected, const QItemSelection& deselected);
+    LRESULT TellItem(int code, const QPoint& point);
+    bool TellKey(const QKeyEvent& event); // true when the key is spent
+    bool TellLabel(int row, LPCTSTR text);
+    QModelIndex RowIndex(int row) { return m_model.index(row, 0); }
+
+  private:
+    ListCtrlModel m_model;
+    bool m_silent = false;
+};
+
+template <class Base>
+class ListCtrlOf final : public HostedScrollArea<Base>, public ListCtrlControl {
+  public:
+    ListCtrlOf(const ControlSpec& spec, WindowPeer& parentPeer);
+    // The view must not see its model go first.
+    ~ListCtrlOf() override { Base::setModel(nullptr); }
+
+    UINT DialogCode() const override { return WantsArrows | WantsCharacters; }
+    std::unique_ptr<CWnd> MakeObject() const override { return std::make_unique<CListCtrl>(); }
+    void FocusChanged(bool gained) override {
+        NMHDR header;
+        this->NotifyParent(header, gained ? NM_SETFOCUS : NM_KILLFOCUS);
+    }
+    LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM) override;
+
+    QAbstractItemView& View() override { return *this; }
+    WindowPeer& Peer() override { return *this; }
+    int ColumnWidth(int column) override;
+    void SetColumnWidth(int column, int width) override;
+    QRect RowRect(int row, int part) override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+  private:
+    void SetUpView(const ControlSpec& spec);
+
+    bool m_pressed = false;
+};
+
+} // namespace platform

@@ -1,0 +1,375 @@
+// Text, state, place, painting and timers of windows.
+#include "platform/drawing/DeviceContext.h"
+#include "platform/drawing/Gdi.h"
+#include "platform/private/paint/GdiData.h"
+#include "platform/private/peers/WindowPeer.h"
+#include "platform/window/Application.h"
+#include "platform/window/Window.h"
+
+#include <QApplication>
+#include <QCursor>
+
+#include <cerrno>
+#include <cstdlib>
+
+// The font of a window that was given none is its dialog's: 8 points.
+CFont* platform::WindowPeer::FontObject() {
+    if (!m_font) {
+        m_font = std::make_unique<CFont>();
+        m_font->CreatePointFont(80, "MS Sans Serif");
+    }
+    return m_font.get();
+}
+
+void platform::WindowPeer::KeepFont(const LOGFONT& description) {
+    m_font = std::make_unique<CFont>();
+    m_font->CreateFontIndirect(&description);
+}
+
+const CWnd CWnd::wndTop;
+const CWnd CWnd::wndBottom;
+const CWnd CWnd::wndTopMost;
+
+void CWnd::SetWindowText(LPCTSTR text) {
+    if (m_hWnd)
+        m_hWnd->SetText(text);
+}
+
+void CWnd::GetWindowText(CString& text) const {
+    text = GetWindowText();
+}
+
+CString CWnd::GetWindowText() const {
+    return m_hWnd ? m_hWnd->Text() : CString();
+}
+
+int CWnd::GetWindowTextLength() const {
+    return GetWindowText().GetLength();
+}
+
+void CWnd::SetDlgItemText(int id, LPCTSTR text) {
+    if (CWnd* control = GetDlgItem(id))
+        control->SetWindowText(text);
+}
+
+int CWnd::GetDlgItemText(int id, CString& text) const {
+    const CWnd* control = GetDlgItem(id);
+    text = control ? control->GetWindowText() : CString();
+    return text.GetLength();
+}
+
+void CWnd::SetDlgItemInt(int id, int value, BOOL isSigned) {
+    CString text;
+    if (isSigned)
+        text.Format("%d", value);
+    else
+        text.Format("%u", static_cast<UINT>(value));
+    SetDlgItemText(id, text);
+}
+
+UINT CWnd::GetDlgItemInt(int id, BOOL* translated, BOOL isSigned) const {
+    CString text;
+    GetDlgItemText(id, text);
+    const char* begin = text;
+    char* end = nullptr;
+    errno = 0;
+    const long long value = std::strtoll(begin, &end, 10);
+    while (*end == ' ')
+        ++end;
+    const bool fits = isSigned ? value >= INT32_MIN && value <= INT32_MAX : value >= 0 && value <= UINT32_MAX;
+    const bool good = end != begin && *end == '\0' && errno == 0 && fits;
+    if (translated)
+        *translated = good;
+    return good ? static_cast<UINT>(value) : 0;
+}
+
+void CWnd::CheckDlgButton(int id, UINT check) {
+    if (CWnd* control = GetDlgItem(id))
+        control->m_hWnd->SetCheck(static_cast<int>(check));
+}
+
+UINT CWnd::IsDlgButtonChecked(int id) const {
+    const CWnd* control = GetDlgItem(id);
+    return control ? static_cast<UINT>(control->m_hWnd->Check()) : 0;
+}
+
+void CWnd::CheckRadioButton(int first, int last, int checked) {
+    for (int id = first; id <= last; ++id)
+        CheckDlgButton(id, id == checked);
+}
+
+int CWnd::GetCheckedRadioButton(int first, int last) const {
+    for (int id = first; id <= last; ++id)
+        if (IsDlgButtonChecked(id))
+            return id;
+    return 0;
+}
+
+BOOL CWnd::EnableWindow(BOOL enable) {
+    if (!m_hWnd)
+        return FALSE;
+    const BOOL wasDisabled = !IsWindowEnabled();
+    m_hWnd->widget->setEnabled(enable);
+    return wasDisabled;
+}
+
+BOOL CWnd::IsWindowEnabled() const {
+    if (!m_hWnd || m_hWnd->modalLocks)
+        return FALSE;
+    // Its own state: a child of a disabled window is not disabled itself.
+    return m_hWnd->widget->isEnabledTo(m_hWnd->widget->parentWidget());
+}
+
+BOOL CWnd::ShowWindow(int command) {
+    if (!m_hWnd)
+        return FALSE;
+    QWidget* widget = m_hWnd->widget;
+    const BOOL wasVisible = IsWindowVisible();
+    switch (command) {
+    case SW_HIDE:
+        widget->hide();
+        break;
+    case SW_MINIMIZE:
+        widget->showMinimized();
+        break;
+    case SW_SHOWNA:
+        widget->setAttribute(Qt::WA_ShowWithoutActivating);
+        widget->show();
+        break;
+    default:
+        widget->show();
+    }
+    return wasVisible;
+}
+
+BOOL CWnd::IsWindowVisible() const {
+    return m_hWnd && m_hWnd->widget->isVisible();
+}
+
+CWnd* CWnd::SetFocus() {
+    CWnd* former = GetFocus();
+    if (m_hWnd) {
+        if (m_hWnd->widget->window() != QApplication::activeWindow())
+            m_hWnd->widget->activateWindow();
+        if (m_hWnd->widget->focusPolicy() == Qt::NoFocus)
+            m_hWnd->widget->setFocusPolicy(Qt::ClickFocus); // a dialog that takes the focus itself
+        m_hWnd->widget->setFocus(Qt::OtherFocusReason);
+    }
+    return former;
+}
+
+CWnd* CWnd::SetActiveWindow() {
+    CWnd* former = GetActiveWindow();
+    if (m_hWnd)
+        m_hWnd->widget->activateWindow();
+    return former;
+}
+
+CWnd* CWnd::SetCapture() {
+    CWnd* former = GetCapture();
+    if (m_hWnd)
+        m_hWnd->Surface()->grabMouse();
+    return former;
+}
+
+DWORD CWnd::GetStyle() const {
+    return m_hWnd ? m_hWnd->style : 0;
+}
+
+DWORD CWnd::GetExStyle() const {
+    return m_hWnd ? m_hWnd->exStyle : 0;
+}
+
+BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT) {
+    if (!m_hWnd)
+        return FALSE;
+    const DWORD style = (m_hWnd->style & ~remove) | add;
+    if (style == m_hWnd->style)
+        return FALSE;
+    m_hWnd->style = style;
+    m_hWnd->StyleChanged();
+    return TRUE;
+}
+
+void CWnd::GetWindowRect(CRect& rect) const {
+    rect = CRect(0, 0, 0, 0);
+    if (!m_hWnd)
+        return;
+    const QWidget* widget = m_hWnd->widget;
+    const QRect place =
+        widget->isWindow() ? widget->frameGeometry() : QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size());
+    rect = CRect(place.x(), place.y(), place.x() + place.width(), place.y() + place.height());
+}
+
+void CWnd::GetClientRect(CRect& rect) const {
+    rect = m_hWnd ? CRect(0, 0, m_hWnd->Surface()->width(), m_hWnd->Surface()->height()) : CRect(0, 0, 0, 0);
+}
+
+void CWnd::MoveWindow(int x, int y, int width, int height, BOOL) {
+    SetWindowPos(nullptr, x, y, width, height, SWP_NOZORDER);
+}
+
+void CWnd::MoveWindow(const CRect& rect, BOOL repaint) {
+    MoveWindow(rect.left, rect.top, rect.Width(), rect.Height(), repaint);
+}
+
+BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int cx, int cy, UINT flags) {
+    if (!m_hWnd)
+        return FALSE;
+    QWidget* widget = m_hWnd->widget;
+    if (!(flags & SWP_NOMOVE))
+        widget->move(x, y);
+    if (!(flags & SWP_NOSIZE)) {
+        // A top-level window's size includes the frame that the window manager gives it.
+        const QSize frame = widget->isWindow() ? widget->frameGeometry().size() - widget->size() : QSize(0, 0);
+        widget->resize(std::max(0, cx - frame.width()), std::max(0, cy - frame.height()));
+    }
+    if (!(flags & SWP_NOZORDER) && after) {
+        if (after == &wndBottom)
+            widget->lower();
+        else if (after == &wndTop || after == &wndTopMost)
+            widget->raise();
+        else if (after->m_hWnd)
+            widget->stackUnder(after->m_hWnd->widget);
+    }
+    if (flags & SWP_SHOWWINDOW)
+        widget->show();
+    if (flags & SWP_HIDEWINDOW)
+        widget->hide();
+    if (m_hWnd && m_hWnd->live)
+        m_hWnd->ReportSize(); // the toolkit tells a hidden window only when it is shown
+    return TRUE;
+}
+
+void CWnd::ClientToScreen(CPoint& point) const {
+    if (!m_hWnd)
+        return;
+    const QPoint screen = m_hWnd->Surface()->mapToGlobal(QPoint(point.x, point.y));
+    point = CPoint(screen.x(), screen.y());
+}
+
+void CWnd::ClientToScreen(CRect& rect) const {
+    CPoint corner = rect.TopLeft();
+    ClientToScreen(corner);
+    rect.OffsetRect(corner.x - rect.left, corner.y - rect.top);
+}
+
+void CWnd::ScreenToClient(CPoint& point) const {
+    if (!m_hWnd)
+        return;
+    const QPoint client = m_hWnd->Surface()->mapFromGlobal(QPoint(point.x, point.y));
+    point = CPoint(client.x(), client.y());
+}
+
+void CWnd::ScreenToClient(CRect& rect) const {
+    CPoint corner = rect.TopLeft();
+    ScreenToClient(corner);
+    rect.OffsetRect(corner.x - rect.left, corner.y - rect.top);
+}
+
+void CWnd::Invalidate(BOOL erase) {
+    if (!m_hWnd)
+        return;
+    m_hWnd->paintPending = true;
+    m_hWnd->erasePending = m_hWnd->erasePending || erase;
+    m_hWnd->Surface()->update();
+}
+
+void CWnd::InvalidateRect(const CRect*, BOOL erase) {
+    Invalidate(erase);
+}
+
+void CWnd::UpdateWindow() {
+    if (m_hWnd && IsWindowVisible())
+        m_hWnd->PaintNow();
+}
+
+void CWnd::RedrawWindow() {
+    Invalidate();
+    UpdateWindow();
+}
+
+void CWnd::SetRedraw(BOOL redraw) {
+    if (m_hWnd)
+        m_hWnd->SetRedraw(redraw);
+}
+
+CDC* CWnd::GetDC() {
+    return new CClientDC(this);
+}
+
+int CWnd::ReleaseDC(CDC* dc) {
+    delete dc;
+    return 1;
+}
+
+void CWnd::SetFont(CFont* font, BOOL) {
+    if (!m_hWnd || !font || !font->Data())
+        return;
+    m_hWnd->widget->setFont(font->Data()->font);
+    m_hWnd->KeepFont(font->Data()->description);
+}
+
+CFont* CWnd::GetFont() const {
+    return m_hWnd ? m_hWnd->FontObject() : nullptr;
+}
+
+UINT_PTR CWnd::SetTimer(UINT_PTR id, UINT milliseconds, void*) {
+    if (!m_hWnd)
+        return 0;
+    m_hWnd->StartTimer(id, static_cast<int>(milliseconds));
+    return id ? id : 1;
+}
+
+BOOL CWnd::KillTimer(UINT_PTR id) {
+    return m_hWnd && m_hWnd->KillTimer(id);
+}
+
+int CWnd::MessageBox(LPCTSTR text, LPCTSTR caption, UINT type) {
+    CWinApp* application = AfxGetApp();
+    if (!application)
+        return 0;
+    return caption ? application->ShowMessageBox(text, caption, type) : application->DoMessageBox(text, type, 0);
+}
+
+short GetKeyState(int key) {
+    const Qt::KeyboardModifiers modifiers = QGuiApplication::keyboardModifiers();
+    const Qt::MouseButtons buttons = QGuiApplication::mouseButtons();
+    bool down = false;
+    switch (static_cast<UINT>(key)) {
+    case VK_SHIFT:
+        down = modifiers & Qt::ShiftModifier;
+        break;
+    case VK_CONTROL:
+        down = modifiers & Qt::ControlModifier;
+        break;
+    case VK_MENU:
+        down = modifiers & Qt::AltModifier;
+        break;
+    case 1: // the left button
+        down = buttons & Qt::LeftButton;
+        break;
+    case 2: // the right button
+        down = buttons & Qt::RightButton;
+        break;
+    }
+    return down ? static_cast<short>(-32768) : static_cast<short>(0);
+}
+
+void GetCursorPos(CPoint* point) {
+    *point = CPoint(QCursor::pos().x(), QCursor::pos().y());
+}
+
+void SetCursor(StandardCursor cursor) {
+    constexpr Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::CrossCursor, Qt::WaitCursor, Qt::SizeAllCursor};
+    if (QWidget* under = QApplication::widgetAt(QCursor::pos()))
+        under->setCursor(shapes[static_cast<int>(cursor)]);
+}
+
+CWaitCursor::CWaitCursor() {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+CWaitCursor::~CWaitCursor() {
+    QApplication::restoreOverrideCursor();
+}
