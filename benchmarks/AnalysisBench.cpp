@@ -12,6 +12,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace host;
+
 namespace {
 
 // A grid of columns on so many storeys, joined by beams.

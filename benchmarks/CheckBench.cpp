@@ -20,6 +20,8 @@
 #include <memory>
 #include <vector>
 
+using namespace host;
+
 namespace {
 
 template <class T>

@@ -18,6 +18,8 @@
 #include <utility>
 #include <vector>
 
+using namespace host;
+
 namespace {
 
 constexpr int frameNodes = 22 * 22 * 22; // with 22 * 22 * 21 beams, a little over 10,000

@@ -22,6 +22,8 @@
 #include <random>
 #include <unordered_map>
 
+using namespace host;
+
 namespace {
 
 constexpr int million = 1'000'000;

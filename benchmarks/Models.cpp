@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+using namespace host;
+
 namespace bench {
 
 namespace {

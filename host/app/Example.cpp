@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+namespace host {
+
 int WriteExample(const std::string& path) {
     HostDocument document;
     BuildExample(document);
@@ -18,3 +20,5 @@ int WriteExample(const std::string& path) {
     }
     return 0;
 }
+
+} // namespace host

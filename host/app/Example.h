@@ -3,5 +3,9 @@
 
 #include <string>
 
+namespace host {
+
 // The path is as the system spells it. 0 on success; otherwise 1 and a message on the error stream.
 int WriteExample(const std::string& path);
+
+} // namespace host

@@ -27,6 +27,8 @@
 #include <cstdio>
 #include <vector>
 
+namespace host {
+
 namespace {
 
 struct Page {
@@ -220,3 +222,5 @@ int WriteGalleryPictures(Workspace& workspace, const QString& folder, const QStr
     ok = camera.Take(window, "finestra-due-viste") && ok;
     return ok ? 0 : 1;
 }
+
+} // namespace host

@@ -5,6 +5,8 @@
 
 #include <string>
 
+namespace host {
+
 class Workspace;
 
 // `model` is the file to show, empty for the example; a dialog that does not open on it is left out.
@@ -15,3 +17,5 @@ int WriteGallery(const std::string& program, const std::string& folder, const st
 
 // The pictures at the scale of this process, named after it ("...-100.png"). 0 on success.
 int WriteGalleryPictures(Workspace& workspace, const QString& folder, const QString& model);
+
+} // namespace host

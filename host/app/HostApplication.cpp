@@ -12,6 +12,8 @@
 
 #include <cstdio>
 
+namespace host {
+
 HostApplication::HostApplication(const Options& options, int& argc, char** argv)
     : CWinApp("Quovar", argc, argv), m_options(options), m_translator(std::make_unique<QTranslator>()) {
     // The toolkit's own texts, such as those of the file dialogs.
@@ -53,3 +55,5 @@ int HostApplication::DoMessageBox(LPCTSTR text, UINT type, UINT helpId) {
     std::fprintf(stderr, "quovar: %s%s\n", expected, CString(text).ToUtf8().c_str());
     return (type & MB_TYPEMASK) == MB_YESNO ? IDNO : IDCANCEL;
 }
+
+} // namespace host

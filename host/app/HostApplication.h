@@ -7,6 +7,9 @@
 #include <memory>
 
 class QTranslator;
+
+namespace host {
+
 class Workspace;
 
 class HostApplication final : public CWinApp {
@@ -28,3 +31,5 @@ class HostApplication final : public CWinApp {
     std::unique_ptr<QTranslator> m_translator;
     std::unique_ptr<Workspace> m_workspace;
 };
+
+} // namespace host

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+namespace host {
+
 const char* const usageText =
     "Uso: quovar [FILE]\n"
     "     quovar --gallery CARTELLA [FILE]\n"
@@ -74,3 +76,5 @@ Options ParseOptions(int argc, char** argv) {
     }
     return options;
 }
+
+} // namespace host

@@ -3,6 +3,8 @@
 
 #include <string>
 
+namespace host {
+
 struct Options {
     enum class Action { Open, Gallery, GalleryPictures, Smoke, WriteExample, Results, Check, Help, Version, Invalid };
 
@@ -15,3 +17,5 @@ struct Options {
 Options ParseOptions(int argc, char** argv);
 
 extern const char* const usageText; // Italian, UTF-8
+
+} // namespace host

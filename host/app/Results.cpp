@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <new>
 
+namespace host {
+
 namespace {
 
 enum ExitStatus { success = 0, refused = 1, unreadable = 2 };
@@ -25,22 +27,22 @@ bool IsTextModel(const std::string& path) {
 }
 
 int PrintAll(HostDocument& document) {
-    const host::AnalysisOutcome outcome = document.RunAnalysis();
+    const AnalysisOutcome outcome = document.RunAnalysis();
     if (!outcome.done) {
         Tell(outcome.message);
         return refused;
     }
     for (const CString& each : outcome.notes)
         Tell(each);
-    std::vector<const host::CaseResults*> all;
-    for (const host::CaseResults& each : document.Analysis().Cases())
+    std::vector<const CaseResults*> all;
+    for (const CaseResults& each : document.Analysis().Cases())
         all.push_back(&each);
-    std::deque<host::CaseResults> combined;
+    std::deque<CaseResults> combined;
     for (int i = 0; i < document.GetSizeCombinazioni(); ++i) {
-        combined.push_back(host::Combine(*document.GetIndexCombinazione(i), document.Analysis().Cases()));
+        combined.push_back(Combine(*document.GetIndexCombinazione(i), document.Analysis().Cases()));
         all.push_back(&combined.back());
     }
-    host::WriteResults(document.Data(), all, stdout);
+    WriteResults(document.Data(), all, stdout);
     if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
         Tell("i risultati non si possono scrivere.");
         return refused;
@@ -66,3 +68,5 @@ int PrintResults(const std::string& path) {
         return refused;
     }
 }
+
+} // namespace host

@@ -19,6 +19,8 @@
 
 #include <cstdio>
 
+namespace host {
+
 namespace {
 
 constexpr int patienceMilliseconds = 10000; // a window manager on a busy machine takes its time
@@ -139,3 +141,5 @@ class Trial {
 int RunSmoke(Workspace& workspace) {
     return Trial(workspace).Run() ? 0 : 1;
 }
+
+} // namespace host

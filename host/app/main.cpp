@@ -10,6 +10,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace host;
+
 namespace {
 
 enum ExitStatus { success = 0, failure = 1, badUsage = 2, noModule = 3 };

@@ -5,6 +5,8 @@
 
 #include <new>
 
+namespace host {
+
 namespace {
 
 constexpr std::size_t mostSentences = 12; // as many as a message box shows well
@@ -28,7 +30,7 @@ bool RunAnalysis(HostDocument& document) {
         AfxMessageBox("L'analisi statica non è attiva."_t, MB_OK | MB_ICONEXCLAMATION);
         return false;
     }
-    host::AnalysisOutcome outcome;
+    AnalysisOutcome outcome;
     try {
         outcome = document.RunAnalysis();
     } catch (const std::bad_alloc&) {
@@ -45,3 +47,5 @@ bool RunAnalysis(HostDocument& document) {
         AfxMessageBox(Joined("Analisi eseguita con queste limitazioni:", outcome.notes), MB_OK | MB_ICONINFORMATION);
     return true;
 }
+
+} // namespace host

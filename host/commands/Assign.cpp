@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace host {
+
 namespace {
 
 // The selected objects of a kind, as one step.
@@ -103,3 +105,5 @@ void RunAssignReleases(HostDocument& document, QWidget& parent) {
     if (const auto chosen = AskReleases(parent, ReleasesOf(*first)))
         AssignReleases(document, *chosen);
 }
+
+} // namespace host

@@ -4,8 +4,11 @@
 #include "model/element/Vincolo.h"
 
 class CMolla;
-class HostDocument;
 class QWidget;
+
+namespace host {
+
+class HostDocument;
 
 // Of a beam: first its first end, then its second, each in the order of CSpecificheSvincoliTrave.
 struct EndReleases {
@@ -25,3 +28,5 @@ int AssignReleases(HostDocument& document, const EndReleases& releases);
 void RunAssignRestraint(HostDocument& document, QWidget& parent);
 void RunAssignSpring(HostDocument& document, QWidget& parent);
 void RunAssignReleases(HostDocument& document, QWidget& parent);
+
+} // namespace host

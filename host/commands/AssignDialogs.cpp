@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+namespace host {
+
 namespace {
 
 QCheckBox* CheckBox(const QString& name, const QString& text, bool checked) {
@@ -144,3 +146,5 @@ std::optional<EndReleases> AskReleases(QWidget& parent, const EndReleases& prese
             chosen.released[end][i] = boxes[end][i]->isChecked();
     return chosen;
 }
+
+} // namespace host

@@ -9,6 +9,8 @@
 
 class QWidget;
 
+namespace host {
+
 struct SpringChoice {
     std::optional<CMolla> spring; // empty: none, the present ones go
     bool keep = false;            // the present ones
@@ -18,3 +20,5 @@ std::optional<CVincolo> AskRestraint(QWidget& parent, const CVincolo& present);
 // The stiffness is in the given units.
 std::optional<SpringChoice> AskSpring(QWidget& parent, const CMolla& present, Lunghezza length, Forza force);
 std::optional<EndReleases> AskReleases(QWidget& parent, const EndReleases& present);
+
+} // namespace host

@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+namespace host {
+
 AssignForm::AssignForm(QWidget& parent, const QString& title) : QDialog(&parent) {
     setWindowTitle(title);
     auto* all = new QVBoxLayout(this);
@@ -47,3 +49,5 @@ bool ReadNumber(QLineEdit& edit, double& value) {
     value = edit.text().trimmed().toDouble(&ok);
     return (ok && std::isfinite(value)) || RefuseField(edit, "Immettere un numero.");
 }
+
+} // namespace host

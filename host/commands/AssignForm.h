@@ -11,6 +11,8 @@
 class QLineEdit;
 class QVBoxLayout;
 
+namespace host {
+
 // A titled dialog with rows above OK and Annulla.
 class AssignForm final : public QDialog {
   public:
@@ -36,3 +38,5 @@ QLineEdit* NumberField(const QString& name, double value);
 bool RefuseField(QLineEdit& edit, const CString& message);
 // False, and the user was told, unless the field is a finite number.
 bool ReadNumber(QLineEdit& edit, double& value);
+
+} // namespace host

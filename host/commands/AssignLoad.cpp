@@ -8,6 +8,8 @@
 #include <unordered_set>
 #include <vector>
 
+namespace host {
+
 namespace {
 
 using Numbers = std::unordered_set<int>;
@@ -17,7 +19,7 @@ constexpr char removeName[] = "Elimina Carichi";
 
 // Loads that left their case, which nothing refers to. Undo puts each back at its place: the order of a case's loads is
 // what its file and its sums follow.
-class Discard final : public host::Change {
+class Discard final : public Change {
   public:
     // Takes them out.
     Discard(CCasoCarico& loadCase, Numbers numbers) : m_case(loadCase), m_numbers(std::move(numbers)) { Redo(); }
@@ -170,3 +172,5 @@ void RunRemoveLoads(HostDocument& document, QWidget&) {
     else if (RemoveLoads(document, *loadCase) == 0)
         AfxMessageBox("Gli oggetti selezionati non hanno carichi nel caso \"" + loadCase->GetNome() + "\".");
 }
+
+} // namespace host

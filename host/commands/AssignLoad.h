@@ -7,8 +7,11 @@
 
 class CCarico;
 class CCasoCarico;
-class HostDocument;
 class QWidget;
+
+namespace host {
+
+class HostDocument;
 
 // Gives the load, in the document's units, to the case; all selected objects that can carry it (nodes, or beams and
 // truss members) refer to this one. Returns how many; without any there is no step.
@@ -25,3 +28,5 @@ CFPoint SelfWeightOf(CCasoCarico& loadCase);
 // The same, asked for in a dialog, or for the current load case. A message when it cannot be done.
 void RunAssignLoad(HostDocument& document, QWidget& parent);
 void RunRemoveLoads(HostDocument& document, QWidget& parent);
+
+} // namespace host

@@ -19,6 +19,8 @@
 #include <limits>
 #include <vector>
 
+namespace host {
+
 namespace {
 
 // What can carry loads among the selected objects.
@@ -180,7 +182,7 @@ class LoadForm {
         for (std::size_t i = 0; i < Chosen().fields.size(); ++i) {
             if (Chosen().fields[i].role != LoadField::Role::Place)
                 continue;
-            if (values[i] < 0 || values[i] > m_carriers.shortest * (1 + host::sameEnd)) {
+            if (values[i] < 0 || values[i] > m_carriers.shortest * (1 + sameEnd)) {
                 CString message;
                 message.Format("La distanza deve essere compresa tra 0 e %.15g %s, la lunghezza dell'elemento "
                                "selezionato più corto."_t,
@@ -227,3 +229,5 @@ class LoadForm {
 LoadChoice AskLoad(QWidget& parent, HostDocument& document) {
     return LoadForm(parent, document).Ask();
 }
+
+} // namespace host

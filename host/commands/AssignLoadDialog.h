@@ -7,8 +7,11 @@
 #include <memory>
 
 class CCasoCarico;
-class HostDocument;
 class QWidget;
+
+namespace host {
+
+class HostDocument;
 
 struct LoadChoice {
     CCasoCarico* loadCase = nullptr; // the document's
@@ -17,3 +20,5 @@ struct LoadChoice {
 
 // The document must have a load case.
 LoadChoice AskLoad(QWidget& parent, HostDocument& document);
+
+} // namespace host

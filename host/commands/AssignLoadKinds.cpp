@@ -1,5 +1,7 @@
 #include "host/commands/AssignLoadKinds.h"
 
+namespace host {
+
 namespace {
 
 using Role = LoadField::Role;
@@ -90,3 +92,5 @@ const LoadKind kinds[] = {
 std::span<const LoadKind> LoadKinds() {
     return kinds;
 }
+
+} // namespace host

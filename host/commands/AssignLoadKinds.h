@@ -8,6 +8,8 @@
 #include <memory>
 #include <span>
 
+namespace host {
+
 struct LoadField {
     enum class Role {
         Value,       // a load without any of these is none
@@ -42,3 +44,5 @@ struct LoadKind {
 };
 
 std::span<const LoadKind> LoadKinds();
+
+} // namespace host

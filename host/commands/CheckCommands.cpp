@@ -9,6 +9,8 @@
 
 #include <QString>
 
+namespace host {
+
 namespace {
 
 enum ExitStatus { success = 0, faulty = 1, unreadable = 2 };
@@ -45,3 +47,5 @@ int PrintCheck(Workspace& workspace, const QString& path, std::FILE* out) {
     workspace.Tools().End(dialog);
     return printed && last == closingRow ? success : faulty;
 }
+
+} // namespace host

@@ -3,8 +3,11 @@
 
 #include <cstdio>
 
-class HostDocument;
 class QString;
+
+namespace host {
+
+class HostDocument;
 class Workspace;
 
 // The check window does not check on its own: this asks every open one of the document to.
@@ -15,3 +18,5 @@ void RequestCheck(HostDocument& document);
 // with the closing row), 1 when it is not or the check cannot be carried out, 2, after a message, when the file cannot
 // be read.
 int PrintCheck(Workspace& workspace, const QString& path, std::FILE* out = stdout);
+
+} // namespace host

@@ -15,6 +15,8 @@
 #include "host/commands/CheckCommands.h"
 #include "host/commands/LoadCommands.h"
 
+namespace host {
+
 namespace {
 
 template <class Dialog>
@@ -55,3 +57,5 @@ std::span<const ToolCommand> ToolCommands() {
 std::span<const ModalCommand> ModalCommands() {
     return modalCommands;
 }
+
+} // namespace host

@@ -6,6 +6,9 @@
 
 class CDialogDocument;
 class CWnd;
+
+namespace host {
+
 class HostDocument;
 
 // Prompts are parts of other commands: they have no entry of their own and are only shown in the gallery.
@@ -28,3 +31,5 @@ struct ModalCommand {
 
 std::span<const ToolCommand> ToolCommands();   // in menu order
 std::span<const ModalCommand> ModalCommands(); // in menu order, before the tools of their menu
+
+} // namespace host

@@ -10,6 +10,8 @@
 #include "model/entity/Gruppo.h"
 #include "platform/window/Application.h"
 
+namespace host {
+
 void RunLoadCaseList(HostDocument& document, CWnd& frame) {
     CDialogListaCasiCarico(&document, &frame).DoModal();
 }
@@ -56,3 +58,5 @@ void RunNamePrompt(HostDocument&, CWnd& frame) {
     dialog.m_strEtichetta = "Nome :";
     dialog.DoModal();
 }
+
+} // namespace host

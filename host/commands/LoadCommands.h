@@ -2,6 +2,9 @@
 #pragma once
 
 class CWnd;
+
+namespace host {
+
 class HostDocument;
 
 void RunLoadCaseList(HostDocument& document, CWnd& frame);
@@ -10,3 +13,5 @@ void RunNewCombination(HostDocument& document, CWnd& frame);
 void RunChangeCombination(HostDocument& document, CWnd& frame); // the current one
 void RunNewGroup(HostDocument& document, CWnd& frame);          // of what is selected
 void RunNamePrompt(HostDocument& document, CWnd& frame);        // the bare prompt, for pictures
+
+} // namespace host

@@ -10,9 +10,10 @@
 class CCarico;
 class CElementoCarico;
 class CLineaFisica;
-class HostDocument;
 
 namespace host {
+
+class HostDocument;
 
 // Nodes of selected elements are copied with them. A place where a node lies within the document's tolerance gets no
 // second one, and nodes that have an element of the same kind between them get no second one either. Copies carry what

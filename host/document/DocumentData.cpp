@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace host {
+
 unsigned CodeOf(Kind kind) {
     static constexpr unsigned codes[kindCount] = {
         TipoElemento::Nodo,      TipoElemento::Trave,      TipoElemento::Asta,         TipoElemento::Setto,
@@ -250,3 +252,5 @@ CCarico* DocumentData::FindLoad(int idCasoCarico, int idCarico) {
     auto* loadCase = FindAs<CCasoCarico>(Kind::LoadCase, idCasoCarico);
     return loadCase ? loadCase->GetCarico(idCarico, nullptr) : nullptr;
 }
+
+} // namespace host

@@ -17,6 +17,8 @@ class CCasoCarico;
 class CLineaFisica;
 class CPoligonoFisico;
 
+namespace host {
+
 enum class Kind { Node, Beam, Truss, Wall, Slab, LoadCase, Combination, Group, Material, Section, Thickness };
 inline constexpr std::size_t kindCount = 11;
 inline constexpr Kind allKinds[] = {Kind::Node,     Kind::Beam,     Kind::Truss,       Kind::Wall,
@@ -154,3 +156,5 @@ class DocumentData : public ModelLookup {
     ProjectInfo m_info;
     int m_currentCase = 0;
 };
+
+} // namespace host

@@ -4,6 +4,8 @@
 class CObject;
 class CView;
 
+namespace host {
+
 struct DocumentObserver {
     virtual ~DocumentObserver() = default;
 
@@ -11,3 +13,5 @@ struct DocumentObserver {
     // that is removed hears nothing more, one that is added hears of the next change.
     virtual void OnDocumentUpdate(CView* sender, long hint, CObject* pHint) = 0;
 };
+
+} // namespace host

@@ -13,6 +13,8 @@
 #include "model/entity/Spessore.h"
 #include "model/load/Carico.h"
 
+namespace host {
+
 namespace {
 
 // Columns stand on a grid of 3 by 2 places, 5 m apart; the floors are 3.2 m apart.
@@ -186,3 +188,5 @@ class Example {
 void BuildExample(HostDocument& document) {
     document.Replace(Example().Build());
 }
+
+} // namespace host

@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+namespace host {
+
 HostDocument::HostDocument() : m_selection(*this), m_undo(*this) {
     m_pAnalisi = &m_analysis;
     m_pProgetto = &m_design;
@@ -130,9 +132,9 @@ void HostDocument::InvalidateResults() {
     m_pendingResults |= m_analysis.Clear();
 }
 
-host::AnalysisOutcome HostDocument::RunAnalysis() {
+AnalysisOutcome HostDocument::RunAnalysis() {
     Idle(); // a step that is still open would make the results invalid when it ends
-    host::AnalysisOutcome outcome = m_analysis.Run();
+    AnalysisOutcome outcome = m_analysis.Run();
     m_pendingResults = false;
     UpdateAllViews(nullptr, outcome.done ? MODIFICA_RISULTATI : MODIFICA_RISULTATI_ELIMINATI, nullptr);
     return outcome;
@@ -174,12 +176,12 @@ void HostDocument::RefreshModified() {
 // ---- Changes
 
 void HostDocument::RecordBefore(CElemento& object) {
-    if (auto* last = dynamic_cast<host::Attributes*>(m_undo.Last()); last && &last->Object() == &object)
+    if (auto* last = dynamic_cast<Attributes*>(m_undo.Last()); last && &last->Object() == &object)
         return;
     if (auto* loadCase = DYNAMIC_DOWNCAST(CCasoCarico, &object))
-        m_undo.Record(std::make_unique<host::EntityName>(*loadCase), "Modifica");
+        m_undo.Record(std::make_unique<EntityName>(*loadCase), "Modifica");
     else
-        m_undo.Record(std::make_unique<host::Attributes>(m_data, object), "Modifica");
+        m_undo.Record(std::make_unique<Attributes>(m_data, object), "Modifica");
 }
 
 void HostDocument::Modify(CElemento& object, const std::function<void()>& change) {
@@ -190,13 +192,13 @@ void HostDocument::Modify(CElemento& object, const std::function<void()>& change
 
 void HostDocument::MoveNodes(const std::vector<std::pair<CNodo*, CFPoint>>& places) {
     if (!places.empty())
-        m_undo.Record(std::make_unique<host::Movement>(m_data, places), "Muovi");
+        m_undo.Record(std::make_unique<Movement>(m_data, places), "Muovi");
 }
 
 template <class T>
 void HostDocument::SetValue(T& where, T value, const char* stepName) {
     if (where != value)
-        m_undo.Record(std::make_unique<host::Value<T>>(where, std::move(value)), stepName);
+        m_undo.Record(std::make_unique<Value<T>>(where, std::move(value)), stepName);
 }
 
 void HostDocument::SetTolerance(double tolerance) {
@@ -207,7 +209,7 @@ void HostDocument::SetTolerance(double tolerance) {
 void HostDocument::ChangeUnits(Lunghezza length, Forza force) {
     if (length == m_data.Units().length && force == m_data.Units().force)
         return;
-    m_undo.Record(std::make_unique<host::UnitChange>(m_data, DocumentUnits{length, force}), "Cambia unità di misura");
+    m_undo.Record(std::make_unique<UnitChange>(m_data, DocumentUnits{length, force}), "Cambia unità di misura");
     UpdateAllViews(nullptr, MODIFICA_LUNGHEZZE, nullptr);
     UpdateAllViews(nullptr, MODIFICA_UNITA, nullptr);
 }
@@ -329,7 +331,7 @@ void HostDocument::RemoveFromLists(const std::vector<CElemento*>& objects) {
     for (std::size_t i = 0; i < kindCount; ++i)
         if (!byKind[i].empty())
             m_undo.Record(
-                std::make_unique<host::Removal>(m_data, static_cast<Kind>((i + 1) % kindCount), std::move(byKind[i])),
+                std::make_unique<Removal>(m_data, static_cast<Kind>((i + 1) % kindCount), std::move(byKind[i])),
                 "Elimina");
 }
 
@@ -355,3 +357,5 @@ void HostDocument::Remove(std::vector<CElemento*> objects) {
 void HostDocument::DeleteSelection() {
     Remove(m_selection.All());
 }
+
+} // namespace host

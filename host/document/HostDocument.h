@@ -11,7 +11,7 @@
 #include "dialogs/frame/QuovarProgetto.h"
 #include "host/document/DocumentData.h"
 #include "host/document/DocumentObserver.h"
-#include "host/document/HostAnalisi.h"
+#include "host/document/HostAnalysis.h"
 #include "host/document/HostSelection.h"
 #include "host/document/HostUndo.h"
 
@@ -20,6 +20,8 @@
 #include <unordered_map>
 #include <utility>
 #include <vector>
+
+namespace host {
 
 // The type text of a dynamic seismic load case.
 inline constexpr char dynamicSeismicCase[] = "Sismico dinamico";
@@ -199,7 +201,7 @@ class HostDocument : public CQuovarDoc {
 
     // Analyses the model. Then the results are valid, until the next change, and the elements show the current case; or
     // the outcome tells why not. Throws std::bad_alloc.
-    host::AnalysisOutcome RunAnalysis();
+    AnalysisOutcome RunAnalysis();
     const HostAnalysis& Analysis() const { return m_analysis; }
     // Results no longer belong to the model.
     void InvalidateResults();
@@ -261,3 +263,5 @@ class HostDocument : public CQuovarDoc {
     } m_newCase;
     std::size_t m_savedState = 0;
 };
+
+} // namespace host

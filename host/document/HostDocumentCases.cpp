@@ -6,6 +6,8 @@
 #include "model/entity/Gruppo.h"
 #include "platform/window/Application.h"
 
+namespace host {
+
 namespace {
 
 constexpr int longestName = 64;
@@ -80,7 +82,7 @@ int HostDocument::SelectCasoCarico(int id) {
         return 0;
     m_announcedCase = id; // below
     if (m_data.CurrentCase() != id)
-        m_undo.Record(std::make_unique<host::CurrentCase>(m_data.CurrentCase(), id), "Seleziona caso di carico");
+        m_undo.Record(std::make_unique<CurrentCase>(m_data.CurrentCase(), id), "Seleziona caso di carico");
     // The current one too: its results may be others now.
     ShowCurrentCase();
     return 1;
@@ -169,7 +171,7 @@ CCarico* HostDocument::AddCarico(CCasoCarico& loadCase, std::unique_ptr<CCarico>
     UndoStep step(m_undo, "Aggiungi carico");
     load->SetLunghezza(m_data.Units().length);
     load->SetForza(m_data.Units().force);
-    auto change = std::make_unique<host::LoadMembership>(loadCase, std::move(load));
+    auto change = std::make_unique<LoadMembership>(loadCase, std::move(load));
     CCarico* added = change->Load();
     m_undo.Record(std::move(change), "Aggiungi carico");
     return added;
@@ -183,7 +185,7 @@ void HostDocument::EliminaCarico(CCasoCarico& loadCase, int loadId) {
         if (carrier.IsCarico(loadCase.GetID(), loadId, nullptr))
             Modify(carrier, [&] { carrier.EliminaCarico(loadCase.GetID(), loadId); });
     });
-    m_undo.Record(std::make_unique<host::LoadMembership>(loadCase, loadId), "Elimina carico");
+    m_undo.Record(std::make_unique<LoadMembership>(loadCase, loadId), "Elimina carico");
 }
 
 void HostDocument::ForEachCarrier(const std::function<void(CElementoCarico&)>& action) {
@@ -210,7 +212,7 @@ CGruppo* HostDocument::CreateGroup(const CString& name) {
         group->AddElemento(element->GetTipoElemento(), element->GetID());
     CGruppo* added = AddNew(std::move(group));
     if (added)
-        m_undo.Record(std::make_unique<host::Grouping>(m_data, *added), "Crea gruppo");
+        m_undo.Record(std::make_unique<Grouping>(m_data, *added), "Crea gruppo");
     return added;
 }
 
@@ -222,3 +224,5 @@ int HostDocument::EliminaGruppo(int index) {
     Remove({group});
     return 1;
 }
+
+} // namespace host

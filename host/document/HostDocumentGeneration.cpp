@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace host {
+
 namespace {
 
 constexpr char generationStep[] = "Generazione nodi";
@@ -29,11 +31,11 @@ CElemento* HostDocument::Add(std::unique_ptr<CElemento> object, const char* step
     if (!m_data.Append(object))
         return nullptr;
     // Consecutive creations are one change: a million nodes need no million records.
-    if (auto* creation = dynamic_cast<host::Creation*>(m_undo.Last())) {
+    if (auto* creation = dynamic_cast<Creation*>(m_undo.Last())) {
         creation->Add(kind);
         return added;
     }
-    auto creation = std::make_unique<host::Creation>(m_data);
+    auto creation = std::make_unique<Creation>(m_data);
     creation->Add(kind);
     m_undo.Record(std::move(creation), stepName);
     return added;
@@ -55,29 +57,29 @@ CNodo* HostDocument::MakeNode(const CFPoint& place) {
 }
 
 int HostDocument::GenNodiLineare(CFPoint inizio, CFPoint direzione, double passo, int nNodi) {
-    return GenerateNodes(host::PlacesOnLine(inizio, direzione, passo, nNodi, m_data.Tolerance()));
+    return GenerateNodes(PlacesOnLine(inizio, direzione, passo, nNodi, m_data.Tolerance()));
 }
 
 int HostDocument::GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) {
-    return GenerateNodes(host::PlacesOnSegment(p1, p2, nNodi, m_data.Tolerance()));
+    return GenerateNodes(PlacesOnSegment(p1, p2, nNodi, m_data.Tolerance()));
 }
 
 int HostDocument::GenNodiArco3Punti(int piano, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) {
-    return GenerateNodes(host::PlacesOnArc(piano, p1, p2, p3, nNodi, m_data.Tolerance()));
+    return GenerateNodes(PlacesOnArc(piano, p1, p2, p3, nNodi, m_data.Tolerance()));
 }
 
 int HostDocument::GenNodiArcoCerchio(int piano, double inclinazione, CFPoint centro, CFPoint inizio, double angolo,
                                      int nNodi) {
-    return GenerateNodes(host::PlacesOnArc(piano, inclinazione, centro, inizio, angolo, nNodi, m_data.Tolerance()));
+    return GenerateNodes(PlacesOnArc(piano, inclinazione, centro, inizio, angolo, nNodi, m_data.Tolerance()));
 }
 
 int HostDocument::GenNodiCerchio(int piano, double inclinazione, int nNodi, CFPoint centro, double raggio) {
-    return GenerateNodes(host::PlacesOnCircle(piano, inclinazione, centro, raggio, nNodi, m_data.Tolerance()));
+    return GenerateNodes(PlacesOnCircle(piano, inclinazione, centro, raggio, nNodi, m_data.Tolerance()));
 }
 
 int HostDocument::Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, int nSuddivisioni1, int nSuddivisioni2) {
     const std::vector<CFPoint> places =
-        host::PlacesInQuadrilateral({p1, p2, p3, p4}, nSuddivisioni1, nSuddivisioni2, m_data.Tolerance());
+        PlacesInQuadrilateral({p1, p2, p3, p4}, nSuddivisioni1, nSuddivisioni2, m_data.Tolerance());
     if (places.empty() || !std::all_of(places.begin(), places.end(), IsUsablePlace))
         return 0;
     UndoStep step(m_undo, "Mesh");
@@ -168,3 +170,5 @@ CSetto* HostDocument::AddSetto(const std::vector<int>& idNodi) {
 CSolaio* HostDocument::AddSolaio(const std::vector<int>& idNodi) {
     return AddPolygon<CSolaio>(idNodi, "Aggiungi solaio");
 }
+
+} // namespace host

@@ -13,6 +13,8 @@
 #include "model/entity/Sezione.h"
 #include "model/entity/Spessore.h"
 
+namespace host {
+
 namespace {
 
 constexpr Kind elementKinds[] = {Kind::Beam, Kind::Truss, Kind::Wall, Kind::Slab};
@@ -191,3 +193,5 @@ Adv3d* HostDocument::GetVista() {
 CQuovarView* HostDocument::GetViewStructure() {
     return m_activeView;
 }
+
+} // namespace host

@@ -4,6 +4,8 @@
 #include "host/document/HostDocument.h"
 #include "model/entity/CasoCarico.h"
 
+namespace host {
+
 void HostDocument::RememberNames() {
     m_names.clear();
     for (const Kind kind : {Kind::LoadCase, Kind::Combination})
@@ -30,13 +32,13 @@ void HostDocument::RecordDirectChanges() {
 }
 
 void HostDocument::RecordNewNames() {
-    std::vector<std::unique_ptr<host::Change>> changes;
+    std::vector<std::unique_ptr<Change>> changes;
     for (const Kind kind : {Kind::LoadCase, Kind::Combination})
         for (int i = 0; i < m_data.Size(kind); ++i) {
             auto* entity = m_data.As<CElementoStrutturale>(kind, i);
             const auto known = m_names.find(entity->GetID());
             if (known != m_names.end() && known->second != entity->GetNome())
-                changes.push_back(std::make_unique<host::EntityName>(*entity, known->second));
+                changes.push_back(std::make_unique<EntityName>(*entity, known->second));
         }
     if (changes.empty())
         return;
@@ -63,5 +65,7 @@ void HostDocument::RecordFilledCase() {
         }
     });
     if (!carriers.empty())
-        m_undo.Record(std::make_unique<host::Carrying>(*loadCase, carriers), stepName);
+        m_undo.Record(std::make_unique<Carrying>(*loadCase, carriers), stepName);
 }
+
+} // namespace host

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace host {
+
 HostSelection::HostSelection(HostDocument& document) : m_document(document) {
 }
 
@@ -217,3 +219,5 @@ void HostSelection::SelezionaElementiRange(CFPoint da, CFPoint a, int nodi, int 
                 found.push_back(element);
     Add(found);
 }
+
+} // namespace host

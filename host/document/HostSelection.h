@@ -10,12 +10,13 @@
 #include <vector>
 
 class CElemento;
-class HostDocument;
 
 namespace host {
+
+class HostDocument;
+
 class Copier;
 class Motion;
-} // namespace host
 
 class HostSelection : public CQuovarSelection {
   public:
@@ -68,7 +69,7 @@ class HostSelection : public CQuovarSelection {
   private:
     unsigned Put(CElemento* element);
     void Changed(unsigned kinds);
-    void Transform(const host::Motion& motion, int copies, int join, const char* stepName, const CString& message);
+    void Transform(const Motion& motion, int copies, int join, const char* stepName, const CString& message);
 
     HostDocument& m_document;
     std::vector<CElemento*> m_all;
@@ -76,6 +77,8 @@ class HostSelection : public CQuovarSelection {
     Snapshot m_snapshot; // of the current state, or null
     CObList m_list;
     bool m_listValid = false;
-    std::unique_ptr<host::Copier> m_cycle; // between the start and the end of a copy cycle
-    bool m_refused = false;                // the last command, or its rest: too many copies
+    std::unique_ptr<Copier> m_cycle; // between the start and the end of a copy cycle
+    bool m_refused = false;          // the last command, or its rest: too many copies
 };
+
+} // namespace host

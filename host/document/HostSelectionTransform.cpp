@@ -10,9 +10,9 @@
 #include <numbers>
 #include <utility>
 
-namespace {
+namespace host {
 
-using host::Motion;
+namespace {
 
 void TellTooMany(bool interrupted) {
     AfxMessageBox(interrupted ? "Troppe copie: il comando è stato interrotto."_t
@@ -50,8 +50,8 @@ std::vector<std::pair<CLineaFisica*, double>> TurnsOf(const std::vector<CNodo*>&
             // Each line once, from its first node.
             if (!line || line->GetNodoIniziale() != node || !line->GetNodoFinale()->IsAlready())
                 continue;
-            const double beta = host::BetaAfter(*line, motion, motion.Place(*node->GetPunto()),
-                                                motion.Place(*line->GetNodoFinale()->GetPunto()));
+            const double beta = BetaAfter(*line, motion, motion.Place(*node->GetPunto()),
+                                          motion.Place(*line->GetNodoFinale()->GetPunto()));
             if (std::fabs(std::remainder(beta - line->GetBeta(), 360)) > 1e-9)
                 turns.emplace_back(line, beta);
         }
@@ -78,7 +78,7 @@ void Move(HostDocument& document, const Motion& motion) {
 
 // False, and nothing made, for too many.
 bool Copy(HostDocument& document, const Motion& motion, int copies, int join, const CString& message) {
-    host::Copier copier(document, document.Selection().All());
+    Copier copier(document, document.Selection().All());
     if (!copier.Accepts(copies))
         return false;
     WaitBar bar(message, static_cast<unsigned>(copies) * static_cast<unsigned>(copier.Objects()));
@@ -155,7 +155,7 @@ void HostSelection::SpecchiaSelezione(double x, double y, double z, int piano) {
 void HostSelection::InizioCicloTraslaSelezione(Adv3dRect&, CObList& oggetti) {
     for (CElemento* element : m_all)
         oggetti.AddTail(element);
-    m_cycle = std::make_unique<host::Copier>(m_document, m_all);
+    m_cycle = std::make_unique<Copier>(m_document, m_all);
     m_refused = false;
     m_document.Undo().Rename("Copia Trasla");
 }
@@ -176,3 +176,5 @@ void HostSelection::FineCicloTraslaSelezione(Adv3dRect&, unsigned int) {
     if (m_refused)
         TellTooMany(true);
 }
+
+} // namespace host

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 
+namespace host {
+
 struct HostUndo::Step {
     std::string name;
-    std::vector<std::unique_ptr<host::Change>> changes;
+    std::vector<std::unique_ptr<Change>> changes;
     HostSelection::Snapshot before, after;
     std::size_t stateBefore = 0, stateAfter = 0;
 
@@ -135,7 +137,7 @@ void HostUndo::CloseStep() {
     m_document.NotifyChange(model);
 }
 
-void HostUndo::Record(std::unique_ptr<host::Change> change, const char* name) {
+void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {
     if (m_running)
         return;
     if (!m_open)
@@ -146,7 +148,7 @@ void HostUndo::Record(std::unique_ptr<host::Change> change, const char* name) {
         Settle();
 }
 
-host::Change* HostUndo::Last() {
+Change* HostUndo::Last() {
     return m_open && !m_open->changes.empty() ? m_open->changes.back().get() : nullptr;
 }
 
@@ -212,3 +214,5 @@ std::size_t HostUndo::State() const {
         return m_steps[m_position - 1]->stateAfter;
     return m_steps.empty() ? m_lastState : m_steps.front()->stateBefore;
 }
+
+} // namespace host

@@ -9,9 +9,10 @@
 #include <vector>
 
 class CElemento;
-class HostDocument;
 
 namespace host {
+
+class HostDocument;
 
 // One reversible change of a document. It has happened when it is recorded.
 class Change {
@@ -22,8 +23,6 @@ class Change {
     // False for what only says how the model is looked at: its results stay valid.
     virtual bool ChangesModel() const { return true; }
 };
-
-} // namespace host
 
 class HostUndo : public CQuovarUndo {
   public:
@@ -61,9 +60,9 @@ class HostUndo : public CQuovarUndo {
 
     // Takes a change that has just been made. Outside every bracket it opens a step of that name by itself, closed at
     // once, or when control is back in the event loop (see HostDocument::SetIdleScheduler).
-    void Record(std::unique_ptr<host::Change> change, const char* name);
+    void Record(std::unique_ptr<Change> change, const char* name);
     // The change recorded last in the open step, for those that can take one more; null at the start of a step.
-    host::Change* Last();
+    Change* Last();
 
     bool CanUndo() const { return m_position > 0 || HasOpenChanges(); }
     bool CanRedo() const { return m_position < m_steps.size() && !HasOpenChanges(); }
@@ -124,3 +123,5 @@ class SharedStep {
   private:
     HostUndo& m_undo;
 };
+
+} // namespace host

@@ -13,9 +13,9 @@
 #include <map>
 #include <tuple>
 
-namespace {
+namespace host {
 
-using namespace host;
+namespace {
 
 constexpr std::streamoff longestFile = 512 << 20; // bytes
 
@@ -257,3 +257,5 @@ DocumentData ImportFrame3dd(const std::string& path, std::vector<CString>* notes
         throw FileError("Errore di lettura del file.");
     return ImportFrame3ddText(text, notes);
 }
+
+} // namespace host

@@ -5,6 +5,8 @@
 
 #include <string>
 
+namespace host {
+
 // Both take the file's path as the system spells it and throw FileError.
 
 // Writes a new file beside the old one, has it on the disk, and only then gives it the old one's name: whenever the
@@ -16,3 +18,5 @@ void SaveProject(const DocumentData& data, const std::string& path, const std::s
 // The content of the file. Nothing in it is trusted: a file that is not exactly a project of this format, or that says
 // anything that a document cannot be, is refused as a whole.
 DocumentData LoadProject(const std::string& path);
+
+} // namespace host

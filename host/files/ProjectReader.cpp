@@ -14,9 +14,9 @@
 #include <limits>
 #include <unordered_set>
 
-namespace {
+namespace host {
 
-using namespace host;
+namespace {
 
 // More corners than any real wall; a bound, because each vertex is compared with those before it.
 constexpr int mostVertices = 1000;
@@ -346,3 +346,5 @@ DocumentData LoadProject(const std::string& path) {
     CheckSchema(database);
     return Reader(database).Read();
 }
+
+} // namespace host

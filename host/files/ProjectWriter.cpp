@@ -18,9 +18,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
+namespace host {
 
-using namespace host;
+namespace {
 
 class Writer {
   public:
@@ -273,3 +273,5 @@ void SaveProject(const DocumentData& data, const std::string& path, const std::s
     }
     file.Commit();
 }
+
+} // namespace host

@@ -7,6 +7,8 @@
 
 #include <cstring>
 
+namespace host {
+
 namespace {
 
 // Drawn in a square of 24 units.
@@ -65,3 +67,5 @@ QIcon ToolIcon(const char* name) {
     }
     return icon;
 }
+
+} // namespace host

@@ -3,5 +3,9 @@
 
 #include <QIcon>
 
+namespace host {
+
 // By name ("nodi", "travi", "xy", "quovar", ...); an empty icon for an unknown name. Sharp at every scale.
 QIcon ToolIcon(const char* name);
+
+} // namespace host

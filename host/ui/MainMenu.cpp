@@ -23,6 +23,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace host {
+
 namespace {
 
 struct KindEntry {
@@ -318,3 +320,5 @@ void MainMenu::Refresh(HostView* view) {
     m_undo->setText(withStep("&Annulla", undo ? undo->UndoName() : CString()));
     m_redo->setText(withStep("&Ripristina", undo ? undo->RedoName() : CString()));
 }
+
+} // namespace host

@@ -7,10 +7,13 @@
 #include <functional>
 #include <vector>
 
-class HostView;
-class MainWindow;
 class QAction;
 class QMenu;
+
+namespace host {
+
+class HostView;
+class MainWindow;
 class Workspace;
 enum class CommandMenu;
 
@@ -58,3 +61,5 @@ class MainMenu {
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
 };
+
+} // namespace host

@@ -27,6 +27,8 @@
 
 #include <algorithm>
 
+namespace host {
+
 BEGIN_MESSAGE_MAP(HostFrame, CMainFrame)
     ON_WM_CLOSE()
 END_MESSAGE_MAP()
@@ -239,3 +241,5 @@ void MainWindow::dropEvent(QDropEvent* event) {
         if (url.isLocalFile())
             m_workspace.Open(url.toLocalFile());
 }
+
+} // namespace host

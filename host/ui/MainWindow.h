@@ -12,12 +12,15 @@
 #include <utility>
 #include <vector>
 
-class HostView;
-class MainMenu;
 class QComboBox;
 class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
+
+namespace host {
+
+class HostView;
+class MainMenu;
 class Workspace;
 
 // The main window as the dialogs see it.
@@ -80,3 +83,5 @@ class MainWindow final : public platform::Hosted<QMainWindow> {
     std::unique_ptr<MainMenu> m_menu;
     bool m_refreshScheduled = false;
 };
+
+} // namespace host

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace host {
+
 namespace {
 constexpr int orphanWatchMilliseconds = 200;
 }
@@ -53,7 +55,7 @@ void ToolDialogs::End(const CDialogDocument* dialog) {
     std::unique_ptr<CDialogDocument> ended = std::move(found->dialog);
     m_open.erase(found);
     ended->DestroyWindow();
-    host::DeleteLater(std::move(ended));
+    DeleteLater(std::move(ended));
 }
 
 void ToolDialogs::EndAll() {
@@ -125,3 +127,5 @@ void ToolDialogs::EndCancelledOrphans() {
     if (!orphans)
         m_orphanWatch.stop();
 }
+
+} // namespace host

@@ -9,6 +9,9 @@
 class CDialogDocument;
 class CObject;
 class CView;
+
+namespace host {
+
 class HostView;
 
 // A view has at most one tool dialog. A dialog whose view was closed stays open without one until a view without a
@@ -47,3 +50,5 @@ class ToolDialogs {
     std::vector<Entry> m_open;
     QTimer m_orphanWatch;
 };
+
+} // namespace host

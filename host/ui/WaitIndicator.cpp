@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <climits>
 
+namespace host {
+
 namespace {
 constexpr int refreshMilliseconds = 50; // more often would make the bar slower than the command
 }
@@ -58,3 +60,5 @@ void WaitIndicator::KeepAlive() {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     m_sinceRefresh.start();
 }
+
+} // namespace host

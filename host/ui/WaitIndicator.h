@@ -8,6 +8,8 @@ class QLabel;
 class QProgressBar;
 class QStatusBar;
 
+namespace host {
+
 class WaitIndicator {
   public:
     // The widgets belong to the status bar, which outlives this object.
@@ -31,3 +33,5 @@ class WaitIndicator {
     unsigned m_steps = 0;
     unsigned m_done = 0;
 };
+
+} // namespace host

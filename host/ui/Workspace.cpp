@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+namespace host {
+
 Workspace::Workspace() {
     m_window = std::make_unique<MainWindow>(*this); // asks this object, whole by now, what to show
     if (CWinApp* application = AfxGetApp())
@@ -138,7 +140,7 @@ void Workspace::ReleaseView(HostView& view) {
     document.SetActiveView(nullptr);
     closing->Close();
     m_window->RemoveView(*closing);
-    host::DeleteLater(std::move(closing));
+    DeleteLater(std::move(closing));
     if (std::none_of(m_views.begin(), m_views.end(), [&](const auto& each) { return &each->Document() == &document; }))
         std::erase_if(m_projects, [&document](const auto& each) { return each->document.get() == &document; });
     if (!m_active && !m_views.empty())
@@ -260,3 +262,5 @@ CCasoCarico* Workspace::CreaCasoCarico(CQuovarDoc* pDoc) {
     auto* document = dynamic_cast<HostDocument*>(pDoc);
     return document ? document->CreaCasoCarico() : nullptr;
 }
+
+} // namespace host

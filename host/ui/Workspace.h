@@ -13,6 +13,8 @@
 #include <memory>
 #include <vector>
 
+namespace host {
+
 class HostDocument;
 class MainWindow;
 struct ModalCommand;
@@ -110,3 +112,5 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     int m_untitled = 0;
     bool m_executing = false;
 };
+
+} // namespace host

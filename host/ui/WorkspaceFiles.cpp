@@ -16,6 +16,8 @@
 
 #include <new>
 
+namespace host {
+
 namespace {
 
 const QString allModels = QStringLiteral("Modelli (*.asg *.3dd)");
@@ -168,3 +170,5 @@ bool Workspace::AskToSave(Project& project) {
         return false;
     }
 }
+
+} // namespace host

@@ -21,6 +21,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace host {
+
 IMPLEMENT_DYNAMIC(HostView, CView)
 
 BEGIN_MESSAGE_MAP(HostView, CView)
@@ -322,3 +324,5 @@ LRESULT HostView::OnFineDialogo(WPARAM wParam, LPARAM lParam) {
         m_owner.EndTool(*this, reinterpret_cast<const CDialogDocument*>(lParam));
     return 0;
 }
+
+} // namespace host

@@ -12,8 +12,11 @@
 #include <functional>
 #include <optional>
 
-class HostDocument;
 class QWidget;
+
+namespace host {
+
+class HostDocument;
 class ViewOwner;
 class ViewWidget;
 
@@ -120,3 +123,5 @@ class HostView final : public CQuovarView, public DocumentObserver {
     bool m_fitted = false; // the user has not moved away from the whole model, which then follows the window's size
     bool m_empty = true;   // nothing was there to fit: the first nodes are fitted when they come
 };
+
+} // namespace host

@@ -10,6 +10,8 @@
 
 #include <cmath>
 
+namespace host {
+
 namespace {
 
 // Calls action(element) for each element of the wanted kinds.
@@ -107,3 +109,5 @@ std::vector<CElemento*> ObjectsIn(HostDocument& document, Adv3d& vista, CPoint a
     ForPlanes(document, filter, take);
     return found;
 }
+
+} // namespace host

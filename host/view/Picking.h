@@ -8,6 +8,9 @@
 class Adv3d;
 class CElemento;
 class CNodo;
+
+namespace host {
+
 class HostDocument;
 
 // The kinds of object that the user may select.
@@ -32,3 +35,5 @@ CElemento* ObjectAt(HostDocument& document, Adv3d& vista, CPoint at, const KindF
 
 // The objects of the wanted kinds that lie wholly in the rectangle of two opposite corners, in document order.
 std::vector<CElemento*> ObjectsIn(HostDocument& document, Adv3d& vista, CPoint a, CPoint b, const KindFilter& filter);
+
+} // namespace host

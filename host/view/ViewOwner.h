@@ -4,8 +4,11 @@
 class CDialogDocument;
 class CObject;
 class CView;
-class HostView;
 class QString;
+
+namespace host {
+
+class HostView;
 
 class ViewOwner {
   public:
@@ -23,3 +26,5 @@ class ViewOwner {
     // A long command is running: the model may be half changed and is not to be drawn.
     virtual bool IsWaiting() const = 0;
 };
+
+} // namespace host

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace host {
+
 namespace {
 
 // The projection draws on the context for as long as this lives.
@@ -93,3 +95,5 @@ bool GetBounds(HostDocument& document, CFPoint& minimum, CFPoint& maximum) {
     }
     return true;
 }
+
+} // namespace host

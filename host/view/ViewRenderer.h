@@ -4,6 +4,9 @@
 class Adv3d;
 class CDC;
 class CFPoint;
+
+namespace host {
+
 class HostDocument;
 
 // Draws slabs and walls, lines, nodes and then what the view's settings show beside them, with the loads of the current
@@ -13,3 +16,5 @@ void DrawModel(HostDocument& document, Adv3d& vista, CDC& dc, int stride = 1);
 
 // The box around all nodes; false when there is none.
 bool GetBounds(HostDocument& document, CFPoint& minimum, CFPoint& maximum);
+
+} // namespace host

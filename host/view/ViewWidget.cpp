@@ -17,6 +17,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace host {
+
 namespace {
 
 constexpr qint64 smoothMilliseconds = 40; // a picture takes no longer while the camera moves
@@ -263,3 +265,5 @@ void ViewWidget::leaveEvent(QEvent*) {
     update();
     m_view.Owner().ShowCoordinates({});
 }
+
+} // namespace host

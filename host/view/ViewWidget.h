@@ -8,8 +8,11 @@
 #include <QPoint>
 #include <QTimer>
 
-class HostView;
 class QPainter;
+
+namespace host {
+
+class HostView;
 
 // Left button: click selects or picks, drag selects by rectangle. Right button: orbit. Middle button, or right with
 // Shift: pan. Wheel: zoom at the pointer. Escape leaves vector definition or drops a rectangle.
@@ -60,3 +63,5 @@ class ViewWidget final : public platform::Hosted<QWidget> {
     QPoint m_pressed;
     QPoint m_pointer{-1, -1}; // outside while negative
 };
+
+} // namespace host

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+using namespace host;
+
 AnalysisModel::AnalysisModel() : firstCase(document.GetIndexCasoCarico(0)) {
     auto newMaterial = std::make_unique<CMateriale>();
     newMaterial->SetE(E);

@@ -42,7 +42,7 @@ class AnalysisModel {
     // An internal force of a line in the case that is shown.
     double Force(CLineaRisultati* line, int kind, double x, CTraveRisultati::Side side = CTraveRisultati::After);
 
-    HostDocument document;
+    host::HostDocument document;
     CMateriale* material;
     CSezione* section;
     CCasoCarico* firstCase;

@@ -7,6 +7,8 @@
 
 #include <cmath>
 
+using namespace host;
+
 namespace {
 
 using Model = AnalysisModel;

@@ -18,6 +18,8 @@
 #include <algorithm>
 #include <sstream>
 
+using namespace host;
+
 namespace {
 
 using Model = AnalysisModel;

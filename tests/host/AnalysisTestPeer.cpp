@@ -10,6 +10,8 @@
 #include <sstream>
 #include <string>
 
+using namespace host;
+
 namespace {
 
 using host::CaseResults;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace host;
+
 namespace {
 
 // Springs in a row that hang in the air: every row of the matrix sums to 0.

@@ -17,6 +17,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace host;
+
 namespace {
 
 const char* const textModel = "Mensola di prova (kN,m)\n"

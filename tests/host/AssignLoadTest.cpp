@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+using namespace host;
+
 namespace {
 
 // Fields of the kind that is shown: "x=1 z=-2".

@@ -14,6 +14,8 @@
 #include <QLineEdit>
 #include <QTemporaryDir>
 
+using namespace host;
+
 using AssignTest = WorkspaceTest;
 
 // Catches a box that stands for its neighbour, a command that is more than one step, and attributes that the file, the

@@ -13,7 +13,7 @@
 
 class CheckBuilder {
   public:
-    explicit CheckBuilder(HostDocument& document) : document(document) {
+    explicit CheckBuilder(host::HostDocument& document) : document(document) {
         auto material = std::make_unique<CMateriale>();
         material->SetNome("Calcestruzzo");
         this->material = document.AddNew(std::move(material));
@@ -40,7 +40,7 @@ class CheckBuilder {
         AssignSpring(document, &spring, true);
     }
     void Release(CTrave& beam, std::initializer_list<int> ends) {
-        EndReleases releases;
+        host::EndReleases releases;
         for (const int end : ends)
             releases.released[end][CSpecificheSvincoliTrave::M3] = true;
         Select(beam);
@@ -49,7 +49,7 @@ class CheckBuilder {
     CTrave* Beam(int a, int b) { return document.AddTrave(a, b, nullptr); }
     CNodo& At(int number) { return *document.Data().FindNode(number); }
 
-    HostDocument& document;
+    host::HostDocument& document;
     CMateriale* material;
 
   private:

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <filesystem>
 
+using namespace host;
+
 namespace {
 
 using Rows = std::vector<std::string>;

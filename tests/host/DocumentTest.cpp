@@ -13,6 +13,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace host;
+
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();

@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+using namespace host;
+
 namespace {
 
 class DocumentTransformTest : public testing::Test {

@@ -15,6 +15,8 @@
 
 #include <cstdio>
 
+using namespace host;
+
 namespace {
 
 class Dumper {

@@ -14,6 +14,8 @@
 #include <random>
 #include <string>
 
+using namespace host;
+
 namespace {
 
 // One of each load, separators of every sort, comments, and trailing data for another analysis.

@@ -21,6 +21,8 @@
 #include <QComboBox>
 #include <QTemporaryDir>
 
+using namespace host;
+
 namespace {
 
 constexpr int casesId = CDialogListaCasiCarico::IDC_LIST_CASICARICO;

@@ -15,6 +15,8 @@
 #include <QMenuBar>
 #include <QTest>
 
+using namespace host;
+
 namespace {
 
 // A tool dialog that notes what it is told.

@@ -19,6 +19,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace host;
+
 namespace fs = std::filesystem;
 
 namespace {

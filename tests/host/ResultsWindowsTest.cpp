@@ -17,6 +17,8 @@
 #include <QImage>
 #include <QTemporaryDir>
 
+using namespace host;
+
 namespace {
 
 class ResultsWindows : public WorkspaceTest {

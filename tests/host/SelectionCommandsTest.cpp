@@ -13,6 +13,8 @@
 #include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
+using namespace host;
+
 namespace {
 
 using CopiaTrasla = CDialogCopiaTrasla;

@@ -7,6 +7,8 @@
 #include "model/entity/CasoCarico.h"
 #include "model/load/Carico.h"
 
+using namespace host;
+
 namespace {
 
 void AddLoads(HostDocument& document) {

@@ -14,6 +14,8 @@
 
 #include <functional>
 
+using namespace host;
+
 namespace {
 
 class UndoTest : public testing::Test {

@@ -11,6 +11,8 @@
 
 #include <vector>
 
+using namespace host;
+
 namespace {
 
 enum : int { EditStartX = 1200, EditStartZ = 1202, EditX1 = 1227, EditX2 = 1230 }; // of the linear generation

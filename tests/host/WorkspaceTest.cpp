@@ -17,6 +17,8 @@
 #include <QWheelEvent>
 #include <QWindow>
 
+using namespace host;
+
 WorkspaceTest::WorkspaceTest() {
     AttachDialogModule();
     m_workspace = std::make_unique<Workspace>();

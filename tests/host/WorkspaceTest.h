@@ -15,15 +15,17 @@
 
 class CDialogDocument;
 class CNodo;
+namespace host {
 class HostDocument;
+}
 
 class WorkspaceTest : public testing::Test {
   protected:
     WorkspaceTest();
     ~WorkspaceTest() override;
 
-    HostView& View() { return *m_workspace->ActiveView(); }
-    HostDocument& Document() { return View().Document(); }
+    host::HostView& View() { return *m_workspace->ActiveView(); }
+    host::HostDocument& Document() { return View().Document(); }
     // Two beams along X with three nodes, a truss member, a slab above and a wall; unmodified, seen along Y.
     void BuildSmallModel();
 
@@ -44,5 +46,5 @@ class WorkspaceTest : public testing::Test {
     void ExpectOneStep(const char* name, const std::function<void()>& command);
 
     UserScript m_user;
-    std::unique_ptr<Workspace> m_workspace;
+    std::unique_ptr<host::Workspace> m_workspace;
 };

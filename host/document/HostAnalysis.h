@@ -5,6 +5,8 @@
 #include "dialogs/frame/QuovarAnalisi.h"
 #include "host/analysis/Analysis.h"
 
+namespace host {
+
 // It owns the results that elements point at. They go as soon as the model changes: whoever owns the model calls Clear.
 class HostAnalysis : public CQuovarAnalisi {
   public:
@@ -12,14 +14,14 @@ class HostAnalysis : public CQuovarAnalisi {
 
     // Analyses the model and shows the current case; former results go either way. The cases of the outcome have moved
     // in here.
-    host::AnalysisOutcome Run();
+    AnalysisOutcome Run();
     // Makes the elements show the results of a load case or combination; without such results, none.
     void Show(int caseId);
     // Takes the results away. True when there were valid ones.
     bool Clear();
     // Of a load case; null without results.
-    const host::CaseResults* Results(int caseId) const;
-    const std::vector<host::CaseResults>& Cases() const { return m_cases; }
+    const CaseResults* Results(int caseId) const;
+    const std::vector<CaseResults>& Cases() const { return m_cases; }
 
     // Beams, then truss members, in document order. Results of a combination are not stored: 0.
     int LeggiRisultati(int idCaso, CObArray& out, int flag) override;
@@ -28,14 +30,16 @@ class HostAnalysis : public CQuovarAnalisi {
     int RipristinaRisultati() override;
 
   private:
-    void ShowRecords(host::CaseResults* results); // null shows none
+    void ShowRecords(CaseResults* results); // null shows none
     CLineaRisultati* Line(std::size_t index) const;
     std::size_t LineCount() const;
     bool Fits(const CObArray& records) const;
-    host::CaseResults* Find(int caseId);
+    CaseResults* Find(int caseId);
 
     DocumentData& m_data;
-    std::vector<host::CaseResults> m_cases;
-    host::CaseResults m_combined; // of the combination shown last
-    int m_shown = 0;              // case or combination; 0 none
+    std::vector<CaseResults> m_cases;
+    CaseResults m_combined; // of the combination shown last
+    int m_shown = 0;        // case or combination; 0 none
 };
+
+} // namespace host

@@ -1,13 +1,13 @@
-#include "host/document/HostAnalisi.h"
+#include "host/document/HostAnalysis.h"
 
 #include "model/entity/Combinazione.h"
 #include "platform/core/Collections.h"
 
-using host::CaseResults;
+namespace host {
 
-host::AnalysisOutcome HostAnalysis::Run() {
+AnalysisOutcome HostAnalysis::Run() {
     Clear();
-    host::AnalysisOutcome outcome = host::Analyse(m_data);
+    AnalysisOutcome outcome = Analyse(m_data);
     if (!outcome.done)
         return outcome;
     m_cases = std::move(outcome.cases);
@@ -55,7 +55,7 @@ void HostAnalysis::Show(int caseId) {
     CaseResults former = std::move(m_combined); // lives until the elements have let it go
     m_combined = {};
     if (combination && !m_cases.empty()) {
-        m_combined = host::Combine(*combination, m_cases);
+        m_combined = Combine(*combination, m_cases);
         results = &m_combined;
     }
     m_shown = results ? caseId : 0;
@@ -123,3 +123,5 @@ int HostAnalysis::RipristinaRisultati() {
     Show(m_shown);
     return m_shown != 0;
 }
+
+} // namespace host
