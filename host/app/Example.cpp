@@ -4,6 +4,7 @@
 #include "host/document/HostDocument.h"
 #include "host/files/FileError.h"
 #include "host/files/ProjectFile.h"
+#include "host/files/Version.h"
 
 #include <cstdio>
 
@@ -13,7 +14,7 @@ int WriteExample(const std::string& path) {
     HostDocument document;
     BuildExample(document);
     try {
-        SaveProject(document.Data(), path, QUOVAR_VERSION);
+        SaveProject(document.Data(), path, applicationVersion);
     } catch (const FileError& error) {
         std::fprintf(stderr, "quovar: %s\n", error.what());
         return 1;

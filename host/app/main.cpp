@@ -5,6 +5,7 @@
 #include "host/app/HostApplication.h"
 #include "host/app/Options.h"
 #include "host/app/Results.h"
+#include "host/files/Version.h"
 #include "platform/resource/Module.h"
 
 #include <cstdio>
@@ -51,7 +52,7 @@ int main(int argc, char** argv) {
         std::fputs(usageText, stdout);
         return success;
     case Options::Action::Version:
-        std::puts("quovar " QUOVAR_VERSION);
+        std::printf("quovar %s\n", applicationVersion);
         return success;
     case Options::Action::Invalid:
         std::fprintf(stderr, "quovar: %s\n\n%s", options.error.c_str(), usageText);

@@ -5,6 +5,7 @@
 #include "host/commands/AssignLoad.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
+#include "host/files/Version.h"
 #include "host/ui/Icons.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
@@ -301,7 +302,7 @@ void MainMenu::BuildHelp() {
     Add(menu, "aiuto.informazioni", "&Informazioni su Quovar", {}, Needs::Nothing, [this] {
         QMessageBox::about(&m_window, "Informazioni su Quovar",
                            QStringLiteral("Quovar %1\n\nModellazione e analisi di strutture intelaiate.")
-                               .arg(QStringLiteral(QUOVAR_VERSION)));
+                               .arg(QLatin1String(applicationVersion)));
     });
 }
 

@@ -4,6 +4,7 @@
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddImport.h"
 #include "host/files/ProjectFile.h"
+#include "host/files/Version.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
 #include "host/view/HostView.h"
@@ -123,7 +124,7 @@ bool Workspace::SaveAs(HostDocument& document, const QString& path) {
     const QString whole = file.absoluteFilePath();
     document.Idle(); // what was just done belongs to the file
     const bool written = Guarded(QStringLiteral("Impossibile salvare \"%1\".").arg(QDir::toNativeSeparators(path)),
-                                 [&] { SaveProject(document.Data(), SystemPath(whole), QUOVAR_VERSION); });
+                                 [&] { SaveProject(document.Data(), SystemPath(whole), applicationVersion); });
     if (!written)
         return false;
     project->path = whole;
