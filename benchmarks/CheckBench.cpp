@@ -4,7 +4,7 @@
 #include "benchmarks/Ratios.h"
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/Module.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/Workspace.h"
 #include "host/view/HostView.h"

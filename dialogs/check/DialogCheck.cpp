@@ -1,9 +1,9 @@
 #include "dialogs/check/DialogCheck.h"
 
 #include "dialogs/check/RestraintCheck.h"
-#include "dialogs/frame/MainFrame.h"
-#include "dialogs/frame/QuovarGlobal.h"
-#include "dialogs/frame/QuovarSelection.h"
+#include "dialogs/frame/host/MainFrame.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarSelection.h"
 #include "model/element/Asta.h"
 #include "model/element/Nodo.h"
 #include "model/element/Setto.h"

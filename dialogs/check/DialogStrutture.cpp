@@ -1,7 +1,7 @@
 #include "dialogs/check/DialogStrutture.h"
 
-#include "dialogs/frame/QuovarGlobal.h"
-#include "dialogs/frame/QuovarSelection.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarSelection.h"
 #include "model/element/Asta.h"
 #include "model/element/Nodo.h"
 #include "model/element/Setto.h"

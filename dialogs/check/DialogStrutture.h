@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialogs/check/StructureSearch.h"
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "platform/controls/TreeCtrl.h"
 
 class CDialogStrutture : public CDialogDocument, protected StructureSearch {

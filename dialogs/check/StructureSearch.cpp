@@ -1,8 +1,8 @@
 #include "dialogs/check/StructureSearch.h"
 
-#include "dialogs/frame/MainFrame.h"
-#include "dialogs/frame/QuovarDoc.h"
-#include "dialogs/frame/QuovarSelection.h"
+#include "dialogs/frame/host/MainFrame.h"
+#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarSelection.h"
 #include "model/element/Nodo.h"
 #include "platform/window/Application.h"
 

@@ -1,6 +1,6 @@
 #include "dialogs/generation/DialogGenNodi2P.h"
 
-#include "dialogs/frame/Controls.h"
+#include "dialogs/frame/common/Controls.h"
 #include "dialogs/generation/GenerationCommon.h"
 
 IMPLEMENT_DYNAMIC(CDialogGenNodi2P, CDialogDocument)

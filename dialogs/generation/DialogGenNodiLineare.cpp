@@ -1,6 +1,6 @@
 #include "dialogs/generation/DialogGenNodiLineare.h"
 
-#include "dialogs/frame/Controls.h"
+#include "dialogs/frame/common/Controls.h"
 #include "dialogs/generation/GenerationCommon.h"
 
 namespace {

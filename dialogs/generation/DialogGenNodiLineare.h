@@ -2,7 +2,7 @@
 // Coordinates and spacing are in the document's length unit.
 #pragma once
 
-#include "dialogs/frame/PickingDialog.h"
+#include "dialogs/frame/tool/PickingDialog.h"
 #include "platform/controls/SpinButton.h"
 
 class CDialogGenNodiLineare : public ConfirmedDialog {

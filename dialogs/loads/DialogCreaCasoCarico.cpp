@@ -1,6 +1,6 @@
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 
-#include "dialogs/frame/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "platform/window/Application.h"
 #include "platform/window/DataExchange.h"
 

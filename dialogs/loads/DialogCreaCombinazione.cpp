@@ -1,7 +1,7 @@
 #include "dialogs/loads/DialogCreaCombinazione.h"
 
-#include "dialogs/frame/QuovarDoc.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "model/entity/CasoCarico.h"
 #include "platform/core/Exception.h"
 #include "platform/window/Application.h"

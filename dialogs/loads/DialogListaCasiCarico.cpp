@@ -1,9 +1,9 @@
 #include "dialogs/loads/DialogListaCasiCarico.h"
 
-#include "dialogs/frame/MainFrame.h"
-#include "dialogs/frame/QuovarAnalisi.h"
-#include "dialogs/frame/QuovarDoc.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/MainFrame.h"
+#include "dialogs/frame/host/QuovarAnalisi.h"
+#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 #include "dialogs/loads/ListSelection.h"
 #include "model/element/Nodo.h"

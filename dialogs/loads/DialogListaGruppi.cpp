@@ -1,7 +1,7 @@
 #include "dialogs/loads/DialogListaGruppi.h"
 
-#include "dialogs/frame/QuovarGlobal.h"
-#include "dialogs/frame/QuovarSelection.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarSelection.h"
 #include "dialogs/loads/ListSelection.h"
 #include "model/entity/Gruppo.h"
 #include "platform/window/DataExchange.h"

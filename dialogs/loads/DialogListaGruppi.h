@@ -1,7 +1,7 @@
 // The groups of the document: selecting groups in the list selects their elements in the model; groups can be deleted.
 #pragma once
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "platform/controls/Button.h"
 #include "platform/controls/ListBox.h"
 #include "platform/core/Collections.h"

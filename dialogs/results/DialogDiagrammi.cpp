@@ -1,6 +1,6 @@
 #include "dialogs/results/DialogDiagrammi.h"
 
-#include "dialogs/frame/QuovarAnalisi.h"
+#include "dialogs/frame/host/QuovarAnalisi.h"
 #include "model/element/Trave.h"
 #include "model/view/DrawHelpers.h"
 #include "model/view/ElementoSettings.h"

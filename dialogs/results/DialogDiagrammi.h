@@ -2,7 +2,7 @@
 // chooses the diagrams, switches the values under the pointer and captures the picture.
 #pragma once
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "platform/controls/Static.h"
 
 class CTrave;

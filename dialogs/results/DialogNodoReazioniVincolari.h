@@ -2,7 +2,7 @@
 // document's units.
 #pragma once
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "platform/controls/Button.h"
 #include "platform/controls/Edit.h"
 

@@ -1,6 +1,6 @@
 #include "dialogs/selection/DialogCopiaRuota.h"
 
-#include "dialogs/frame/Controls.h"
+#include "dialogs/frame/common/Controls.h"
 #include "dialogs/selection/SelectionCommand.h"
 
 namespace {

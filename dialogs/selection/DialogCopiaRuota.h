@@ -2,7 +2,7 @@
 // joined on request. Coordinates are in the document's length unit, the angle in degrees.
 #pragma once
 
-#include "dialogs/frame/TwoPointDialog.h"
+#include "dialogs/frame/tool/TwoPointDialog.h"
 #include "platform/controls/SpinButton.h"
 
 class CDialogCopiaRuota : public TwoPointDialog {

@@ -1,7 +1,7 @@
 #include "dialogs/selection/DialogCopiaTrasla.h"
 
-#include "dialogs/frame/Controls.h"
-#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/common/Controls.h"
+#include "dialogs/frame/host/MainFrame.h"
 #include "dialogs/selection/SelectionCommand.h"
 #include "model/view/Adv3dRect.h"
 #include "platform/core/Collections.h"

@@ -3,7 +3,7 @@
 // place. Coordinates and distances are in the document's length unit.
 #pragma once
 
-#include "dialogs/frame/TwoPointDialog.h"
+#include "dialogs/frame/tool/TwoPointDialog.h"
 #include "platform/controls/Edit.h"
 #include "platform/controls/ListBox.h"
 #include "platform/controls/SpinButton.h"

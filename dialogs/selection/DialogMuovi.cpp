@@ -1,6 +1,6 @@
 #include "dialogs/selection/DialogMuovi.h"
 
-#include "dialogs/frame/Controls.h"
+#include "dialogs/frame/common/Controls.h"
 #include "dialogs/selection/SelectionCommand.h"
 
 IMPLEMENT_DYNAMIC(CDialogMuovi, CDialogDocument)

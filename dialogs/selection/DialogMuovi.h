@@ -2,7 +2,7 @@
 // Coordinates are in the document's length unit.
 #pragma once
 
-#include "dialogs/frame/TwoPointDialog.h"
+#include "dialogs/frame/tool/TwoPointDialog.h"
 
 class CDialogMuovi : public TwoPointDialog {
     DECLARE_DYNAMIC(CDialogMuovi)

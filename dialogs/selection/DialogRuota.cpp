@@ -1,6 +1,6 @@
 #include "dialogs/selection/DialogRuota.h"
 
-#include "dialogs/frame/Controls.h"
+#include "dialogs/frame/common/Controls.h"
 #include "dialogs/selection/SelectionCommand.h"
 
 #include <cmath>

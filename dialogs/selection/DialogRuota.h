@@ -2,7 +2,7 @@
 // Coordinates are in the document's length unit, the angle in degrees.
 #pragma once
 
-#include "dialogs/frame/TwoPointDialog.h"
+#include "dialogs/frame/tool/TwoPointDialog.h"
 
 class CDialogRuota : public TwoPointDialog {
     DECLARE_DYNAMIC(CDialogRuota)

@@ -1,9 +1,9 @@
 // What the commands on the selection do alike.
 #pragma once
 
-#include "dialogs/frame/QuovarDoc.h"
-#include "dialogs/frame/QuovarSelection.h"
-#include "dialogs/frame/QuovarUndo.h"
+#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarSelection.h"
+#include "dialogs/frame/host/QuovarUndo.h"
 
 #include <array>
 

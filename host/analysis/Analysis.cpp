@@ -1,6 +1,6 @@
 #include "host/analysis/Analysis.h"
 
-#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/host/MainFrame.h"
 #include "host/analysis/FrameSystem.h"
 #include "host/analysis/Refusal.h"
 #include "model/entity/CasoCarico.h"

@@ -1,6 +1,6 @@
 #include "host/app/Gallery.h"
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/app/Example.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"

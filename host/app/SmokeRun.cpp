@@ -1,6 +1,6 @@
 #include "host/app/SmokeRun.h"
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/app/Example.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"

@@ -1,7 +1,7 @@
 #include "host/commands/CheckCommands.h"
 
 #include "dialogs/check/DialogCheck.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"

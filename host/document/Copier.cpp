@@ -1,6 +1,6 @@
 #include "host/document/Copier.h"
 
-#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/host/MainFrame.h"
 #include "host/document/HostDocument.h"
 #include "model/element/Asta.h"
 #include "model/element/Linea.h"

@@ -2,7 +2,7 @@
 // combination.
 #pragma once
 
-#include "dialogs/frame/QuovarAnalisi.h"
+#include "dialogs/frame/host/QuovarAnalisi.h"
 #include "host/analysis/Analysis.h"
 
 namespace host {

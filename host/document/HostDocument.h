@@ -6,9 +6,9 @@
 // MODIFICA_SELEZIONE_FINE and the code of each kind concerned.
 #pragma once
 
-#include "dialogs/frame/QuovarDoc.h"
-#include "dialogs/frame/QuovarGlobal.h"
-#include "dialogs/frame/QuovarProgetto.h"
+#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarProgetto.h"
 #include "host/document/DocumentData.h"
 #include "host/document/DocumentObserver.h"
 #include "host/document/HostAnalysis.h"

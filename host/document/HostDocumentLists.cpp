@@ -1,7 +1,7 @@
 // The document's lists as the dialogs walk them.
 #include "host/document/HostDocument.h"
 
-#include "dialogs/frame/QuovarView.h"
+#include "dialogs/frame/host/QuovarView.h"
 #include "model/element/Asta.h"
 #include "model/element/Setto.h"
 #include "model/element/Solaio.h"

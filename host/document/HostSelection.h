@@ -1,7 +1,7 @@
 // What is selected in a document, in the order of selecting, and the commands that transform it.
 #pragma once
 
-#include "dialogs/frame/QuovarSelection.h"
+#include "dialogs/frame/host/QuovarSelection.h"
 #include "host/document/DocumentData.h"
 #include "platform/core/Collections.h"
 

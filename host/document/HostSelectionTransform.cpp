@@ -1,5 +1,5 @@
 // Moving, rotating, mirroring and copying the selection.
-#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/host/MainFrame.h"
 #include "host/document/Copier.h"
 #include "host/document/HostDocument.h"
 #include "host/document/Motion.h"

@@ -2,7 +2,7 @@
 // created or removed come back as the same objects: pointers kept by the journal stay good.
 #pragma once
 
-#include "dialogs/frame/QuovarUndo.h"
+#include "dialogs/frame/host/QuovarUndo.h"
 #include "platform/core/String.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 // The main window: sub-windows of views, menus, tool bar, status bar.
 #pragma once
 
-#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/host/MainFrame.h"
 #include "host/ui/WaitIndicator.h"
 #include "platform/private/peers/Hosted.h"
 #include "platform/window/MessageMap.h"

@@ -1,8 +1,8 @@
 #include "host/ui/ToolDialogs.h"
 
 #include "dialogs/check/DialogCheck.h"
-#include "dialogs/frame/DialogDocument.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/ui/DeferredDelete.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"

@@ -1,6 +1,6 @@
 #include "host/ui/Workspace.h"
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/DeferredDelete.h"

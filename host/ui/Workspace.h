@@ -2,7 +2,7 @@
 // reach through their static functions.
 #pragma once
 
-#include "dialogs/frame/QuovarHost.h"
+#include "dialogs/frame/host/QuovarHost.h"
 #include "host/ui/ToolDialogs.h"
 #include "host/view/ViewOwner.h"
 

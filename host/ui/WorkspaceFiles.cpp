@@ -1,5 +1,5 @@
 // The part of the workspace that reads and writes files.
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/document/HostDocument.h"
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddImport.h"

@@ -1,6 +1,6 @@
 #include "host/view/HostView.h"
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "dialogs/results/DialogDiagrammi.h"
 #include "host/document/HostDocument.h"
 #include "host/view/ViewOwner.h"

@@ -1,7 +1,7 @@
 // The 3D structure view: what it shows, what the user selects in it, and the points picked for its tool dialog.
 #pragma once
 
-#include "dialogs/frame/QuovarView.h"
+#include "dialogs/frame/host/QuovarView.h"
 #include "host/document/DocumentObserver.h"
 #include "host/view/Picking.h"
 #include "model/view/Adv3d.h"

@@ -54,7 +54,7 @@ std::vector<std::string> Offences(const std::string& path, const std::string& so
 TEST(Layering, CheckerSeesOffences) {
     EXPECT_EQ(Offences("dialogs/frame/A.cpp", "#include \"host/ui/B.h\"\n").size(), 1u);
     EXPECT_EQ(Offences("dialogs/loads/A.cpp", "#include \"platform/private/B.h\"\n").size(), 1u);
-    EXPECT_EQ(Offences("model/A.cpp", "#include \"dialogs/frame/QuovarDoc.h\"\n").size(), 1u);
+    EXPECT_EQ(Offences("model/A.cpp", "#include \"dialogs/frame/host/QuovarDoc.h\"\n").size(), 1u);
     EXPECT_EQ(Offences("model/A.cpp", "QString text;\n").size(), 1u);
     EXPECT_EQ(Offences("platform/A.h", "#include <QWidget>\n").size(), 1u);
     EXPECT_EQ(Offences("platform/A.cpp", "#include \"model/Nodo.h\"\n").size(), 1u);

@@ -1,4 +1,4 @@
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/loads/DialogListaGruppi.h"
 #include "tests/dialogs/LoadModel.h"
 #include "tests/dialogs/ToolTest.h"

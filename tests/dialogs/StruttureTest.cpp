@@ -1,5 +1,5 @@
 #include "dialogs/check/DialogStrutture.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "tests/dialogs/CheckModel.h"
 #include "tests/dialogs/ToolTest.h"
 

@@ -1,6 +1,6 @@
 // The application as a whole: from a text model to a saved project.
 #include "platform/window/Application.h"
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/app/Options.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"

@@ -1,6 +1,6 @@
 // The model check in the application: messages from models that earn them, its window, and the check without windows.
 #include "dialogs/check/DialogCheck.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "host/commands/CheckCommands.h"
 #include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"

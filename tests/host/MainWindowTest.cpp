@@ -1,7 +1,7 @@
 // The main window, its views and the tool dialogs that belong to them.
 #include "host/ui/MainWindow.h"
-#include "dialogs/frame/DialogDocument.h"
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/view/ViewWidget.h"

@@ -1,5 +1,5 @@
 // What the user does in a structure view.
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "host/view/ViewWidget.h"

@@ -2,11 +2,11 @@
 // It changes nothing of its model by itself: tests set its results and its contents.
 #pragma once
 
-#include "dialogs/frame/QuovarAnalisi.h"
-#include "dialogs/frame/QuovarDoc.h"
-#include "dialogs/frame/QuovarProgetto.h"
-#include "dialogs/frame/QuovarSelection.h"
-#include "dialogs/frame/QuovarUndo.h"
+#include "dialogs/frame/host/QuovarAnalisi.h"
+#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarProgetto.h"
+#include "dialogs/frame/host/QuovarSelection.h"
+#include "dialogs/frame/host/QuovarUndo.h"
 #include "model/element/Asta.h"
 #include "model/element/Nodo.h"
 #include "model/element/Setto.h"

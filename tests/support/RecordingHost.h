@@ -7,9 +7,9 @@
 //     EXPECT_EQ(host.Take(), Lines({"GenNodiLineare (2,3,0) (2,4,0) 1 1", "WM_FINEDIALOGO 1"}));
 #pragma once
 
-#include "dialogs/frame/DialogDocument.h"
-#include "dialogs/frame/MainFrame.h"
-#include "dialogs/frame/QuovarHost.h"
+#include "dialogs/frame/host/MainFrame.h"
+#include "dialogs/frame/host/QuovarHost.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "model/view/Adv3d.h"
 #include "model/view/ElementoSettings.h"
 #include "tests/support/Journal.h"

@@ -1,7 +1,7 @@
 // Bases of the tool dialogs that take points from the view.
 #pragma once
 
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 
 // A tool dialog that puts its view into vector definition. The mode ends with the dialog's window.
 class PickingDialog : public CDialogDocument {

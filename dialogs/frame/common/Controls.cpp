@@ -1,4 +1,4 @@
-#include "dialogs/frame/Controls.h"
+#include "dialogs/frame/common/Controls.h"
 
 void EnableControls(CWnd& dialog, std::initializer_list<int> ids, BOOL enable) {
     for (const int id : ids)

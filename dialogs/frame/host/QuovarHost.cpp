@@ -1,6 +1,6 @@
-#include "dialogs/frame/QuovarHost.h"
+#include "dialogs/frame/host/QuovarHost.h"
 
-#include "dialogs/frame/MainFrame.h"
+#include "dialogs/frame/host/MainFrame.h"
 
 namespace {
 CQuovarHost* installedHost = nullptr;

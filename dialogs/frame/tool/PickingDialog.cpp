@@ -1,4 +1,4 @@
-#include "dialogs/frame/PickingDialog.h"
+#include "dialogs/frame/tool/PickingDialog.h"
 
 BEGIN_MESSAGE_MAP(PickingDialog, CDialogDocument)
     ON_WM_DESTROY()

@@ -1,4 +1,4 @@
-#include "dialogs/frame/DialogDocument.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 
 #include "model/values/Path.h"
 

@@ -1,7 +1,7 @@
 // The 3D structure view, as the dialogs use it.
 #pragma once
 
-#include "dialogs/frame/QuovarDoc.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "platform/window/View.h"
 
 class CElementoSettings;

@@ -1,6 +1,6 @@
-#include "dialogs/frame/TwoPointDialog.h"
+#include "dialogs/frame/tool/TwoPointDialog.h"
 
-#include "dialogs/frame/Controls.h"
+#include "dialogs/frame/common/Controls.h"
 
 CFPoint TwoPointDialog::GetVettoreFrom() {
     return CFPoint(m_dX1, m_dY1, m_dZ1);

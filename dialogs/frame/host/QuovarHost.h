@@ -1,7 +1,7 @@
 // What the application around the dialogs does for their static functions. One host is installed at a time.
 #pragma once
 
-#include "dialogs/frame/QuovarGlobal.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "platform/core/String.h"
 
 class CMainFrame;

@@ -2,7 +2,7 @@
 // Coordinates are in the document's length unit.
 #pragma once
 
-#include "dialogs/frame/PickingDialog.h"
+#include "dialogs/frame/tool/PickingDialog.h"
 
 class TwoPointDialog : public ConfirmedDialog {
   public:

@@ -2,7 +2,7 @@
 // receives the points picked there, and that asks the view to end it on OK and on Cancel.
 #pragma once
 
-#include "dialogs/frame/QuovarView.h"
+#include "dialogs/frame/host/QuovarView.h"
 #include "model/values/FPoint.h"
 #include "platform/window/Dialog.h"
 
