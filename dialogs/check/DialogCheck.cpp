@@ -1,6 +1,7 @@
 #include "dialogs/check/DialogCheck.h"
 
 #include "dialogs/check/RestraintCheck.h"
+#include "dialogs/frame/common/SelectedRows.h"
 #include "dialogs/frame/host/MainFrame.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/host/QuovarSelection.h"
@@ -10,9 +11,6 @@
 #include "model/element/Solaio.h"
 #include "model/element/Trave.h"
 #include "platform/window/DataExchange.h"
-
-#include <algorithm>
-#include <vector>
 
 IMPLEMENT_DYNAMIC(CDialogCheck, CDialogDocument)
 
@@ -72,12 +70,12 @@ void CDialogCheck::OnOK() {
 void CDialogCheck::CambiaDocumento() {
 }
 
-void CDialogCheck::AddRiga(const CString& text, UINT kind, UINT id) {
+void CDialogCheck::AddRiga(const CString& text, ElementKind kind, int id) {
     if (!IsWindow())
         return;
     const int row = m_listErrori.AddString(text);
-    const int index = m_aTipi.Add(kind);
-    m_aID.Add(id);
+    const int index = m_aTipi.Add(static_cast<UINT>(kind));
+    m_aID.Add(static_cast<UINT>(id));
     m_listErrori.SetItemData(row, static_cast<DWORD_PTR>(index));
 }
 
@@ -140,27 +138,27 @@ void CDialogCheck::CheckBeams(CQuovarDoc& doc) {
         if (!pTrave || !ReleasedAtBothEnds(*pTrave))
             continue;
         text.Format("La Trave n.ro %d, è labile."_t, pTrave->GetID());
-        AddRiga(text, aboutBeam, static_cast<UINT>(pTrave->GetID()));
+        AddRiga(text, ElementKind::Beam, pTrave->GetID());
     }
 }
 
 // A member or membrane gets one row for each of its nodes that is free to rotate.
 void CDialogCheck::CheckRotations(CQuovarDoc& doc) {
     RotationCheck rotations;
-    const auto check = [&](CElemento* pElemento, const CString& format, UINT kind) {
+    const auto check = [&](CElemento* pElemento, const CString& format, ElementKind kind) {
         for (int i = 0; pElemento && i < pElemento->GetSize(); ++i) {
             CNodo* pNodo = pElemento->GetIndexNodo(i);
             if (!pNodo || rotations.Held(*pNodo))
                 continue;
             CString text;
             text.Format(format, pElemento->GetID());
-            AddRiga(text, kind, static_cast<UINT>(pElemento->GetID()));
+            AddRiga(text, kind, pElemento->GetID());
         }
     };
     for (int i = 0; i < doc.GetSizeAste(); ++i)
-        check(doc.GetIndexAsta(i), "La biella n.ro %d, è labile."_t, aboutTruss);
+        check(doc.GetIndexAsta(i), "La biella n.ro %d, è labile."_t, ElementKind::Truss);
     for (int i = 0; i < doc.GetSizeSolai(); ++i)
-        check(doc.GetIndexSolaio(i), "La membrana n.ro %d, è labile."_t, aboutSlab);
+        check(doc.GetIndexSolaio(i), "La membrana n.ro %d, è labile."_t, ElementKind::Slab);
 }
 
 // True when every node and element is sound.
@@ -179,24 +177,14 @@ int CDialogCheck::CheckElemento(CElemento* pElemento) {
     CStringArray messages;
     if (!pElemento || pElemento->CheckElemento(messages))
         return 1;
-    const struct {
-        const CRuntimeClass* type;
-        UINT kind;
-    } kinds[] = {{RUNTIME_CLASS(CNodo), aboutNode},
-                 {RUNTIME_CLASS(CAsta), aboutTruss},
-                 {RUNTIME_CLASS(CTrave), aboutBeam},
-                 {RUNTIME_CLASS(CSetto), aboutWall},
-                 {RUNTIME_CLASS(CSolaio), aboutSlab}};
-    for (const auto& [type, kind] : kinds) {
-        if (!pElemento->IsKindOf(type))
-            continue;
-        const int id = pElemento->GetID();
-        CString prefix;
-        prefix.Format("%s n.ro %d ", pElemento->GetRuntimeClass()->m_lpszClassName, id);
-        for (const CString& message : messages)
-            AddRiga(prefix + message, kind, static_cast<UINT>(id));
-        break;
-    }
+    const ElementKind kind = KindOf(*pElemento);
+    if (kind == ElementKind::None)
+        return 0;
+    const int id = pElemento->GetID();
+    CString prefix;
+    prefix.Format("%s n.ro %d ", pElemento->GetRuntimeClass()->m_lpszClassName, id);
+    for (const CString& message : messages)
+        AddRiga(prefix + message, kind, id);
     return 0;
 }
 
@@ -205,27 +193,8 @@ void CDialogCheck::OnSelchangeListErrors() {
     if (!pDoc)
         return;
     pDoc->m_pSelezione->Deseleziona(nullptr);
-    std::vector<int> rows(static_cast<std::size_t>(std::max(m_listErrori.GetSelCount(), 0)));
-    m_listErrori.GetSelItems(static_cast<int>(rows.size()), rows.data());
-    for (const int row : rows) {
+    for (const int row : SelectedRows(m_listErrori)) {
         const auto index = static_cast<int>(m_listErrori.GetItemData(row));
-        const int id = static_cast<int>(m_aID[index]);
-        switch (m_aTipi[index]) {
-        case aboutNode:
-            pDoc->SelezionaNodo(id, nullptr);
-            break;
-        case aboutBeam:
-            pDoc->SelezionaTrave(id, nullptr, nullptr);
-            break;
-        case aboutTruss:
-            pDoc->SelezionaAsta(id, nullptr, nullptr);
-            break;
-        case aboutSlab:
-            pDoc->SelezionaSolaio(id, nullptr, nullptr);
-            break;
-        case aboutWall:
-            pDoc->SelezionaSetto(id, nullptr, nullptr);
-            break;
-        }
+        SelectByKind(*pDoc, static_cast<ElementKind>(m_aTipi[index]), static_cast<int>(m_aID[index]));
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/check/StructureSearch.h"
+#include "dialogs/frame/common/ElementSelection.h"
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "platform/controls/ListBox.h"
 
@@ -26,10 +27,8 @@ class CDialogCheck : public CDialogDocument, private StructureSearch {
     void OnSelchangeListErrors();
 
   private:
-    // What a row is about: decides how picking it selects.
-    enum Kind : UINT { aboutNothing, aboutNode, aboutBeam, aboutTruss, aboutSlab, aboutWall };
-
-    void AddRiga(const CString& text, UINT kind = aboutNothing, UINT id = 0);
+    // With the object that the row is about, which picking it selects.
+    void AddRiga(const CString& text, ElementKind kind = ElementKind::None, int id = 0);
     void Clear();
     void Check();
     void CheckStructures(CQuovarDoc& doc);

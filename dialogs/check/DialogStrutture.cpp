@@ -1,12 +1,9 @@
 #include "dialogs/check/DialogStrutture.h"
 
+#include "dialogs/frame/common/ElementSelection.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/host/QuovarSelection.h"
-#include "model/element/Asta.h"
 #include "model/element/Nodo.h"
-#include "model/element/Setto.h"
-#include "model/element/Solaio.h"
-#include "model/element/Trave.h"
 #include "model/view/Adv3dRect.h"
 #include "platform/window/DataExchange.h"
 
@@ -14,18 +11,6 @@ namespace {
 
 constexpr UINT_PTR ticksTimer = 0;
 constexpr UINT ticksMilliseconds = 100;
-
-void SelectElement(CQuovarDoc& doc, CElemento& element, Adv3dRect& rect) {
-    const int id = element.GetID();
-    if (element.IsKindOf(RUNTIME_CLASS(CAsta)))
-        doc.SelezionaAsta(id, nullptr, &rect);
-    else if (element.IsKindOf(RUNTIME_CLASS(CTrave)))
-        doc.SelezionaTrave(id, nullptr, &rect);
-    else if (element.IsKindOf(RUNTIME_CLASS(CSetto)))
-        doc.SelezionaSetto(id, nullptr, &rect);
-    else if (element.IsKindOf(RUNTIME_CLASS(CSolaio)))
-        doc.SelezionaSolaio(id, nullptr, &rect);
-}
 
 } // namespace
 
@@ -116,8 +101,10 @@ void CDialogStrutture::SelezionaStruttura(CObArray* pStruttura, const CurrentNod
         if (!current.Has(object))
             continue; // removed since the search
         const auto* node = static_cast<const CNodo*>(object);
-        for (int i = 0; i < node->GetSizeElementi(); ++i)
-            SelectElement(*pDoc, *node->GetIndexElemento(i), rect);
+        for (int i = 0; i < node->GetSizeElementi(); ++i) {
+            CElemento& element = *node->GetIndexElemento(i);
+            SelectByKind(*pDoc, KindOf(element), element.GetID(), &rect);
+        }
     }
     pDoc->UpdateAllViews(nullptr, MODIFICA_SELEZIONE_VISTE);
     pDoc->UpdateAllViews(nullptr, MODIFICA_ELEMENTI_FINE);

@@ -1,5 +1,6 @@
 #include "dialogs/check/StructureSearch.h"
 
+#include "dialogs/frame/common/Reporting.h"
 #include "dialogs/frame/host/MainFrame.h"
 #include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarSelection.h"
@@ -23,15 +24,11 @@ CObArray* StructureSearch::NewArray() {
 
 CObArray* StructureSearch::InsertNewStructure() {
     std::unique_ptr<CObArray> structure;
-    try {
+    const bool added = RunReporting([&] {
         structure.reset(NewArray());
         m_aStrutture.Add(structure.get());
-    } catch (CException* exception) {
-        exception->ReportError(MB_OK, 0);
-        exception->Delete();
-        return nullptr;
-    }
-    return structure.release();
+    });
+    return added ? structure.release() : nullptr;
 }
 
 void StructureSearch::AddStructure(CQuovarDoc& doc, CNodo* seed) {

@@ -2,10 +2,10 @@
 // Coordinates are in the document's length unit.
 #pragma once
 
-#include "dialogs/frame/tool/PickingDialog.h"
+#include "dialogs/frame/tool/TwoPointDialog.h"
 #include "platform/controls/SpinButton.h"
 
-class CDialogGenNodi2P : public ConfirmedDialog {
+class CDialogGenNodi2P : public TwoPointDialog {
     DECLARE_DYNAMIC(CDialogGenNodi2P)
 
   public:
@@ -21,16 +21,7 @@ class CDialogGenNodi2P : public ConfirmedDialog {
 
     CSpinButtonCtrl m_spinNodi;
     int m_nNodi = 1;
-    double m_dX1 = 0, m_dX2 = 0, m_dY1 = 0, m_dY2 = 0, m_dZ2 = 0, m_dZ1 = 0;
 
-    // The two ends of the segment.
-    CFPoint GetVettoreFrom();
-    CFPoint GetVettoreTo();
-
-    using CDialogDocument::SetVettoreFrom;
-    using CDialogDocument::SetVettoreTo;
-    void SetVettoreFrom(CFPoint point) override;
-    void SetVettoreTo(CFPoint point) override;
     void CambiaDocumento() override;
     BOOL OnInitDialog() override;
     void DoDataExchange(CDataExchange* pDX) override;

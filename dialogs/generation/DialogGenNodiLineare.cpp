@@ -12,7 +12,7 @@ constexpr int directionVector = 3;
 
 IMPLEMENT_DYNAMIC(CDialogGenNodiLineare, CDialogDocument)
 
-BEGIN_MESSAGE_MAP(CDialogGenNodiLineare, ConfirmedDialog)
+BEGIN_MESSAGE_MAP(CDialogGenNodiLineare, TwoPointDialog)
     ON_BN_CLICKED(IDC_DIREZIONE_VETTORE, OnRadioVettore)
     ON_BN_CLICKED(IDC_DIREZIONE_X, OnRadioX)
     ON_BN_CLICKED(IDC_DIREZIONE_Y, OnRadioX)
@@ -20,11 +20,11 @@ BEGIN_MESSAGE_MAP(CDialogGenNodiLineare, ConfirmedDialog)
     ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
-CDialogGenNodiLineare::CDialogGenNodiLineare(CWnd* pParent) : ConfirmedDialog(IDD, pParent) {
+CDialogGenNodiLineare::CDialogGenNodiLineare(CWnd* pParent) : TwoPointDialog(IDD, pParent) {
 }
 
 void CDialogGenNodiLineare::DoDataExchange(CDataExchange* pDX) {
-    ConfirmedDialog::DoDataExchange(pDX);
+    TwoPointDialog::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_SPIN_NODI, m_spinNodi);
     DDX_Point(pDX, IDC_X1, m_dX1, m_dY1, m_dZ1);
     DDX_Point(pDX, IDC_X2, m_dX2, m_dY2, m_dZ2);
@@ -35,32 +35,22 @@ void CDialogGenNodiLineare::DoDataExchange(CDataExchange* pDX) {
 }
 
 BOOL CDialogGenNodiLineare::OnInitDialog() {
-    ConfirmedDialog::OnInitDialog();
+    TwoPointDialog::OnInitDialog();
     SetTitle("Generazione Nodi Lineare");
     ResetFields();
     AbilitaVettore(0);
-    // By hand: this template's spin control has no automatic buddy.
-    InitNodeSpin(m_spinNodi);
-    m_spinNodi.SetBuddy(GetDlgItem(IDC_NODI));
+    InitSpin(m_spinNodi, GetDlgItem(IDC_NODI), minSpinNodes, maxSpinNodes, m_nNodi);
     UpdateData(FALSE);
     StartPicking();
     return TRUE;
 }
 
 void CDialogGenNodiLineare::ResetFields() {
-    m_dX1 = m_dX2 = m_dY1 = m_dY2 = m_dZ1 = m_dZ2 = 0;
+    ResetPoints();
     m_dXIniziale = m_dYIniziale = m_dZIniziale = 0;
     m_nNodi = 1;
     m_dPasso = 1.0;
     m_nDirezione = directionX;
-}
-
-CFPoint CDialogGenNodiLineare::GetVettoreFrom() {
-    return CFPoint(m_dX1, m_dY1, m_dZ1);
-}
-
-CFPoint CDialogGenNodiLineare::GetVettoreTo() {
-    return CFPoint(m_dX2, m_dY2, m_dZ2);
 }
 
 CFPoint CDialogGenNodiLineare::GetPuntoIniziale() {
@@ -70,7 +60,7 @@ CFPoint CDialogGenNodiLineare::GetPuntoIniziale() {
 void CDialogGenNodiLineare::SetVettoreFrom(CFPoint point) {
     UpdateData(TRUE);
     AbilitaVettore(1);
-    StorePoint(point, m_dX1, m_dY1, m_dZ1);
+    StoreFrom(point);
     StorePoint(point, m_dXIniziale, m_dYIniziale, m_dZIniziale);
     m_nDirezione = directionVector;
     UpdateData(FALSE);
@@ -79,7 +69,7 @@ void CDialogGenNodiLineare::SetVettoreFrom(CFPoint point) {
 void CDialogGenNodiLineare::SetVettoreTo(CFPoint point) {
     UpdateData(TRUE);
     AbilitaVettore(1);
-    StorePoint(point, m_dX2, m_dY2, m_dZ2);
+    StoreTo(point);
     m_nDirezione = directionVector;
     UpdateData(FALSE);
 }
@@ -94,7 +84,7 @@ CFPoint CDialogGenNodiLineare::DirectionPoint() {
     case directionZ:
         return CFPoint(p.x, p.y, p.z + 1);
     default:
-        return CFPoint(p.x + (m_dX2 - m_dX1), p.y + (m_dY2 - m_dY1), p.z + (m_dZ2 - m_dZ1));
+        return p + GetVettoreDiff();
     }
 }
 
@@ -115,7 +105,7 @@ void CDialogGenNodiLineare::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScro
     UpdateData(TRUE);
     m_nNodi = m_spinNodi.GetPos();
     UpdateData(FALSE);
-    ConfirmedDialog::OnVScroll(nSBCode, nPos, pScrollBar);
+    TwoPointDialog::OnVScroll(nSBCode, nPos, pScrollBar);
 }
 
 void CDialogGenNodiLineare::AbilitaVettore(int bAbilita) {

@@ -2,10 +2,10 @@
 // Coordinates and spacing are in the document's length unit.
 #pragma once
 
-#include "dialogs/frame/tool/PickingDialog.h"
+#include "dialogs/frame/tool/TwoPointDialog.h"
 #include "platform/controls/SpinButton.h"
 
-class CDialogGenNodiLineare : public ConfirmedDialog {
+class CDialogGenNodiLineare : public TwoPointDialog {
     DECLARE_DYNAMIC(CDialogGenNodiLineare)
 
   public:
@@ -30,18 +30,15 @@ class CDialogGenNodiLineare : public ConfirmedDialog {
     explicit CDialogGenNodiLineare(CWnd* pParent = nullptr);
 
     CSpinButtonCtrl m_spinNodi;
-    double m_dX1 = 0, m_dX2 = 0, m_dY1 = 0, m_dY2 = 0, m_dZ1 = 0, m_dZ2 = 0;
     int m_nNodi = 1;
     double m_dPasso = 1.0;
     double m_dXIniziale = 0, m_dYIniziale = 0, m_dZIniziale = 0;
     int m_nDirezione = 0; // 0 X, 1 Y, 2 Z, 3 the vector from point 1 to point 2
 
-    CFPoint GetVettoreFrom();
-    CFPoint GetVettoreTo();
     CFPoint GetPuntoIniziale();
 
-    using CDialogDocument::SetVettoreFrom;
-    using CDialogDocument::SetVettoreTo;
+    using TwoPointDialog::SetVettoreFrom;
+    using TwoPointDialog::SetVettoreTo;
     void SetVettoreFrom(CFPoint point) override;
     void SetVettoreTo(CFPoint point) override;
     void CambiaDocumento() override;

@@ -1,10 +1,9 @@
 // What the node generation dialogs do alike.
 #pragma once
 
-class CSpinButtonCtrl;
-
-// The spin control beside a node count: 1 to 100, at 1. A count outside that range can still be typed.
-void InitNodeSpin(CSpinButtonCtrl& spin);
+// What the spin control beside a row's number of nodes offers.
+inline constexpr int minSpinNodes = 1;
+inline constexpr int maxSpinNodes = 100;
 
 // Tells the user when a generation operation of the document returned 0.
 void ReportRejection(int generated);

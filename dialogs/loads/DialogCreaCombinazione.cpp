@@ -1,9 +1,9 @@
 #include "dialogs/loads/DialogCreaCombinazione.h"
 
+#include "dialogs/frame/common/Reporting.h"
 #include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "model/entity/CasoCarico.h"
-#include "platform/core/Exception.h"
 #include "platform/window/Application.h"
 #include "platform/window/DataExchange.h"
 
@@ -248,19 +248,15 @@ bool CDialogCreaCombinazione::AddToDocument(CQuovarDoc& doc) {
                       "avere una lunghezza massima di 64 caratteri)"_t);
         return false;
     }
-    try {
+    bool taken = false;
+    const bool finished = RunReporting([&] {
         auto added = std::make_unique<CCombinazione>();
         *added = m_combinazione;
-        if (!doc.AddCombinazione(added.get(), nullptr)) {
-            AfxMessageBox("La combinazione non è stata aggiunta."_t);
-            return false;
-        }
-        const int id = added.release()->GetID(); // the document's from here on
-        doc.SelectCasoCarico(id);
-    } catch (CException* exception) {
-        exception->ReportError(MB_OK, 0);
-        exception->Delete();
-        return false;
-    }
-    return true;
+        taken = doc.AddCombinazione(added.get(), nullptr);
+        if (taken)
+            doc.SelectCasoCarico(added.release()->GetID()); // the document's from here on
+    });
+    if (finished && !taken)
+        AfxMessageBox("La combinazione non è stata aggiunta."_t);
+    return finished && taken;
 }

@@ -1,11 +1,11 @@
 #include "dialogs/loads/DialogListaCasiCarico.h"
 
+#include "dialogs/frame/common/SelectedRows.h"
 #include "dialogs/frame/host/MainFrame.h"
 #include "dialogs/frame/host/QuovarAnalisi.h"
 #include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/loads/DialogCreaCasoCarico.h"
-#include "dialogs/loads/ListSelection.h"
 #include "model/element/Nodo.h"
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"

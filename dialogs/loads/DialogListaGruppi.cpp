@@ -1,8 +1,8 @@
 #include "dialogs/loads/DialogListaGruppi.h"
 
+#include "dialogs/frame/common/SelectedRows.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/host/QuovarSelection.h"
-#include "dialogs/loads/ListSelection.h"
 #include "model/entity/Gruppo.h"
 #include "platform/window/DataExchange.h"
 

@@ -30,7 +30,7 @@ BOOL CDialogCopiaRuota::OnInitDialog() {
     m_nUnione = joinNothing;
     m_nCopie = 1;
     m_dAngolo = 0;
-    InitCopiesSpin(m_spinCopie, GetDlgItem(IDC_COPIE), maxSpinCopies, m_nCopie);
+    InitSpin(m_spinCopie, GetDlgItem(IDC_COPIE), 0, maxSpinCopies, m_nCopie);
     UpdateData(FALSE);
     StartPicking();
     return TRUE;

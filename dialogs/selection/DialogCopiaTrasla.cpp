@@ -88,7 +88,7 @@ BOOL CDialogCopiaTrasla::OnInitDialog() {
     SetTitle("Copia Trasla");
     ResetFields();
     TwoPointDialog::OnInitDialog();
-    InitCopiesSpin(m_spinCopie, &m_editCopie, GetMaxPass(), m_nCopie);
+    InitSpin(m_spinCopie, &m_editCopie, 0, GetMaxPass(), m_nCopie);
     InitPass(m_dSpaziatura);
     HideEditor();
     EnableVettore(m_nDirezione == directionVector);

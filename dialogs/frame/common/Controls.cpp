@@ -1,5 +1,7 @@
 #include "dialogs/frame/common/Controls.h"
 
+#include "platform/controls/SpinButton.h"
+
 void EnableControls(CWnd& dialog, std::initializer_list<int> ids, BOOL enable) {
     for (const int id : ids)
         EnableControls(dialog, id, id, enable);
@@ -9,6 +11,13 @@ void EnableControls(CWnd& dialog, int first, int last, BOOL enable) {
     for (int id = first; id <= last; ++id)
         if (CWnd* control = dialog.GetDlgItem(id))
             control->EnableWindow(enable);
+}
+
+void InitSpin(CSpinButtonCtrl& spin, CWnd* buddy, int minimum, int maximum, int position) {
+    if (buddy)
+        spin.SetBuddy(buddy);
+    spin.SetRange(minimum, maximum);
+    spin.SetPos(position);
 }
 
 void DDX_Point(CDataExchange* pDX, int idX, double& x, double& y, double& z) {

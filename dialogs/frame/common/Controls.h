@@ -6,10 +6,16 @@
 
 #include <initializer_list>
 
+class CSpinButtonCtrl;
+
 // Enables or disables controls together; a number that the dialog does not have is passed over.
 void EnableControls(CWnd& dialog, std::initializer_list<int> ids, BOOL enable);
 // The controls numbered first to last.
 void EnableControls(CWnd& dialog, int first, int last, BOOL enable);
+
+// The spin control of a whole number: its range and position, which its edit then shows. A number outside the range can
+// still be typed. buddy is the edit, null where the template attaches the spin to the edit before it.
+void InitSpin(CSpinButtonCtrl& spin, CWnd* buddy, int minimum, int maximum, int position);
 
 // A coordinate triple and its three edits, which are numbered one after the other in the order x, y, z.
 void DDX_Point(CDataExchange* pDX, int idX, double& x, double& y, double& z);

@@ -1,4 +1,4 @@
-#include "dialogs/loads/ListSelection.h"
+#include "dialogs/frame/common/SelectedRows.h"
 
 #include "platform/controls/ListBox.h"
 
