@@ -9,6 +9,7 @@
 #include <charconv>
 #include <climits>
 #include <cmath>
+#include <concepts>
 #include <string_view>
 
 namespace {
@@ -50,16 +51,32 @@ bool Parse(const CString& text, Number& value) {
     return true;
 }
 
+// Fifteen digits do not bring every double back. Where the control still shows what was written into it from this
+// field, the number itself comes back, so that opening and confirming a dialog changes no bit. Once another number was
+// read, the written one is past: the same digits typed later mean themselves.
+template <std::floating_point Number>
+void RestoreDigits(WindowPeer& control, const CString& text, Number& value) {
+    if (control.written.text != text)
+        control.written = {};
+    else if (control.written.field == &value)
+        value = static_cast<Number>(control.written.value);
+}
+
 template <class Number>
 void ExchangeNumber(CDataExchange& exchange, int id, Number& value, LPCTSTR format, LPCTSTR message) {
     CWnd* control = exchange.PrepareEditCtrl(id);
     if (exchange.m_bSaveAndValidate) {
-        if (!Parse(control->GetWindowText(), value))
+        const CString shown = control->GetWindowText();
+        if (!Parse(shown, value))
             FailWith(exchange, message);
+        if constexpr (std::floating_point<Number>)
+            RestoreDigits(*control->m_hWnd, shown, value);
         return;
     }
     CString text;
     text.Format(format, value);
+    if constexpr (std::floating_point<Number>)
+        control->m_hWnd->written = {text, value, &value};
     if (control->GetWindowText() != text)
         control->SetWindowText(text);
 }

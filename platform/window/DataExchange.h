@@ -24,7 +24,8 @@ class CDataExchange {
 // Thrown to end an exchange whose message has been shown.
 class CExchangeFailure final {};
 
-// Texts. Numbers are read whole: optional blanks, sign, digits, optional blanks. A double is written with "%.15g".
+// Texts. Numbers are read whole: optional blanks, sign, digits, optional blanks. A double is written with "%.15g"; a
+// text that is still the one written from the same field gives back the very number, with all its bits.
 void DDX_Text(CDataExchange* pDX, int id, CString& value);
 void DDX_Text(CDataExchange* pDX, int id, int& value);
 void DDX_Text(CDataExchange* pDX, int id, UINT& value);

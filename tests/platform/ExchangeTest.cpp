@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <clocale>
+#include <cstdint>
 
 namespace {
 
@@ -26,6 +28,8 @@ class ExchangeDialog : public CDialog {
 
     int integer = 7;
     double number = 0.1;
+    double other = 0;
+    bool ofAnotherField = false; // what the edit shows
     CString text = "testo";
     int radio = 1;
     int check = 0;
@@ -37,7 +41,7 @@ class ExchangeDialog : public CDialog {
         DDX_Control(pDX, 102, edit);
         DDX_Text(pDX, 100, integer);
         DDV_MinMaxInt(pDX, integer, -5, 1000);
-        DDX_Text(pDX, 101, number);
+        DDX_Text(pDX, 101, ofAnotherField ? other : number);
         DDX_Text(pDX, 102, text);
         DDX_Radio(pDX, 301, radio);
         DDX_Check(pDX, 400, check);
@@ -106,6 +110,34 @@ TEST_F(Exchange, DoublesAreWrittenWithFifteenDigits) {
         m_dialog.UpdateData(FALSE);
         EXPECT_STREQ(m_dialog.GetDlgItem(101)->GetWindowText(), shown);
     }
+}
+
+// Catches numbers that lose their last bits to the fifteen digits, though the user has not touched them, and a number
+// that comes back where its text has become another one's.
+TEST_F(Exchange, AnUntouchedTextGivesTheVeryNumberBack) {
+    for (const double value : {0.1 + 0.2, 1.0 / 3, -0.0, 1e300 / 7}) {
+        m_dialog.number = value;
+        m_dialog.UpdateData(FALSE);
+        m_dialog.number = 7;
+        EXPECT_EQ(Message(), "");
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(m_dialog.number), std::bit_cast<std::uint64_t>(value)) << value;
+    }
+    m_dialog.number = 0.1 + 0.2;
+    m_dialog.UpdateData(FALSE);
+    DialogDriver user(m_dialog);
+    user.Type(101, "5");
+    user.Type(101, "0.3"); // nobody has read the 5
+    Message();
+    EXPECT_EQ(m_dialog.number, 0.1 + 0.2);
+    m_dialog.ofAnotherField = true;
+    Message();
+    EXPECT_EQ(m_dialog.other, 0.3);
+    m_dialog.ofAnotherField = false;
+    user.Type(101, "5");
+    Message();
+    user.Type(101, "0.3");
+    Message();
+    EXPECT_EQ(m_dialog.number, 0.3) << "the text that was written is past";
 }
 
 TEST_F(Exchange, ARangeIsCheckedOnReadingOnlyAndTheFieldIsSelected) {

@@ -31,6 +31,13 @@ enum DialogCode : UINT {
     IsButton = 0x2000, // any kind of button
 };
 
+// What the data exchange last wrote into a control from a floating number: the text has fewer digits than the number.
+struct WrittenNumber {
+    CString text;
+    double value = 0;
+    const void* field = nullptr; // that the number came from; null before the first
+};
+
 class WindowPeer {
   public:
     // `parent` is the window that this one lies in or, for a top-level one, belongs to; null for none. The widget is a
@@ -55,6 +62,7 @@ class WindowPeer {
     bool erasePending = true;
     int modalLocks = 0; // modal dialogs that rest on this window
     bool isDialog = false;
+    WrittenNumber written;
 
     // What differs from control to control.
     virtual CString Text() const;
