@@ -4,10 +4,8 @@
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
 #include "model/entity/Gruppo.h"
-#include "platform/window/Dialog.h"
-#include "tests/support/DialogTest.h"
+#include "tests/dialogs/ModalTest.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -28,32 +26,6 @@ inline CCombinazione& AddCombination(RecordingDoc& doc, int id, const std::strin
         combination.AddCDC(loadCase, factor);
     return combination;
 }
-
-// A modal dialog that has ended is hidden at once and destroyed when its loop is left.
-inline bool IsShown(const DialogDriver& driver) {
-    return driver.IsOpen() && driver.Visible(IDCANCEL);
-}
-
-// Buttons as a line of 0 and 1.
-inline std::string EnabledLine(const DialogDriver& driver, const std::vector<int>& ids) {
-    std::string line;
-    for (const int id : ids)
-        line += driver.Enabled(id) ? '1' : '0';
-    return line;
-}
-
-class ModalTest : public DialogTest {
-  protected:
-    // Runs the dialog, cancels it after the action unless that closed it, and gives its result.
-    int Run(CDialog& dialog, const std::function<void(DialogDriver&)>& action) {
-        m_user.WhenDialogOpens([action](DialogDriver& driver) {
-            action(driver);
-            if (IsShown(driver))
-                driver.Click(IDCANCEL);
-        });
-        return dialog.DoModal();
-    }
-};
 
 // The pairs of a combination.
 inline std::vector<std::pair<int, double>> FactorsOf(const CCombinazione& combination) {

@@ -34,15 +34,6 @@ TEST_F(Ruota, GlobalAxes) {
     }
 }
 
-TEST_F(Ruota, GeneralAxisKeepsDegrees) {
-    TypeFrom(1215, {"1", "2", "3"});
-    TypeFrom(1143, {"4", "5", "6"});
-    m_driver.Type(angle, "90");
-    m_driver.Press(VK_RETURN);
-    EXPECT_EQ(m_host.Take(), (Lines{"BeginUndo 3 1 1 2 3 4 5 6 90 0 0", "RuotaSelezione 1 2 3 4 5 6 90 0 0",
-                                    "EndUndo 3", "WM_FINEDIALOGO 1"}));
-}
-
 TEST_F(Ruota, PicksFillTheAxisWhateverIsChosen) {
     m_driver.Type(angle, "30");
     m_driver.Click(axes[1]);

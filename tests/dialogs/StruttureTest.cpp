@@ -3,9 +3,6 @@
 #include "tests/dialogs/CheckModel.h"
 #include "tests/dialogs/ToolTest.h"
 
-#include <chrono>
-#include <thread>
-
 namespace {
 
 constexpr int treeId = 1078;
@@ -45,11 +42,7 @@ class Strutture : public ToolTest<CDialogStrutture> {
     }
     // Lets the timer run out and gives what the host then received.
     Lines Later() {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(250);
-        while (std::chrono::steady_clock::now() < end) {
-            CWinApp::PumpMessages();
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        }
+        DialogDriver::Wait(250);
         return m_host.Take();
     }
     // What the host receives for ticked structures with these selections.

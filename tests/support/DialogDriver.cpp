@@ -52,6 +52,10 @@ bool DialogDriver::IsOpen() const {
     return false;
 }
 
+void DialogDriver::Wait(int milliseconds) {
+    QTest::qWait(milliseconds);
+}
+
 void DialogDriver::Activate() {
     // A window that closed just before hands the activity on through the loop, which would take it from this one.
     QApplication::processEvents();

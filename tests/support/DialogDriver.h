@@ -55,6 +55,9 @@ class DialogDriver {
     void SetText(int id, const std::string& text);
     void SetFocus(int id);
 
+    // Lets timers run, milliseconds.
+    static void Wait(int milliseconds);
+
     bool IsOpen() const;
     // Brings the window to the front, as the window manager does for the user's click on its frame.
     void Activate();
