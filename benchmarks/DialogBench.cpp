@@ -2,7 +2,7 @@
 // at run time; and one edit notification from the key to its handler.
 #include "benchmarks/BenchDialogs.h"
 #include "benchmarks/Ratios.h"
-#include "platform/private/peers/Units.h"
+#include "platform/resource/Units.h"
 #include "platform/window/Application.h"
 
 #include <QApplication>

@@ -7,7 +7,7 @@
 #include "model/element/Nodo.h"
 #include "model/element/Trave.h"
 #include "model/view/Adv3d.h"
-#include "platform/private/paint/PainterDC.h"
+#include "platform/toolkit/PainterDC.h"
 
 #include <QImage>
 #include <QPainter>

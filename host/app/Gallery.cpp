@@ -11,8 +11,9 @@
 #include "model/element/Nodo.h"
 #include "model/element/Trave.h"
 #include "model/entity/Combinazione.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/Application.h"
+#include "platform/window/Dialog.h"
 
 #include <QAction>
 #include <QApplication>
@@ -85,12 +86,12 @@ bool TakeModal(Camera& camera, Workspace& workspace, const ModalCommand& command
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
         QWidget* top = QApplication::activeModalWidget();
-        platform::WindowPeer* peer = top ? platform::PeerOf(top) : nullptr;
-        if (!peer || !peer->isDialog)
+        CDialog* dialog = platform::DialogOf(top);
+        if (!dialog)
             return;
         look.stop();
         ok = camera.Take(*top, FileNameOf(QString::fromUtf8(command.caption)));
-        static_cast<CDialog*>(peer->Window())->EndDialog(IDCANCEL);
+        dialog->EndDialog(IDCANCEL);
     });
     look.start(10);
     workspace.Run(command);
@@ -109,7 +110,7 @@ bool TakeTools(Camera& camera, Workspace& workspace, bool isExample) {
     for (const ToolCommand& command : ToolCommands()) {
         CDialogDocument* dialog = workspace.Run(command);
         const bool taken =
-            dialog && camera.Take(*dialog->m_hWnd->widget, FileNameOf(QString::fromUtf8(command.caption)));
+            dialog && camera.Take(*platform::WidgetOf(*dialog), FileNameOf(QString::fromUtf8(command.caption)));
         ok = Accept(taken, command.caption, isExample) && ok;
         if (dialog)
             workspace.Tools().End(dialog);

@@ -6,6 +6,7 @@
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
 #include "host/view/HostView.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/Application.h"
 
 #include <QAction>
@@ -80,7 +81,7 @@ class Trial {
         m_dialog = m_workspace.ToolOf(View());
         return Check(m_dialog, "la finestra di dialogo non si apre") &&
                Wait("la finestra di dialogo non riceve il fuoco",
-                    [&] { return QApplication::focusWindow() == m_dialog->m_hWnd->widget->windowHandle(); });
+                    [&] { return QApplication::focusWindow() == platform::WidgetOf(*m_dialog)->windowHandle(); });
     }
 
     static void Key(int key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {

@@ -1,7 +1,7 @@
 #include "host/commands/AssignDialogs.h"
 
 #include "host/commands/AssignForm.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -7,7 +7,7 @@
 #include "host/document/HostDocument.h"
 #include "model/element/Linea.h"
 #include "model/entity/CasoCarico.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 
 #include <QComboBox>
 #include <QFormLayout>

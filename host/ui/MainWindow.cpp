@@ -81,8 +81,8 @@ void HostFrame::OnClose() {
 }
 
 MainWindow::MainWindow(Workspace& workspace)
-    : Hosted<QMainWindow>(nullptr), m_workspace(workspace), m_frame(workspace), m_area(new QMdiArea) {
-    Attach(&m_frame);
+    : HostedWidget<QMainWindow>(nullptr), m_workspace(workspace), m_frame(workspace), m_area(new QMdiArea) {
+    Open(m_frame);
     setCentralWidget(m_area);
     m_area->setViewMode(QMdiArea::TabbedView);
     m_area->setDocumentMode(true);
@@ -99,14 +99,13 @@ MainWindow::MainWindow(Workspace& workspace)
         if (ViewWindow* active = AsViewWindow(window); active && active->View())
             m_workspace.ViewActivated(*active->View());
     });
-    live = true;
     Refresh();
 }
 
 MainWindow::~MainWindow() {
     // The sub-windows report their end to an object that is going.
     m_area->disconnect(this);
-    Detach();
+    m_frame.Detach();
 }
 
 void MainWindow::BuildStatusBar() {

@@ -3,7 +3,7 @@
 
 #include "dialogs/frame/host/MainFrame.h"
 #include "host/ui/WaitIndicator.h"
-#include "platform/private/peers/Hosted.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/MessageMap.h"
 
 #include <QMainWindow>
@@ -39,7 +39,7 @@ class HostFrame final : public CMainFrame {
     CRect m_tableRect;
 };
 
-class MainWindow final : public platform::Hosted<QMainWindow> {
+class MainWindow final : public platform::HostedWidget<QMainWindow> {
   public:
     explicit MainWindow(Workspace& workspace);
     ~MainWindow() override;

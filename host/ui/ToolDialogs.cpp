@@ -6,7 +6,7 @@
 #include "host/ui/DeferredDelete.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 
 #include <QScreen>
 
@@ -95,7 +95,7 @@ void ToolDialogs::ViewActivated(HostView& view) {
 // Beside the main window where the screen has room, otherwise inside the view's right edge. The check places itself
 // under the view and is only kept on the screen.
 void ToolDialogs::PlaceBeside(CDialogDocument& dialog, HostView& view) {
-    QWidget* window = dialog.m_hWnd->widget;
+    QWidget* window = platform::WidgetOf(dialog);
     const QWidget& viewWidget = view.Widget();
     const QRect screen = viewWidget.screen()->availableGeometry();
     const QRect frame = viewWidget.window()->frameGeometry();

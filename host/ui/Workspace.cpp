@@ -90,7 +90,7 @@ HostView& Workspace::NewDocument() {
 }
 
 HostView& Workspace::NewView(HostDocument& document) {
-    m_views.push_back(std::make_unique<HostView>(document, *this, m_window.get(), nullptr));
+    m_views.push_back(std::make_unique<HostView>(document, *this, m_window->Handle(), nullptr));
     HostView& view = *m_views.back();
     m_window->AddView(view);
     m_window->ShowView(view);

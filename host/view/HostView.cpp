@@ -8,7 +8,7 @@
 #include "host/view/ViewWidget.h"
 #include "model/element/Nodo.h"
 #include "model/element/TipoElemento.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/Application.h"
 
 #include <QApplication>
@@ -46,8 +46,7 @@ std::function<QString()> HostView::pictureFileHook;
 
 HostView::HostView(HostDocument& document, ViewOwner& owner, HWND frame, QWidget* parent)
     : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)) {
-    Attach(m_widget);
-    m_widget->live = true;
+    m_widget->Open(*this);
     m_projection.SetScale(firstScale * CGrandezza::_LengthFactor(m_document.GetLunghezza(), Lunghezza::Metres));
     // What a window of diagrams begins with.
     for (const int kind : {CElementoSettings::V3, CElementoSettings::M2})

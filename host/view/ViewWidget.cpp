@@ -6,7 +6,7 @@
 #include "host/view/ViewRenderer.h"
 #include "model/element/Nodo.h"
 #include "model/entity/ElementoStrutturale.h"
-#include "platform/private/paint/PainterDC.h"
+#include "platform/toolkit/PainterDC.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -34,7 +34,8 @@ CPoint ToPoint(const QPoint& point) {
 
 } // namespace
 
-ViewWidget::ViewWidget(HostView& view, HWND frame, QWidget* parent) : Hosted<QWidget>(frame, parent), m_view(view) {
+ViewWidget::ViewWidget(HostView& view, HWND frame, QWidget* parent)
+    : HostedWidget<QWidget>(frame, parent), m_view(view) {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -56,7 +57,7 @@ void ViewWidget::Leave() {
 bool ViewWidget::event(QEvent* event) {
     if (m_left && event->type() != QEvent::DeferredDelete)
         return true;
-    return Hosted<QWidget>::event(event);
+    return HostedWidget<QWidget>::event(event);
 }
 
 void ViewWidget::Outdate() {

@@ -1,12 +1,13 @@
 // The toolkit's side of a structure view: the picture, the pointer and the keys.
 #pragma once
 
-#include "platform/private/peers/Hosted.h"
+#include "platform/toolkit/Bridge.h"
 
 #include <QElapsedTimer>
 #include <QImage>
 #include <QPoint>
 #include <QTimer>
+#include <QWidget>
 
 class QPainter;
 
@@ -16,7 +17,7 @@ class HostView;
 
 // Left button: click selects or picks, drag selects by rectangle. Right button: orbit. Middle button, or right with
 // Shift: pan. Wheel: zoom at the pointer. Escape leaves vector definition or drops a rectangle.
-class ViewWidget final : public platform::Hosted<QWidget> {
+class ViewWidget final : public platform::HostedWidget<QWidget> {
   public:
     ViewWidget(HostView& view, HWND frame, QWidget* parent);
 

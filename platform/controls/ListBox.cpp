@@ -2,7 +2,7 @@
 
 #include "platform/private/peers/Controls.h"
 #include "platform/private/peers/ListBoxPeer.h"
-#include "platform/private/peers/Units.h"
+#include "platform/resource/Units.h"
 
 #include <algorithm>
 #include <cstring>

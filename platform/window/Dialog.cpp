@@ -1,8 +1,8 @@
 #include "platform/window/Dialog.h"
 
 #include "platform/private/peers/DialogPeer.h"
-#include "platform/private/peers/Units.h"
 #include "platform/resource/Resource.h"
+#include "platform/resource/Units.h"
 #include "platform/window/Application.h"
 
 #include <QApplication>

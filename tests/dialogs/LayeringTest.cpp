@@ -21,8 +21,8 @@ std::vector<std::string> AllowedFor(const std::string& path) {
 }
 
 bool MayNameToolkit(const std::string& path) {
-    const bool publicHeader =
-        path.starts_with("platform/") && path.ends_with(".h") && !path.starts_with("platform/private/");
+    const bool publicHeader = path.starts_with("platform/") && path.ends_with(".h") &&
+                              !path.starts_with("platform/private/") && !path.starts_with("platform/toolkit/");
     return path.starts_with("host/") || (path.starts_with("platform/") && !publicHeader);
 }
 

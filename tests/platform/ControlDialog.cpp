@@ -1,6 +1,6 @@
 #include "tests/platform/ControlDialog.h"
 
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 
 #include <QTest>
 #include <QWindow>
@@ -10,7 +10,7 @@ BEGIN_MESSAGE_MAP(ControlDialog, CDialog)
 END_MESSAGE_MAP()
 
 void ControlDialog::ClickOn(const CWnd& control, CPoint at, bool twice) {
-    QWidget* surface = control.m_hWnd->Surface();
+    QWidget* surface = platform::SurfaceOf(control);
     QWindow* window = surface->window()->windowHandle();
     const QPoint point = surface->mapTo(surface->window(), QPoint(at.x, at.y));
     if (twice)

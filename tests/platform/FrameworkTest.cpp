@@ -2,7 +2,7 @@
 // and ends that come in the middle of something.
 #include "platform/controls/Edit.h"
 #include "platform/core/Exception.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 #include "tests/platform/LoggedDialog.h"
 
 #include <QApplication>
@@ -101,9 +101,9 @@ TEST(Framework, ThePointersArrivalStandsForTheFrame) {
         QEnterEvent event({3, 3}, {3, 3}, widget->mapToGlobal(QPoint(3, 3)));
         QApplication::sendEvent(widget, &event);
     };
-    enter(dialog.GetDlgItem(100)->m_hWnd->widget); // from the dialog's ground into a control
+    enter(platform::WidgetOf(*dialog.GetDlgItem(100))); // from the dialog's ground into a control
     EXPECT_EQ(dialog.Count("caption"), 0);
-    enter(dialog.m_hWnd->widget);
+    enter(platform::WidgetOf(dialog));
     EXPECT_EQ(dialog.Count("caption"), 1);
 }
 

@@ -3,7 +3,7 @@
 
 #include "platform/drawing/DeviceContext.h"
 #include "platform/private/paint/GdiData.h"
-#include "platform/private/paint/PainterDC.h"
+#include "platform/toolkit/PainterDC.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "tests/platform/ControlDialog.h"
 
 #include "platform/controls/SpinButton.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 
 #include <QApplication>
 #include <QWheelEvent>
@@ -114,7 +114,7 @@ TEST_F(Spin, TheWheelChangesNothingWithoutTheFocus) {
     m_user.Click(50);
     m_dialog.Take();
     for (const int id : {100, 200, 300}) {
-        QWidget* widget = m_dialog.GetDlgItem(id)->m_hWnd->widget;
+        QWidget* widget = platform::WidgetOf(*m_dialog.GetDlgItem(id));
         const QPointF centre(widget->rect().center());
         QWheelEvent wheel(centre, widget->mapToGlobal(centre), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);

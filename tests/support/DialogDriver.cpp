@@ -1,7 +1,7 @@
 #include "tests/support/DialogDriver.h"
 
 #include "platform/controls/ListBox.h"
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/Dialog.h"
 
 #include <QApplication>
@@ -38,18 +38,15 @@ std::string Utf8(const CString& text) {
 
 } // namespace
 
-DialogDriver::DialogDriver(CWnd& dialog) : m_window(dialog.m_hWnd), m_dialog(&dialog) {
-    EXPECT_TRUE(m_window) << "the dialog has no window";
-    if (m_window)
+DialogDriver::DialogDriver(CWnd& dialog) : m_widget(platform::WidgetOf(dialog)), m_dialog(&dialog) {
+    EXPECT_TRUE(m_widget) << "the dialog has no window";
+    if (m_widget)
         Activate();
 }
 
 bool DialogDriver::IsOpen() const {
-    // The toolkit's list is asked instead of the dialog, whose object may be gone with its window.
-    for (const QWidget* widget : QApplication::topLevelWidgets())
-        if (platform::PeerOf(widget) == m_window && !m_window->destroyed)
-            return true;
-    return false;
+    // The widget is asked instead of the dialog, whose object may be gone with its window.
+    return m_widget && platform::WindowOf(m_widget);
 }
 
 void DialogDriver::Wait(int milliseconds) {
@@ -61,7 +58,7 @@ void DialogDriver::Activate() {
     QApplication::processEvents();
     if (!IsOpen())
         return;
-    QWidget* top = m_window->widget->window();
+    QWidget* top = m_widget->window();
     if (!top->isVisible() || top->isActiveWindow())
         return;
     top->activateWindow();
@@ -81,7 +78,7 @@ CWnd* DialogDriver::Control(int id) const {
 
 QWidget* DialogDriver::Surface(int id) const {
     const CWnd* control = Control(id);
-    return control && control->m_hWnd ? control->m_hWnd->Surface() : nullptr;
+    return control ? platform::SurfaceOf(*control) : nullptr;
 }
 
 QWidget* DialogDriver::UsableSurface(int id) const {
@@ -108,7 +105,7 @@ void DialogDriver::Press(UINT key, unsigned modifiers) {
     const bool printable = code >= Qt::Key_Space && code <= Qt::Key_ydiaeresis;
     // A key with Control makes no character.
     const QString text = printable && !(modifiers & CtrlKey) ? QString(QChar(code)).toLower() : QString();
-    QWindow* window = m_window->widget->window()->windowHandle();
+    QWindow* window = m_widget->window()->windowHandle();
     ASSERT_TRUE(window);
     const QPointer<QWindow> alive(window);
     const auto toolkitKey = static_cast<Qt::Key>(code);
@@ -129,7 +126,7 @@ void DialogDriver::TypeKeys(const std::string& text) {
         return;
     }
     Activate();
-    const QPointer<QWindow> window(m_window->widget->window()->windowHandle());
+    const QPointer<QWindow> window(m_widget->window()->windowHandle());
     for (const QChar character : QString::fromStdString(text)) {
         ASSERT_TRUE(window) << "the dialog closed while typing";
         SendCharacter(window, character);
@@ -197,7 +194,7 @@ bool DialogDriver::RowPoint(int id, int row, QPoint& point) const {
     }
     CRect area;
     list->GetItemRect(row, &area);
-    const QRect seen = list->m_hWnd->Surface()->rect();
+    const QRect seen = platform::SurfaceOf(*list)->rect();
     if (!seen.contains(area.CenterPoint().x, area.CenterPoint().y)) {
         list->SetTopIndex(row); // the wheel or the scroll bar of a user
         list->GetItemRect(row, &area);
@@ -222,18 +219,18 @@ void DialogDriver::DoubleClickRow(int id, int row) {
 
 void DialogDriver::ClickAt(int x, int y) {
     ASSERT_TRUE(IsOpen());
-    ClickPoint(m_window->widget, QPoint(x, y), NoModifier, false, false);
+    ClickPoint(m_widget, QPoint(x, y), NoModifier, false, false);
 }
 
 void DialogDriver::MoveTo(int x, int y) {
     ASSERT_TRUE(IsOpen());
-    QTest::mouseMove(m_window->widget->windowHandle(), QPoint(x, y));
+    QTest::mouseMove(m_widget->windowHandle(), QPoint(x, y));
     QApplication::processEvents();
 }
 
 void DialogDriver::CloseBox() {
     ASSERT_TRUE(IsOpen());
-    m_window->widget->close();
+    m_widget->close();
     QApplication::processEvents();
 }
 

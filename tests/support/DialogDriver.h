@@ -5,12 +5,12 @@
 
 #include "platform/window/Window.h"
 
+#include <QPointer>
+#include <QWidget>
+
 #include <initializer_list>
 #include <string>
 #include <vector>
-
-class QPoint;
-class QWidget;
 
 enum KeyModifier : unsigned { NoModifier = 0, ShiftKey = 1, CtrlKey = 2, AltKey = 4 };
 
@@ -70,6 +70,6 @@ class DialogDriver {
     void ClickSpin(int id, bool up);
     bool RowPoint(int id, int row, QPoint& point) const;
 
-    HWND m_window;
+    QPointer<QWidget> m_widget; // the dialog's; null once the toolkit has deleted it
     CWnd* m_dialog;
 };

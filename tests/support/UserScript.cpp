@@ -1,6 +1,6 @@
 #include "tests/support/UserScript.h"
 
-#include "platform/private/peers/WindowPeer.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/Dialog.h"
 #include "tests/support/TestApp.h"
 
@@ -66,28 +66,32 @@ int UserScript::Answer(const CString& text, UINT type) {
 
 void UserScript::LookForDialog() {
     QWidget* top = QApplication::activeModalWidget();
-    platform::WindowPeer* peer = top && top->isVisible() ? platform::PeerOf(top) : nullptr;
-    if (!peer || !peer->isDialog || std::find(m_handled.begin(), m_handled.end(), peer) != m_handled.end())
+    if (!top || !top->isVisible() || !platform::DialogOf(top) ||
+        std::find(m_handled.begin(), m_handled.end(), top) != m_handled.end())
         return;
-    m_handled.push_back(peer);
+    m_handled.push_back(top);
     // Not from the timer itself: it would rest while the action runs, and a dialog opened there would wait for ever.
     QMetaObject::invokeMethod(
-        m_timer.get(), [this, peer, alive = QPointer<QWidget>(top)] { Act(peer, alive); }, Qt::QueuedConnection);
+        m_timer.get(), [this, top, alive = QPointer<QWidget>(top)] { Act(top, alive); }, Qt::QueuedConnection);
 }
 
-void UserScript::Act(HWND peer, const QPointer<QWidget>& alive) {
-    if (alive && m_actions.empty()) {
-        ADD_FAILURE() << "undeclared modal dialog: " << peer->Text().ToUtf8();
-    } else if (alive) {
+void UserScript::Act(const QWidget* top, const QPointer<QWidget>& alive) {
+    // Addresses are used again: a later dialog may be made where this one was.
+    const auto forget = [this, top] { std::erase(m_handled, top); };
+    CDialog* dialog = platform::DialogOf(alive);
+    if (!dialog)
+        return forget(); // it has ended meanwhile
+    if (m_actions.empty()) {
+        ADD_FAILURE() << "undeclared modal dialog: " << dialog->GetWindowText();
+    } else {
         const auto action = std::move(m_actions.front());
         m_actions.pop_front();
-        DialogDriver driver(*peer->Window());
+        DialogDriver driver(*dialog);
         action(driver);
         if (alive && alive->isVisible())
-            ADD_FAILURE() << "a modal dialog was left open: " << peer->Text().ToUtf8();
+            ADD_FAILURE() << "a modal dialog was left open: " << alive->windowTitle().toStdString();
     }
     if (alive && alive->isVisible())
-        static_cast<CDialog*>(peer->Window())->EndDialog(IDCANCEL);
-    // Addresses are used again: a later dialog may be made where this one was.
-    std::erase(m_handled, peer);
+        platform::DialogOf(alive)->EndDialog(IDCANCEL);
+    forget();
 }

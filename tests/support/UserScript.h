@@ -44,10 +44,10 @@ class UserScript {
 
     int Answer(const CString& text, UINT type);
     void LookForDialog();
-    void Act(HWND peer, const QPointer<QWidget>& alive);
+    void Act(const QWidget* top, const QPointer<QWidget>& alive);
 
     std::deque<Expected> m_expected;
     std::deque<std::function<void(DialogDriver&)>> m_actions;
-    std::vector<HWND> m_handled;
+    std::vector<const QWidget*> m_handled;
     std::unique_ptr<QTimer> m_timer;
 };

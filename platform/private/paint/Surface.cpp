@@ -1,5 +1,4 @@
 #include "platform/private/paint/Surface.h"
-#include "platform/private/paint/PainterDC.h"
 #include "platform/private/peers/WindowPeer.h"
 
 #include <algorithm>
@@ -246,9 +245,6 @@ QSize Surface::size() const {
     if (m_canvas)
         return m_canvas->image.deviceIndependentSize().toSize();
     return m_foreign ? QSize(m_foreign->device()->width(), m_foreign->device()->height()) : QSize(0, 0);
-}
-
-PainterDC::PainterDC(QPainter& painter) : CDC(std::make_unique<Surface>(painter)) {
 }
 
 } // namespace platform

@@ -1,7 +1,7 @@
 #include "platform/private/peers/DialogPeer.h"
 
 #include "platform/private/paint/Fonts.h"
-#include "platform/private/peers/Units.h"
+#include "platform/resource/Units.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 
 #include "platform/controls/ListBox.h"
 #include "platform/private/peers/Controls.h"
-#include "platform/private/peers/Units.h"
+#include "platform/resource/Units.h"
 
 #include <QPaintEvent>
 #include <QPainter>

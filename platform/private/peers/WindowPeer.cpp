@@ -9,16 +9,6 @@
 
 namespace platform {
 
-QString ToQString(const CString& text) {
-    const std::string utf8 = text.ToUtf8();
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-CString FromQString(const QString& text) {
-    const QByteArray utf8 = text.toUtf8();
-    return CString::FromUtf8({utf8.constData(), static_cast<std::size_t>(utf8.size())});
-}
-
 namespace {
 
 // An exception that no handler caught ends with its message: the toolkit's frames between here and the loop cannot pass
@@ -39,7 +29,11 @@ LRESULT Guarded(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam) {
 } // namespace
 
 WindowPeer* PeerOf(const QWidget* widget) {
-    return dynamic_cast<WindowPeer*>(const_cast<QWidget*>(widget));
+    auto* self = const_cast<QWidget*>(widget);
+    if (auto* peer = dynamic_cast<WindowPeer*>(self))
+        return peer;
+    const auto* hosting = dynamic_cast<const Hosting*>(self);
+    return hosting ? hosting->Handle() : nullptr;
 }
 
 WindowPeer* NearestPeer(const QWidget* widget) {

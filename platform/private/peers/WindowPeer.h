@@ -1,9 +1,11 @@
-// The window behind a CWnd. A toolkit widget becomes a window by deriving from Hosted (Hosted.h), which mixes this in.
+// The window behind a CWnd. A toolkit widget becomes a window by deriving from Hosted (Hosted.h), which mixes this in;
+// a host's by deriving from HostedWidget (toolkit/Bridge.h), which owns one.
 #pragma once
 
 #include "platform/core/String.h"
 #include "platform/drawing/Gdi.h"
 #include "platform/private/paint/Picture.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/Styles.h"
 #include "platform/window/Window.h"
 
@@ -40,8 +42,8 @@ struct WrittenNumber {
 
 class WindowPeer {
   public:
-    // `parent` is the window that this one lies in or, for a top-level one, belongs to; null for none. The widget is a
-    // base of the same object and made before the peer.
+    // `parent` is the window that this one lies in or, for a top-level one, belongs to; null for none. The widget is
+    // made before its peer and outlives it.
     WindowPeer(QWidget* self, WindowPeer* parent);
     virtual ~WindowPeer();
     WindowPeer(const WindowPeer&) = delete;
@@ -131,11 +133,7 @@ bool DispatchEvent(WindowPeer& peer, QEvent* event, bool (*base)(WindowPeer&, QE
 // Runs the toolkit's handling of the event behind the message being dispatched, when there is one and it has not run.
 bool RunEventDefault(WindowPeer& peer, UINT message, LRESULT& result);
 
-UINT VirtualKey(int toolkitKey, bool keypad);
-int ToolkitKey(UINT virtualKey); // 0 when there is none
-
-QString ToQString(const CString& text);
-CString FromQString(const QString& text);
+UINT VirtualKey(int toolkitKey, bool keypad); // ToolkitKey goes back
 
 // What a control is made from.
 struct ControlTemplate;
