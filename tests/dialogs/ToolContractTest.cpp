@@ -35,6 +35,7 @@ struct ToolDialog {
     std::set<int> whole = {};        // its edits of whole numbers
     std::vector<Typed> typed = {};   // a dialog with edits has one at least
     std::vector<Picked> picked = {}; // and one that picks as well
+    const char* rejection = nullptr; // told when the host rejects the parameters; null for nothing
     const CRuntimeClass* runtimeClass = nullptr; // null where it declares its own
 };
 
@@ -81,7 +82,8 @@ const std::vector<ToolDialog> toolDialogs = {
                 {"GenNodiLineare (7,8,9) (11,13,15) 1 2"}}},
      // The first point is the start as well; the second moves the vector and nothing else.
      .picked = {{{{1, 2, 3}}, "[Vettore] 1 1 1 2 3 1 2 3 0 0 0"},
-                {{{1, 2, 3}, {4, 5, 6}}, "[Vettore] 1 1 1 2 3 1 2 3 4 5 6"}}},
+                {{{1, 2, 3}, {4, 5, 6}}, "[Vettore] 1 1 1 2 3 1 2 3 4 5 6"}},
+     .rejection = "Parametri Errati!"},
     {.name = "CDialogGenNodi2P",
      .templateId = 9011,
      .caption = "Ponte : Generazione Nodi 2 Punti",
@@ -89,8 +91,9 @@ const std::vector<ToolDialog> toolDialogs = {
      .opening = picking,
      .fields = "0 0 0 0 0 0 1",
      .whole = {1221},
-     .typed = {{{"1", "2.5", "-3", "4", "5", "6e2", "7"}, {"GenNodi2Punti (1,2.5,-3) (4,5,600) 7"}}},
-     .picked = {{{{1, 2, 3}, {4, 5, 6}}, "1 2 3 4 5 6 1"}, {{{1, 2, 3}, {4, 5, 6}, {9, 8, 7}}, "9 8 7 4 5 6 1"}}},
+     .typed = {{{"1", "2.5", "-3", "4", "5", "6e2", "-4"}, {"GenNodi2Punti (1,2.5,-3) (4,5,600) -4"}}},
+     .picked = {{{{1, 2, 3}, {4, 5, 6}}, "1 2 3 4 5 6 1"}, {{{1, 2, 3}, {4, 5, 6}, {9, 8, 7}}, "9 8 7 4 5 6 1"}},
+     .rejection = "Parametri Errati!"},
     {.name = "CDialogCopiaTrasla",
      .templateId = 9006,
      .caption = "Ponte : Copia Trasla",
@@ -222,6 +225,16 @@ TEST_P(EveryDialogWithFields, WhatIsTypedReachesTheHost) {
         EXPECT_EQ(std::count(lines.begin(), lines.end(), "WM_FINEDIALOGO 1"), 1);
         EXPECT_FALSE(m_dialog->IsWindow());
     }
+}
+
+// Catches a rejection that is not told, or that keeps the dialog open.
+TEST_P(EveryDialogWithFields, TellsThatTheHostRejects) {
+    m_host.doc.generated = 0;
+    DialogDriver driver = Open();
+    if (GetParam().rejection)
+        m_user.ExpectMessage(GetParam().rejection, IDOK, MB_OK);
+    driver.Click(IDOK);
+    EXPECT_FALSE(m_dialog->IsWindow());
 }
 
 // Catches a pick that lands in another point, that is not shown, or that applies the command.
