@@ -25,8 +25,9 @@ bool IsField(const Control& control) {
     return IsVisibleEdit(control) && !(control.style & ES_READONLY);
 }
 
-bool IsRadio(const Control& control) {
-    return control.kind == Control::Kind::Button && (control.style & BS_TYPEMASK) == BS_AUTORADIOBUTTON;
+bool IsChoice(const Control& control) {
+    const DWORD type = control.style & BS_TYPEMASK;
+    return control.kind == Control::Kind::Button && (type == BS_AUTORADIOBUTTON || type == BS_AUTOCHECKBOX);
 }
 
 std::set<int> NumbersOf(int templateId) {
@@ -58,7 +59,7 @@ std::string ContractFields::Shown(const DialogDriver& driver) const {
     std::string all;
     for (const Control& control : m_controls) {
         std::string text;
-        if (IsRadio(control) && driver.Checked(control.id))
+        if (IsChoice(control) && driver.Checked(control.id))
             text = "[" + driver.Text(control.id) + "]";
         else if (IsVisibleEdit(control))
             text = (!IsField(control) ? "=" : driver.Enabled(control.id) ? "" : "-") + driver.Text(control.id);
@@ -72,11 +73,11 @@ std::string ContractFields::Shown(const DialogDriver& driver) const {
 void ContractFields::Type(DialogDriver& driver, const std::vector<std::string>& texts) const {
     auto next = m_controls.begin();
     for (const std::string& text : texts) {
-        const auto radio = std::ranges::find_if(m_controls, [&](const Control& control) {
-            return IsRadio(control) && "[" + driver.Text(control.id) + "]" == text;
+        const auto choice = std::ranges::find_if(m_controls, [&](const Control& control) {
+            return IsChoice(control) && "[" + driver.Text(control.id) + "]" == text;
         });
-        if (radio != m_controls.end()) {
-            driver.Click(radio->id);
+        if (choice != m_controls.end()) {
+            driver.Click(choice->id);
             continue;
         }
         while (next != m_controls.end() && !(IsField(*next) && driver.Enabled(next->id)))
@@ -98,9 +99,9 @@ void ContractFields::SetTexts(DialogDriver& driver, const std::string& text) con
             driver.SetText(control.id, text);
 }
 
-void ContractFields::ClickOtherRadios(DialogDriver& driver) const {
+void ContractFields::ClickOtherChoices(DialogDriver& driver) const {
     for (const Control& control : m_controls)
-        if (IsRadio(control) && !driver.Checked(control.id))
+        if (IsChoice(control) && driver.Enabled(control.id) && !driver.Checked(control.id))
             driver.Click(control.id);
 }
 

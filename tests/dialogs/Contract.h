@@ -11,7 +11,7 @@
 #include <vector>
 
 // What the user types and what comes of it. A text goes to the next enabled edit in the template's order, "[X]" clicks
-// the radio button X.
+// the radio button or check box X.
 struct Typed {
     std::vector<std::string> texts;
     Lines calls;             // that the host receives after OK
@@ -25,13 +25,13 @@ class ContractFields {
     // Whether there is an edit that the user can type into.
     bool Any() const;
     // The texts of the visible edits, "-" before disabled and "=" before read-only ones, and of the checked radio
-    // buttons, in brackets.
+    // buttons and check boxes, in brackets.
     std::string Shown(const DialogDriver& driver) const;
     void Type(DialogDriver& driver, const std::vector<std::string>& texts) const;
     // As a program does, disabled edits too.
     void SetTexts(DialogDriver& driver, const std::string& text) const;
-    void SpoilTexts(DialogDriver& driver) const; // none is a number any more
-    void ClickOtherRadios(DialogDriver& driver) const;
+    void SpoilTexts(DialogDriver& driver) const;        // none is a number any more
+    void ClickOtherChoices(DialogDriver& driver) const; // radio buttons and check boxes that are not checked
 
     // Calls `refused` after each edit that got a text which is no number, with its message declared; the edit must have
     // kept the text and have the focus. `whole` holds whole numbers, `texts` takes any text.

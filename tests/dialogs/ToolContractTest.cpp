@@ -30,12 +30,12 @@ struct ToolDialog {
     int templateId;
     const char* caption; // on a document called "Ponte"
     std::unique_ptr<CDialogDocument> (*make)();
-    const char* opening = "";        // the one line that the host receives, "" for none
-    const char* fields = "";         // what its edits and radio buttons show at every opening, see ContractFields
-    std::set<int> whole = {};        // its edits of whole numbers
-    std::vector<Typed> typed = {};   // a dialog with edits has one at least
-    std::vector<Picked> picked = {}; // and one that picks as well
-    const char* rejection = nullptr; // told when the host rejects the parameters; null for nothing
+    const char* opening = "";                    // the one line that the host receives, "" for none
+    const char* fields = "";                     // what they show at every opening, see ContractFields
+    std::set<int> whole = {};                    // its edits of whole numbers
+    std::vector<Typed> typed = {};               // a dialog with edits has one at least
+    std::vector<Picked> picked = {};             // and one that picks as well
+    const char* rejection = nullptr;             // told when the host rejects the parameters; null for nothing
     const CRuntimeClass* runtimeClass = nullptr; // null where it declares its own
 };
 
@@ -195,7 +195,7 @@ TEST_P(EveryToolDialog, OpensFromItsTemplateWithItsDefaults) {
     const CRuntimeClass* declared = GetParam().runtimeClass;
     EXPECT_STREQ(m_dialog->GetRuntimeClass()->m_lpszClassName, declared ? declared->m_lpszClassName : GetParam().name);
     EXPECT_TRUE(m_dialog->IsKindOf(RUNTIME_CLASS(CDialogDocument)));
-    EXPECT_EQ(m_fields.Any(), !GetParam().typed.empty()) << "the table lacks what comes of typing";
+    EXPECT_TRUE(!m_fields.Any() || !GetParam().typed.empty()) << "the table lacks what comes of typing";
     const std::string opening = GetParam().opening;
     EXPECT_EQ(opening.starts_with("StartDefinisciVettore"), !GetParam().picked.empty()) << "and of picking";
     for (int times = 0; times < 2; ++times) {
@@ -207,7 +207,7 @@ TEST_P(EveryToolDialog, OpensFromItsTemplateWithItsDefaults) {
         EXPECT_EQ(m_fields.Shown(driver), GetParam().fields);
         EXPECT_TRUE(m_dialog->UpdateData(TRUE)) << "the defaults must be valid";
         m_fields.SetTexts(driver, "7");
-        m_fields.ClickOtherRadios(driver);
+        m_fields.ClickOtherChoices(driver);
         m_dialog->UpdateData(TRUE);
         m_dialog->DestroyWindow();
         m_host.Take();
