@@ -172,7 +172,7 @@ class Compiler : public testing::Test {
         std::string name = (std::filesystem::temp_directory_path() / "rescompilerXXXXXX").string();
         m_folder = mkdtemp(name.data());
         Put("a.svg", "<svg/>");
-        Put("ids.h", "#pragma once\n#define IDD_ONE 9001 // a dialog\n#define IDC_BACK -1\n");
+        Put("ids.h", "#pragma once\nenum : int { IDD_ONE = 9001 /* a dialog */, IDC_BACK = -1 };\n");
     }
     void TearDown() override { std::filesystem::remove_all(m_folder); }
 
@@ -187,7 +187,7 @@ class Compiler : public testing::Test {
         Put("t.rc", script);
         const auto tool = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "rescompiler";
         const std::string command =
-            "cd " + m_folder.string() + " && '" + tool.string() + "' Tables out.cpp out.d t.rc 2>errors";
+            "cd " + m_folder.string() + " && '" + tool.string() + "' Tables out.cpp out.d . t.rc 2>errors";
         const int status = std::system(command.c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Get("errors"), Get("out.cpp")};
     }
@@ -232,9 +232,62 @@ TEST_F(Compiler, WritesWhatTheScriptSays) {
     EXPECT_NE(Get("out.d").find("a.svg"), std::string::npos);
 }
 
+// Two dialogs with one name for different numbers, among what else a header holds.
+const char* const dialogsHeader = R"(#include "other.h"
+namespace inner { enum : int { IDC_X = 66 }; }
+template <class T> class CBase;
+class MARK CFirst final : public CBase<CFirst> { // IDC_X = 1,
+  public:
+    enum : unsigned { IDD = 9011 };
+    enum : int { IDC_X = 1'119, IDC_Y, IDC_Z = IDC_X + 2, IDC_MASK = 1 << 3, IDC_NEXT };
+    enum class Kind : int { Beam, Truss = 0x7, Wall };
+    void Set(class CSecond& second, const char* text = "};", char c = '"') { enum { IDC_LOCAL = 5 }; }
+    int m_count{1};
+};
+struct CSecond { enum { IDD = 9012, IDC_X = 20u - 1, IDC_ONLY = CFirst::IDC_Y + 100 }; };
+)";
+
+// Catches a name that is taken from another class than the dialog's, a value that is counted or added up wrongly, a
+// header that the next build does not look at, and an output written anew though it says the same.
+TEST_F(Compiler, NamesAreThoseOfTheDialogsClass) {
+    Put("dialogs.h", dialogsHeader);
+    const std::string head = "#include \"dialogs.h\"\n#define IDB_ONE 7\n";
+    const std::pair<const char*, const char*> names[] = {
+        {"IDC_X", "1119"},    {"IDC_Y", "1120"},      {"IDC_Z", "1121"},        {"IDC_X + 5 - 1", "1123"},
+        {"Kind::Wall", "8"},  {"inner::IDC_X", "66"}, {"CSecond::IDC_X", "19"}, {"CSecond::IDC_ONLY", "1220"},
+        {"IDC_STATIC", "-1"}, {"IDCANCEL", "2"},      {"IDB_ONE", "7"},
+    };
+    std::string script = head + "CFirst::IDD DIALOG 0, 0, 9, 9 {\n";
+    for (const auto& [name, number] : names)
+        script += "EDITTEXT " + std::string(name) + ", 0, 0, 9, 8\n";
+    script += "}\nCSecond::IDD MENU { MENUITEM \"X\", IDC_X }\n";
+    const Result result = Compile(script);
+    EXPECT_EQ(result.errors, "");
+    for (const auto& [name, number] : names)
+        EXPECT_NE(result.output.find("\"\", " + std::string(number) + ", 0, 0, 9, 8"), std::string::npos) << name;
+    EXPECT_NE(result.output.find("{19, \"X\""), std::string::npos) << "the menu's class is another";
+    EXPECT_NE(Get("out.d").find("dialogs.h"), std::string::npos);
+    const auto written = std::filesystem::last_write_time(m_folder / "out.cpp");
+    Compile(script);
+    EXPECT_EQ(std::filesystem::last_write_time(m_folder / "out.cpp"), written);
+
+    const std::pair<const char*, const char*> faults[] = {
+        {"IDC_ONLY", "IDC_ONLY is a name of CSecond"},   {"IDC_LOCAL", "unknown name IDC_LOCAL"},
+        {"IDC_MASK", "unknown name IDC_MASK"},           {"IDC_NEXT", "unknown name IDC_NEXT"},
+        {"CThird::IDC_X", "unknown name CThird::IDC_X"},
+    };
+    for (const auto& [name, message] : faults)
+        EXPECT_EQ(Compile(head + "CFirst::IDD DIALOG 0, 0, 9, 9 {\nEDITTEXT " + name + ", 0, 0, 9, 8 }").errors,
+                  "t.rc:4: " + std::string(message) + "\n");
+    EXPECT_EQ(Compile(head + "CFirst::IDD DIALOG 0, 0, 9, 9 {}\nIDC_X MENU {}").errors,
+              "t.rc:4: IDC_X is a name of CFirst\n")
+        << "the class's names end with its dialog";
+}
+
 // Catches a broken script that compiles, or a message without its place.
 TEST_F(Compiler, FaultsEndTheBuildWithTheirPlace) {
-    Put("bad.h", "\n#define IDC_X (1 + 2)\n");
+    Put("bad.h", "enum { IDC_X = 1 };\nenum { IDC_X = 2 };\n");
+    EXPECT_NE(Compile("").output, ""); // a stale one, for the first fault to take away
     const std::pair<const char*, const char*> inDialogs[] = {
         {"LTEXT \"a\", 5, 0, 0, 9, 8\nLTEXT \"b\", 5, 9, 0, 9, 8", "t.rc:5: control 5 is there twice in dialog 9001"},
         {"EDITTEXT 5, 95, 0, 6, 8", "t.rc:4: control 5 reaches out of dialog 9001"},
@@ -243,7 +296,7 @@ TEST_F(Compiler, FaultsEndTheBuildWithTheirPlace) {
         {"CONTROL 8, 5, \"Static\", SS_BITMAP, 0, 0, 6, 8", "t.rc:4: bitmap 8 is missing"},
         {"LTEXT \"\u0416\", 5, 0, 0, 9, 8", "t.rc:4: \"\u0416\" has characters outside the code page"},
         {"KNOB 5, 0, 0, 9, 8", "t.rc:4: unknown control KNOB"},
-        {"EDITTEXT IDC_NONE, 0, 0, 9, 8", "t.rc:4: expected a number or a defined name instead of \"IDC_NONE\""},
+        {"EDITTEXT IDC_NONE, 0, 0, 9, 8", "t.rc:4: unknown name IDC_NONE"},
         {"LTEXT \"a, 5, 0, 0, 9, 8", "t.rc:4: text without closing quote"},
         {"EDITTEXT 5, 0, 0, 9", "t.rc:5: expected a comma instead of \"END\""},
     };
@@ -253,7 +306,8 @@ TEST_F(Compiler, FaultsEndTheBuildWithTheirPlace) {
         {"1 DIALOG 0,0,9,9 {}\n1 DIALOG 0,0,9,9 {}", "t.rc:2: dialog 1 is there twice"},
         {"1 DIALOG 0, 0, 9, 9\nBEGIN\n", "t.rc:2: dialog 1 without END"},
         {"1 CURSOR \"c\"", "t.rc:1: unknown kind of resource \"CURSOR\""},
-        {"#include \"bad.h\"", "bad.h:2: IDC_X is not defined as a number"},
+        {"#define IDC_X (1", "t.rc:1: IDC_X is not defined as a number"},
+        {"#include \"bad.h\"", "bad.h:2: IDC_X is defined twice"},
         {"#include \"none.h\"", "t.rc:1: cannot read none.h"},
     };
     const auto expectFault = [this](const std::string& script, const char* message) {

@@ -176,10 +176,10 @@ void DialogParser::ParseIcon(Control& control) {
 }
 
 void DialogParser::ParseImageOrText(Control& control) {
-    if (m_reader.AtNumber())
-        control.image = m_reader.ExpectNumber();
-    else
+    if (m_reader.AtText())
         control.text = m_reader.ExpectText();
+    else
+        control.image = m_reader.ExpectNumber();
 }
 
 void DialogParser::ParseBounds(Control& control) {

@@ -19,8 +19,11 @@ void Parser::Parse() {
 }
 
 void Parser::ParseResource() {
-    const Place place = m_reader.Peek().place;
+    const Token first = m_reader.Peek();
+    const Place& place = first.place;
+    m_reader.SetScope("");
     const int id = m_reader.ExpectNumber();
+    m_reader.SetScope(first.kind == Token::Kind::Word ? NameTable::ScopeOf(first.text) : "");
     if (id <= 0 || id > 0xffff)
         throw ScriptError(place, "a resource's number lies between 1 and 65535");
     if (m_reader.AcceptWord("DIALOG"))

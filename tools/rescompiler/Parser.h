@@ -1,4 +1,5 @@
-// Reads one script's resources into the tables.
+// Reads one script's resources into the tables. A resource whose number is a class's, as CDialogMuovi::IDD, may use the
+// names of that class without it.
 #pragma once
 
 #include "tools/rescompiler/Tables.h"

@@ -1,52 +1,35 @@
-// A resource script read into tokens, with the names that its headers define.
+// A resource script read into tokens, with the names that it may use.
 #pragma once
 
-#include <map>
+#include "tools/rescompiler/NameTable.h"
+#include "tools/rescompiler/Scanner.h"
+
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace rescompiler {
 
-struct Place {
-    std::string file;
-    int line = 0;
-};
-
-// A fault in a script. what() is "file:line: message".
-class ScriptError : public std::runtime_error {
-  public:
-    ScriptError(const Place& place, const std::string& message);
-};
-
-struct Token {
-    enum class Kind { Word, Number, Text, Mark, End };
-
-    Kind kind = Kind::End;
-    std::string text; // a Text's characters in UTF-8 without quotes, escapes resolved
-    long long number = 0;
-    Place place;
-};
-
-// Lines with '#' are taken while reading: `#define NAME value` and `#include "file"` (beside the including file);
-// guards and pragmas of headers are passed over.
+// Lines with '#' are taken while reading. `#include "file"` adds the enumerators of a header, `#define NAME number` a
+// name for what only scripts number.
 class Script {
   public:
-    // Throws ScriptError for a file that cannot be read or holds a bad token.
-    explicit Script(const std::string& path);
+    // Headers are named from the folder `root`, as in the code. Throws ScriptError for a file that cannot be read or
+    // holds a bad token.
+    Script(const std::string& path, const std::string& root);
 
     const std::vector<Token>& Tokens() const { return m_tokens; } // ends with one End token
-    const std::map<std::string, long long>& Names() const { return m_names; }
+    const NameTable& Names() const { return m_names; }
     const std::set<std::string>& Files() const { return m_files; } // every file read
 
   private:
-    void ReadFile(const std::string& path, const Place& from);
     void ReadDirective(const std::string& line, const Place& place);
     void Define(const std::string& name, const std::string& value, const Place& place);
+    void Include(const std::string& header, const Place& place);
 
+    std::string m_root;
     std::vector<Token> m_tokens;
-    std::map<std::string, long long> m_names;
+    NameTable m_names;
     std::set<std::string> m_files;
 };
 

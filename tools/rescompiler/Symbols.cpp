@@ -1,11 +1,13 @@
 #include "tools/rescompiler/Symbols.h"
 
+#include "platform/window/Messages.h"
 #include "platform/window/Styles.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <unordered_map>
+#include <utility>
 
 namespace rescompiler {
 namespace {
@@ -152,6 +154,17 @@ const std::unordered_map<std::string, std::uint32_t>& Styles() {
     return styles;
 }
 
+constexpr std::array<std::pair<const char*, int>, 8> standardIds = {{
+    {"IDOK", IDOK},
+    {"IDCANCEL", IDCANCEL},
+    {"IDABORT", IDABORT},
+    {"IDRETRY", IDRETRY},
+    {"IDIGNORE", IDIGNORE},
+    {"IDYES", IDYES},
+    {"IDNO", IDNO},
+    {"IDC_STATIC", IDC_STATIC},
+}};
+
 constexpr std::array<WindowClass, 9> classes = {{
     {Kind::Button, "Button"},
     {Kind::Edit, "Edit"},
@@ -174,6 +187,11 @@ bool SameName(const std::string& left, const std::string& right) {
 std::optional<std::uint32_t> StyleValue(const std::string& name) {
     const auto found = Styles().find(name);
     return found == Styles().end() ? std::nullopt : std::optional(found->second);
+}
+
+std::optional<int> StandardId(const std::string& name) {
+    const auto found = std::ranges::find_if(standardIds, [&](const auto& id) { return name == id.first; });
+    return found == standardIds.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::optional<WindowClass> FindWindowClass(const std::string& name) {

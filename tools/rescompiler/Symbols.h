@@ -1,4 +1,4 @@
-// Names of styles and window classes that every script knows.
+// Names of styles, standard controls and window classes that every script knows.
 #pragma once
 
 #include "platform/resource/Resource.h"
@@ -11,6 +11,9 @@ namespace rescompiler {
 
 // Value of a style or language name; nothing when there is no such name.
 std::optional<std::uint32_t> StyleValue(const std::string& name);
+
+// Number of a control that every dialog may have: IDOK, IDCANCEL, ..., IDC_STATIC; nothing for another name.
+std::optional<int> StandardId(const std::string& name);
 
 struct WindowClass {
     platform::ControlTemplate::Kind kind;

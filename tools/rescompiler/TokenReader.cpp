@@ -44,7 +44,7 @@ void TokenReader::ExpectComma() {
 }
 
 std::string TokenReader::ExpectText() {
-    if (Peek().kind != Token::Kind::Text)
+    if (!AtText())
         FailExpected("a text in quotes");
     return Take().text;
 }
@@ -58,32 +58,39 @@ bool TokenReader::AcceptEnd() {
     return AcceptWord("END") || AcceptMark('}');
 }
 
-bool TokenReader::AtNumber() const {
-    const Token& token = Peek();
-    return token.kind == Token::Kind::Number || (token.kind == Token::Kind::Mark && token.text == "-") ||
-           (token.kind == Token::Kind::Word && (m_script.Names().contains(token.text) || StyleValue(token.text)));
-}
-
 int TokenReader::ExpectNumber() {
     const Place place = Peek().place;
-    const bool negative = AcceptMark('-');
-    const Token& token = Peek();
-    long long value = 0;
-    if (token.kind == Token::Kind::Number)
-        value = token.number;
-    else if (const auto name = m_script.Names().find(token.text);
-             token.kind == Token::Kind::Word && name != m_script.Names().end())
-        value = name->second;
-    else if (const auto style = StyleValue(token.text); token.kind == Token::Kind::Word && style)
-        value = *style;
-    else
-        FailExpected("a number or a defined name");
-    Take();
-    if (negative)
-        value = -value;
-    if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
-        throw ScriptError(place, "number out of range");
-    return static_cast<int>(value);
+    long long sum = 0;
+    bool negative = AcceptMark('-');
+    do {
+        const long long term = ExpectTerm();
+        sum += negative ? -term : term;
+        if (sum < std::numeric_limits<int>::min() || sum > std::numeric_limits<int>::max())
+            throw ScriptError(place, "number out of range");
+    } while ((negative = AcceptMark('-')) || AcceptMark('+'));
+    return static_cast<int>(sum);
+}
+
+long long TokenReader::ExpectTerm() {
+    if (Peek().kind != Token::Kind::Number && Peek().kind != Token::Kind::Word)
+        FailExpected("a number or a name");
+    const Token& token = Take();
+    const long long term = token.kind == Token::Kind::Number ? token.number : NumberOf(token);
+    constexpr long long most = std::numeric_limits<std::uint32_t>::max();
+    if (term > most || term < -most) // so that no sum overflows
+        throw ScriptError(token.place, "number out of range");
+    return term;
+}
+
+long long TokenReader::NumberOf(const Token& word) const {
+    if (const auto value = m_script.Names().Find(m_scope, word.text))
+        return *value;
+    if (const auto id = StandardId(word.text))
+        return *id;
+    if (const auto style = StyleValue(word.text))
+        return *style;
+    const std::string owner = m_script.Names().OwnerOf(word.text);
+    throw ScriptError(word.place, owner.empty() ? "unknown name " + word.text : word.text + " is a name of " + owner);
 }
 
 std::uint32_t TokenReader::ExpectStyle(std::uint32_t base) {

@@ -1,6 +1,8 @@
 // Compiles resource scripts into one C++ source:
-//   rescompiler MODULE OUTPUT DEPFILE SCRIPT...
-// Faults go to the error stream as "file:line: message" and end it with status 1; no output is left then.
+//   rescompiler MODULE OUTPUT DEPFILE ROOT SCRIPT...
+// Scripts name headers from the folder ROOT. An output that would not change is left alone, so that nothing is built
+// anew for a header whose numbers stayed. Faults go to the error stream as "file:line: message" and end it with status
+// 1; no output is left then.
 #include "tools/rescompiler/Checker.h"
 #include "tools/rescompiler/Parser.h"
 #include "tools/rescompiler/Writer.h"
@@ -8,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 
 namespace {
@@ -28,7 +31,14 @@ std::string DependencyRule(const std::string& output, const std::set<std::string
     return rule + "\n";
 }
 
+std::string ReadFile(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
 bool WriteFile(const std::string& path, const std::string& text) {
+    if (ReadFile(path) == text)
+        return true;
     std::ofstream stream(path, std::ios::binary);
     stream << text;
     stream.close();
@@ -39,11 +49,12 @@ bool WriteFile(const std::string& path, const std::string& text) {
 }
 
 // Reads every script, going on with the next after a faulty one. True when all were read.
-bool ReadScripts(const std::vector<std::string>& paths, Tables& tables, std::set<std::string>& files) {
+bool ReadScripts(const std::vector<std::string>& paths, const std::string& root, Tables& tables,
+                 std::set<std::string>& files) {
     bool good = true;
     for (const std::string& path : paths) {
         try {
-            const Script script(path);
+            const Script script(path, root);
             files.insert(script.Files().begin(), script.Files().end());
             Parser(script, tables).Parse();
         } catch (const ScriptError& error) {
@@ -58,31 +69,37 @@ bool ReadScripts(const std::vector<std::string>& paths, Tables& tables, std::set
     return good;
 }
 
-int Compile(const std::string& module, const std::string& output, const std::string& depfile,
-            const std::vector<std::string>& scripts) {
-    std::error_code ignored;
-    std::filesystem::remove(output, ignored); // a stale output must not outlive a fault
-    Tables tables;
-    std::set<std::string> files;
-    if (!ReadScripts(scripts, tables, files))
-        return 1;
+// True when the tables are sound; otherwise the faults have been told.
+bool CheckTables(Tables& tables) {
     const std::vector<std::string> faults = Checker(tables).Check();
     for (const std::string& fault : faults)
         std::cerr << fault << '\n';
-    if (!faults.empty())
-        return 1;
+    return faults.empty();
+}
+
+int Compile(const std::string& module, const std::string& output, const std::string& depfile, const std::string& root,
+            const std::vector<std::string>& scripts) {
+    Tables tables;
+    std::set<std::string> files;
     std::ostringstream source;
-    Writer(tables, source).Write(module);
-    return WriteFile(output, source.str()) && WriteFile(depfile, DependencyRule(output, files)) ? 0 : 1;
+    bool good = ReadScripts(scripts, root, tables, files) && CheckTables(tables);
+    if (good) {
+        Writer(tables, source).Write(module);
+        good = WriteFile(depfile, DependencyRule(output, files)) && WriteFile(output, source.str());
+    }
+    std::error_code ignored;
+    if (!good)
+        std::filesystem::remove(output, ignored); // a stale output must not outlive a fault
+    return good ? 0 : 1;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
-    if (arguments.size() < 4) {
-        std::cerr << "usage: rescompiler MODULE OUTPUT DEPFILE SCRIPT...\n";
+    if (arguments.size() < 5) {
+        std::cerr << "usage: rescompiler MODULE OUTPUT DEPFILE ROOT SCRIPT...\n";
         return 2;
     }
-    return Compile(arguments[0], arguments[1], arguments[2], {arguments.begin() + 3, arguments.end()});
+    return Compile(arguments[0], arguments[1], arguments[2], arguments[3], {arguments.begin() + 4, arguments.end()});
 }
