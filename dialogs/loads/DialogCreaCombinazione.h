@@ -24,6 +24,8 @@ class CDialogCreaCombinazione : public CDialog {
         IDC_FATTORE = 1371,
         IDC_FATTORE_COMBINAZIONE = 1372,
         IDC_LIST_CDCA = 1422, // the available ones
+        IDC_ALGEBRICA = 1447,
+        IDC_VALORI_EFFICACI = 1448,
     };
 
     explicit CDialogCreaCombinazione(Tipo tipo, CWnd* pParent = nullptr);

@@ -15,6 +15,8 @@ class CDialogCopiaRuota : public TwoPointDialog {
         IDC_X1 = 1183,
         IDC_X2 = 1186,
         IDC_UNIONE_TRAVI = 1189,
+        IDC_UNIONE_ASTE = 1190,
+        IDC_UNIONE_NIENTE = 1191,
         IDC_COPIE = 1192,
         IDC_ANGOLO = 1193,
     };

@@ -32,6 +32,8 @@ class CDialogCopiaTrasla : public TwoPointDialog {
         IDC_Y2 = 1198,
         IDC_Z2 = 1199,
         IDC_UNIONE_TRAVI = 1200,
+        IDC_UNIONE_BIELLE = 1201,
+        IDC_UNIONE_NIENTE = 1202,
         IDC_COPIE = 1203,
     };
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int list = 1086;
+constexpr int list = CDialogCheck::IDC_LIST_ERRORS;
 const char* const severalStructures = "ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!";
 
 class Check : public ToolTest<CDialogCheck> {

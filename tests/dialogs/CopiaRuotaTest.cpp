@@ -3,13 +3,14 @@
 
 namespace {
 
-constexpr int copies = 1192, spin = 1171;
+using Dialog = CDialogCopiaRuota;
+constexpr int copies = Dialog::IDC_COPIE, spin = Dialog::IDC_SPIN_COPIE;
 
-using CopiaRuota = ToolTest<CDialogCopiaRuota>;
+using CopiaRuota = ToolTest<Dialog>;
 
 TEST_F(CopiaRuota, NoButtonAtAllJoinsNothing) {
-    EXPECT_EQ(CDialogCopiaRuota().m_nUnione, -1);
-    m_dialog.CheckDlgButton(1191, 0);
+    EXPECT_EQ(Dialog().m_nUnione, -1);
+    m_dialog.CheckDlgButton(Dialog::IDC_UNIONE_NIENTE, 0);
     m_driver.Click(IDOK);
     EXPECT_EQ(m_host.Take(),
               Ended({"BeginUndo 4 0 0 0 0 0 0 0 0 0 0", "RuotaSelezione 0 0 0 0 0 0 0 1 0", "EndUndo 4"}));

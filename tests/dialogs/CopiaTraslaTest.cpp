@@ -4,8 +4,11 @@
 
 namespace {
 
-constexpr int list = 1004, spacing = 1093, editor = 1096, spin = 1171, copies = 1203;
-constexpr int radioX = 1090, radioY = 1091, radioZ = 1092, radioVector = 1102;
+using Dialog = CDialogCopiaTrasla;
+constexpr int list = Dialog::IDC_LISTA_PASSI, editor = Dialog::IDC_EDIT_LISTA, spacing = Dialog::IDC_SPAZIATURA;
+constexpr int spin = Dialog::IDC_SPIN_COPIE, copies = Dialog::IDC_COPIE;
+constexpr int radioX = Dialog::IDC_DIREZIONE_X, radioY = Dialog::IDC_DIREZIONE_Y, radioZ = Dialog::IDC_DIREZIONE_Z;
+constexpr int radioVector = Dialog::IDC_DIREZIONE_VETTORE;
 
 class CopiaTrasla : public ToolTest<CDialogCopiaTrasla> {
   protected:
@@ -29,7 +32,11 @@ class CopiaTrasla : public ToolTest<CDialogCopiaTrasla> {
         m_driver.ClickRow(list, row);
         m_driver.Press({digit, VK_RETURN});
     }
-    bool VectorEnabled() const { return EnabledTogether({{1125, 1125}, {1113, 1118}, {1194, 1199}}); }
+    bool VectorEnabled() const {
+        return EnabledTogether({{Dialog::IDC_GROUP_VETTORE, Dialog::IDC_GROUP_VETTORE},
+                                {Dialog::IDC_LABEL_VETTORE_FIRST, Dialog::IDC_LABEL_VETTORE_LAST},
+                                {Dialog::IDC_X1, Dialog::IDC_Z2}});
+    }
     CRect PlaceOf(int id) {
         CRect place;
         m_dialog.GetDlgItem(id)->GetWindowRect(place);
@@ -53,7 +60,7 @@ TEST_F(CopiaTrasla, StepsTypedByKeyboardAlone) {
     m_driver.Press('C', AltKey);
     m_driver.TypeKeys("3");
     m_driver.Click(radioX);
-    m_driver.Click(1201);
+    m_driver.Click(Dialog::IDC_UNIONE_BIELLE);
     m_driver.ClickRow(list, 0);
     for (const UINT digit : {'1', '2', '3'}) {
         m_driver.Press(digit);
@@ -68,7 +75,7 @@ TEST_F(CopiaTrasla, StepsTypedByKeyboardAlone) {
     EXPECT_EQ(m_host.Take(), Command({"1 0 0 2", "2 0 0 2", "3 0 0 2"}, 1, 3));
     // The silent vector of an axis must not stick: the next command reads the buttons again.
     m_dialog.SetVettoreTo(CFPoint(0, 0, 50), 0);
-    m_driver.Click(1200);
+    m_driver.Click(Dialog::IDC_UNIONE_TRAVI);
     m_driver.Press(VK_RETURN);
     EXPECT_EQ(m_host.Take(), Command({"1 0 0 1", "2 0 0 1", "3 0 0 1"}, 1, 3));
 }
@@ -104,7 +111,7 @@ TEST_F(CopiaTrasla, SpaceAndDoubleClickEditTheCurrentValue) {
     EXPECT_EQ(m_driver.Text(editor), "4.5");
     EXPECT_EQ(m_driver.Focus(), editor);
     m_driver.Press('8');
-    m_driver.Click(1202); // leaving by mouse commits as well
+    m_driver.Click(Dialog::IDC_UNIONE_NIENTE); // leaving by mouse commits as well
     EXPECT_EQ(m_driver.Rows(list), (Lines{Row(1, "8"), Row(2, "6")}));
     EXPECT_FALSE(m_driver.Visible(editor));
 }
@@ -173,7 +180,7 @@ TEST_F(CopiaTrasla, PickedVectorSetsDirectionAndSteps) {
     EXPECT_TRUE(VectorEnabled());
     EXPECT_EQ(m_driver.Text(spacing), "3") << "the first point says nothing about the distance";
     m_host.View().Pick(4, 5, 1);
-    EXPECT_EQ(Texts({1194, 1195, 1197, 1198, spacing}), "1 1 4 5 5");
+    EXPECT_EQ(Texts({Dialog::IDC_X1, Dialog::IDC_Y1, Dialog::IDC_X2, Dialog::IDC_Y2, spacing}), "1 1 4 5 5");
     EXPECT_EQ(m_driver.Rows(list), (Lines{Row(1, "5"), Row(2, "5")}));
     m_user.ExpectMessage("La spaziatura non può essere cambiata con il vettore attivo.", IDOK, MB_OK);
     m_driver.Type(spacing, "7");
@@ -189,21 +196,21 @@ TEST_F(CopiaTrasla, SilentPointsTouchNoControl) {
     EXPECT_EQ(m_dialog.m_nDirezione, 3);
     EXPECT_TRUE(VectorEnabled());
     EXPECT_TRUE(m_driver.Checked(radioZ));
-    EXPECT_EQ(Texts({1194, spacing}), "0 3");
+    EXPECT_EQ(Texts({Dialog::IDC_X1, spacing}), "0 3");
     EXPECT_EQ(m_dialog.GetIndexPass(0), 3);
     // The same slots with a non-zero argument are the picked points.
     m_dialog.SetVettoreTo(CFPoint(0, 8, 0), 1);
-    EXPECT_EQ(Texts({1198, spacing}), "8 8") << "the first point was read back from its edits";
+    EXPECT_EQ(Texts({Dialog::IDC_Y2, spacing}), "8 8") << "the first point was read back from its edits";
 }
 
 TEST_F(CopiaTrasla, TypedCoordinateUpdatesTheSteps) {
     m_driver.Click(radioVector);
     EXPECT_EQ(m_driver.Rows(list), Lines{Row(1, "0")}) << "the vector's length, null so far";
-    TypeFrom(1194, {"1", "2", "3", "2", "4", "5"});
+    TypeFrom(Dialog::IDC_X1, {"1", "2", "3", "2", "4", "5"});
     m_driver.Press(VK_TAB);
     EXPECT_EQ(m_driver.Rows(list), Lines{Row(1, "3")});
     TypeStep(0, '8');
-    m_driver.Click(1195);
+    m_driver.Click(Dialog::IDC_Y1);
     m_driver.Press(VK_TAB);
     EXPECT_EQ(m_driver.Rows(list), Lines{Row(1, "8")}) << "leaving an edit unchanged resets nothing";
 }
@@ -263,13 +270,13 @@ TEST_F(CopiaTrasla, NullVectorAndTextAreRefused) {
     m_driver.Click(radioVector);
     m_user.ExpectMessage("Vettore non valido.", IDOK, MB_OK); // before the steps, which are all 0
     m_driver.Click(IDOK);
-    m_driver.Type(1199, "abc");
+    m_driver.Type(Dialog::IDC_Z2, "abc");
     m_user.ExpectMessage("Immettere un numero.");
     m_driver.Press(VK_RETURN);
     // Leaving the edit reads it again; a picked point is not taken while it is wrong.
     m_user.ExpectMessage("Immettere un numero.");
     m_host.View().Pick(1, 2, 3);
-    EXPECT_EQ(m_driver.Text(1194), "0");
+    EXPECT_EQ(m_driver.Text(Dialog::IDC_X1), "0");
     EXPECT_EQ(m_host.Take(), Lines{});
     // The view goes: no message about a text that nobody can correct any more.
     m_host.CloseView(m_host.View());
@@ -279,7 +286,7 @@ TEST_F(CopiaTrasla, NullVectorAndTextAreRefused) {
 TEST_F(CopiaTrasla, AfterCancelNothingIsRead) {
     // The edit loses the focus while the window goes: its text must not be judged any more.
     m_driver.Click(radioVector);
-    m_driver.Type(1197, "abc");
+    m_driver.Type(Dialog::IDC_X2, "abc");
     m_driver.Press(VK_ESCAPE);
     m_dialog.DestroyWindow();
     m_dialog.SetVettoreFrom(CFPoint(5, 5, 5));

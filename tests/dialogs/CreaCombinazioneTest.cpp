@@ -46,7 +46,7 @@ TEST_F(CreaCombinazione, OpensEmptyForANewOne) {
         EXPECT_TRUE(driver.Rows(combinedId).empty());
         EXPECT_TRUE(driver.SelectedRows(availableId).empty());
         EXPECT_EQ(Enabled(driver), "01000");
-        EXPECT_EQ(EnabledLine(driver, {1447, 1448}), "00");
+        EXPECT_EQ(EnabledLine(driver, {Dialog::IDC_ALGEBRICA, Dialog::IDC_VALORI_EFFICACI}), "00");
     });
     m_host.doc.casi.clear();
     Create([](DialogDriver& driver) { EXPECT_EQ(Enabled(driver), "00000"); });

@@ -7,7 +7,8 @@
 
 namespace {
 
-constexpr int areaId = 1302;
+using Dialog = CDialogDiagrammi;
+constexpr int areaId = Dialog::IDC_DIAGRAMMA;
 constexpr COLORREF white = RGB(255, 255, 255);
 
 struct Item {
@@ -15,9 +16,11 @@ struct Item {
     int kind;
     const char* text;
 };
-const Item items[] = {{33110, 42, "N"},   {33111, 43, "V2"},    {33112, 44, "V3"},
-                      {33113, 45, "T"},   {33114, 32, "M2"},    {33115, 46, "M3"},
-                      {40006, 47, "N/A"}, {40007, 48, "M2/W2"}, {40008, 49, "M3/W3"}};
+const Item items[] = {{Dialog::ID_DIAGRAMMI_N, 42, "N"},       {Dialog::ID_DIAGRAMMI_V2, 43, "V2"},
+                      {Dialog::ID_DIAGRAMMI_V3, 44, "V3"},     {Dialog::ID_DIAGRAMMI_T, 45, "T"},
+                      {Dialog::ID_DIAGRAMMI_M2, 32, "M2"},     {Dialog::ID_DIAGRAMMI_M3, 46, "M3"},
+                      {Dialog::ID_DIAGRAMMI_NA, 47, "N/A"},    {Dialog::ID_DIAGRAMMI_M2W2, 48, "M2/W2"},
+                      {Dialog::ID_DIAGRAMMI_M3W3, 49, "M3/W3"}};
 
 // A beam that writes down what it is asked to draw, and marks the area.
 class RecordingTrave : public CTrave {
@@ -78,7 +81,7 @@ class Diagrammi : public ToolTest<OpenDiagrammi> {
         return flags;
     }
     static std::string Call(int beam, const std::string& flags, const std::string& rest = "0 0 0") {
-        std::string line = "Disegna " + std::to_string(beam) + " 1302";
+        std::string line = "Disegna " + std::to_string(beam) + " " + std::to_string(areaId);
         for (const char flag : flags)
             line += std::string(" ") + flag;
         return line + " " + rest;
@@ -169,7 +172,7 @@ TEST_F(Diagrammi, MenuTogglesEachDiagram) {
     Menu(0);
     EXPECT_EQ(Painted(), Lines{}) << "a menu left without a choice";
     m_dialog.GetT() = 5; // anything but 0 is on
-    Command(33113);
+    Command(Dialog::ID_DIAGRAMMI_T);
     EXPECT_EQ(Flags(), "000000000");
     EXPECT_FALSE(m_host.View().GetTraveSettings().IsRisultato(45)) << "the view's settings are not written";
 }
@@ -202,7 +205,7 @@ TEST_F(Diagrammi, AnotherViewBringsItsFlags) {
     RecordingView& second = m_host.AddView();
     second.GetTraveSettings().SetRisultato(CElementoSettings::M3, 1);
     second.GetTraveSettings().SetRisultato(CElementoSettings::V2, 1);
-    Command(33110);
+    Command(Dialog::ID_DIAGRAMMI_N);
     Painted();
     m_dialog.Create(&m_host.View()); // the view that it has
     EXPECT_EQ(Flags(), "100000000");
@@ -217,11 +220,11 @@ TEST_F(Diagrammi, AnotherViewBringsItsFlags) {
 
 TEST_F(Diagrammi, ReadingFollowsThePointer) {
     Open();
-    Command(33114);
+    Command(Dialog::ID_DIAGRAMMI_M2);
     Painted();
     MoveTo(50, 40);
     EXPECT_EQ(m_host.Take(), Lines{});
-    EXPECT_EQ(Menu(33117), Lines{"M2"});
+    EXPECT_EQ(Menu(Dialog::ID_DIAGRAMMI_VISUALIZZAVALORI), Lines{"M2"});
     EXPECT_TRUE(m_dialog.IsRisultati());
     EXPECT_EQ(Painted(), Lines{}) << "switching it on does not paint";
     MoveTo(50, 40);
@@ -231,10 +234,10 @@ TEST_F(Diagrammi, ReadingFollowsThePointer) {
     m_host.doc.analisi.m_bRisultatiValidi = 0;
     MoveTo(51, 40);
     EXPECT_EQ(m_host.Take().size(), 1u) << "validity is not asked for";
-    EXPECT_EQ(Menu(33117), (Lines{"M2", "Visualizza Valori rif. loc."}));
+    EXPECT_EQ(Menu(Dialog::ID_DIAGRAMMI_VISUALIZZAVALORI), (Lines{"M2", "Visualizza Valori rif. loc."}));
     MoveTo(52, 40);
     EXPECT_EQ(m_host.Take(), Lines{});
-    Command(33117);
+    Command(Dialog::ID_DIAGRAMMI_VISUALIZZAVALORI);
     m_host.doc.selected.RemoveAll();
     Updated();
     MoveTo(52, 40);
@@ -257,14 +260,14 @@ TEST_F(Diagrammi, CaptureAsksTheView) {
     Open();
     CRect rect;
     m_dialog.GetDlgItem(areaId)->GetWindowRect(rect);
-    Menu(33119);
+    Menu(Dialog::ID_DIAGRAMMI_CATTURAIMMAGINE);
     Journal expected;
     expected.Add("SetRectImmagine", rect.left, rect.top, rect.right, rect.bottom);
     expected.Add("CatturaImmagine");
     EXPECT_EQ(m_host.Take(), expected.Lines());
     m_host.AddView();
     m_host.CloseView(m_host.View());
-    Command(33119);
+    Command(Dialog::ID_DIAGRAMMI_CATTURAIMMAGINE);
     EXPECT_EQ(m_host.Take(), Lines{});
 }
 

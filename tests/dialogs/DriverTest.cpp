@@ -26,11 +26,12 @@ TEST_F(Driver, ControlsMustBeUsable) {
     CDialogGenNodiLineare dialog;
     m_host.Open(dialog);
     DialogDriver driver(dialog);
-    EXPECT_NONFATAL_FAILURE(driver.Click(1227), "control 1227 is hidden or disabled");
+    const int disabled = CDialogGenNodiLineare::IDC_X1;
+    EXPECT_NONFATAL_FAILURE(driver.Click(disabled), "control " + std::to_string(disabled) + " is hidden or disabled");
     EXPECT_NONFATAL_FAILURE(driver.Click(64000), "no control 64000");
     dialog.DestroyWindow();
     EXPECT_FALSE(driver.IsOpen());
-    EXPECT_NONFATAL_FAILURE(driver.Text(1221), "of a closed dialog");
+    EXPECT_NONFATAL_FAILURE(driver.Text(CDialogGenNodiLineare::IDC_NODI), "of a closed dialog");
     EXPECT_NONFATAL_FAILURE(driver.Press(VK_RETURN), "to a closed dialog");
 }
 
@@ -40,7 +41,7 @@ TEST_F(Driver, ModalDialogsAreAnswered) {
         Modal() : CDialog(CDialogGenNodiLineare::IDD) {}
     };
     m_user.WhenDialogOpens([this](DialogDriver& outer) {
-        outer.Type(1093, "2");
+        outer.Type(CDialogGenNodiLineare::IDC_PASSO, "2");
         m_user.WhenDialogOpens([](DialogDriver& inner) { inner.Press(VK_ESCAPE); });
         EXPECT_EQ(Modal().DoModal(), IDCANCEL) << "a dialog over a dialog";
         outer.Press(VK_RETURN);

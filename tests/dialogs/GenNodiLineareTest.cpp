@@ -3,13 +3,20 @@
 
 namespace {
 
-constexpr int radioX = 1090, radioY = 1091, radioZ = 1092, radioVector = 1102;
-constexpr int step = 1093, startX = 1200, nodes = 1221, spin = 1233;
+using Dialog = CDialogGenNodiLineare;
+constexpr int radioX = Dialog::IDC_DIREZIONE_X, radioY = Dialog::IDC_DIREZIONE_Y, radioZ = Dialog::IDC_DIREZIONE_Z;
+constexpr int radioVector = Dialog::IDC_DIREZIONE_VETTORE;
+constexpr int step = Dialog::IDC_PASSO, startX = Dialog::IDC_X_INIZIALE;
+constexpr int nodes = Dialog::IDC_NODI, spin = Dialog::IDC_SPIN_NODI;
 
 class GenNodiLineare : public ToolTest<CDialogGenNodiLineare> {
   protected:
-    std::string Start() const { return Texts({1200, 1201, 1202}); }
-    bool VectorEnabled() const { return EnabledTogether({{1125, 1125}, {1113, 1118}, {1227, 1232}}); }
+    std::string Start() const { return Texts({startX, startX + 1, startX + 2}); }
+    bool VectorEnabled() const {
+        return EnabledTogether({{Dialog::IDC_GROUP_VETTORE, Dialog::IDC_GROUP_VETTORE},
+                                {Dialog::IDC_LABEL_VETTORE_FIRST, Dialog::IDC_LABEL_VETTORE_LAST},
+                                {Dialog::IDC_X1, Dialog::IDC_Z2}});
+    }
 };
 
 TEST_F(GenNodiLineare, AxisIgnoresTheVector) {

@@ -3,7 +3,8 @@
 
 namespace {
 
-using Muovi = ToolTest<CDialogMuovi>;
+using Dialog = CDialogMuovi;
+using Muovi = ToolTest<Dialog>;
 
 TEST_F(Muovi, SecondPickMovesAtOnce) {
     m_host.View().Pick(1, 2, 3);
@@ -15,10 +16,10 @@ TEST_F(Muovi, SecondPickMovesAtOnce) {
 
 TEST_F(Muovi, PickWhileAFieldIsWrong) {
     // The failure is reported and ignored: the picked point is stored, the wrong text gives way to its last value.
-    m_driver.Type(1122, "x");
+    m_driver.Type(Dialog::IDC_X2, "x");
     m_user.ExpectMessage("Immettere un numero.");
     m_host.View().Pick(1, 2, 3);
-    EXPECT_EQ(Texts({1119, 1122}), "1 0");
+    EXPECT_EQ(Texts({Dialog::IDC_X1, Dialog::IDC_X2}), "1 0");
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 
 namespace {
 
+using Dialog = CDialogNodoReazioniVincolari;
+
 class NodoReazioniVincolari : public ToolTest<CDialogNodoReazioniVincolari> {
   protected:
     NodoReazioniVincolari() {
@@ -14,8 +16,8 @@ class NodoReazioniVincolari : public ToolTest<CDialogNodoReazioniVincolari> {
     }
 
     std::string Shown() {
-        std::string all = m_driver.Text(1118);
-        for (int id = 1112; id <= 1117; ++id)
+        std::string all = m_driver.Text(Dialog::IDC_NODO);
+        for (int id = Dialog::IDC_FX; id < Dialog::IDC_FX + 6; ++id)
             all += "|" + m_driver.Text(id);
         return all;
     }
@@ -52,9 +54,9 @@ TEST_F(NodoReazioniVincolari, RefreshesOnSelectionAndResultsOnly) {
 TEST_F(NodoReazioniVincolari, FieldsAreReadOnlyAndTheViewMayClose) {
     m_host.doc.selected.AddTail(m_first);
     m_driver = Reopen();
-    for (int id = 1112; id <= 1117; ++id)
+    for (int id = Dialog::IDC_FX; id < Dialog::IDC_FX + 6; ++id)
         EXPECT_TRUE(m_dialog.GetDlgItem(id)->GetStyle() & ES_READONLY) << id;
-    m_driver.SetFocus(1112);
+    m_driver.SetFocus(Dialog::IDC_FX);
     m_driver.TypeKeys("9");
     EXPECT_EQ(Shown(), m_firstShown);
     m_host.AddView();

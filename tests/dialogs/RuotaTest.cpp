@@ -5,15 +5,20 @@
 
 namespace {
 
-constexpr int angle = 1218;
-constexpr int axes[] = {1213, 1214, 1170};
-constexpr int general = 1239;
+using Dialog = CDialogRuota;
+constexpr int angle = Dialog::IDC_ANGOLO;
+constexpr int axes[] = {Dialog::IDC_RUOTA_X, Dialog::IDC_RUOTA_Y, Dialog::IDC_RUOTA_Z};
+constexpr int general = Dialog::IDC_ASSE_GENERICO;
 
 class Ruota : public ToolTest<CDialogRuota> {
   protected:
     Ruota() { m_host.View().endsDialogs = false; }
 
-    bool AxisEnabled() const { return EnabledTogether({{1112, 1118}, {1143, 1145}, {1215, 1217}}); }
+    bool AxisEnabled() const {
+        return EnabledTogether({{Dialog::IDC_GROUP_ASSE, Dialog::IDC_LABEL_ASSE_LAST},
+                                {Dialog::IDC_X1, Dialog::IDC_Z1},
+                                {Dialog::IDC_X2, Dialog::IDC_Z2}});
+    }
 };
 
 TEST_F(Ruota, GlobalAxes) {
@@ -39,7 +44,7 @@ TEST_F(Ruota, PicksFillTheAxisWhateverIsChosen) {
     m_driver.Click(axes[1]);
     m_host.View().Pick(1, 2, 3);
     m_host.View().Pick(4, 5, 6);
-    EXPECT_EQ(Texts({1216, 1145, angle}), "2 6 30");
+    EXPECT_EQ(Texts({Dialog::IDC_X1 + 1, Dialog::IDC_Z2, angle}), "2 6 30");
     EXPECT_TRUE(m_driver.Checked(axes[1]));
     EXPECT_FALSE(AxisEnabled());
     m_driver.Click(general);

@@ -3,11 +3,16 @@
 
 namespace {
 
-constexpr int planes[] = {1206, 1207, 1208, 1193};
+using Dialog = CDialogSpecchia;
+constexpr int planes[] = {Dialog::IDC_PIANO_XY, Dialog::IDC_PIANO_YZ, Dialog::IDC_PIANO_XZ, Dialog::IDC_ORIGINE};
 
 class Specchia : public ToolTest<CDialogSpecchia> {
   protected:
-    bool PointEnabled() const { return EnabledTogether({{1127, 1130}, {1204, 1205}, {1209, 1209}}); }
+    bool PointEnabled() const {
+        return EnabledTogether({{Dialog::IDC_LABEL_X, Dialog::IDC_GROUP_PUNTO},
+                                {Dialog::IDC_X, Dialog::IDC_Y},
+                                {Dialog::IDC_Z, Dialog::IDC_Z}});
+    }
 };
 
 // Catches a point that can be typed where it has no meaning, and one that stays disabled afterwards.

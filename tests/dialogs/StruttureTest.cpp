@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int treeId = 1078;
+constexpr int treeId = CDialogStrutture::IDC_TREE_STRUTTURE;
 
 class Strutture : public ToolTest<CDialogStrutture> {
   protected:

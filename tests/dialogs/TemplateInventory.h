@@ -1,4 +1,5 @@
-// The fixed numbers, captions and pictures of the module's dialog templates, of those still to come as well.
+// The fixed numbers, captions and pictures of the module's dialog templates, of those still to come as well. Scripts
+// take their numbers from the dialogs' headers: only a second list of them catches a number that is wrong there.
 #pragma once
 
 #include <map>

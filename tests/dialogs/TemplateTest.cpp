@@ -1,6 +1,11 @@
 // Contracts over all dialog templates, menus and pictures of the module at once. A new template is checked without a
 // line here.
 #include "dialogs/frame/Module.h"
+#include "dialogs/generation/DialogGenNodiLineare.h"
+#include "dialogs/loads/DialogCreaCombinazione.h"
+#include "dialogs/loads/DialogListaCasiCarico.h"
+#include "dialogs/results/DialogDiagrammi.h"
+#include "dialogs/selection/DialogCopiaTrasla.h"
 #include "platform/drawing/DeviceContext.h"
 #include "platform/drawing/Gdi.h"
 #include "platform/resource/Module.h"
@@ -31,12 +36,14 @@ using platform::DialogTemplate;
 using Kind = ControlTemplate::Kind;
 
 constexpr int colourTemplate = 251; // the one with another font
+constexpr int scaleMenu = 106, fileMenu = 376;
 
 // Controls that are laid over others while they are shown, and hidden until then.
-const std::set<std::pair<int, int>> inPlaceEditors = {{9006, 1096}};
+const std::set<std::pair<int, int>> inPlaceEditors = {{CDialogCopiaTrasla::IDD, CDialogCopiaTrasla::IDC_EDIT_LISTA}};
 
 // Keys that two fixed texts claim: pressed again, the key goes on to the other one.
-const std::set<std::pair<int, char>> sharedMnemonics = {{9001, 'C'}, {9020, 'C'}};
+const std::set<std::pair<int, char>> sharedMnemonics = {{CDialogCreaCombinazione::IDD, 'C'},
+                                                        {CDialogListaCasiCarico::IDD, 'C'}};
 
 DWORD ButtonType(const ControlTemplate& control) {
     return control.style & BS_TYPEMASK;
@@ -269,15 +276,18 @@ Lines MenuLines(int id) {
     return lines;
 }
 
-// Catches a command number, text or separator that differs from what host and dialogs share.
+// Catches a command number, text or separator that differs from what host and dialogs share: a wrong number in a header
+// is as wrong in the script, so the numbers stand here once more.
 TEST_F(Templates, MenusHaveTheSharedCommands) {
-    EXPECT_EQ(MenuLines(106), (Lines{"Posizionamento of 4", "40001 Orizzontale in basso", "40005 Orizzontale in alto",
-                                     "40003 Verticale a destra", "40004 Verticale e sinistra"}));
-    EXPECT_EQ(MenuLines(351), (Lines{"Diagrammi of 13", "33110 N", "33111 V2", "33112 V3", "33113 T", "33114 M2",
-                                     "33115 M3", "40006 N/A", "40007 M2/W2", "40008 M3/W3", "-",
-                                     "33117 Visualizza Valori rif. loc.", "-", "33119 Cattura &Immagine"}));
-    EXPECT_EQ(MenuLines(376), (Lines{"File of 7", "57600 &Nuovo \tCtrl+N", "-", "33163 &Crea Directory", "-",
-                                     "33158 &Apri", "33162 &Rinomina", "33159 &Elimina"}));
+    EXPECT_EQ(MenuLines(scaleMenu),
+              (Lines{"Posizionamento of 4", "40001 Orizzontale in basso", "40005 Orizzontale in alto",
+                     "40003 Verticale a destra", "40004 Verticale e sinistra"}));
+    EXPECT_EQ(MenuLines(CDialogDiagrammi::IDR_MENU_DIAGRAMMI),
+              (Lines{"Diagrammi of 13", "33110 N", "33111 V2", "33112 V3", "33113 T", "33114 M2", "33115 M3",
+                     "40006 N/A", "40007 M2/W2", "40008 M3/W3", "-", "33117 Visualizza Valori rif. loc.", "-",
+                     "33119 Cattura &Immagine"}));
+    EXPECT_EQ(MenuLines(fileMenu), (Lines{"File of 7", "57600 &Nuovo \tCtrl+N", "-", "33163 &Crea Directory", "-",
+                                          "33158 &Apri", "33162 &Rinomina", "33159 &Elimina"}));
 }
 
 // Takes the linked module out for a test that starts it another way.
@@ -295,18 +305,18 @@ class ModuleStart : public testing::Test {
 
 // Catches a module that loads without its resources, starts at each load, or leaves them behind at its end.
 TEST_F(ModuleStart, LoadedByPathItJoinsTheChainUntilItIsFreed) {
-    EXPECT_EQ(platform::FindDialogTemplate(9015), nullptr);
+    EXPECT_EQ(platform::FindDialogTemplate(CDialogGenNodiLineare::IDD), nullptr);
     const HINSTANCE module = AfxLoadLibrary(m_library.c_str());
     ASSERT_TRUE(module) << AfxGetLoadError();
-    EXPECT_TRUE(platform::FindDialogTemplate(9015));
-    EXPECT_EQ(AfxFindResourceHandle(376, RT_MENU), module);
+    EXPECT_TRUE(platform::FindDialogTemplate(CDialogGenNodiLineare::IDD));
+    EXPECT_EQ(AfxFindResourceHandle(fileMenu, RT_MENU), module);
     EXPECT_EQ(GetModuleHandle("Quovar_Dialogs.dll"), module);
 
     EXPECT_EQ(AfxLoadLibrary(m_library.c_str()), module);
     EXPECT_TRUE(AfxFreeLibrary(module));
-    EXPECT_TRUE(platform::FindDialogTemplate(9015));
+    EXPECT_TRUE(platform::FindDialogTemplate(CDialogGenNodiLineare::IDD));
     EXPECT_TRUE(AfxFreeLibrary(module));
-    EXPECT_EQ(platform::FindDialogTemplate(9015), nullptr);
+    EXPECT_EQ(platform::FindDialogTemplate(CDialogGenNodiLineare::IDD), nullptr);
     EXPECT_FALSE(AfxFreeLibrary(module));
 }
 
@@ -316,11 +326,11 @@ TEST_F(ModuleStart, AFailedStartMakesLoadingFail) {
     ASSERT_TRUE(linked);
     EXPECT_EQ(AfxLoadLibrary(m_library.c_str()), nullptr);
     EXPECT_NE(std::string(AfxGetLoadError()).find("refused to start"), std::string::npos);
-    EXPECT_EQ(AfxFindResourceHandle(9015, RT_DIALOG), linked); // the running one is untouched
+    EXPECT_EQ(AfxFindResourceHandle(CDialogGenNodiLineare::IDD, RT_DIALOG), linked); // the running one is untouched
 
     AfxDetachLinkedModule(&QuovarModuleEntry);
     EXPECT_EQ(QuovarModuleEntry(nullptr, DLL_PROCESS_ATTACH), 0);
-    EXPECT_EQ(platform::FindDialogTemplate(9015), nullptr);
+    EXPECT_EQ(platform::FindDialogTemplate(CDialogGenNodiLineare::IDD), nullptr);
     EXPECT_EQ(QuovarModuleEntry(nullptr, DLL_THREAD_ATTACH), 1); // other notifications do nothing
     EXPECT_EQ(QuovarModuleEntry(nullptr, DLL_PROCESS_DETACH), 1);
 }

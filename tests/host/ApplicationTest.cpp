@@ -1,6 +1,7 @@
 // The application as a whole: from a text model to a saved project.
 #include "platform/window/Application.h"
 #include "dialogs/frame/tool/DialogDocument.h"
+#include "dialogs/generation/DialogGenNodiLineare.h"
 #include "host/app/Options.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
@@ -29,7 +30,7 @@ const char* const textModel = "Mensola di prova (kN,m)\n"
                               "0\n0\n10\n1\n-1\n"
                               "1\n0 0 0\n1\n3 0 0 -10 0 0 0\n0\n0\n0\n0\n0\n";
 
-enum : int { EditCount = 1221, EditSpacing = 1093, EditStartZ = 1202, RadioY = 1091 }; // of the linear generation
+using Generation = CDialogGenNodiLineare;
 
 void WriteFile(const QString& path, const QByteArray& text) {
     QFile file(path);
@@ -65,10 +66,10 @@ TEST_F(ApplicationTest, ImportGenerateUndoRedoSaveKilledReopen) {
     EXPECT_TRUE(m_workspace->PathOf(Document()).isEmpty()) << "saving must not write over the text model";
 
     DialogDriver driver(*OpenLinear());
-    driver.Type(EditCount, "5");
-    driver.Type(EditSpacing, "1.5");
-    driver.Type(EditStartZ, "3");
-    driver.Click(RadioY);
+    driver.Type(Generation::IDC_NODI, "5");
+    driver.Type(Generation::IDC_PASSO, "1.5");
+    driver.Type(Generation::IDC_X_INIZIALE + 2, "3");
+    driver.Click(Generation::IDC_DIREZIONE_Y);
     driver.Press(VK_RETURN);
     CWinApp::PumpMessages();
     EXPECT_FALSE(driver.IsOpen());

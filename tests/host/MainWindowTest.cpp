@@ -2,6 +2,7 @@
 #include "host/ui/MainWindow.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/tool/DialogDocument.h"
+#include "dialogs/generation/DialogGenNodiLineare.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/view/ViewWidget.h"
@@ -23,7 +24,7 @@ namespace {
 class Witness final : public CDialogDocument {
   public:
     Witness(CWnd* parent, std::vector<long>& hints, int& alive)
-        : CDialogDocument(9015, parent), m_hints(hints), m_alive(alive) {
+        : CDialogDocument(CDialogGenNodiLineare::IDD, parent), m_hints(hints), m_alive(alive) {
         ++m_alive;
     }
     ~Witness() override { --m_alive; }

@@ -69,12 +69,12 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
     auto* reactions = Open<CDialogNodoReazioniVincolari>("Nodo Reazioni Vincolari");
     ASSERT_TRUE(reactions);
     const std::string title = "Nodo n.ro " + std::to_string(support->GetID());
-    EXPECT_EQ(DialogDriver(*reactions).Text(1118), title);
-    EXPECT_FALSE(DialogDriver(*reactions).Text(1114).empty());
+    EXPECT_EQ(DialogDriver(*reactions).Text(CDialogNodoReazioniVincolari::IDC_NODO), title);
+    EXPECT_FALSE(DialogDriver(*reactions).Text(CDialogNodoReazioniVincolari::IDC_FX + 2).empty());
     CFPoint place(50, 50, 0);
     Document().AddNodo(place, nullptr, 1);
     CWinApp::PumpMessages();
-    EXPECT_EQ(DialogDriver(*reactions).Text(1118), title + " non disponibili");
+    EXPECT_EQ(DialogDriver(*reactions).Text(CDialogNodoReazioniVincolari::IDC_NODO), title + " non disponibili");
 }
 
 // Faults: a window that goes on drawing the beam of a document that is gone, seen by the memory checkers, or that shows

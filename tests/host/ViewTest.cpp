@@ -1,5 +1,6 @@
 // What the user does in a structure view.
 #include "dialogs/frame/tool/DialogDocument.h"
+#include "dialogs/generation/DialogGenNodiLineare.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "host/view/ViewWidget.h"
@@ -15,7 +16,7 @@ using namespace host;
 
 namespace {
 
-enum : int { EditStartX = 1200, EditStartZ = 1202, EditX1 = 1227, EditX2 = 1230 }; // of the linear generation
+using Generation = CDialogGenNodiLineare;
 
 std::vector<CElemento*> Selected(HostDocument& document) {
     return document.Selection().All();
@@ -38,22 +39,22 @@ TEST_F(ViewTest, PicksSnapToTheNearestNodeInPairs) {
 
     const CPoint first = PixelOf(*Document().GetIndexNodo(1));
     Click({first.x + 6, first.y - 7});
-    EXPECT_EQ(driver.Text(EditX1), "4");
-    EXPECT_EQ(driver.Text(EditStartX), "4");
+    EXPECT_EQ(driver.Text(Generation::IDC_X1), "4");
+    EXPECT_EQ(driver.Text(Generation::IDC_X_INIZIALE), "4");
     EXPECT_TRUE(View().Vector().secondIsNext);
 
     const CPoint between = PixelOf(CFPoint(2, 0, 0)); // on a beam, but 12 pixels from no node
     Click(between);
-    EXPECT_EQ(driver.Text(EditX2), "0");
+    EXPECT_EQ(driver.Text(Generation::IDC_X2), "0");
     EXPECT_TRUE(View().Vector().secondIsNext);
     EXPECT_TRUE(Document().Selection().IsEmpty()) << "a pick selects nothing";
 
     Click(PixelOf(*Document().GetIndexNodo(2)));
-    EXPECT_EQ(driver.Text(EditX2), "8");
+    EXPECT_EQ(driver.Text(Generation::IDC_X2), "8");
     Click(PixelOf(*Document().GetIndexNodo(3)));
-    EXPECT_EQ(driver.Text(EditStartX), "0") << "the third pick is a first point again";
-    EXPECT_EQ(driver.Text(EditStartZ), "3");
-    EXPECT_EQ(driver.Text(EditX2), "8");
+    EXPECT_EQ(driver.Text(Generation::IDC_X_INIZIALE), "0") << "the third pick is a first point again";
+    EXPECT_EQ(driver.Text(Generation::IDC_X_INIZIALE + 2), "3");
+    EXPECT_EQ(driver.Text(Generation::IDC_X2), "8");
 }
 
 // Catches a camera that ends the picking or eats a pick, and an Escape that leaves it on.
@@ -75,13 +76,13 @@ TEST_F(ViewTest, CameraDoesNotInterruptPickingButEscapeDoes) {
     EXPECT_TRUE(View().Vector().secondIsNext);
     View().Fit();
     Click(PixelOf(*Document().GetIndexNodo(2)));
-    EXPECT_EQ(driver.Text(EditX2), "8");
+    EXPECT_EQ(driver.Text(Generation::IDC_X2), "8");
 
     Press(Qt::Key_Escape);
     EXPECT_FALSE(View().IsDefinisciVettore());
     EXPECT_TRUE(driver.IsOpen()) << "only the mode ends";
     Click(PixelOf(*Document().GetIndexNodo(3)));
-    EXPECT_EQ(driver.Text(EditX1), "4") << "the dialog gets no picks any more";
+    EXPECT_EQ(driver.Text(Generation::IDC_X1), "4") << "the dialog gets no picks any more";
     EXPECT_EQ(Selected(Document()), Elements{Document().GetIndexNodo(3)});
 }
 
