@@ -3,6 +3,7 @@
 #include "dialogs/check/RestraintCheck.h"
 #include "dialogs/frame/common/SelectedRows.h"
 #include "dialogs/frame/host/MainFrame.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/host/QuovarSelection.h"
 #include "model/element/Asta.h"

@@ -6,6 +6,8 @@
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "platform/controls/ListBox.h"
 
+class CElemento;
+
 class CDialogCheck : public CDialogDocument, private StructureSearch {
     DECLARE_DYNAMIC(CDialogCheck)
 

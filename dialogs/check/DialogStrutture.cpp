@@ -1,6 +1,7 @@
 #include "dialogs/check/DialogStrutture.h"
 
 #include "dialogs/frame/common/ElementSelection.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/host/QuovarSelection.h"
 #include "model/element/Nodo.h"

@@ -78,9 +78,9 @@ void StructureSearch::RemoveAllStructures() {
     m_index.Clear();
 }
 
-CurrentNodes::CurrentNodes(CQuovarDoc& doc) {
-    const int nodes = doc.GetSizeNodi();
+CurrentNodes::CurrentNodes(DocumentLists& lists) {
+    const int nodes = lists.GetSizeNodi();
     platform::Allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
     for (int i = 0; i < nodes; ++i)
-        m_index.Add(doc.GetIndexNodo(i), 0);
+        m_index.Add(lists.GetIndexNodo(i), 0);
 }

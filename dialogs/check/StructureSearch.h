@@ -6,6 +6,7 @@
 
 class CNodo;
 class CQuovarDoc;
+class DocumentLists;
 
 class StructureSearch {
   public:
@@ -43,7 +44,7 @@ class StructureSearch {
 // since must not be touched.
 class CurrentNodes {
   public:
-    explicit CurrentNodes(CQuovarDoc& doc);
+    explicit CurrentNodes(DocumentLists& lists);
     bool Has(const CObject* node) const { return m_index.Find(node) != NodeIndex::none; }
 
   private:

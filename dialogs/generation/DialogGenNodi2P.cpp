@@ -1,6 +1,7 @@
 #include "dialogs/generation/DialogGenNodi2P.h"
 
 #include "dialogs/frame/common/Controls.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/generation/GenerationCommon.h"
 
 IMPLEMENT_DYNAMIC(CDialogGenNodi2P, CDialogDocument)

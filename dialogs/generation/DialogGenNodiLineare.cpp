@@ -1,6 +1,7 @@
 #include "dialogs/generation/DialogGenNodiLineare.h"
 
 #include "dialogs/frame/common/Controls.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/generation/GenerationCommon.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 
-#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/DocumentCases.h"
 #include "platform/window/Application.h"
 #include "platform/window/DataExchange.h"
 
@@ -20,11 +20,11 @@ BOOL CDialogCreaCasoCarico::OnInitDialog() {
     return TRUE;
 }
 
-bool AskNewName(CDialogCreaCasoCarico& dialog, CQuovarDoc& doc) {
+bool AskNewName(CDialogCreaCasoCarico& dialog, DocumentCases& cases) {
     while (dialog.DoModal() == IDOK) {
-        if (doc.IsCasoCaricoNome(dialog.m_strNome))
+        if (cases.IsCasoCaricoNome(dialog.m_strNome))
             AfxMessageBox("Il Caso Carico c'è già!"_t);
-        else if (!doc.IsValidoCasoCaricoNome(dialog.m_strNome))
+        else if (!cases.IsValidoCasoCaricoNome(dialog.m_strNome))
             AfxMessageBox("Il nome non è valido!"_t);
         else
             return true;

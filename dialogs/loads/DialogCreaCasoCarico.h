@@ -3,7 +3,7 @@
 
 #include "platform/window/Dialog.h"
 
-class CQuovarDoc;
+class DocumentCases;
 
 class CDialogCreaCasoCarico : public CDialog {
   public:
@@ -22,4 +22,4 @@ class CDialogCreaCasoCarico : public CDialog {
 
 // Runs the dialog until its name is valid and no load case or combination of the document bears it, telling the user
 // why it comes again. False when the user cancels.
-bool AskNewName(CDialogCreaCasoCarico& dialog, CQuovarDoc& doc);
+bool AskNewName(CDialogCreaCasoCarico& dialog, DocumentCases& cases);

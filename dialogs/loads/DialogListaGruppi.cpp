@@ -1,6 +1,7 @@
 #include "dialogs/loads/DialogListaGruppi.h"
 
 #include "dialogs/frame/common/SelectedRows.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/host/QuovarSelection.h"
 #include "model/entity/Gruppo.h"

@@ -1,6 +1,7 @@
 #include "dialogs/results/DialogDiagrammi.h"
 
 #include "dialogs/frame/host/QuovarAnalisi.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "model/element/Trave.h"
 #include "model/view/DrawHelpers.h"
 #include "model/view/ElementoSettings.h"

@@ -1,5 +1,6 @@
 #include "dialogs/results/DialogNodoReazioniVincolari.h"
 
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "model/element/Nodo.h"
 #include "platform/window/DataExchange.h"

@@ -1,6 +1,7 @@
 #include "dialogs/selection/DialogCopiaRuota.h"
 
 #include "dialogs/frame/common/Controls.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/selection/SelectionCommand.h"
 
 namespace {

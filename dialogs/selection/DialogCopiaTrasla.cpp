@@ -2,6 +2,7 @@
 
 #include "dialogs/frame/common/Controls.h"
 #include "dialogs/frame/host/MainFrame.h"
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/selection/SelectionCommand.h"
 #include "model/view/Adv3dRect.h"
 #include "platform/core/Collections.h"

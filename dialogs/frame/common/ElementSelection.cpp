@@ -1,6 +1,6 @@
 #include "dialogs/frame/common/ElementSelection.h"
 
-#include "dialogs/frame/host/QuovarDoc.h"
+#include "dialogs/frame/host/DocumentSelected.h"
 #include "model/element/Asta.h"
 #include "model/element/Nodo.h"
 #include "model/element/Setto.h"
@@ -19,24 +19,24 @@ ElementKind KindOf(const CElemento& element) {
     return element.IsKindOf(RUNTIME_CLASS(CSolaio)) ? ElementKind::Slab : ElementKind::None;
 }
 
-void SelectByKind(CQuovarDoc& doc, ElementKind kind, int id, Adv3dRect* rect) {
+void SelectByKind(DocumentSelected& elements, ElementKind kind, int id, Adv3dRect* rect) {
     switch (kind) {
     case ElementKind::None:
         break;
     case ElementKind::Node:
-        doc.SelezionaNodo(id, nullptr);
+        elements.SelezionaNodo(id, nullptr);
         break;
     case ElementKind::Truss:
-        doc.SelezionaAsta(id, nullptr, rect);
+        elements.SelezionaAsta(id, nullptr, rect);
         break;
     case ElementKind::Beam:
-        doc.SelezionaTrave(id, nullptr, rect);
+        elements.SelezionaTrave(id, nullptr, rect);
         break;
     case ElementKind::Wall:
-        doc.SelezionaSetto(id, nullptr, rect);
+        elements.SelezionaSetto(id, nullptr, rect);
         break;
     case ElementKind::Slab:
-        doc.SelezionaSolaio(id, nullptr, rect);
+        elements.SelezionaSolaio(id, nullptr, rect);
         break;
     }
 }

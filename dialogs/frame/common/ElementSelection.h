@@ -3,7 +3,7 @@
 
 class Adv3dRect;
 class CElemento;
-class CQuovarDoc;
+class DocumentSelected;
 
 enum class ElementKind { None, Node, Truss, Beam, Wall, Slab };
 
@@ -12,4 +12,4 @@ ElementKind KindOf(const CElemento& element);
 
 // Adds the object with that identifier to the selection; None does nothing. rect is null or gathers the screen region
 // to redraw, which nodes leave alone.
-void SelectByKind(CQuovarDoc& doc, ElementKind kind, int id, Adv3dRect* rect = nullptr);
+void SelectByKind(DocumentSelected& elements, ElementKind kind, int id, Adv3dRect* rect = nullptr);

@@ -1,10 +1,11 @@
 // The 3D structure view, as the dialogs use it.
 #pragma once
 
-#include "dialogs/frame/host/QuovarDoc.h"
 #include "platform/window/View.h"
 
+class Adv3d;
 class CElementoSettings;
+class CQuovarDoc;
 
 // Sent by a tool dialog to its view when it wants to be ended: wParam is one of the two values below, lParam the
 // address of the dialog. The view ends the dialog before it returns, so the sender touches nothing afterwards.

@@ -1,5 +1,6 @@
 #include "dialogs/frame/tool/DialogDocument.h"
 
+#include "dialogs/frame/host/QuovarDoc.h"
 #include "model/values/Path.h"
 
 IMPLEMENT_DYNAMIC(CDialogDocument, CDialog)
