@@ -95,7 +95,7 @@ void Analyse(benchmark::State& state) {
     DocumentData data = Slab().Build();
     for (auto _ : state) {
         const host::AnalysisOutcome outcome = host::Analyse(data);
-        if (!outcome.done || outcome.cases.size() != 1) {
+        if (outcome.refusal || outcome.cases.size() != 1) {
             std::fprintf(stderr, "bench: the building was not analysed\n");
             std::exit(1);
         }

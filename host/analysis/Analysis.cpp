@@ -2,7 +2,7 @@
 
 #include "dialogs/frame/host/MainFrame.h"
 #include "host/analysis/FrameSystem.h"
-#include "host/analysis/Refusal.h"
+#include "host/document/Refusal.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
 
@@ -170,10 +170,9 @@ AnalysisOutcome Analyse(DocumentData& data) {
             CMainFrame::_StepBar();
         }
         outcome.notes = std::move(model.notes);
-        outcome.done = true;
     } catch (const Refusal& refusal) {
         outcome.cases.clear();
-        outcome.message = refusal.message;
+        outcome.refusal = refusal;
     }
     return outcome;
 }

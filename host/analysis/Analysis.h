@@ -2,9 +2,11 @@
 #pragma once
 
 #include "host/document/DocumentData.h"
+#include "host/document/Refusal.h"
 #include "model/result/LineaRisultati.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 class CCombinazione;
@@ -29,8 +31,7 @@ struct CaseResults {
 };
 
 struct AnalysisOutcome {
-    bool done = false;
-    CString message;                // why it is not done, Italian; empty when it is
+    std::optional<Refusal> refusal; // why it is not done
     std::vector<CString> notes;     // what was not considered or is not exact, one Italian sentence each
     std::vector<CaseResults> cases; // one for each load case, in document order
 };

@@ -2,7 +2,7 @@
 #include "host/analysis/FrameModel.h"
 
 #include "host/analysis/Analysis.h"
-#include "host/analysis/Refusal.h"
+#include "host/document/Refusal.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Materiale.h"
 

@@ -1,6 +1,6 @@
 #include "host/analysis/FrameModel.h"
 
-#include "host/analysis/Refusal.h"
+#include "host/document/Refusal.h"
 #include "model/element/Trave.h"
 #include "model/entity/Materiale.h"
 #include "model/entity/Sezione.h"

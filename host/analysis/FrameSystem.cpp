@@ -1,6 +1,6 @@
 #include "host/analysis/FrameSystem.h"
 
-#include "host/analysis/Refusal.h"
+#include "host/document/Refusal.h"
 
 #include <Eigen/Eigenvalues>
 

@@ -1,6 +1,6 @@
 #include "host/analysis/Member.h"
 
-#include "host/analysis/Refusal.h"
+#include "host/document/Refusal.h"
 
 namespace host {
 

@@ -28,8 +28,8 @@ bool IsTextModel(const std::string& path) {
 
 int PrintAll(HostDocument& document) {
     const AnalysisOutcome outcome = document.RunAnalysis();
-    if (!outcome.done) {
-        Tell(outcome.message);
+    if (outcome.refusal) {
+        Tell(outcome.refusal->message);
         return refused;
     }
     for (const CString& each : outcome.notes)

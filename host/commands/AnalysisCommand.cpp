@@ -34,10 +34,10 @@ bool RunAnalysis(HostDocument& document) {
     try {
         outcome = document.RunAnalysis();
     } catch (const std::bad_alloc&) {
-        outcome.message = "Memoria insufficiente.";
+        outcome.refusal = Refusal("Memoria insufficiente.");
     }
-    if (!outcome.done) {
-        AfxMessageBox("Analisi non eseguita.\n" + outcome.message, MB_OK | MB_ICONEXCLAMATION);
+    if (outcome.refusal) {
+        AfxMessageBox("Analisi non eseguita.\n" + outcome.refusal->message, MB_OK | MB_ICONEXCLAMATION);
         return false;
     }
     const CQuovarAnalisi& asked = *document.m_pAnalisi;

@@ -1,5 +1,7 @@
 #include "host/document/Changes.h"
 
+#include "host/document/ModelWalks.h"
+
 namespace host {
 
 void Creation::Add(Kind kind) {
@@ -91,23 +93,12 @@ void Carrying::Redo() {
             carrier.element->AddCarico(m_case.GetCarico(id, nullptr), 0);
 }
 
-template <class Action>
-void Grouping::ForEachMember(Action action) {
-    for (int i = 0; i < m_group.GetSizeElementi(); ++i) {
-        const unsigned code = m_group.GetElementKindAt(i);
-        for (const Kind kind : allKinds)
-            if (IsSelectableKind(kind) && CodeOf(kind) == code)
-                if (auto* member = m_data.FindAs<CElementoGruppo>(kind, m_group.GetElementIdAt(i)))
-                    action(*member);
-    }
-}
-
 void Grouping::Undo() {
-    ForEachMember([this](CElementoGruppo& member) { member.EliminaGruppo(m_group.GetID()); });
+    ForEachMember(m_data, m_group, [this](CElementoGruppo& member) { member.EliminaGruppo(m_group.GetID()); });
 }
 
 void Grouping::Redo() {
-    ForEachMember([this](CElementoGruppo& member) { member.AddGruppo(m_group.GetID()); });
+    ForEachMember(m_data, m_group, [this](CElementoGruppo& member) { member.AddGruppo(m_group.GetID()); });
 }
 
 LoadMembership::LoadMembership(CCasoCarico& loadCase, std::unique_ptr<CCarico> load)

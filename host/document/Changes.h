@@ -128,9 +128,6 @@ class Grouping : public Change {
     void Redo() override;
 
   private:
-    template <class Action>
-    void ForEachMember(Action action);
-
     DocumentData& m_data;
     CGruppo& m_group;
 };

@@ -8,7 +8,7 @@ namespace host {
 AnalysisOutcome HostAnalysis::Run() {
     Clear();
     AnalysisOutcome outcome = Analyse(m_data);
-    if (!outcome.done)
+    if (outcome.refusal)
         return outcome;
     m_cases = std::move(outcome.cases);
     outcome.cases.clear();

@@ -4,7 +4,6 @@
 #include "host/document/HostDocument.h"
 #include "host/document/Motion.h"
 #include "model/element/LineaFisica.h"
-#include "platform/window/Application.h"
 
 #include <cmath>
 #include <numbers>
@@ -14,10 +13,9 @@ namespace host {
 
 namespace {
 
-void TellTooMany(bool interrupted) {
-    AfxMessageBox(interrupted ? "Troppe copie: il comando è stato interrotto."_t
-                              : "Troppe copie: il comando non è stato eseguito."_t,
-                  MB_OK);
+Refusal TooMany(bool interrupted) {
+    return Refusal(interrupted ? "Troppe copie: il comando è stato interrotto."_t
+                               : "Troppe copie: il comando non è stato eseguito."_t);
 }
 
 // The nodes that go along with the selection: those selected and those of the selected elements, each once.
@@ -97,7 +95,7 @@ void HostSelection::Transform(const Motion& motion, int copies, int join, const 
     m_document.Undo().Rename(stepName);
     m_refused = copies > 0 && !Copy(m_document, motion, copies, join, message);
     if (m_refused)
-        TellTooMany(false);
+        m_document.Refuse(TooMany(false));
     if (copies == 0)
         Move(m_document, motion);
 }
@@ -174,7 +172,7 @@ void HostSelection::CicloTraslaSelezione(double dx, double dy, double dz, int un
 void HostSelection::FineCicloTraslaSelezione(Adv3dRect&, unsigned int) {
     m_cycle.reset();
     if (m_refused)
-        TellTooMany(true);
+        m_document.Refuse(TooMany(true));
 }
 
 } // namespace host

@@ -1,6 +1,7 @@
 #include "host/document/HostUndo.h"
 
-#include "host/document/HostDocument.h"
+#include "host/document/HostSelection.h"
+#include "host/document/UndoOwner.h"
 
 #include <algorithm>
 
@@ -38,7 +39,7 @@ const char* NameOfKind(unsigned int kind) {
 
 } // namespace
 
-HostUndo::HostUndo(HostDocument& document) : m_document(document) {
+HostUndo::HostUndo(UndoOwner& owner) : m_owner(owner) {
 }
 
 HostUndo::~HostUndo() = default;
@@ -98,9 +99,7 @@ void HostUndo::EndShared() {
 }
 
 void HostUndo::Settle() {
-    if (m_document.HasIdleScheduler())
-        m_document.ScheduleIdle();
-    else
+    if (!m_owner.ScheduleIdle())
         CloseStep();
 }
 
@@ -117,7 +116,7 @@ void HostUndo::Close() {
 void HostUndo::Open(const char* name) {
     m_open = std::make_unique<Step>();
     m_open->name = name;
-    m_open->before = m_document.Selection().TakeSnapshot();
+    m_open->before = m_owner.Selection().TakeSnapshot();
     m_open->stateBefore = State();
 }
 
@@ -127,14 +126,14 @@ void HostUndo::CloseStep() {
     std::unique_ptr<Step> step = std::move(m_open);
     if (step->changes.empty())
         return;
-    step->after = m_document.Selection().TakeSnapshot();
+    step->after = m_owner.Selection().TakeSnapshot();
     step->stateAfter = ++m_lastState;
     while (m_steps.size() > m_position) // what had been undone cannot come back after a new command
         m_steps.pop_back();
     const bool model = step->ChangesModel();
     m_steps.push_back(std::move(step));
     ++m_position;
-    m_document.NotifyChange(model);
+    m_owner.NotifyChange(model);
 }
 
 void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {
@@ -158,7 +157,7 @@ bool HostUndo::HasOpenChanges() const {
 
 void HostUndo::Run(Step& step, bool forward) {
     m_running = true;
-    m_document.Selection().Clear(); // before its objects leave
+    m_owner.Selection().Clear(); // before its objects leave
     if (forward) {
         for (auto& change : step.changes)
             change->Redo();
@@ -166,9 +165,9 @@ void HostUndo::Run(Step& step, bool forward) {
         for (std::size_t i = step.changes.size(); i-- > 0;)
             step.changes[i]->Undo();
     }
-    m_document.Selection().Restore(forward ? step.after : step.before);
+    m_owner.Selection().Restore(forward ? step.after : step.before);
     m_running = false;
-    m_document.NotifyChange(step.ChangesModel());
+    m_owner.NotifyChange(step.ChangesModel());
 }
 
 bool HostUndo::Undo() {

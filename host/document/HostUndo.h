@@ -8,11 +8,9 @@
 #include <memory>
 #include <vector>
 
-class CElemento;
-
 namespace host {
 
-class HostDocument;
+class UndoOwner;
 
 // One reversible change of a document. It has happened when it is recorded.
 class Change {
@@ -24,9 +22,19 @@ class Change {
     virtual bool ChangesModel() const { return true; }
 };
 
+// The ways to open a step. They nest: inside another's bracket each only adds to the step that is open.
+//
+//   opened by                  for                              the step ends
+//   BeginUndo ... EndUndo      a dialog's command               with the bracket
+//   UndoStep                   a command of the application     with the guard
+//   SharedStep                 a piece of a dialog's command    in the event loop, or before a step of another name
+//   Record, Add ...            one change outside brackets      in the event loop
+//
+// Where there is no event loop to come back to, the last two end at once. Whatever is open outside a bracket ends
+// before a bracket begins, and before undo, redo and saving.
 class HostUndo : public CQuovarUndo {
   public:
-    explicit HostUndo(HostDocument& document);
+    explicit HostUndo(UndoOwner& owner);
     ~HostUndo() override;
     HostUndo(const HostUndo&) = delete;
     HostUndo& operator=(const HostUndo&) = delete;
@@ -42,7 +50,7 @@ class HostUndo : public CQuovarUndo {
     void End();
     // A bracket for what a dialog asks for piece by piece, one call after the other: until control is back in the event
     // loop, further ones of the same name, and changes outside every bracket, go into the same step. Without a
-    // scheduler (see HostDocument::SetIdleScheduler) it is a bracket like any other. See SharedStep.
+    // scheduler (see HostCore::SetIdleScheduler) it is a bracket like any other. See SharedStep.
     void BeginShared(const char* name);
     void EndShared();
     bool IsInBracket() const { return !m_brackets.empty(); }
@@ -59,7 +67,7 @@ class HostUndo : public CQuovarUndo {
     bool IsOpen() const { return !m_brackets.empty() || m_open; }
 
     // Takes a change that has just been made. Outside every bracket it opens a step of that name by itself, closed at
-    // once, or when control is back in the event loop (see HostDocument::SetIdleScheduler).
+    // once, or when control is back in the event loop (see HostCore::SetIdleScheduler).
     void Record(std::unique_ptr<Change> change, const char* name);
     // The change recorded last in the open step, for those that can take one more; null at the start of a step.
     Change* Last();
@@ -90,7 +98,7 @@ class HostUndo : public CQuovarUndo {
     void CloseStep();
     void Run(Step& step, bool forward);
 
-    HostDocument& m_document;
+    UndoOwner& m_owner;
     std::vector<std::unique_ptr<Step>> m_steps;
     std::size_t m_position = 0;           // steps before it are done, those from it on undone
     std::unique_ptr<Step> m_open;         // being recorded

@@ -43,6 +43,7 @@ Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, con
     project.name = name;
     project.document->SetIdleScheduler(
         [this, &project] { QTimer::singleShot(0, project.idle.get(), [this, &project] { RunIdle(project); }); });
+    project.document->SetRefusalTeller([](const Refusal& refusal) { AfxMessageBox(refusal.message, MB_OK); });
     return project;
 }
 

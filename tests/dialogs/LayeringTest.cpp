@@ -38,10 +38,14 @@ std::vector<std::string> Offences(const std::string& path, const std::string& so
         const std::string where = path + ":" + std::to_string(number) + ": ";
         if (!MayNameToolkit(path) && std::regex_search(line, toolkitName))
             offences.push_back(where + "names the toolkit: " + line);
+        if (path.starts_with("host/document/") && line.find("AfxMessageBox") != std::string::npos)
+            offences.push_back(where + "tells the user: " + line);
         std::smatch match;
         if (!std::regex_search(line, match, include) || match[1] != "\"")
             continue;
         const std::string target = match[2];
+        if (path.starts_with("host/document/") && target == "platform/window/Application.h")
+            offences.push_back(where + "includes the message boxes: a refusal below the windows is a value");
         if (std::none_of(allowed.begin(), allowed.end(),
                          [&](const auto& folder) { return target.starts_with(folder); }))
             offences.push_back(where + "may not include " + target);
@@ -59,6 +63,8 @@ TEST(Layering, CheckerSeesOffences) {
     EXPECT_EQ(Offences("platform/A.h", "#include <QWidget>\n").size(), 1u);
     EXPECT_EQ(Offences("platform/A.cpp", "#include \"model/Nodo.h\"\n").size(), 1u);
     EXPECT_EQ(Offences("host/A.cpp", "#include \"tests/support/Journal.h\"\n").size(), 1u);
+    EXPECT_EQ(Offences("host/document/A.cpp", "#include \"platform/window/Application.h\"\n").size(), 1u);
+    EXPECT_EQ(Offences("host/document/A.cpp", "    AfxMessageBox(text);\n").size(), 1u);
     EXPECT_TRUE(Offences("platform/private/A.h", "#include <QWidget>\nQUOVAR_MESSAGE_ENTRY\n").empty());
     EXPECT_TRUE(Offences("dialogs/frame/A.h", "class CQuovarDoc; // Quovar\n#include \"model/FPoint.h\"\n").empty());
 }

@@ -54,8 +54,8 @@ void AnalysisModel::Release(CTrave* beam, int end, int n, int t, int m2, int m3)
 const host::CaseResults& AnalysisModel::Run() {
     const host::AnalysisOutcome outcome = document.RunAnalysis();
     static const host::CaseResults none;
-    if (!outcome.done) {
-        ADD_FAILURE() << outcome.message.ToUtf8();
+    if (outcome.refusal) {
+        ADD_FAILURE() << outcome.refusal->message.ToUtf8();
         return none;
     }
     document.SelectCasoCarico(firstCase->GetID());
@@ -63,7 +63,8 @@ const host::CaseResults& AnalysisModel::Run() {
 }
 
 CString AnalysisModel::Refusal() {
-    return document.RunAnalysis().message;
+    const host::AnalysisOutcome outcome = document.RunAnalysis();
+    return outcome.refusal ? outcome.refusal->message : CString();
 }
 
 double AnalysisModel::Moved(CNodo* node, int component) {

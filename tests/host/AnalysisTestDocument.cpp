@@ -174,7 +174,7 @@ TEST(AnalysisRefusal, LostDigitsAreTold) {
     }
     m.Force(last, {0, 0, -1});
     const host::AnalysisOutcome outcome = m.document.RunAnalysis();
-    ASSERT_TRUE(outcome.done) << Said(outcome.message);
+    ASSERT_FALSE(outcome.refusal) << Said(outcome.refusal->message);
     ASSERT_EQ(outcome.notes.size(), 1u);
     EXPECT_EQ(Said(outcome.notes[0]).rfind("I risultati del caso di carico n.ro 1 sono poco precisi: al nodo n.ro ", 0),
               0u);
@@ -200,7 +200,7 @@ TEST(AnalysisOutcomes, LoadsBeyondTheEndsAreSaid) {
         m.document.Modify(*m.load, [&] { m.load->GetForceVector() = CFPoint(); });
         m.On(m.beam, trapezoid(each.from, each.to));
         const host::AnalysisOutcome outcome = m.document.RunAnalysis();
-        ASSERT_TRUE(outcome.done);
+        ASSERT_FALSE(outcome.refusal);
         EXPECT_NEAR(m.Reaction(m.root, 2), each.reaction, 1e-7) << each.from;
         EXPECT_EQ(outcome.notes.empty() ? "" : Said(outcome.notes[0]), each.inside ? "" : beyond) << each.from;
     }
@@ -226,7 +226,7 @@ TEST(AnalysisOutcomes, WhatIsLeftOutIsSaid) {
     CNodo* sprung = m.Node(9, 9, 9);
     m.document.Modify(*sprung, [&] { sprung->AddSpring(CMolla(CMolla::Translational, 100, {0, 0, 1})); });
     const host::AnalysisOutcome outcome = m.document.RunAnalysis();
-    ASSERT_TRUE(outcome.done);
+    ASSERT_FALSE(outcome.refusal);
     ASSERT_EQ(outcome.notes.size(), 4u);
     EXPECT_EQ(Said(outcome.notes[0]),
               "Il nodo n.ro 7 non appartiene a travi o aste: le sue molle non sono considerate.");
@@ -389,7 +389,7 @@ TEST(AnalysisBatch, PrintsTablesAndReportsByStatus) {
 TEST(AnalysisBatch, ExampleIsInEquilibrium) {
     HostDocument document;
     BuildEverything(document);
-    ASSERT_TRUE(document.RunAnalysis().done);
+    ASSERT_FALSE(document.RunAnalysis().refusal);
     const int id = document.GetIndexCasoCarico(1)->GetID();
     double sum = 0, load = 0;
     for (const auto& reaction : document.Analysis().Results(id)->reactions)

@@ -261,7 +261,7 @@ TEST_F(LoadCommandsTest, SwapsTheSignsOfRealResults) {
     BuildExample(Document());
     CCasoCarico* seismic = Document().GetIndexCasoCarico(0);
     Document().Modify(*seismic, [seismic] { seismic->SetTipo(dynamicSeismicCase); });
-    ASSERT_TRUE(Document().RunAnalysis().done);
+    ASSERT_FALSE(Document().RunAnalysis().refusal);
     CTrave* column = Document().GetIndexTrave(0);
     const auto axial = [column](int end) { return column->GetRisultati()->GetNodeResults(end)->GetV1(); };
     const double near = axial(0), far = axial(1);

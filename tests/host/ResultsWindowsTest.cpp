@@ -54,7 +54,7 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
     CWinApp::PumpMessages();
     DialogDriver driver(*diagrams);
     EXPECT_TRUE(driver.Caption().ends_with("Diagramma - (I risultati non sono validi)")) << driver.Caption();
-    ASSERT_TRUE(Document().RunAnalysis().done);
+    ASSERT_FALSE(Document().RunAnalysis().refusal);
     CWinApp::PumpMessages();
     EXPECT_TRUE(driver.Caption().ends_with("Diagramma - Trave " + std::to_string(beam->GetID()))) << driver.Caption();
     diagrams->GetM2() = 0;
@@ -82,7 +82,7 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
 TEST_F(ResultsWindows, OutlivesItsDocument) {
     BuildExample(Document());
     Document().Selection().Add(Document().GetIndexTrave(0));
-    ASSERT_TRUE(Document().RunAnalysis().done);
+    ASSERT_FALSE(Document().RunAnalysis().refusal);
     auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
     ASSERT_TRUE(diagrams);
     diagrams->SendMessage(WM_COMMAND, CDialogDiagrammi::ID_DIAGRAMMI_VISUALIZZAVALORI);

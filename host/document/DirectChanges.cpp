@@ -1,12 +1,12 @@
-// What dialogs change on load cases and combinations by themselves. They say so with MODIFICA_CASI_CARICO; the document
-// then finds out what it was and records it, so that it can be undone like everything else.
+#include "host/document/DirectChanges.h"
+
 #include "host/document/Changes.h"
-#include "host/document/HostDocument.h"
+#include "host/document/ModelWalks.h"
 #include "model/entity/CasoCarico.h"
 
 namespace host {
 
-void HostDocument::RememberNames() {
+bool DirectChanges::Remember() {
     m_names.clear();
     for (const Kind kind : {Kind::LoadCase, Kind::Combination})
         for (int i = 0; i < m_data.Size(kind); ++i) {
@@ -19,19 +19,21 @@ void HostDocument::RememberNames() {
         auto* group = m_data.As<CElementoStrutturale>(Kind::Group, i);
         groups.emplace_back(group->GetID(), group->GetNome());
     }
-    m_pendingGroups = m_pendingGroups || groups != m_groups;
-    m_groups = std::move(groups);
+    return std::exchange(m_groups, std::move(groups)) != m_groups;
 }
 
-void HostDocument::RecordDirectChanges() {
-    // What a command inside a bracket changes, it records itself.
+void DirectChanges::CaseMade(int id) {
+    m_newCase = {id, m_undo.RecordCount()};
+}
+
+void DirectChanges::Record() {
     if (m_undo.IsInBracket())
         return;
     RecordNewNames();
     RecordFilledCase();
 }
 
-void HostDocument::RecordNewNames() {
+void DirectChanges::RecordNewNames() {
     std::vector<std::unique_ptr<Change>> changes;
     for (const Kind kind : {Kind::LoadCase, Kind::Combination})
         for (int i = 0; i < m_data.Size(kind); ++i) {
@@ -48,7 +50,7 @@ void HostDocument::RecordNewNames() {
 }
 
 // The case made last, when nothing was recorded since: a dialog has filled it with copies of another's loads.
-void HostDocument::RecordFilledCase() {
+void DirectChanges::RecordFilledCase() {
     const auto made = std::exchange(m_newCase, {});
     auto* loadCase = m_data.FindAs<CCasoCarico>(Kind::LoadCase, made.id);
     if (!loadCase || made.records != m_undo.RecordCount())
@@ -56,13 +58,9 @@ void HostDocument::RecordFilledCase() {
     static constexpr char stepName[] = "Copia caso di carico";
     m_undo.Rename(stepName);
     std::vector<CElementoCarico*> carriers;
-    ForEachCarrier([&](CElementoCarico& carrier) {
-        for (int i = 0; i < carrier.GetSizeCarichi(); ++i) {
-            if (carrier.GetIndexIDCasoCarico(i) == made.id) {
-                carriers.push_back(&carrier);
-                break;
-            }
-        }
+    ForEachCarrier(m_data, [&](CElementoCarico& carrier) {
+        if (CarriesLoadOf(carrier, made.id))
+            carriers.push_back(&carrier);
     });
     if (!carriers.empty())
         m_undo.Record(std::make_unique<Carrying>(*loadCase, carriers), stepName);

@@ -1,0 +1,97 @@
+#include "host/document/HostCore.h"
+
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "model/values/Path.h"
+
+namespace host {
+
+HostCore::HostCore(HostSelection& selection) : m_selection(selection) {
+    m_pAnalisi = &m_analysis;
+    m_pProgetto = &m_design;
+    m_pUndo = &m_undo;
+}
+
+HostCore::~HostCore() = default;
+
+// ---- News
+
+void HostCore::UpdateAllViews(CView* pSender, long lHint, CObject* pHint) {
+    if (lHint == MODIFICA_CASI_CARICO)
+        m_direct.Record();
+    m_notices.Tell(pSender, lHint, pHint);
+}
+
+void HostCore::Idle() {
+    m_notices.BeginIdle();
+    m_undo.CloseImplicit();
+    m_notices.Send();
+}
+
+void HostCore::NotifySelection(unsigned kinds) {
+    m_notices.SelectionChanged(kinds);
+    m_notices.Deliver();
+}
+
+void HostCore::NotifyChange(bool model) {
+    RefreshModified();
+    if (model) {
+        if (m_analysis.Clear())
+            m_notices.ResultsGone();
+        if (m_direct.Remember())
+            m_notices.GroupsChanged();
+        m_notices.ModelChanged();
+    }
+    KeepCurrentCase();
+    m_notices.Deliver();
+}
+
+// Undo may have taken away the case that is shown.
+void HostCore::KeepCurrentCase() {
+    if (!m_data.Find(Kind::LoadCase, m_data.CurrentCase()) && !m_data.Find(Kind::Combination, m_data.CurrentCase()))
+        m_data.CurrentCase() = m_data.Size(Kind::LoadCase) > 0 ? m_data.At(Kind::LoadCase, 0)->GetID() : 0;
+}
+
+void HostCore::Refuse(const Refusal& refusal) const {
+    if (m_refusalTeller)
+        m_refusalTeller(refusal);
+}
+
+// ---- The file
+
+void HostCore::Replace(DocumentData data) {
+    m_selection.Forget();
+    m_undo.Clear(); // before the objects that its steps refer to
+    m_data = std::move(data);
+    m_savedState = m_undo.State();
+    NotifyChange(true);
+    NotifySelection(0);
+}
+
+void HostCore::SetPathName(LPCTSTR path) {
+    CQuovarDoc::SetPathName(path);
+    CString name, extension;
+    if (SplitPath(GetPathName(), nullptr, nullptr, &name, &extension))
+        SetTitle(name);
+}
+
+void HostCore::MarkSaved() {
+    m_undo.Close();
+    m_savedState = m_undo.State();
+    RefreshModified();
+}
+
+void HostCore::RefreshModified() {
+    SetModifiedFlag(m_undo.State() != m_savedState);
+}
+
+// ---- The analysis
+
+AnalysisOutcome HostCore::RunAnalysis() {
+    Idle(); // a step that is still open would make the results invalid when it ends
+    AnalysisOutcome outcome = m_analysis.Run();
+    m_notices.ResultsCame();
+    UpdateAllViews(nullptr, outcome.refusal ? MODIFICA_RISULTATI_ELIMINATI : MODIFICA_RISULTATI, nullptr);
+    return outcome;
+}
+
+} // namespace host

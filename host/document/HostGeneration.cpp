@@ -1,0 +1,155 @@
+// The commands that make nodes and elements.
+#include "host/document/HostGeneration.h"
+#include "host/document/Changes.h"
+#include "host/document/Generation.h"
+#include "model/element/Asta.h"
+#include "model/element/Setto.h"
+#include "model/element/Solaio.h"
+#include "model/element/Trave.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
+#include "model/entity/Spessore.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr char generationStep[] = "Generazione nodi";
+
+// Null when the numbers of nodes are used up.
+CNodo* MakeNode(HostEditing& document, const CFPoint& place) {
+    if (CNodo* there = document.Data().NodeAt(place, nullptr, document.GetTolerance()))
+        return there;
+    return document.AddNew(std::make_unique<CNodo>(place), generationStep);
+}
+
+// New elements have the first material, section and thickness of the document, so that a simple model needs no
+// assigning.
+void GiveDefaults(HostEditing& document, CLineaFisica& line) {
+    if (CMateriale* material = document.GetIndexMateriale(0))
+        line.SetMateriale(material->GetID(), material);
+    if (CSezione* section = document.GetIndexSezione(0))
+        line.SetSezione(section->GetID(), section);
+}
+
+void GiveDefaults(HostEditing& document, CPoligonoFisico& polygon) {
+    if (CMateriale* material = document.GetIndexMateriale(0))
+        polygon.SetMateriale(material->GetID(), material);
+    if (CSpessore* thickness = document.GetIndexSpessore(0))
+        polygon.SetThickness(thickness->GetID(), thickness);
+}
+
+template <class T>
+T* AddLine(HostEditing& document, int idNodo1, int idNodo2, const char* stepName) {
+    CNodo* first = document.Data().FindNode(idNodo1);
+    CNodo* second = document.Data().FindNode(idNodo2);
+    if (!first || !second || first == second)
+        return nullptr;
+    auto line = std::make_unique<T>();
+    line->SetNodi(first, second);
+    GiveDefaults(document, *line);
+    return document.AddNew(std::move(line), stepName);
+}
+
+template <class T>
+T* AddPolygon(HostEditing& document, const std::vector<int>& idNodi, const char* stepName) {
+    std::vector<int> sorted = idNodi;
+    std::sort(sorted.begin(), sorted.end());
+    if (sorted.size() < 3 || std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end())
+        return nullptr;
+    auto polygon = std::make_unique<T>();
+    for (const int id : idNodi) {
+        CNodo* node = document.Data().FindNode(id);
+        if (!node)
+            return nullptr;
+        polygon->AggiungiVertice(node);
+    }
+    GiveDefaults(document, *polygon);
+    return document.AddNew(std::move(polygon), stepName);
+}
+
+} // namespace
+
+int HostGeneration::GenerateNodes(const std::vector<CFPoint>& places) {
+    if (places.empty() || !std::all_of(places.begin(), places.end(), IsUsablePlace))
+        return 0;
+    UndoStep step(Undo(), generationStep);
+    for (const CFPoint& place : places)
+        MakeNode(*this, place);
+    return 1;
+}
+
+int HostGeneration::GenNodiLineare(CFPoint inizio, CFPoint direzione, double passo, int nNodi) {
+    return GenerateNodes(PlacesOnLine(inizio, direzione, passo, nNodi, Data().Tolerance()));
+}
+
+int HostGeneration::GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) {
+    return GenerateNodes(PlacesOnSegment(p1, p2, nNodi, Data().Tolerance()));
+}
+
+int HostGeneration::GenNodiArco3Punti(int piano, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) {
+    return GenerateNodes(PlacesOnArc(piano, p1, p2, p3, nNodi, Data().Tolerance()));
+}
+
+int HostGeneration::GenNodiArcoCerchio(int piano, double inclinazione, CFPoint centro, CFPoint inizio, double angolo,
+                                       int nNodi) {
+    return GenerateNodes(PlacesOnArc(piano, inclinazione, centro, inizio, angolo, nNodi, Data().Tolerance()));
+}
+
+int HostGeneration::GenNodiCerchio(int piano, double inclinazione, int nNodi, CFPoint centro, double raggio) {
+    return GenerateNodes(PlacesOnCircle(piano, inclinazione, centro, raggio, nNodi, Data().Tolerance()));
+}
+
+int HostGeneration::Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, int nSuddivisioni1, int nSuddivisioni2) {
+    const std::vector<CFPoint> places =
+        PlacesInQuadrilateral({p1, p2, p3, p4}, nSuddivisioni1, nSuddivisioni2, Data().Tolerance());
+    if (places.empty() || !std::all_of(places.begin(), places.end(), IsUsablePlace))
+        return 0;
+    UndoStep step(Undo(), "Mesh");
+    Undo().Rename("Mesh");
+    std::vector<int> ids;
+    ids.reserve(places.size());
+    for (const CFPoint& place : places) {
+        CNodo* node = MakeNode(*this, place);
+        ids.push_back(node ? node->GetID() : 0);
+    }
+    const auto row = static_cast<std::size_t>(nSuddivisioni1) + 1;
+    for (std::size_t corner = 0; corner + row < ids.size(); ++corner)
+        if (corner % row + 1 < row) // the last place of a row begins no element
+            AddPolygon<CSolaio>(*this, {ids[corner], ids[corner + 1], ids[corner + row + 1], ids[corner + row]},
+                                "Mesh");
+    return 1;
+}
+
+CNodo* HostGeneration::AddNodo(CFPoint& punto, CView*, int flag) {
+    if (!IsUsablePlace(punto))
+        return nullptr;
+    if (flag != 0)
+        if (CNodo* there = Data().NodeAt(punto, nullptr, Data().ExactTolerance()))
+            return there;
+    return AddNew(std::make_unique<CNodo>(punto), "Aggiungi nodo");
+}
+
+CNodo* HostGeneration::GetNodo(CFPoint& punto, CNodo* pEscluso, double tolleranza) {
+    return Data().NodeAt(punto, pEscluso, tolleranza);
+}
+
+CTrave* HostGeneration::AddTrave(int idNodo1, int idNodo2, CView*) {
+    return AddLine<CTrave>(*this, idNodo1, idNodo2, "Aggiungi trave");
+}
+
+CAsta* HostGeneration::AddAsta(int idNodo1, int idNodo2, CView*) {
+    return AddLine<CAsta>(*this, idNodo1, idNodo2, "Aggiungi asta");
+}
+
+CSetto* HostGeneration::AddSetto(const std::vector<int>& idNodi) {
+    return AddPolygon<CSetto>(*this, idNodi, "Aggiungi setto");
+}
+
+CSolaio* HostGeneration::AddSolaio(const std::vector<int>& idNodi) {
+    return AddPolygon<CSolaio>(*this, idNodi, "Aggiungi solaio");
+}
+
+} // namespace host

@@ -1,0 +1,48 @@
+// The commands of the document that make nodes and elements; see DocumentGeneration.
+#pragma once
+
+#include "host/document/HostEditing.h"
+
+namespace host {
+
+class HostGeneration : public HostEditing {
+  public:
+    // All of them return 0 and change nothing for fewer than one node, more than a million, numbers that are not
+    // finite, and points that coincide within the tolerance of the document where they must differ. A place where a
+    // node lies already gets no second one. Each call is one undo step.
+    //
+    // The first node is at `inizio`. `passo` must be larger than the tolerance.
+    int GenNodiLineare(CFPoint inizio, CFPoint direzione, double passo, int nNodi) override;
+    // Equally spaced, both ends included; a single node lies at the first end.
+    int GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) override;
+    // From p1 through p2 to p3, both ends included. The points must lie in a plane parallel to `piano`.
+    int GenNodiArco3Punti(int piano, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) override;
+    // Degrees. The plane is turned by `inclinazione` about its first axis through the centre; the arc runs
+    // counter-clockwise seen against the plane's normal and has both ends. `inizio` must lie in the tilted plane.
+    int GenNodiArcoCerchio(int piano, double inclinazione, CFPoint centro, CFPoint inizio, double angolo,
+                           int nNodi) override;
+    // The first node lies on the plane's first axis; `inclinazione` as above.
+    int GenNodiCerchio(int piano, double inclinazione, int nNodi, CFPoint centro, double raggio) override;
+    // Slabs with four nodes. Opposite sides are divided alike.
+    int Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, int nSuddivisioni1, int nSuddivisioni2) override;
+
+    // A node that lies at exactly this place (1e-9 of the model's size) is returned instead of a second one. With a
+    // flag of 0 the node is made all the same.
+    CNodo* AddNodo(CFPoint& punto, CView* pView, int flag) override;
+    // Null for unknown or equal nodes. A second element between the same nodes is made: the check reports it.
+    CTrave* AddTrave(int idNodo1, int idNodo2, CView* pView) override;
+    CAsta* AddAsta(int idNodo1, int idNodo2, CView* pView) override;
+    CNodo* GetNodo(CFPoint& punto, CNodo* pEscluso, double tolleranza) override;
+
+    // Null for fewer than three nodes, unknown or repeated ones.
+    CSetto* AddSetto(const std::vector<int>& idNodi);
+    CSolaio* AddSolaio(const std::vector<int>& idNodi);
+
+  protected:
+    using HostEditing::HostEditing;
+
+  private:
+    int GenerateNodes(const std::vector<CFPoint>& places);
+};
+
+} // namespace host
