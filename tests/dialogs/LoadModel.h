@@ -1,4 +1,4 @@
-// Load cases, combinations and groups for the recording document, and the names that nobody may bear.
+// Load cases, combinations and groups for the recording document, and a name that it refuses.
 #pragma once
 
 #include "model/entity/CasoCarico.h"
@@ -38,12 +38,4 @@ inline std::vector<std::pair<int, double>> FactorsOf(const CCombinazione& combin
     return factors;
 }
 
-// One for each clause of the rule; the longest valid name has 64 characters, however many bytes they take elsewhere.
-inline const std::vector<std::string> invalidNames = {" Neve", "a.b", "a`b", "a!b", "a[b", "a]b", std::string(65, 'a')};
-
-inline std::string LongestName() {
-    std::string name;
-    for (int i = 0; i < 64; ++i)
-        name += "è";
-    return name;
-}
+inline constexpr char invalidName[] = "a.b";

@@ -1,6 +1,4 @@
-#include "model/element/Trave.h"
-#include "model/result/ElementoRisultati.h"
-#include "tests/support/RecordingDoc.h"
+#include "tests/support/RecordingAnalysis.h"
 
 #include <algorithm>
 

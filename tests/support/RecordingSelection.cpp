@@ -1,6 +1,14 @@
-#include "model/element/Elemento.h"
+#include "tests/support/RecordingSelection.h"
+
+#include "model/element/Nodo.h"
+#include "model/element/Poligono.h"
 #include "model/view/Adv3dRect.h"
-#include "tests/support/RecordingDoc.h"
+#include "platform/core/Exception.h"
+#include "platform/window/View.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 void RecordingSelection::Deseleziona(CView* pView) {
     m_journal.Add("Deseleziona", pView);
@@ -36,4 +44,13 @@ void RecordingSelection::CicloTraslaSelezione(double dx, double dy, double dz, i
                                               Adv3dRect&, CObList&, CObList&) {
     m_journal.Add("CicloTraslaSelezione", dx, dy, dz, unione, contatore);
     ++contatore;
+}
+
+void RecordingSelection::RecordPlane(const char* name, CPoligono* polygon) {
+    std::string line = name;
+    for (int i = 0; polygon && i < polygon->GetSize(); ++i)
+        line += " " + Journal::Text(*polygon->GetIndexNodo(i)->GetPunto());
+    m_journal.Add(line.c_str());
+    if (planeThrows)
+        throw std::exchange(planeThrows, nullptr);
 }
