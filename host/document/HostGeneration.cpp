@@ -1,5 +1,5 @@
-// The commands that make nodes and elements.
 #include "host/document/HostGeneration.h"
+
 #include "host/document/Changes.h"
 #include "host/document/Generation.h"
 #include "model/element/Asta.h"

@@ -1,4 +1,3 @@
-// The document's lists as the dialogs walk them.
 #include "host/document/HostLists.h"
 
 #include "host/document/ModelWalks.h"
