@@ -48,9 +48,9 @@ int HostApplication::Open() {
     return Run();
 }
 
-int HostApplication::DoMessageBox(LPCTSTR text, UINT type, UINT helpId) {
+int HostApplication::ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) {
     if (m_options.action == Options::Action::Open)
-        return CWinApp::DoMessageBox(text, type, helpId);
+        return CWinApp::ShowMessageBox(text, caption, type);
     const char* expected = m_options.action == Options::Action::Check ? "" : "messaggio inatteso: ";
     std::fprintf(stderr, "quovar: %s%s\n", expected, CString(text).ToUtf8().c_str());
     return (type & MB_TYPEMASK) == MB_YESNO ? IDNO : IDCANCEL;

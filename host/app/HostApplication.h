@@ -22,7 +22,7 @@ class HostApplication final : public CWinApp {
     int Execute();
 
     // The trial run has nobody who could answer: a box is noted, and cancelled.
-    int DoMessageBox(LPCTSTR text, UINT type, UINT helpId) override;
+    int ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) override;
 
   private:
     int Open();

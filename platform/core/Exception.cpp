@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <exception>
+#include <new>
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
@@ -151,3 +153,40 @@ void AfxThrowUserException() {
 void AfxThrowFileException(int cause, int osError, const CString& fileName) {
     throw new CFileException(cause, osError, fileName);
 }
+
+namespace platform {
+
+namespace {
+int guards = 0;
+bool somethingEscaped = false;
+} // namespace
+
+GuardDepth::GuardDepth() {
+    ++guards;
+}
+
+GuardDepth::~GuardDepth() {
+    if (guards == 1 && std::exchange(somethingEscaped, false))
+        if (const CWinApp* application = AfxGetApp(); application && application->recover)
+            application->recover();
+    --guards;
+}
+
+void ReportEscaped() {
+    somethingEscaped = true;
+    try {
+        throw;
+    } catch (CException* exception) {
+        if (!exception->IsKindOf(RUNTIME_CLASS(CUserException)))
+            exception->ReportError();
+        exception->Delete();
+    } catch (const std::bad_alloc&) {
+        CMemoryException(FALSE).ReportError();
+    } catch (const std::exception& exception) {
+        CSimpleException("Si è verificato un errore: "_t + CString::FromUtf8(exception.what()), FALSE).ReportError();
+    } catch (...) {
+        CException(FALSE).ReportError();
+    }
+}
+
+} // namespace platform

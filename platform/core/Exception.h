@@ -6,6 +6,8 @@
 #include "platform/core/Object.h"
 #include "platform/core/String.h"
 
+#include <utility>
+
 class CException : public CObject {
     DECLARE_DYNAMIC(CException)
 
@@ -102,3 +104,34 @@ class CFileException : public CException {
 [[noreturn]] void AfxThrowInvalidArgException();
 [[noreturn]] void AfxThrowUserException();
 [[noreturn]] void AfxThrowFileException(int cause, int osError = -1, const CString& fileName = CString());
+
+namespace platform {
+
+// Counts the guards that are at work. When the outermost ends and something escaped meanwhile, the application puts in
+// order what was left half done (CWinApp::recover).
+class GuardDepth {
+  public:
+    GuardDepth();
+    ~GuardDepth();
+    GuardDepth(const GuardDepth&) = delete;
+    GuardDepth& operator=(const GuardDepth&) = delete;
+};
+
+// To be called where an exception that nobody wanted is caught: tells the user, unless that has been done, and ends it.
+void ReportEscaped();
+
+// Runs what the toolkit called us for. No exception may reach its loop, which would end the program and the user's
+// work: one that escapes ends here with its message, and the result is false.
+template <class Work>
+bool RunGuarded(Work&& work) {
+    const GuardDepth depth;
+    try {
+        std::forward<Work>(work)();
+        return true;
+    } catch (...) {
+        ReportEscaped();
+        return false;
+    }
+}
+
+} // namespace platform

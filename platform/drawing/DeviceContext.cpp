@@ -38,7 +38,8 @@ CClientDC::CClientDC(CWnd* window) : CDC(std::make_unique<Surface>(window ? wind
 
 CPaintDC::CPaintDC(CWnd* window) : CDC(std::make_unique<Surface>(window ? window->m_hWnd : nullptr, false)) {
     m_ps.hdc = GetSafeHdc();
-    m_ps.rcPaint = CRect(CPoint(), CSize(m_surface->size().width(), m_surface->size().height()));
+    const QRect area = m_surface->ClipBounds();
+    m_ps.rcPaint = CRect(CPoint(area.x(), area.y()), CSize(area.width(), area.height()));
 }
 
 BOOL CDC::CreateCompatibleDC(CDC* device) {

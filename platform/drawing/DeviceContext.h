@@ -226,7 +226,7 @@ class CClientDC : public CDC {
 struct PAINTSTRUCT {
     HDC hdc = nullptr;
     BOOL fErase = FALSE;
-    CRect rcPaint; // the whole client area
+    CRect rcPaint; // around what is to be painted, outside of which nothing is drawn
 };
 
 // The same for the handler of WM_PAINT, whose caller shows the result.

@@ -1,5 +1,6 @@
 #include "platform/window/Application.h"
 
+#include "platform/core/Exception.h"
 #include "platform/private/paint/Fonts.h"
 #include "platform/private/peers/WindowPeer.h"
 
@@ -15,9 +16,37 @@ IMPLEMENT_DYNAMIC(CWinApp, CObject)
 
 namespace platform {
 
+namespace {
+
+// The toolkit lets a tool window's and a popup's keys run the shortcuts of the window behind. A dialog's keys are its
+// own; those of a list that it has dropped down too.
+bool BelongsToDialog(QObject* receiver) {
+    for (auto* widget = qobject_cast<QWidget*>(receiver); widget; widget = widget->parentWidget()) {
+        const WindowPeer* peer = PeerOf(widget);
+        if (peer && peer->isDialog)
+            return true;
+        if (widget->isWindow() && widget->windowType() != Qt::Popup)
+            return false;
+    }
+    return false;
+}
+
+} // namespace
+
 class ToolkitApplication : public QApplication {
   public:
     using QApplication::QApplication;
+
+    // The last net for what escapes from slots, timers and calls of the toolkit; windows have their own, nearer one.
+    bool notify(QObject* receiver, QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride && BelongsToDialog(receiver)) {
+            event->accept();
+            return true;
+        }
+        bool result = true;
+        RunGuarded([&] { result = QApplication::notify(receiver, event); });
+        return result;
+    }
 };
 
 } // namespace platform

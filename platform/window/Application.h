@@ -3,6 +3,7 @@
 
 #include "platform/window/Window.h"
 
+#include <functional>
 #include <memory>
 
 enum : UINT {
@@ -45,12 +46,20 @@ class CWinApp : public CObject {
     virtual int ExitInstance() { return 0; }
     int Run(); // InitInstance, the loop, ExitInstance
 
+    // A box with the application's name as caption.
+    int DoMessageBox(LPCTSTR text, UINT type, UINT helpId);
     // Every message box passes here. `type` is an MB_ combination; the result is the command of the button (IDOK,
-    // IDYES, ...).
-    virtual int DoMessageBox(LPCTSTR text, UINT type, UINT helpId);
-    // The default body: shows a box with the application's name as caption. Without an icon of its own, an OK box has
-    // the warning icon and a Yes/No box the question icon.
-    int ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type);
+    // IDYES, ...). Without an icon of its own, an OK box has the warning icon and a Yes/No box the question icon.
+    virtual int ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type);
+
+    // A command of a dialog that neither the dialog nor its owners took; non-zero when the application did.
+    virtual BOOL OnCommand(UINT) { return FALSE; }
+    // A key, WM_KEYDOWN or WM_SYSKEYDOWN, for which a dialog and its control (message.hwnd) had no use; non-zero when
+    // the application took it. By itself no key of a dialog reaches the main window.
+    virtual BOOL OnUnusedKey(const MSG&) { return FALSE; }
+    // Puts in order what was left half done by a handler out of which an exception came; called when control is about
+    // to be back in the loop. Null for nothing.
+    std::function<void()> recover;
 
     // Handles what waits in the queue, posted messages and deferred deletions too.
     static void PumpMessages();

@@ -84,8 +84,11 @@ void CDialog::EndDialog(int result) {
     m_ended = true;
     if (m_loop)
         static_cast<QEventLoop*>(m_loop)->quit();
-    if (m_hWnd)
-        m_hWnd->widget->hide();
+    if (!m_hWnd)
+        return;
+    m_hWnd->ended = true;
+    m_hWnd->activeAtEnd = m_hWnd->activeAtEnd || m_hWnd->active; // hidden, it is not any more
+    m_hWnd->widget->hide();
 }
 
 BOOL CDialog::DestroyWindow() {
@@ -114,10 +117,14 @@ BOOL CDialog::Build(UINT templateId, CWnd* parent, bool modal) {
         return FALSE; // OnInitDialog ended the dialog
     if (m_ended && modal)
         return TRUE;
-    if (wantsFocus)
+    const bool isWindow = peer->isWindow();
+    const bool shown = modal || (peer->style & WS_VISIBLE);
+    if (wantsFocus && isWindow)
         peer->FocusFirst();
-    if (modal || (peer->style & WS_VISIBLE))
+    if (shown)
         peer->Open();
+    if (alive && !peer->destroyed && wantsFocus && shown && !isWindow)
+        peer->TakeFocus(); // of another window, which is at work already
     return TRUE;
 }
 
@@ -176,6 +183,37 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
 
 BOOL CDialog::IsDialogMessage(MSG* pMsg) {
     return m_hWnd && static_cast<DialogPeer*>(m_hWnd)->HandleKey(*pMsg);
+}
+
+namespace {
+
+// A click or a menu's command, not one of a control's other notifications.
+bool IsCommand(UINT message, WPARAM wParam) {
+    return message == WM_COMMAND && HIWORD(wParam) == 0;
+}
+
+// The commands that concern more than one dialog; the numbers below them are controls'.
+bool IsRouted(WPARAM wParam) {
+    return HIWORD(wParam) == 0 && LOWORD(wParam) >= 0x8000 && LOWORD(wParam) < 0xF000;
+}
+
+} // namespace
+
+LRESULT CDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (m_hWnd && m_hWnd->ended && IsCommand(message, wParam))
+        return 0;
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
+BOOL CDialog::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (CWnd::OnCommand(wParam, lParam))
+        return TRUE;
+    if (!IsRouted(wParam))
+        return FALSE;
+    CWnd* owner = GetParent();
+    if (owner && owner->OnCommand(wParam, lParam))
+        return TRUE;
+    return AfxGetApp() && AfxGetApp()->OnCommand(LOWORD(wParam));
 }
 
 LRESULT CDialog::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

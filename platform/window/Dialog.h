@@ -14,6 +14,8 @@ class CDialog : public CWnd {
     virtual int DoModal();
     // Makes the modeless window; 0 when the template is missing. `parent` null takes the constructor's parent.
     BOOL Create(UINT templateId, CWnd* parent = nullptr);
+    // Hides the dialog, which takes no further keys or commands (until it is shown again), and ends the loop of
+    // DoModal.
     void EndDialog(int result);
 
     void NextDlgCtrl();
@@ -31,6 +33,9 @@ class CDialog : public CWnd {
 
     BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* pMsg) override; // the standard handling of a dialog's keys
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    // A command of a menu (0x8000 to 0xEFFF) that no class handles goes on to the owner, then to the application.
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   protected:

@@ -102,7 +102,7 @@ bool OnTimer(CWnd& window, Dispatch& d) {
 }
 template <auto Handler>
 bool OnKey(CWnd& window, Dispatch& d) {
-    (as<Handler>(window).*Handler)(static_cast<UINT>(d.wParam), LOWORD(static_cast<WPARAM>(d.lParam)),
+    (As<Handler>(window).*Handler)(static_cast<UINT>(d.wParam), LOWORD(static_cast<WPARAM>(d.lParam)),
                                    HIWORD(static_cast<WPARAM>(d.lParam)));
     return true;
 }
@@ -126,12 +126,12 @@ bool OnSetCursor(CWnd& window, Dispatch& d) {
 }
 template <auto Handler>
 bool OnFocus(CWnd& window, Dispatch& d) {
-    (as<Handler>(window).*Handler)(WindowOf(reinterpret_cast<HWND>(d.wParam)));
+    (As<Handler>(window).*Handler)(WindowOf(reinterpret_cast<HWND>(d.wParam)));
     return true;
 }
 template <auto Handler>
 bool OnEraseBackground(CWnd& window, Dispatch& d) {
-    d.result = (as<Handler>(window).*Handler)(reinterpret_cast<CDC*>(d.wParam));
+    d.result = (As<Handler>(window).*Handler)(reinterpret_cast<CDC*>(d.wParam));
     return true;
 }
 

@@ -52,7 +52,7 @@ enum : UINT { SIZE_RESTORED = 0, SIZE_MINIMIZED = 1, SIZE_MAXIMIZED = 2 };
 enum : UINT { WA_INACTIVE = 0, WA_ACTIVE = 1, WA_CLICKACTIVE = 2 };
 enum : UINT { SB_LINEUP = 0, SB_LINEDOWN = 1, SB_THUMBPOSITION = 4, SB_ENDSCROLL = 8 };
 enum : UINT { MK_LBUTTON = 0x0001, MK_RBUTTON = 0x0002, MK_SHIFT = 0x0004, MK_CONTROL = 0x0008, MK_MBUTTON = 0x0010 };
-enum : UINT { HTCLIENT = 1, HTCAPTION = 2 };
+enum : UINT { HTCLIENT = 1, HTCAPTION = 2, HTBORDER = 18 };
 
 // Notification codes in the high word of a WM_COMMAND.
 enum : UINT {
@@ -113,6 +113,8 @@ enum : UINT {
     VK_SHIFT = 0x10,
     VK_CONTROL = 0x11,
     VK_MENU = 0x12,
+    VK_PAUSE = 0x13,
+    VK_CAPITAL = 0x14,
     VK_ESCAPE = 0x1B,
     VK_SPACE = 0x20,
     VK_PRIOR = 0x21,
@@ -123,8 +125,11 @@ enum : UINT {
     VK_UP = 0x26,
     VK_RIGHT = 0x27,
     VK_DOWN = 0x28,
+    VK_SNAPSHOT = 0x2C,
     VK_INSERT = 0x2D,
     VK_DELETE = 0x2E,
+    VK_LWIN = 0x5B,
+    VK_RWIN = 0x5C,
     VK_APPS = 0x5D,
     VK_NUMPAD0 = 0x60,
     VK_NUMPAD9 = 0x69,
@@ -135,10 +140,22 @@ enum : UINT {
     VK_DIVIDE = 0x6F,
     VK_F1 = 0x70,
     VK_F12 = 0x7B,
+    VK_NUMLOCK = 0x90,
+    VK_SCROLL = 0x91,
+    // The keys of signs, by what they carry on an Italian keyboard; some letters of other languages stand there too.
+    VK_OEM_1 = 0xBA, // è
     VK_OEM_PLUS = 0xBB,
     VK_OEM_COMMA = 0xBC,
     VK_OEM_MINUS = 0xBD,
     VK_OEM_PERIOD = 0xBE,
+    VK_OEM_2 = 0xBF,   // ù
+    VK_OEM_3 = 0xC0,   // ò
+    VK_OEM_4 = 0xDB,   // '
+    VK_OEM_5 = 0xDC,   // the backslash
+    VK_OEM_6 = 0xDD,   // ì
+    VK_OEM_7 = 0xDE,   // à
+    VK_OEM_8 = 0xDF,   // whatever else a layout has
+    VK_OEM_102 = 0xE2, // <
 };
 
 // A message on its way; pt is the pointer's place on the screen.

@@ -12,10 +12,6 @@
 IMPLEMENT_DYNAMIC(CWnd, CObject)
 IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 
-struct platform::MessageMapAccess {
-    static const MessageMap& Of(const CWnd& window) { return window.GetMessageMap(); }
-};
-
 namespace {
 
 using platform::WindowPeer;
@@ -44,10 +40,6 @@ WindowPeer* FocusedPeer() {
 }
 
 } // namespace
-
-bool platform::WindowPeer::HasHandler(UINT message) const {
-    return object && FindEntry(MessageMapAccess::Of(*object), message, 0, 0);
-}
 
 const platform::MessageMap& CWnd::GetMessageMap() const {
     return _messageMap();
@@ -227,7 +219,7 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         DestroyWindow();
         return 0;
     }
-    return m_hWnd->DefaultMessage(message, wParam, lParam);
+    return m_hWnd->Default(message, wParam, lParam);
 }
 
 CWnd* CWnd::GetDlgItem(int id) const {

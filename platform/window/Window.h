@@ -12,10 +12,6 @@ class CDataExchange;
 class CDC;
 class CFont;
 
-namespace platform {
-struct MessageMapAccess;
-}
-
 class CWnd : public CObject {
     DECLARE_DYNAMIC(CWnd)
   public:
@@ -161,7 +157,6 @@ class CWnd : public CObject {
 
   private:
     friend class platform::WindowPeer;
-    friend struct platform::MessageMapAccess;
     bool m_inUpdateData = false; // notifications of the dialog's controls rest while its fields are exchanged
 };
 

@@ -139,6 +139,8 @@ BOOL CWnd::ShowWindow(int command) {
     default:
         widget->show();
     }
+    if (m_hWnd && command != SW_HIDE)
+        m_hWnd->ended = false;
     return wasVisible;
 }
 
@@ -173,7 +175,10 @@ CWnd* CWnd::SetCapture() {
 }
 
 DWORD CWnd::GetStyle() const {
-    return m_hWnd ? m_hWnd->style : 0;
+    if (!m_hWnd)
+        return 0;
+    const DWORD state = (m_hWnd->widget->isHidden() ? 0u : WS_VISIBLE) | (IsWindowEnabled() ? 0u : WS_DISABLED);
+    return (m_hWnd->style & ~DWORD{WS_VISIBLE | WS_DISABLED}) | state;
 }
 
 DWORD CWnd::GetExStyle() const {
@@ -183,11 +188,19 @@ DWORD CWnd::GetExStyle() const {
 BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT) {
     if (!m_hWnd)
         return FALSE;
-    const DWORD style = (m_hWnd->style & ~remove) | add;
-    if (style == m_hWnd->style)
+    const DWORD former = GetStyle();
+    const DWORD style = (former & ~remove) | add;
+    const DWORD changed = style ^ former;
+    if (!changed)
         return FALSE;
+    const QPointer<QWidget> alive = m_hWnd->widget;
     m_hWnd->style = style;
-    m_hWnd->StyleChanged();
+    if (changed & ~DWORD{WS_VISIBLE | WS_DISABLED})
+        m_hWnd->StyleChanged();
+    if (changed & WS_DISABLED)
+        EnableWindow(!(style & WS_DISABLED));
+    if (alive && m_hWnd && (changed & WS_VISIBLE)) // a handler may have ended the window meanwhile
+        ShowWindow(style & WS_VISIBLE ? SW_SHOWNA : SW_HIDE);
     return TRUE;
 }
 
@@ -222,7 +235,7 @@ BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int cx, int cy, UINT fl
     if (!(flags & SWP_NOSIZE)) {
         // A top-level window's size includes the frame that the window manager gives it.
         const QSize frame = widget->isWindow() ? widget->frameGeometry().size() - widget->size() : QSize(0, 0);
-        widget->resize(std::max(0, cx - frame.width()), std::max(0, cy - frame.height()));
+        m_hWnd->SetSize(QSize(cx, cy).expandedTo(frame) - frame);
     }
     if (!(flags & SWP_NOZORDER) && after) {
         if (after == &wndBottom)
@@ -270,13 +283,14 @@ void CWnd::ScreenToClient(CRect& rect) const {
 void CWnd::Invalidate(BOOL erase) {
     if (!m_hWnd)
         return;
-    m_hWnd->paintPending = true;
-    m_hWnd->erasePending = m_hWnd->erasePending || erase;
-    m_hWnd->Surface()->update();
+    m_hWnd->InvalidateArea(platform::wholeArea, erase);
 }
 
-void CWnd::InvalidateRect(const CRect*, BOOL erase) {
-    Invalidate(erase);
+void CWnd::InvalidateRect(const CRect* rect, BOOL erase) {
+    if (!rect)
+        Invalidate(erase);
+    else if (m_hWnd)
+        m_hWnd->InvalidateArea(QRect(rect->left, rect->top, rect->Width(), rect->Height()), erase);
 }
 
 void CWnd::UpdateWindow() {
@@ -306,7 +320,9 @@ int CWnd::ReleaseDC(CDC* dc) {
 void CWnd::SetFont(CFont* font, BOOL) {
     if (!m_hWnd || !font || !font->Data())
         return;
-    m_hWnd->widget->setFont(font->Data()->font);
+    // The toolkit would hand it on to the controls, whose fonts are their own.
+    if (!m_hWnd->isDialog && m_hWnd->children.empty())
+        m_hWnd->widget->setFont(font->Data()->font);
     m_hWnd->KeepFont(font->Data()->description);
 }
 
@@ -358,18 +374,4 @@ short GetKeyState(int key) {
 
 void GetCursorPos(CPoint* point) {
     *point = CPoint(QCursor::pos().x(), QCursor::pos().y());
-}
-
-void SetCursor(StandardCursor cursor) {
-    constexpr Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::CrossCursor, Qt::WaitCursor, Qt::SizeAllCursor};
-    if (QWidget* under = QApplication::widgetAt(QCursor::pos()))
-        under->setCursor(shapes[static_cast<int>(cursor)]);
-}
-
-CWaitCursor::CWaitCursor() {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-}
-
-CWaitCursor::~CWaitCursor() {
-    QApplication::restoreOverrideCursor();
 }

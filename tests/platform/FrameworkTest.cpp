@@ -1,7 +1,6 @@
 // What dialogs rely on beyond the single control: the road of a message, activation, keys on their way to the dialog,
 // and ends that come in the middle of something.
 #include "platform/controls/Edit.h"
-#include "platform/core/Exception.h"
 #include "platform/toolkit/Bridge.h"
 #include "tests/platform/LoggedDialog.h"
 
@@ -9,8 +8,6 @@
 #include <QEnterEvent>
 #include <QMessageBox>
 #include <QPushButton>
-
-#include <new>
 
 namespace {
 
@@ -180,25 +177,6 @@ TEST(Framework, OkReadsTheFieldsAndCancelDoesNot) {
     EXPECT_EQ(boxes.texts.size(), 1u);
 }
 
-// The toolkit cannot carry an exception to the loop: an escaped one would end the program and the user's work.
-TEST(Framework, AnExceptionEndsWithItsMessage) {
-    Opened<> dialog;
-    DialogDriver& user = dialog.user;
-    const Boxes boxes;
-    dialog.onButton = [] { throw new CSimpleException("Memoria piena"); };
-    user.Click(200);
-    EXPECT_EQ(boxes.texts, Log{"Memoria piena"});
-    dialog.onButton = [] { AfxThrowUserException(); }; // has told the user itself
-    user.Click(200);
-    EXPECT_EQ(boxes.texts.size(), 1u);
-    dialog.onButton = [] { throw std::bad_alloc(); };
-    user.Click(200);
-    EXPECT_EQ(boxes.texts.back(), "Memoria esaurita.");
-    dialog.onButton = nullptr;
-    user.Click(200); // and the dialog goes on
-    EXPECT_EQ(dialog.Count("button"), 4);
-}
-
 TEST(Framework, MessageBoxesHaveTheirIconsCaptionAndButtons) {
     struct Case {
         UINT type;
@@ -216,7 +194,7 @@ TEST(Framework, MessageBoxesHaveTheirIconsCaptionAndButtons) {
             EXPECT_EQ(box->windowTitle(), "Quovar");
             box->defaultButton()->click();
         });
-        EXPECT_EQ(TestApp::Instance().CWinApp::DoMessageBox("Testo", type, 0), answer) << type;
+        EXPECT_EQ(TestApp::Instance().CWinApp::ShowMessageBox("Testo", "Quovar", type), answer) << type;
     }
 }
 
@@ -228,7 +206,7 @@ TEST(Framework, AMessageBoxOutlivesTheWindowUnderIt) {
         if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
             box->reject();
     });
-    EXPECT_EQ(TestApp::Instance().ShowMessageBox("Testo", "Quovar", MB_YESNO), IDCANCEL);
+    EXPECT_EQ(TestApp::Instance().CWinApp::ShowMessageBox("Testo", "Quovar", MB_YESNO), IDCANCEL);
     EXPECT_FALSE(dialog.user.IsOpen());
 }
 

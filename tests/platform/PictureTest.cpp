@@ -93,6 +93,23 @@ TEST(Picture, KeepsWhatIsDrawnUntilInvalidateErasesIt) {
     EXPECT_NE(Pixel(window, 52, 52), red) << "erased before it returns";
 }
 
+// Catches a part that erases the whole picture, and a painting that draws over what was not erased.
+TEST(Picture, IsErasedAndPaintedInTheInvalidPartOnly) {
+    Painting window; // blue at 20 and at 30
+    CClientDC(&window).FillSolidRect(0, 0, 40, 10, red);
+    const CRect part(10, 0, 22, 10);
+    window.InvalidateRect(&part);
+    window.UpdateWindow();
+    EXPECT_EQ(Pixel(window, 5, 2), red);
+    EXPECT_NE(Pixel(window, 12, 2), red) << "erased";
+    EXPECT_EQ(Pixel(window, 21, 2), blue) << "painted";
+    EXPECT_EQ(Pixel(window, 23, 2), red) << "outside the part";
+    EXPECT_EQ(Pixel(window, 32, 2), blue) << "through a context that is not the painting's";
+    window.InvalidateRect(nullptr);
+    window.UpdateWindow();
+    EXPECT_NE(Pixel(window, 5, 2), red);
+}
+
 // Catches two contexts on one window of which the second draws nothing or with the first one's pen.
 TEST(Picture, ServesSeveralContextsAtOnce) {
     Shown window;
@@ -164,7 +181,7 @@ TEST(Picture, KeepsItsContentAcrossScales) {
     EXPECT_EQ(fine.pixel(7, 7), qRgb(255, 0, 0));
     EXPECT_EQ(qAlpha(fine.pixel(8, 8)), 0);
     EXPECT_FALSE(picture.Empty());
-    picture.Erase();
+    picture.Erase(QRect(0, 0, 12, 12));
     EXPECT_TRUE(picture.Empty());
     EXPECT_EQ(qAlpha(picture.CanvasFor({12, 12}, 2)->image.pixel(7, 7)), 0);
 }

@@ -13,9 +13,10 @@
 class TestTemplate {
   public:
     explicit TestTemplate(std::vector<platform::ControlTemplate> controls,
-                          DWORD style = WS_POPUP | WS_CAPTION | WS_VISIBLE, int cx = 200, int cy = 120)
+                          DWORD style = WS_POPUP | WS_CAPTION | WS_VISIBLE, int cx = 200, int cy = 120,
+                          DWORD exStyle = 0)
         : m_controls(std::move(controls)),
-          m_dialog{1, 0, 0, cx, cy, "Prova", style, 0, "MS Sans Serif", 8, 0, m_controls},
+          m_dialog{1, 0, 0, cx, cy, "Prova", style, exStyle, "MS Sans Serif", 8, 0, m_controls},
           m_module{"tests", {&m_dialog, 1}, {}, {}, {}} {
         platform::SetHostResources(&m_module);
     }

@@ -12,7 +12,13 @@ class TestApp : public CWinApp {
     // Answers a message box with the command of a button. Without one, a box fails the test that caused it.
     std::function<int(const CString& text, UINT type)> messageHandler;
 
-    int DoMessageBox(LPCTSTR text, UINT type, UINT helpId) override;
+    // What becomes of a key that nobody in a dialog used; without one nothing.
+    std::function<BOOL(const MSG& message)> keyHandler;
+    std::function<BOOL(UINT command)> commandHandler; // the same for a command
+
+    BOOL OnUnusedKey(const MSG& message) override { return keyHandler && keyHandler(message); }
+    BOOL OnCommand(UINT command) override { return commandHandler && commandHandler(command); }
+    int ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) override;
 
     static TestApp& Instance();
 };

@@ -24,7 +24,7 @@ class WindowCount : public testing::EmptyTestEventListener {
 
 } // namespace
 
-int TestApp::DoMessageBox(LPCTSTR text, UINT type, UINT) {
+int TestApp::ShowMessageBox(LPCTSTR text, LPCTSTR, UINT type) {
     if (messageHandler)
         return messageHandler(text, type);
     ADD_FAILURE() << "undeclared message box: " << text;

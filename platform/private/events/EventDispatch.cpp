@@ -1,10 +1,11 @@
 // From the toolkit's events to messages.
+#include "platform/core/Exception.h"
+#include "platform/private/events/Cursor.h"
 #include "platform/private/events/PostedMessage.h"
 #include "platform/private/peers/WindowPeer.h"
-#include "platform/window/Dialog.h"
+#include "platform/window/Application.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -29,8 +30,12 @@ struct Frame {
 };
 Frame* currentFrame = nullptr;
 
-// Dispatches one message on behalf of an event; tells what the toolkit's handling returned, true when it did not run.
-bool SendFor(WindowPeer& peer, QEvent* event, Base base, UINT message, WPARAM wParam, LPARAM lParam) {
+// What became of an event: somebody took it, or the toolkit's handling ran and left it alone.
+enum class Handling { Taken, Left };
+
+// Dispatches one message on behalf of an event that was accepted before. A handler that does not ask for the default
+// has taken the event.
+Handling SendFor(WindowPeer& peer, QEvent* event, Base base, UINT message, WPARAM wParam, LPARAM lParam) {
     struct Restore { // also when something is thrown through the message
         Frame* outer = currentFrame;
         ~Restore() { currentFrame = outer; }
@@ -38,7 +43,7 @@ bool SendFor(WindowPeer& peer, QEvent* event, Base base, UINT message, WPARAM wP
     Frame frame{peer, event, base, message};
     currentFrame = &frame;
     peer.Send(message, wParam, lParam);
-    return frame.result;
+    return frame.ran && !(frame.result && event->isAccepted()) ? Handling::Left : Handling::Taken;
 }
 
 CPoint ToPoint(const QPointF& point) {
@@ -69,52 +74,46 @@ UINT MouseMessage(const QMouseEvent& event) {
     }
 }
 
-// Asks the window under the pointer, then its parents, for a cursor; without an answer the arrow returns.
-void AskCursor(WindowPeer& peer, UINT message) {
-    for (WindowPeer* asked = &peer; asked && !asked->destroyed; asked = asked->parent) {
-        if (asked->HasHandler(WM_SETCURSOR) &&
-            asked->Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(&peer), MAKELPARAM(HTCLIENT, static_cast<int>(message))))
-            return;
-        if (asked->widget->isWindow())
-            return;
-    }
-}
-
 void SendContextMenu(WindowPeer& peer, QPoint screen) {
-    // Unhandled, it climbs to the parents, up to the dialog.
-    for (WindowPeer* asked = &peer; asked && !asked->destroyed; asked = asked->parent) {
-        if (asked->HasHandler(WM_CONTEXTMENU)) {
-            asked->Send(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(&peer), MAKELPARAM(screen.x(), screen.y()));
-            return;
-        }
-        if (asked->widget->isWindow())
-            break;
-    }
-    QContextMenuEvent event(QContextMenuEvent::Other, peer.Surface()->mapFromGlobal(screen), screen);
-    peer.BaseEvent(&event);
+    peer.Send(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(&peer), MAKELPARAM(screen.x(), screen.y()));
 }
 
 bool DispatchMouse(WindowPeer& peer, QMouseEvent& event, Base base) {
     const QPointer<QWidget> alive = peer.widget;
+    const PointerTarget target(peer.Surface());
+    WindowPeer* dialog = peer.Dialog();
     const UINT message = MouseMessage(event);
-    if (message == WM_MOUSEMOVE) {
+    if (message == WM_MOUSEMOVE)
         AskCursor(peer, message);
-        if (!alive || peer.destroyed)
-            return true;
-    }
+    else if (dialog && message != WM_LBUTTONUP && message != WM_RBUTTONUP && message != WM_MBUTTONUP)
+        dialog->Pressed();
+    if (!alive || peer.destroyed)
+        return true;
+    event.accept();
     const CPoint point = ToPoint(event.position());
-    const bool result = SendFor(peer, &event, base, message, MouseFlags(event), MAKELPARAM(point.x, point.y));
+    const Handling handling = SendFor(peer, &event, base, message, MouseFlags(event), MAKELPARAM(point.x, point.y));
     if (message == WM_RBUTTONUP && alive && !peer.destroyed)
         SendContextMenu(peer, event.globalPosition().toPoint());
     // Inside a dialog nothing climbs to the parents: the control that was hit has had it.
-    return peer.TopLevel()->isDialog ? (event.accept(), true) : result;
+    event.setAccepted(dialog || handling == Handling::Taken);
+    return true;
 }
 
 bool DispatchWheel(WindowPeer& peer, QWheelEvent& event, Base base) {
     const CPoint point = ToPoint(event.globalPosition());
-    return SendFor(peer, &event, base, WM_MOUSEWHEEL,
-                   MAKEWPARAM(static_cast<UINT>(MouseFlags(event)), static_cast<UINT>(event.angleDelta().y())),
-                   MAKELPARAM(point.x, point.y));
+    const bool isDialog = peer.isDialog;
+    event.accept();
+    const Handling handling =
+        SendFor(peer, &event, base, WM_MOUSEWHEEL,
+                MAKEWPARAM(static_cast<UINT>(MouseFlags(event)), static_cast<UINT>(event.angleDelta().y())),
+                MAKELPARAM(point.x, point.y));
+    // It climbs, but not from a dialog to what lies behind.
+    event.setAccepted(isDialog || handling == Handling::Taken);
+    return true;
+}
+
+UINT CodeOf(const QKeyEvent& event) {
+    return VirtualKey(event.key(), event.modifiers() & Qt::KeypadModifier, event.nativeScanCode());
 }
 
 // Lets the objects from the focused control up to its dialog see the key; true when one consumed it.
@@ -123,9 +122,12 @@ bool PreTranslate(WindowPeer& peer, MSG& message) {
         WindowPeer* seen = PeerOf(at);
         if (!seen || seen->destroyed)
             return true; // a handler ended the window: the key is spent
-        const bool top = seen->widget->isWindow();
+        const bool top = seen->isDialog || seen->widget->isWindow();
         const QPointer<QWidget> next = seen->parent ? seen->parent->widget : nullptr;
-        if (seen->object && seen->object->PreTranslateMessage(&message))
+        bool spent = seen->object; // also a key that ends in an exception
+        if (spent)
+            RunGuarded([&] { spent = seen->object->PreTranslateMessage(&message); });
+        if (spent)
             return true;
         if (top)
             return peer.destroyed;
@@ -134,41 +136,58 @@ bool PreTranslate(WindowPeer& peer, MSG& message) {
     return false;
 }
 
+// Sends what a key press is in messages; tells whether somebody had a use for it. Object and window may be gone then.
+bool SendKey(WindowPeer& peer, QKeyEvent& event, Base base, const MSG& key, char character) {
+    const QPointer<QWidget> alive = peer.widget;
+    const LPARAM lParam = key.lParam & 0xffffffff;
+    event.accept();
+    if (!character || key.message == WM_SYSKEYDOWN)
+        return SendFor(peer, &event, base, key.message, key.wParam, lParam) == Handling::Taken;
+    // A key with a character is two messages; the toolkit's handling belongs to the second, the first's is nothing.
+    const auto nothing = [](WindowPeer&, QEvent* e) { return e->ignore(), true; };
+    const bool taken = SendFor(peer, &event, nothing, WM_KEYDOWN, key.wParam, lParam) == Handling::Taken;
+    if (!alive || peer.destroyed)
+        return true;
+    event.accept();
+    const auto code = static_cast<unsigned char>(character);
+    return SendFor(peer, &event, base, WM_CHAR, code, lParam) == Handling::Taken || taken;
+}
+
+bool IsMenuKey(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+}
+
 bool DispatchKeyPress(WindowPeer& peer, QKeyEvent& event, Base base) {
     const QPointer<QWidget> alive = peer.widget;
-    const bool keypad = event.modifiers() & Qt::KeypadModifier;
-    const UINT message = event.modifiers() & Qt::AltModifier ? WM_SYSKEYDOWN : WM_KEYDOWN;
-    MSG translated{&peer, message, VirtualKey(event.key(), keypad),
-                   MAKELPARAM(event.count(), event.nativeScanCode() & 0xff), ToPoint(QCursor::pos())};
+    WindowPeer* dialog = peer.Dialog();
+    const QPointer<QWidget> dialogAlive = dialog ? dialog->widget : nullptr;
+    const auto over = [&] { return !alive || peer.destroyed || (dialogAlive && dialog->ended); };
+    MSG message{&peer, event.modifiers() & Qt::AltModifier ? WM_SYSKEYDOWN : WM_KEYDOWN, CodeOf(event),
+                MAKELPARAM(event.count(), event.nativeScanCode() & 0xff), ToPoint(QCursor::pos())};
     const CString text = FromQString(event.text());
-    if (!text.IsEmpty()) // above the classic 32 bits rides the character, for mnemonics
-        translated.lParam |= static_cast<LPARAM>(static_cast<unsigned char>(text[0])) << 32;
-    const bool inDialog = peer.TopLevel()->isDialog;
-    if (PreTranslate(peer, translated) || !alive || peer.destroyed) {
-        event.accept();
-        return true;
-    }
-    const LPARAM lParam = translated.lParam & 0xffffffff;
-    if (event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier)) {
+    const char character = text.IsEmpty() ? '\0' : text[0];
+    // Above the classic 32 bits rides the character, for mnemonics.
+    message.lParam |= static_cast<LPARAM>(static_cast<unsigned char>(character)) << 32;
+    bool taken = over() || PreTranslate(peer, message) || over();
+    if (!taken && IsMenuKey(event)) {
         SendContextMenu(peer, peer.Surface()->mapToGlobal(peer.Surface()->rect().center()));
-        event.accept();
-        return true;
+        taken = true;
     }
-    bool result = true;
-    if (text.IsEmpty() || message == WM_SYSKEYDOWN) {
-        result = SendFor(peer, &event, base, message, translated.wParam, lParam);
-    } else {
-        // A key with a character is two messages; the toolkit's handling belongs to the second, the first's is nothing.
-        SendFor(
-            peer, &event, [](WindowPeer&, QEvent*) { return true; }, WM_KEYDOWN, translated.wParam, lParam);
-        if (alive && !peer.destroyed)
-            result = SendFor(peer, &event, base, WM_CHAR, static_cast<unsigned char>(text[0]), lParam);
-    }
-    if (inDialog) {
-        event.accept();
-        return true;
-    }
-    return result;
+    taken = taken || SendKey(peer, event, base, message, character);
+    message.lParam &= 0xffffffff;
+    if (!taken && dialogAlive && !dialog->destroyed && AfxGetApp())
+        RunGuarded([&message] { AfxGetApp()->OnUnusedKey(message); });
+    // What a dialog leaves does not climb to the window behind.
+    event.setAccepted(taken || dialog);
+    return true;
+}
+
+bool DispatchKeyRelease(WindowPeer& peer, QKeyEvent& event, Base base) {
+    const bool inDialog = peer.Dialog();
+    event.accept();
+    const bool taken = SendFor(peer, &event, base, WM_KEYUP, CodeOf(event), 0) == Handling::Taken;
+    event.setAccepted(taken || inDialog);
+    return true;
 }
 
 // A key that no focused control took climbs through the toolkit's parents: only the first window may handle it.
@@ -192,26 +211,25 @@ bool DispatchPaint(WindowPeer& peer, QEvent* event, Base base) {
 bool DispatchFocus(WindowPeer& peer, QFocusEvent& event, Base base) {
     const QPointer<QWidget> alive = peer.widget;
     const bool gained = event.gotFocus();
-    const bool result = SendFor(peer, &event, base, gained ? WM_SETFOCUS : WM_KILLFOCUS, 0, 0);
-    if (alive && !peer.destroyed && event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason)
+    SendFor(peer, &event, base, gained ? WM_SETFOCUS : WM_KILLFOCUS, 0, 0);
+    const auto there = [&] { return alive && !peer.destroyed; };
+    if (WindowPeer* dialog = there() ? peer.Dialog() : nullptr)
+        dialog->ControlFocused(peer, gained);
+    if (there() && event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason)
         peer.FocusChanged(gained);
-    return result;
+    return true;
 }
 
 bool DispatchActivation(WindowPeer& peer, QEvent* event, Base base) {
     const bool result = base(peer, event);
     if (!peer.widget->isWindow() || !peer.live || peer.destroyed)
         return result;
-    const bool active = event->type() == QEvent::WindowActivate;
-    const UINT state = !active                                           ? WA_INACTIVE
-                       : QGuiApplication::mouseButtons() != Qt::NoButton ? WA_CLICKACTIVE
-                                                                         : WA_ACTIVE;
-    peer.Send(WM_ACTIVATE, MAKEWPARAM(state, 0));
+    peer.TellActive(event->type() == QEvent::WindowActivate, QGuiApplication::mouseButtons() != Qt::NoButton);
     return result;
 }
 
 bool DispatchClose(WindowPeer& peer, QEvent* event, Base base) {
-    if (!peer.widget->isWindow())
+    if (!peer.widget->isWindow() && !peer.isDialog)
         return base(peer, event);
     event->ignore(); // the message's handling decides what becomes of the window
     if (peer.modalLocks == 0)
@@ -252,16 +270,17 @@ bool DispatchEvent(WindowPeer& peer, QEvent* event) {
 bool DispatchEvent(WindowPeer& peer, QEvent* event, Base base) {
     if (peer.destroyed)
         return base(peer, event);
+    if (IsPointerEvent(event->type()) && !peer.widget->isEnabled()) {
+        event->ignore(); // a disabled control has no mouse: its parent does
+        return false;
+    }
     switch (event->type()) {
     case QEvent::KeyPress:
         if (IsFocused(peer))
             return DispatchKeyPress(peer, static_cast<QKeyEvent&>(*event), base);
         return base(peer, event);
     case QEvent::KeyRelease:
-        return SendFor(peer, event, base, WM_KEYUP,
-                       VirtualKey(static_cast<QKeyEvent*>(event)->key(),
-                                  static_cast<QKeyEvent*>(event)->modifiers() & Qt::KeypadModifier),
-                       0);
+        return DispatchKeyRelease(peer, static_cast<QKeyEvent&>(*event), base);
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:

@@ -1,5 +1,7 @@
 #include "platform/private/paint/Canvas.h"
 
+#include <algorithm>
+
 namespace platform {
 
 void Canvas::MakeOpaque(QRgb background) {
@@ -20,6 +22,18 @@ void Canvas::MakeOpaque(QRgb background) {
 
 void Canvas::Clear() {
     image.fill(Qt::transparent);
+    m_opaque = false;
+}
+
+void Canvas::Clear(const QRect& part) {
+    const qreal scale = image.devicePixelRatio();
+    const QRect pixels = QRectF(part.x() * scale, part.y() * scale, part.width() * scale, part.height() * scale)
+                             .toRect()
+                             .intersected(image.rect());
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        QRgb* row = reinterpret_cast<QRgb*>(image.scanLine(y));
+        std::fill(row + pixels.left(), row + pixels.right() + 1, qRgba(0, 0, 0, 0));
+    }
     m_opaque = false;
 }
 

@@ -29,6 +29,7 @@ class Canvas {
     // Puts a colour under everything, once: operations that combine with what is there need something to be there.
     void MakeOpaque(QRgb background);
     void Clear();
+    void Clear(const QRect& part); // device-independent pixels, inside the image
 
     QImage image;                 // premultiplied, at its scale; never copied while a painter is open on it
     const void* artist = nullptr; // whose pen, brush and clipping the painter has now

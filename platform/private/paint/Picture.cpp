@@ -2,7 +2,15 @@
 
 namespace platform {
 
-void Picture::Erase() {
+void Picture::Erase(const QRegion& area) {
+    if (area.isEmpty() || !m_canvas)
+        return;
+    const QRect whole(QPoint(), (m_canvas->image.deviceIndependentSize()).toSize());
+    if (area.intersected(whole) != QRegion(whole)) {
+        for (const QRect& part : area)
+            m_canvas->Clear(part & whole);
+        return;
+    }
     m_drawn = false;
     if (m_canvas && m_canvas.use_count() == 1)
         m_canvas.reset();

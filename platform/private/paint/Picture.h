@@ -4,6 +4,8 @@
 
 #include "platform/private/paint/Canvas.h"
 
+#include <QRegion>
+
 #include <memory>
 
 namespace platform {
@@ -12,8 +14,9 @@ class Picture {
   public:
     bool Empty() const { return !m_drawn; }
 
-    // Everything transparent again. A device context that is open on the picture stays usable.
-    void Erase();
+    // The area, device-independent pixels, transparent again. A device context that is open on the picture stays
+    // usable.
+    void Erase(const QRegion& area);
 
     // The canvas for drawing, `logical` large at `scale` device pixels each; transparent where nothing was drawn. At a
     // change of size or scale there is a new one, with the old content at its top left. Whoever draws shares the

@@ -90,13 +90,15 @@ Surface::Surface(WindowPeer* peer, bool announces) : m_announces(announces) {
     m_peer = peer;
     m_widget = peer->Surface();
     SetScale(m_widget->devicePixelRatioF());
+    if (!announces && !peer->painting.isEmpty() && !peer->painting.contains(m_widget->rect()))
+        m_baseClip = peer->painting; // what lies outside has not been erased
 }
 
 Surface::Surface(QPainter& painter) : m_foreign(&painter) {
     TakeStock(state);
     painter.save();
     if (painter.hasClipping())
-        m_foreignClip = painter.clipRegion();
+        m_baseClip = painter.clipRegion();
     const QTransform transform = painter.deviceTransform();
     SetScale(std::hypot(transform.m11(), transform.m12()));
 }
@@ -148,7 +150,7 @@ QPainter* Surface::Prepared(QPainter::CompositionMode mode) {
     if (m_painter->compositionMode() != mode)
         m_painter->setCompositionMode(mode);
     if (std::exchange(m_clipStale, false)) {
-        const std::optional<QRegion>& base = m_foreignClip;
+        const std::optional<QRegion>& base = m_baseClip;
         if (state.clip)
             m_painter->setClipRegion(base ? base->intersected(*state.clip) : *state.clip);
         else if (base)

@@ -92,6 +92,7 @@ class Surface {
     QRgb Background() const;
     double Scale() const { return m_scale; }
     QSize size() const; // device-independent pixels
+    QRect ClipBounds() const { return m_baseClip ? m_baseClip->boundingRect() : QRect(QPoint(), size()); }
 
     DrawState state;
     std::vector<DrawState> saved;
@@ -117,7 +118,7 @@ class Surface {
     bool m_announced = false;
     std::shared_ptr<Canvas> m_canvas;
     QPainter* m_foreign = nullptr;
-    std::optional<QRegion> m_foreignClip;
+    std::optional<QRegion> m_baseClip; // that the target came with, or of the part that is to be painted
     QPainter* m_painter = nullptr;
     double m_scale = 1;
     bool m_penStale = true;

@@ -3,6 +3,9 @@
 #include "platform/private/paint/Fonts.h"
 #include "platform/resource/Units.h"
 
+#include <QMouseEvent>
+#include <QPainter>
+
 #include <algorithm>
 
 namespace platform {
@@ -17,6 +20,8 @@ Qt::WindowFlags FlagsOf(const DialogTemplate& source) {
     // WS_MAXIMIZEBOX shares its bit with WS_TABSTOP; on a dialog it is the box, for one that can be sized.
     if ((source.style & WS_THICKFRAME) && (source.style & WS_MAXIMIZEBOX))
         flags |= Qt::WindowMaximizeButtonHint;
+    if (source.style & WS_MINIMIZEBOX) // shares its bit with WS_GROUP
+        flags |= Qt::WindowMinimizeButtonHint;
     return flags;
 }
 
@@ -25,6 +30,25 @@ QWidget* ToolkitParent(const DialogTemplate& source, WindowPeer* owner) {
         return nullptr;
     return source.style & WS_CHILD ? owner->Surface() : owner->widget->window();
 }
+
+// The client area of a dialog that draws its own frame; its events are the dialog's, as a viewport's are.
+class ClientArea final : public QWidget {
+  public:
+    ClientArea(WindowPeer& peer, QWidget* frame) : QWidget(frame), m_peer(peer) {
+        setMouseTracking(true);
+        setCursor(Qt::ArrowCursor); // neither the frame's nor that of the view behind
+    }
+
+  protected:
+    bool event(QEvent* event) override {
+        return DispatchEvent(m_peer, event, [](WindowPeer& peer, QEvent* inner) {
+            return static_cast<ClientArea*>(peer.Surface())->QWidget::event(inner);
+        });
+    }
+
+  private:
+    WindowPeer& m_peer;
+};
 
 bool StartsGroup(const WindowPeer& peer) {
     return peer.style & WS_GROUP;
@@ -57,11 +81,116 @@ DialogPeer::DialogPeer(const DialogTemplate& source, WindowPeer* owner, bool mod
         setWindowModality(Qt::ApplicationModal);
     if (source.fontPoints && (source.fontPoints != 8 || CString(source.fontFace) != "MS Sans Serif"))
         setFont(ToolkitFont(source.fontFace, RoundedDivision(source.fontPoints * 96, 72), 400, false));
-    const QSize size(UnitsToX(source.cx), UnitsToY(source.cy));
-    if (source.style & WS_THICKFRAME)
-        resize(size);
-    else
+    if (source.style & WS_CHILD)
+        MakeFrame();
+    const QMargins margins = m_frame ? m_frame->Margins() : QMargins();
+    DialogPeer::SetSize(QSize(UnitsToX(source.cx), UnitsToY(source.cy)).grownBy(margins));
+}
+
+DialogPeer::~DialogPeer() {
+    delete std::exchange(m_client, nullptr); // while its events still find this object
+}
+
+void DialogPeer::MakeFrame() {
+    // A click on the ground brings the focus in instead of giving it to what lies behind.
+    setFocusPolicy(Qt::ClickFocus);
+    ChildFrame frame(*this, style);
+    if (frame.Margins().isNull())
+        return;
+    m_frame.emplace(frame);
+    m_client = new ClientArea(*this, this);
+}
+
+void DialogPeer::SetText(const CString& text) {
+    WindowPeer::SetText(text);
+    if (m_frame)
+        update();
+}
+
+void DialogPeer::SetSize(QSize size) {
+    // The user must not size a window without a sizing border; the program may.
+    if (isWindow() && !(style & WS_THICKFRAME))
         setFixedSize(size);
+    else
+        resize(size);
+    PlaceClient(); // the toolkit tells a hidden window only when it is shown
+}
+
+void DialogPeer::PlaceClient() {
+    if (m_client)
+        m_client->setGeometry(rect().marginsRemoved(m_frame->Margins()));
+}
+
+void DialogPeer::Pressed() {
+    if (isWindow())
+        return;
+    raise();
+    if (hasFocus())
+        FocusFirst();
+}
+
+void DialogPeer::ControlFocused(WindowPeer& control, bool gained) {
+    if (isWindow())
+        return;
+    // A click on the ground leaves the focus with the control that has it.
+    setFocusProxy(gained && &control != this ? control.widget : nullptr);
+    if (m_frame)
+        update(); // the caption shows where the keys go
+}
+
+void DialogPeer::TakeFocus() {
+    if (WindowPeer* first = NextTabStop(nullptr, false))
+        first->FocusByKeyboard();
+    else
+        setFocus(Qt::OtherFocusReason);
+}
+
+void DialogPeer::paintEvent(QPaintEvent*) {
+    if (!m_frame)
+        return;
+    QPainter painter(this);
+    const QWidget* focused = window()->focusWidget();
+    m_frame->Paint(painter, focused && isActiveWindow() && (focused == this || isAncestorOf(focused)));
+}
+
+void DialogPeer::resizeEvent(QResizeEvent*) {
+    PlaceClient();
+}
+
+void DialogPeer::mousePressEvent(QMouseEvent* event) {
+    if (!m_frame) {
+        event->ignore();
+        return;
+    }
+    Pressed();
+    if (event->button() == Qt::LeftButton && !m_frame->OnCloseBox(event->position().toPoint()))
+        m_frame->BeginDrag(event->globalPosition().toPoint());
+}
+
+void DialogPeer::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_frame) {
+        event->ignore();
+        return;
+    }
+    const QPoint at = event->position().toPoint();
+    const QPoint screen = event->globalPosition().toPoint();
+    if (m_frame->IsDragging()) {
+        m_frame->Drag(screen);
+        return;
+    }
+    m_frame->ShowCursor(at);
+    Send(WM_NCMOUSEMOVE, m_frame->OnCaption(at) ? HTCAPTION : HTBORDER, MAKELPARAM(screen.x(), screen.y()));
+}
+
+void DialogPeer::mouseReleaseEvent(QMouseEvent* event) {
+    if (!m_frame) {
+        event->ignore();
+        return;
+    }
+    const bool dragged = m_frame->IsDragging();
+    m_frame->EndDrag();
+    if (!dragged && event->button() == Qt::LeftButton && m_frame->OnCloseBox(event->position().toPoint()))
+        Send(WM_CLOSE);
 }
 
 void DialogPeer::AddControls(const DialogTemplate& source) {
@@ -92,6 +221,8 @@ void DialogPeer::Open() {
     show();
     if (isWindow())
         activateWindow();
+    else
+        raise();
 }
 
 WindowPeer* DialogPeer::ChildHolding(WindowPeer* peer) const {

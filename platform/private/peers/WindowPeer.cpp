@@ -3,30 +3,11 @@
 #include "platform/core/Exception.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 
 #include <algorithm>
-#include <new>
 
 namespace platform {
-
-namespace {
-
-// An exception that no handler caught ends with its message: the toolkit's frames between here and the loop cannot pass
-// it on. The user is told, unless that has been done. Object and window may be gone by then.
-LRESULT Guarded(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam) {
-    try {
-        return object.WindowProc(message, wParam, lParam);
-    } catch (CException* exception) {
-        if (!exception->IsKindOf(RUNTIME_CLASS(CUserException)))
-            exception->ReportError();
-        exception->Delete();
-    } catch (const std::bad_alloc&) {
-        CMemoryException(FALSE).ReportError();
-    }
-    return 0;
-}
-
-} // namespace
 
 WindowPeer* PeerOf(const QWidget* widget) {
     auto* self = const_cast<QWidget*>(widget);
@@ -98,12 +79,29 @@ void WindowPeer::SetRedraw(bool on) {
 }
 
 LRESULT WindowPeer::Send(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (object)
-        return Guarded(*object, message, wParam, lParam);
     LRESULT result = 0;
-    if (RunEventDefault(*this, message, result))
-        return result;
-    return DefaultMessage(message, wParam, lParam);
+    if (object) // and its window may be gone when it has handled the message
+        RunGuarded([&] { result = object->WindowProc(message, wParam, lParam); });
+    else if (!RunEventDefault(*this, message, result))
+        result = Default(message, wParam, lParam);
+    return result;
+}
+
+LRESULT WindowPeer::Default(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != WM_SETCURSOR && message != WM_CONTEXTMENU)
+        return DefaultMessage(message, wParam, lParam);
+    // These climb to the parents, up to the dialog.
+    const bool last = destroyed || isDialog || !parent || widget->isWindow();
+    if (!last)
+        return parent->Send(message, wParam, lParam);
+    // Nobody wanted it: the control's own menu.
+    auto* hit = reinterpret_cast<WindowPeer*>(wParam);
+    if (message == WM_CONTEXTMENU && hit && !hit->destroyed) {
+        const QPoint screen(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+        QContextMenuEvent event(QContextMenuEvent::Other, hit->Surface()->mapFromGlobal(screen), screen);
+        hit->BaseEvent(&event);
+    }
+    return 0;
 }
 
 void WindowPeer::NotifyParent(UINT code) {
@@ -154,17 +152,56 @@ void WindowPeer::Release() {
     if (CWnd* former = std::exchange(object, nullptr)) {
         former->m_hWnd = nullptr;
         if (former != m_owned.get())
-            former->PostNcDestroy();
+            RunGuarded([former] { former->PostNcDestroy(); });
     }
+}
+
+namespace {
+
+// The active window is this one or, such as a message box over it, goes with it.
+bool HoldsActive(const QWidget& window) {
+    const QWidget* at = QApplication::activeWindow();
+    while (at && at != &window)
+        at = at->parentWidget();
+    return at;
+}
+
+} // namespace
+
+bool WindowPeer::SendDestroy(const std::vector<QPointer<QWidget>>& all) {
+    const QPointer<QWidget> self = widget;
+    // Nobody hears of the activation any more when the end has been told.
+    if (std::exchange(active, false))
+        Send(WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, 0));
+    for (const QPointer<QWidget>& each : all) {
+        WindowPeer* peer = each ? PeerOf(each) : nullptr;
+        if (!peer || peer->destroyed || (!peer->object && peer != this))
+            continue;
+        peer->m_ending = true;
+        peer->Send(WM_DESTROY);
+    }
+    return self && !destroyed;
+}
+
+// Only a window that the user was in hands the activation, or as a child the focus, on to the one that it belongs to.
+void WindowPeer::HandOver(bool wasActive, bool hadFocus) {
+    if (!parent || parent->destroyed || !parent->widget->isVisible())
+        return;
+    if (widget->isWindow() && wasActive)
+        parent->widget->window()->activateWindow();
+    else if (isDialog && hadFocus && !widget->isWindow())
+        parent->widget->setFocus();
 }
 
 void WindowPeer::Destroy() {
     if (destroyed)
         return;
     const QPointer<QWidget> self = widget;
+    const bool wasActive = QApplication::activeWindow() ? HoldsActive(*widget) : activeAtEnd;
     // The focus leaves while everybody still stands, so that an edit can report it.
     QWidget* focused = QApplication::focusWidget();
-    if (focused && (focused == widget || widget->isAncestorOf(focused)))
+    const bool hadFocus = focused && (focused == widget || widget->isAncestorOf(focused));
+    if (hadFocus)
         focused->clearFocus();
     if (!self || destroyed)
         return;
@@ -173,15 +210,9 @@ void WindowPeer::Destroy() {
     // The parent hears of it first, while its children exist; a handler may end any of them.
     std::vector<QPointer<QWidget>> all;
     Collect(all);
-    for (const QPointer<QWidget>& each : all) {
-        WindowPeer* peer = each ? PeerOf(each) : nullptr;
-        if (peer && !peer->destroyed && (peer->object || peer == this))
-            peer->Send(WM_DESTROY);
-    }
-    if (!self || destroyed)
+    if (!SendDestroy(all))
         return;
     widget->hide();
-    const bool activeGone = widget->isWindow();
     for (auto each = all.rbegin(); each != all.rend(); ++each)
         if (WindowPeer* peer = *each ? PeerOf(*each) : nullptr) {
             peer->DropOwned();
@@ -192,21 +223,36 @@ void WindowPeer::Destroy() {
             if (peer != this)
                 peer->Release();
         }
-    if (parent && activeGone && parent->widget->isVisible())
-        parent->widget->window()->activateWindow();
+    HandOver(wasActive, hadFocus);
     LeaveParent();
     widget->deleteLater(); // the event that led here may still be inside the widget
     Release();
 }
 
+void WindowPeer::InvalidateArea(const QRect& area, bool erase) {
+    m_toPaint += area;
+    if (erase)
+        m_toErase += area;
+    Surface()->update(area & Surface()->rect());
+}
+
 void WindowPeer::PaintNow() {
-    if (destroyed || !paintPending)
+    if (destroyed || m_toPaint.isEmpty())
         return;
-    paintPending = false;
-    if (std::exchange(erasePending, false))
-        picture.Erase();
+    picture.Erase(std::exchange(m_toErase, {}));
+    const QPointer<QWidget> alive = widget;
+    const QRegion outer = std::exchange(painting, std::exchange(m_toPaint, {}));
     if (object)
         Send(WM_PAINT);
+    if (alive)
+        painting = outer;
+}
+
+void WindowPeer::TellActive(bool nowActive, bool byClick) {
+    if (m_ending || destroyed || active == nowActive)
+        return;
+    active = nowActive;
+    Send(WM_ACTIVATE, MAKEWPARAM(nowActive ? byClick ? WA_CLICKACTIVE : WA_ACTIVE : WA_INACTIVE, 0));
 }
 
 void WindowPeer::ReportSize() {
@@ -214,7 +260,7 @@ void WindowPeer::ReportSize() {
     if (destroyed || size == m_reportedSize)
         return;
     m_reportedSize = size;
-    paintPending = erasePending = true;
+    m_toPaint = m_toErase = wholeArea;
     Resized();
     if (object)
         Send(WM_SIZE, widget->isMaximized() ? SIZE_MAXIMIZED : SIZE_RESTORED, MAKELPARAM(size.width(), size.height()));
@@ -247,6 +293,13 @@ WindowPeer* WindowPeer::TopLevel() {
     WindowPeer* peer = this;
     while (peer->parent && !peer->widget->isWindow())
         peer = peer->parent;
+    return peer;
+}
+
+WindowPeer* WindowPeer::Dialog() {
+    WindowPeer* peer = this;
+    while (peer && !peer->isDialog)
+        peer = peer->widget->isWindow() ? nullptr : peer->parent;
     return peer;
 }
 

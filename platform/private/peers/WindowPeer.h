@@ -11,6 +11,7 @@
 
 #include <QEvent>
 #include <QPointer>
+#include <QRegion>
 #include <QString>
 #include <QWidget>
 
@@ -40,6 +41,9 @@ struct WrittenNumber {
     const void* field = nullptr; // that the number came from; null before the first
 };
 
+// Of a window of any size.
+inline constexpr QRect wholeArea{0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+
 class WindowPeer {
   public:
     // `parent` is the window that this one lies in or, for a top-level one, belongs to; null for none. The widget is
@@ -60,11 +64,13 @@ class WindowPeer {
     Picture picture;        // what was drawn into the window
     bool live = false;      // set when creation is complete: before, the window tells its parent nothing
     bool destroyed = false; // logically gone; the widget waits for its deletion
-    bool paintPending = true;
-    bool erasePending = true;
-    int modalLocks = 0; // modal dialogs that rest on this window
+    QRegion painting;       // what the paint message being handled is about
+    int modalLocks = 0;     // modal dialogs that rest on this window
     bool isDialog = false;
     WrittenNumber written;
+    bool active = false; // what WM_ACTIVATE told last
+    bool ended = false;  // by EndDialog: hidden, and without keys and commands until it is shown again
+    bool activeAtEnd = false;
 
     // What differs from control to control.
     virtual CString Text() const;
@@ -77,7 +83,10 @@ class WindowPeer {
     virtual void FocusByKeyboard(); // Tab, mnemonics: an edit selects its text
     virtual void FocusChanged(bool) {}
     virtual void SetRedraw(bool on);
-    virtual void Resized() {} // after each change of size, before WM_SIZE
+    virtual void SetSize(QSize size) { widget->resize(size); } // without the frame of a window manager
+    virtual void Pressed() {} // a button of the mouse went down in this dialog, before any message
+    virtual void ControlFocused(WindowPeer&, bool) {} // the focus came to or left a control of this dialog
+    virtual void Resized() {}                         // after each change of size, before WM_SIZE
     virtual void StyleChanged() {}
     virtual bool BaseEvent(QEvent* event) = 0; // the widget's own handling
     // What the control does with a message that no handler took and that no event of the toolkit stands behind.
@@ -88,15 +97,18 @@ class WindowPeer {
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     void NotifyParent(UINT code);                  // WM_COMMAND
     LRESULT NotifyParent(NMHDR& header, int code); // WM_NOTIFY; fills the header
-    bool HasHandler(UINT message) const;
+    // What becomes of a message that the object did not handle.
+    LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam);
 
     CWnd* Window(); // the object, made on demand
     void Attach(CWnd* newObject);
     void Detach();
     void Destroy(); // messages, then detachment, then the widget's deletion when control is back in the loop
 
+    void InvalidateArea(const QRect& area, bool erase); // to be painted at the next chance
     void PaintNow();
-    void ReportSize(); // WM_SIZE when the size has changed since the last one
+    void TellActive(bool nowActive, bool byClick); // WM_ACTIVATE when that is news
+    void ReportSize();                             // WM_SIZE when the size has changed since the last one
     void StartTimer(UINT_PTR timer, int milliseconds);
     bool KillTimer(UINT_PTR timer);
     bool HandleTimer(int toolkitId);
@@ -105,6 +117,7 @@ class WindowPeer {
     void KeepFont(const LOGFONT& description);
 
     WindowPeer* TopLevel(); // the dialog or other window that this control lies in
+    WindowPeer* Dialog();   // the nearest one that this window is or lies in; null for none
     WindowPeer* Child(UINT childId) const;
     bool IsTabStop() const; // visible, enabled, with the style
     bool IsChildOf(const WindowPeer& other) const;
@@ -114,12 +127,17 @@ class WindowPeer {
     void LeaveParent();
     void DropOwned();
     void Release();
+    bool SendDestroy(const std::vector<QPointer<QWidget>>& all); // false when a handler has ended the window
+    void HandOver(bool wasActive, bool hadFocus);
 
     std::unique_ptr<CWnd> m_owned;                // the object made on demand
     std::vector<std::unique_ptr<CWnd>> m_retired; // replaced by a member; somebody may still hold it
     std::unique_ptr<CFont> m_font;
     std::map<UINT_PTR, int> m_timers;
     QSize m_reportedSize{-1, -1};
+    QRegion m_toPaint{wholeArea};
+    QRegion m_toErase{wholeArea};
+    bool m_ending = false; // WM_DESTROY is out
 };
 
 WindowPeer* PeerOf(const QWidget* widget);      // the widget's own, or null
@@ -133,7 +151,9 @@ bool DispatchEvent(WindowPeer& peer, QEvent* event, bool (*base)(WindowPeer&, QE
 // Runs the toolkit's handling of the event behind the message being dispatched, when there is one and it has not run.
 bool RunEventDefault(WindowPeer& peer, UINT message, LRESULT& result);
 
-UINT VirtualKey(int toolkitKey, bool keypad); // ToolkitKey goes back
+// `scanCode` is the display server's number of the key, 0 where there is none: it tells the digits' keys with Shift
+// held, whatever the layout. Every key of the main keyboard has a code. ToolkitKey goes back.
+UINT VirtualKey(int toolkitKey, bool keypad, UINT scanCode = 0);
 
 // What a control is made from.
 struct ControlTemplate;
