@@ -31,6 +31,7 @@ namespace host {
 
 BEGIN_MESSAGE_MAP(HostFrame, CMainFrame)
     ON_WM_CLOSE()
+    ON_COMMAND(ID_FILE_NEW, OnFileNew)
 END_MESSAGE_MAP()
 
 namespace {
@@ -78,6 +79,11 @@ void HostFrame::OnClose() {
         if (m_workspace.CloseAll())
             QCoreApplication::exit(0); // quit() would ask the windows once more
     });
+}
+
+// Not as a command of its own: it comes from a dialog, whose command is at work still.
+void HostFrame::OnFileNew() {
+    m_workspace.NewDocument();
 }
 
 MainWindow::MainWindow(Workspace& workspace)

@@ -32,6 +32,7 @@ class HostFrame final : public CMainFrame {
 
   private:
     void OnClose();
+    void OnFileNew();
 
     DECLARE_MESSAGE_MAP()
 

@@ -6,6 +6,7 @@
 #include "host/ui/DeferredDelete.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
+#include "platform/core/Exception.h"
 #include "platform/toolkit/Bridge.h"
 
 #include <QScreen>
@@ -64,8 +65,9 @@ void ToolDialogs::EndAll() {
 }
 
 void ToolDialogs::Update(const HostView& view, CView* sender, long hint, CObject* pHint) {
+    // A window that cannot follow must not break the command that changed the document.
     if (CDialogDocument* dialog = Of(view))
-        dialog->Update(sender, hint, pHint);
+        platform::RunGuarded([&] { dialog->Update(sender, hint, pHint); });
 }
 
 void ToolDialogs::ViewClosing(HostView& view) {
@@ -95,6 +97,8 @@ void ToolDialogs::ViewActivated(HostView& view) {
 // Beside the main window where the screen has room, otherwise inside the view's right edge. The check places itself
 // under the view and is only kept on the screen.
 void ToolDialogs::PlaceBeside(CDialogDocument& dialog, HostView& view) {
+    if (dialog.GetStyle() & WS_CHILD)
+        return; // lies in the view, and places itself there
     QWidget* window = platform::WidgetOf(dialog);
     const QWidget& viewWidget = view.Widget();
     const QRect screen = viewWidget.screen()->availableGeometry();

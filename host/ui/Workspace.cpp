@@ -7,6 +7,7 @@
 #include "host/ui/MainWindow.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
+#include "platform/core/Exception.h"
 #include "platform/window/Application.h"
 
 #include <QCoreApplication>
@@ -18,8 +19,10 @@ namespace host {
 
 Workspace::Workspace() {
     m_window = std::make_unique<MainWindow>(*this); // asks this object, whole by now, what to show
-    if (CWinApp* application = AfxGetApp())
+    if (CWinApp* application = AfxGetApp()) {
         application->m_pMainWnd = &m_window->Frame();
+        application->recover = [this] { Recover(); };
+    }
     CQuovarHost::Install(this);
 }
 
@@ -29,8 +32,10 @@ Workspace::~Workspace() {
         ReleaseView(*m_views.back());
     // What waits for its deletion refers to the documents and to the window.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (CWinApp* application = AfxGetApp(); application && application->m_pMainWnd == &m_window->Frame())
+    if (CWinApp* application = AfxGetApp(); application && application->m_pMainWnd == &m_window->Frame()) {
         application->m_pMainWnd = nullptr;
+        application->recover = nullptr;
+    }
     CQuovarHost::Install(nullptr);
 }
 
@@ -164,7 +169,16 @@ void Workspace::Execute(const std::function<void()>& command) {
     if (m_executing || IsWaiting())
         return;
     const QScopedValueRollback<bool> executing(m_executing, true);
-    command();
+    platform::RunGuarded(command);
+}
+
+// What was changed until then is a step that can be undone.
+void Workspace::Recover() {
+    for (const auto& project : m_projects)
+        project->document->Undo().Close();
+    while (m_window->Wait().IsActive())
+        m_window->Wait().End();
+    m_window->ScheduleRefresh();
 }
 
 CDialogDocument* Workspace::Run(const ToolCommand& command) {

@@ -100,6 +100,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     Project* ProjectOf(const HostDocument& document) const;
     HostView* LastViewOf(const HostDocument& document) const; // null when it has none or more than one
     void RunIdle(Project& project);
+    void Recover(); // closes what a command left open that ended in an exception: brackets of undo, the wait
     bool AskToSave(Project& project); // false when the user cancels
     void CloseUntouched(HostView* view);
     void ReleaseView(HostView& view);

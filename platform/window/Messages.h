@@ -102,6 +102,9 @@ enum : int {
     UDN_DELTAPOS = -722,
 };
 
+// The command of every application for a new file.
+enum : UINT { ID_FILE_NEW = 57600 };
+
 // Standard commands of a dialog.
 enum : int { IDOK = 1, IDCANCEL = 2, IDABORT = 3, IDRETRY = 4, IDIGNORE = 5, IDYES = 6, IDNO = 7, IDC_STATIC = -1 };
 

@@ -14,6 +14,7 @@ class Ground : public CWnd {
   public:
     Ground() {
         Create(nullptr, "Vista", WS_VISIBLE, CRect(0, 0, 500, 400), nullptr, 0);
+        DialogDriver(*this).Activate();
         SetFocus();
     }
     Log log;
@@ -48,7 +49,7 @@ class Ground : public CWnd {
     BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
         if (message >= WM_LBUTTONDOWN && message <= WM_MOUSEWHEEL)
             log.push_back("mouse");
-        if (message >= WM_KEYDOWN && message <= WM_CHAR)
+        if (message == WM_KEYDOWN || message == WM_CHAR)
             log.push_back("key");
         return CWnd::OnWndMsg(message, wParam, lParam, result);
     }
@@ -106,7 +107,7 @@ TEST(ChildDialog, HasItsFrameItsMouseAndItsKeys) {
 
     EXPECT_TRUE(dialog.HasFocus());
     ground.Click({400, 300});
-    EXPECT_TRUE(ground.log.size() == 2);
+    EXPECT_EQ(ground.log.size(), 2u);
     ground.SetFocus();
     ground.log.clear();
     ground.Click({200, 130});
@@ -137,7 +138,7 @@ TEST(ChildDialog, IsMovedByItsCaptionAndSizedByItsBorder) {
     EXPECT_EQ(dialog.log.back().substr(0, 5), "size ");
     ground.Drag({131, 71}, {10, 10});
     EXPECT_EQ(dialog.Place(), CRect(140, 80, 290, 220));
-    ground.Drag({180, 90}, {0, -300});
+    ground.Drag({180, 90}, {0, -85});
     EXPECT_EQ(dialog.Place().top, 0);
     ground.Click({280, 12}); // the close box
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);

@@ -45,7 +45,7 @@ TEST(Window, ActivationIsNotToldAfterTheEnd) {
     Opened<> dialog;
     dialog.log.clear();
     dialog.DestroyWindow();
-    EXPECT_EQ(dialog.log, (Log{"inactive", "destroy, children there", "gone"}));
+    EXPECT_EQ(dialog.log, (Log{"left", "inactive", "destroy, children there", "gone"}));
 }
 
 TEST(Window, ItsStyleTellsItsStateAndChangesIt) {
@@ -99,7 +99,6 @@ TEST(Window, ADisabledControlHasNoMouse) {
         }
     } button;
     button.SubclassDlgItem(200, &dialog);
-    CPoint pressed;
     dialog.onMessage = [&](UINT message, WPARAM, LRESULT&) {
         if (message == WM_LBUTTONDOWN)
             dialog.log.push_back("pressed");

@@ -136,6 +136,14 @@ bool PreTranslate(WindowPeer& peer, MSG& message) {
     return false;
 }
 
+// The window is gone, or its dialog has ended: it takes no more keys.
+bool IsOver(const QPointer<QWidget>& alive, WindowPeer& peer) {
+    if (!alive || peer.destroyed)
+        return true;
+    const WindowPeer* dialog = peer.Dialog();
+    return dialog && dialog->ended;
+}
+
 // Sends what a key press is in messages; tells whether somebody had a use for it. Object and window may be gone then.
 bool SendKey(WindowPeer& peer, QKeyEvent& event, Base base, const MSG& key, char character) {
     const QPointer<QWidget> alive = peer.widget;
@@ -146,7 +154,7 @@ bool SendKey(WindowPeer& peer, QKeyEvent& event, Base base, const MSG& key, char
     // A key with a character is two messages; the toolkit's handling belongs to the second, the first's is nothing.
     const auto nothing = [](WindowPeer&, QEvent* e) { return e->ignore(), true; };
     const bool taken = SendFor(peer, &event, nothing, WM_KEYDOWN, key.wParam, lParam) == Handling::Taken;
-    if (!alive || peer.destroyed)
+    if (IsOver(alive, peer))
         return true;
     event.accept();
     const auto code = static_cast<unsigned char>(character);
@@ -159,26 +167,24 @@ bool IsMenuKey(const QKeyEvent& event) {
 
 bool DispatchKeyPress(WindowPeer& peer, QKeyEvent& event, Base base) {
     const QPointer<QWidget> alive = peer.widget;
-    WindowPeer* dialog = peer.Dialog();
-    const QPointer<QWidget> dialogAlive = dialog ? dialog->widget : nullptr;
-    const auto over = [&] { return !alive || peer.destroyed || (dialogAlive && dialog->ended); };
+    const bool inDialog = peer.Dialog();
     MSG message{&peer, event.modifiers() & Qt::AltModifier ? WM_SYSKEYDOWN : WM_KEYDOWN, CodeOf(event),
                 MAKELPARAM(event.count(), event.nativeScanCode() & 0xff), ToPoint(QCursor::pos())};
     const CString text = FromQString(event.text());
     const char character = text.IsEmpty() ? '\0' : text[0];
     // Above the classic 32 bits rides the character, for mnemonics.
     message.lParam |= static_cast<LPARAM>(static_cast<unsigned char>(character)) << 32;
-    bool taken = over() || PreTranslate(peer, message) || over();
+    bool taken = IsOver(alive, peer) || PreTranslate(peer, message) || IsOver(alive, peer);
     if (!taken && IsMenuKey(event)) {
         SendContextMenu(peer, peer.Surface()->mapToGlobal(peer.Surface()->rect().center()));
         taken = true;
     }
     taken = taken || SendKey(peer, event, base, message, character);
     message.lParam &= 0xffffffff;
-    if (!taken && dialogAlive && !dialog->destroyed && AfxGetApp())
+    if (!taken && inDialog && !IsOver(alive, peer) && AfxGetApp())
         RunGuarded([&message] { AfxGetApp()->OnUnusedKey(message); });
     // What a dialog leaves does not climb to the window behind.
-    event.setAccepted(taken || dialog);
+    event.setAccepted(taken || inDialog);
     return true;
 }
 

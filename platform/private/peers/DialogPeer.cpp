@@ -208,6 +208,7 @@ void DialogPeer::AddControls(const DialogTemplate& source) {
             control->widget->setEnabled(false);
         if (!(each.style & WS_VISIBLE))
             control->widget->hide();
+        control->Surface()->setMouseTracking(true); // each move asks for a cursor
         control->live = true;
     }
 }

@@ -1,0 +1,107 @@
+// Exceptions out of commands and tool dialogs, with the command half done.
+#include "dialogs/frame/tool/DialogDocument.h"
+#include "host/document/HostDocument.h"
+#include "host/ui/MainWindow.h"
+#include "platform/core/Exception.h"
+#include "platform/window/Application.h"
+#include "tests/host/WorkspaceTest.h"
+
+#include <QTimer>
+
+using namespace host;
+
+namespace {
+
+// A tool dialog that does the test's work wherever the host calls it.
+class Calling final : public CDialogDocument {
+  public:
+    Calling(CWnd* parent, std::function<void()> work) : CDialogDocument(9015, parent), m_work(std::move(work)) {}
+    bool follows = false;
+
+    void Update(CView*, long, CObject*) override {
+        if (follows)
+            m_work();
+    }
+    void SetVettoreFrom(CFPoint) override { m_work(); }
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
+        if (message == WM_USER + 1)
+            m_work();
+        return CDialogDocument::OnWndMsg(message, wParam, lParam, result);
+    }
+
+  private:
+    std::function<void()> m_work;
+};
+
+using EscapeTest = WorkspaceTest;
+
+} // namespace
+
+// Faults: a program that ends and takes the model along, a step of undo that takes in all that comes after it, a wait
+// that refuses every command from then on, a command that another window's failure breaks off.
+TEST_F(EscapeTest, ACommandThatFailsLeavesAStepAndAWorkingApplication) {
+    BuildSmallModel();
+    const std::string before = State();
+    int done = 0;
+    const auto half = [&] {
+        m_workspace->InizioAttesa("Prova", 2);
+        Document().Undo().BeginUndo(1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
+        CFPoint point(1, 2, 3);
+        Document().AddNodo(point, nullptr, 1);
+        throw new CSimpleException("Memoria piena");
+    };
+    const auto fail = [] { throw new CSimpleException("Memoria piena"); };
+    const auto command = [&] {
+        CFPoint point(1, 2, 3);
+        Document().AddNodo(point, nullptr, 1);
+        ++done;
+    };
+    const struct {
+        const char* name;
+        std::function<void()> work; // of the tool dialog
+        std::function<void(Calling&)> reach;
+    } ways[] = {
+        {"menu", {}, [&](Calling&) { m_workspace->Execute(half); }},
+        {"message", half, [&](Calling& tool) { tool.PostMessage(WM_USER + 1), CWinApp::PumpMessages(); }},
+        {"point", half,
+         [&](Calling&) {
+             View().StartDefinisciVettore("Punto", "");
+             Click(PixelOf(CFPoint(0, 0, 0)));
+         }},
+        {"slot",
+         {},
+         [&](Calling&) {
+             QTimer::singleShot(0, &m_workspace->Window(), half);
+             CWinApp::PumpMessages();
+         }},
+        {"following", fail,
+         [&](Calling& tool) {
+             tool.follows = true;
+             m_workspace->Execute(command);
+             tool.follows = false;
+             EXPECT_EQ(done, 1) << "the command goes on";
+         }},
+    };
+    for (const auto& way : ways) {
+        SCOPED_TRACE(way.name);
+        auto* tool = static_cast<Calling*>(
+            m_workspace->Tools().Open(std::make_unique<Calling>(&m_workspace->Window().Frame(), way.work), View()));
+        ASSERT_TRUE(tool);
+        m_user.ExpectMessage("Memoria piena");
+        way.reach(*tool);
+        m_user.Verify();
+        EXPECT_FALSE(m_workspace->IsWaiting() || Document().Undo().IsInBracket());
+        CWinApp::PumpMessages();
+        EXPECT_EQ(Document().Undo().UndoCount(), 1u);
+        EXPECT_TRUE(Document().Undo().Undo());
+        EXPECT_EQ(State(), before);
+    }
+}
+
+// The standard new-file command of a dialog's menu is the application's.
+TEST_F(EscapeTest, ANewFileIsMadeFromADialog) {
+    auto* tool = m_workspace->Tools().Open(
+        std::make_unique<Calling>(&m_workspace->Window().Frame(), std::function<void()>()), View());
+    tool->SendMessage(WM_COMMAND, ID_FILE_NEW);
+    EXPECT_EQ(m_workspace->Views().size(), 2u);
+}
