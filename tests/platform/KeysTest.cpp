@@ -65,6 +65,7 @@ TEST(Keys, OfADialogNeverReachTheMainWindow) {
             EXPECT_EQ(frame.fired, 0) << control;
         }
     }
+    DialogDriver::Wait(100); // a window manager may still be at the dialog
     DialogDriver(frame).Press(VK_DELETE);
     EXPECT_EQ(frame.fired, 1) << "in the main window itself they work";
 }
@@ -94,7 +95,7 @@ TEST(Keys, TheApplicationIsOfferedWhatNobodyUsed) {
     for (const UINT key : {UINT{'1'}, UINT{VK_F1 + 4}, UINT{VK_F1 + 6}, UINT{VK_LEFT}, UINT{VK_TAB}, UINT{VK_F1 + 5}})
         dialog.user.Press(key);
     dialog.user.Press('S', CtrlKey);
-    EXPECT_EQ(offered, (std::vector<UINT>{VK_F1 + 4, VK_F1 + 5, 'S'}));
+    EXPECT_EQ(offered, (std::vector<UINT>{VK_F1 + 4, VK_F1 + 5, VK_CONTROL, 'S'}));
     TestApp::Instance().keyHandler = nullptr;
 }
 

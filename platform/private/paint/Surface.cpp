@@ -90,7 +90,7 @@ Surface::Surface(WindowPeer* peer, bool announces) : m_announces(announces) {
     m_peer = peer;
     m_widget = peer->Surface();
     SetScale(m_widget->devicePixelRatioF());
-    if (!announces && !peer->painting.isEmpty() && !peer->painting.contains(m_widget->rect()))
+    if (!announces && !peer->painting.isEmpty() && !QRegion(m_widget->rect()).subtracted(peer->painting).isEmpty())
         m_baseClip = peer->painting; // what lies outside has not been erased
 }
 
