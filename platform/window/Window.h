@@ -12,6 +12,10 @@ class CDataExchange;
 class CDC;
 class CFont;
 
+namespace platform {
+struct MessageMapAccess; // for tests: which messages a class handles
+}
+
 class CWnd : public CObject {
     DECLARE_DYNAMIC(CWnd)
   public:
@@ -157,6 +161,7 @@ class CWnd : public CObject {
 
   private:
     friend class platform::WindowPeer;
+    friend struct platform::MessageMapAccess;
     bool m_inUpdateData = false; // notifications of the dialog's controls rest while its fields are exchanged
 };
 
