@@ -5,6 +5,7 @@
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/Module.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/Workspace.h"
 #include "host/view/HostView.h"
@@ -115,7 +116,7 @@ class Opened {
     CDialogDocument& Dialog() {
         HostView& view = *m_workspace.ActiveView();
         if (!m_workspace.ToolOf(view))
-            m_workspace.Tools().Open(std::make_unique<CDialogCheck>(), view);
+            m_workspace.Run(*FindCommand(CDialogCheck::IDD));
         return *m_workspace.ToolOf(view);
     }
     CListBox& List() { return dynamic_cast<CListBox&>(*Dialog().GetDlgItem(CDialogCheck::IDC_LIST_ERRORS)); }

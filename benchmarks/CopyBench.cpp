@@ -4,8 +4,8 @@
 #include "benchmarks/Ratios.h"
 #include "dialogs/frame/Module.h"
 #include "dialogs/selection/DialogCopiaTrasla.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
-#include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
 #include "host/view/HostView.h"
 #include "model/element/Nodo.h"
@@ -43,8 +43,7 @@ class OpenFrame {
 
     // Fills the dialog in; the caller presses OK, which ends it.
     CDialogCopiaTrasla& OpenDialog() {
-        auto* dialog = static_cast<CDialogCopiaTrasla*>(m_workspace.Tools().Open(
-            std::make_unique<CDialogCopiaTrasla>(&m_workspace.Window().Frame()), *m_workspace.ActiveView()));
+        auto* dialog = static_cast<CDialogCopiaTrasla*>(m_workspace.Run(*FindCommand(CDialogCopiaTrasla::IDD)));
         if (!dialog)
             throw std::runtime_error("the dialog does not open");
         dialog->GetDlgItem(CDialogCopiaTrasla::IDC_COPIE)->SetWindowText("100");

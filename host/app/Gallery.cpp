@@ -48,14 +48,8 @@ std::vector<Page> Pages() {
     std::vector<Page> all = {{"finestra-principale", "Finestra principale"},
                              {"finestra-prospetto", "Prospetto XZ"},
                              {"finestra-due-viste", "Due viste di un documento"}};
-    const auto add = [&all](const auto& commands) {
-        for (const auto& command : commands) {
-            const QString caption = QString::fromUtf8(command.caption);
-            all.push_back({FileNameOf(caption), caption});
-        }
-    };
-    add(ToolCommands());
-    add(ModalCommands());
+    for (const Command* each : Commands())
+        all.push_back({FileNameOf(CaptionOf(*each)), CaptionOf(*each)});
     return all;
 }
 
@@ -81,7 +75,7 @@ class Camera {
 };
 
 // A modal dialog keeps control until it ends, so its picture is taken from within its loop.
-bool TakeModal(Camera& camera, Workspace& workspace, const ModalCommand& command) {
+bool TakeModal(Camera& camera, Workspace& workspace, const Command& command) {
     bool ok = false;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
@@ -90,8 +84,8 @@ bool TakeModal(Camera& camera, Workspace& workspace, const ModalCommand& command
         if (!dialog)
             return;
         look.stop();
-        ok = camera.Take(*top, FileNameOf(QString::fromUtf8(command.caption)));
-        dialog->EndDialog(IDCANCEL);
+        ok = camera.Take(*top, FileNameOf(CaptionOf(command)));
+        static_cast<CDialog*>(peer->Window())->EndDialog(IDCANCEL);
     });
     look.start(10);
     workspace.Run(command);
@@ -99,22 +93,26 @@ bool TakeModal(Camera& camera, Workspace& workspace, const ModalCommand& command
 }
 
 // Says so when a dialog did not open; on the example each must, another model may lack what it works on.
-bool Accept(bool taken, const char* caption, bool isExample) {
+bool Accept(bool taken, const Command& command, bool isExample) {
     if (!taken)
-        Fail(QStringLiteral("la finestra \"%1\" non si apre").arg(QString::fromUtf8(caption)));
+        Fail(QStringLiteral("la finestra \"%1\" non si apre").arg(CaptionOf(command)));
     return taken || !isExample;
+}
+
+bool TakeTool(Camera& camera, Workspace& workspace, const Command& command) {
+    CDialog* dialog = workspace.Run(command);
+    if (!dialog)
+        return false;
+    const bool taken = camera.Take(*dialog->m_hWnd->widget, FileNameOf(CaptionOf(command)));
+    workspace.Tools().End(dialog);
+    return taken;
 }
 
 bool TakeTools(Camera& camera, Workspace& workspace, bool isExample) {
     bool ok = true;
-    for (const ToolCommand& command : ToolCommands()) {
-        CDialogDocument* dialog = workspace.Run(command);
-        const bool taken =
-            dialog && camera.Take(*platform::WidgetOf(*dialog), FileNameOf(QString::fromUtf8(command.caption)));
-        ok = Accept(taken, command.caption, isExample) && ok;
-        if (dialog)
-            workspace.Tools().End(dialog);
-    }
+    for (const Command* each : Commands())
+        if (each->open)
+            ok = Accept(TakeTool(camera, workspace, *each), *each, isExample) && ok;
     return ok;
 }
 
@@ -126,8 +124,9 @@ bool TakeModals(Camera& camera, Workspace& workspace, bool isExample) {
     if (CCombinazione* combination = document.GetIndexCombinazione(0))
         document.SelectCasoCarico(combination->GetID());
     bool ok = true;
-    for (const ModalCommand& command : ModalCommands())
-        ok = Accept(TakeModal(camera, workspace, command), command.caption, isExample) && ok;
+    for (const Command* each : Commands())
+        if (each->run)
+            ok = Accept(TakeModal(camera, workspace, *each), *each, isExample) && ok;
     document.Selection().Clear();
     document.SelectCasoCarico(currentCase);
     return ok;

@@ -1,8 +1,7 @@
 #include "host/app/HostApplication.h"
 
 #include "host/app/Gallery.h"
-#include "host/app/SmokeRun.h"
-#include "host/commands/CheckCommands.h"
+#include "host/commands/Check.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
 
@@ -34,8 +33,6 @@ int HostApplication::Execute() {
                                     QString::fromLocal8Bit(m_options.model.c_str()));
     case Options::Action::Check:
         return PrintCheck(*m_workspace, QString::fromLocal8Bit(m_options.argument.c_str()));
-    case Options::Action::Smoke:
-        return RunSmoke(*m_workspace);
     default:
         return Open();
     }

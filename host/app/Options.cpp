@@ -14,7 +14,6 @@ const char* const usageText =
     "  --gallery CARTELLA     salva le immagini di tutte le finestre e una pagina indice, su FILE o sull'esempio\n"
     "  --results FILE         analizza il modello e stampa i risultati (CSV), senza finestre\n"
     "  --check FILE           controlla il modello e stampa i messaggi, senza finestre\n"
-    "  --smoke                prova breve dell'applicazione con un modello d'esempio\n"
     "  --write-example FILE   scrive il progetto d'esempio\n"
     "  --help                 mostra questo testo\n"
     "  --version              mostra la versione\n";
@@ -29,7 +28,6 @@ struct Known {
 const Known known[] = {
     {"--gallery", Options::Action::Gallery, true},
     {"--gallery-pictures", Options::Action::GalleryPictures, true}, // one scale; --gallery runs it
-    {"--smoke", Options::Action::Smoke, false},
     {"--write-example", Options::Action::WriteExample, true},
     {"--results", Options::Action::Results, true},
     {"--check", Options::Action::Check, true},

@@ -6,7 +6,7 @@
 namespace host {
 
 struct Options {
-    enum class Action { Open, Gallery, GalleryPictures, Smoke, WriteExample, Results, Check, Help, Version, Invalid };
+    enum class Action { Open, Gallery, GalleryPictures, WriteExample, Results, Check, Help, Version, Invalid };
 
     Action action = Action::Open;
     std::string argument; // the file or folder; empty when the command line names none

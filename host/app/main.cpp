@@ -40,6 +40,8 @@ int RunApplication(const Options& options, int argc, char** argv) {
         std::fprintf(stderr, "quovar: il modulo dei dialoghi non si avvia.\n");
         return noModule;
     }
+    if (options.action == Options::Action::Gallery) // names its pages after the dialogs, which it leaves to others
+        return WriteGallery(argv[0], options.argument, options.model);
     return HostApplication(options, argc, argv).Execute();
 }
 
@@ -57,8 +59,6 @@ int main(int argc, char** argv) {
     case Options::Action::Invalid:
         std::fprintf(stderr, "quovar: %s\n\n%s", options.error.c_str(), usageText);
         return badUsage;
-    case Options::Action::Gallery:
-        return WriteGallery(argv[0], options.argument, options.model);
     case Options::Action::WriteExample:
         return WriteExample(options.argument);
     case Options::Action::Results:

@@ -1,61 +1,43 @@
 #include "host/commands/Commands.h"
 
-#include "dialogs/check/DialogCheck.h"
-#include "dialogs/check/DialogStrutture.h"
-#include "dialogs/generation/DialogGenNodi2P.h"
-#include "dialogs/generation/DialogGenNodiLineare.h"
-#include "dialogs/loads/DialogListaGruppi.h"
-#include "dialogs/results/DialogDiagrammi.h"
-#include "dialogs/results/DialogNodoReazioniVincolari.h"
-#include "dialogs/selection/DialogCopiaRuota.h"
-#include "dialogs/selection/DialogCopiaTrasla.h"
-#include "dialogs/selection/DialogMuovi.h"
-#include "dialogs/selection/DialogRuota.h"
-#include "dialogs/selection/DialogSpecchia.h"
-#include "host/commands/CheckCommands.h"
-#include "host/commands/LoadCommands.h"
+#include "host/commands/Subjects.h"
+#include "platform/toolkit/Bridge.h"
+#include "platform/resource/Resource.h"
+
+#include <QString>
+
+#include <algorithm>
 
 namespace host {
 
-namespace {
-
-template <class Dialog>
-std::unique_ptr<CDialogDocument> Make(CWnd* parent) {
-    return std::make_unique<Dialog>(parent);
+const std::vector<const Command*>& Commands() {
+    static const std::vector<const Command*> all = [] {
+        std::vector<const Command*> rows;
+        for (const auto subject :
+             {GenerationCommands(), SelectionCommands(), LoadCommands(), ResultCommands(), CheckCommands()})
+            for (const Command& each : subject)
+                rows.push_back(&each);
+        return rows;
+    }();
+    return all;
 }
 
-const ToolCommand toolCommands[] = {
-    {CommandMenu::Generate, "Generazione Nodi Lineare", Make<CDialogGenNodiLineare>},
-    {CommandMenu::Generate, "Generazione Nodi 2 Punti", Make<CDialogGenNodi2P>},
-    {CommandMenu::Select, "Copia Trasla", Make<CDialogCopiaTrasla>},
-    {CommandMenu::Select, "Copia Ruota", Make<CDialogCopiaRuota>},
-    {CommandMenu::Select, "Muovi", Make<CDialogMuovi>},
-    {CommandMenu::Select, "Ruota", Make<CDialogRuota>},
-    {CommandMenu::Select, "Specchia", Make<CDialogSpecchia>},
-    {CommandMenu::Loads, "Lista Gruppi", Make<CDialogListaGruppi>},
-    {CommandMenu::Results, "Diagrammi", Make<CDialogDiagrammi>},
-    {CommandMenu::Results, "Nodo Reazioni Vincolari", Make<CDialogNodoReazioniVincolari>},
-    {CommandMenu::Tools, "Check Modello", Make<CDialogCheck>, RequestCheck},
-    {CommandMenu::Tools, "Strutture", Make<CDialogStrutture>},
-};
-
-const ModalCommand modalCommands[] = {
-    {CommandMenu::Loads, "Casi di Carico", RunLoadCaseList},
-    {CommandMenu::Loads, "Crea Caso di Carico", RunNewLoadCase},
-    {CommandMenu::Loads, "Crea Combinazione", RunNewCombination},
-    {CommandMenu::Loads, "Modifica Combinazione", RunChangeCombination},
-    {CommandMenu::Loads, "Crea Gruppo", RunNewGroup},
-    {CommandMenu::Prompts, "Nuovo Nome", RunNamePrompt},
-};
-
-} // namespace
-
-std::span<const ToolCommand> ToolCommands() {
-    return toolCommands;
+const Command* FindCommand(UINT dialog, int kind) {
+    const auto found = std::find_if(Commands().begin(), Commands().end(), [dialog, kind](const Command* each) {
+        return each->dialog == dialog && each->kind == kind;
+    });
+    return found == Commands().end() ? nullptr : *found;
 }
 
-std::span<const ModalCommand> ModalCommands() {
-    return modalCommands;
+QString CaptionOf(const Command& command) {
+    if (command.caption)
+        return QString::fromUtf8(command.caption);
+    const platform::DialogTemplate* source = platform::FindDialogTemplate(static_cast<int>(command.dialog));
+    return source ? platform::ToQString(source->caption).trimmed() : QString();
+}
+
+QString ActionName(UINT dialog, int kind) {
+    return QStringLiteral("dialogo.%1.%2").arg(dialog).arg(kind);
 }
 
 } // namespace host

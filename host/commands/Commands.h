@@ -1,35 +1,59 @@
-// The commands whose dialogs the application offers. A new dialog is one line in Commands.cpp.
+// The commands whose dialogs the application offers. A dialog is one row in the file of its subject (Generation.cpp,
+// Selection.cpp ...); menu, gallery and tests take what they need of it from there.
 #pragma once
 
-#include <memory>
-#include <span>
+#include "platform/core/Types.h"
 
+#include <memory>
+#include <vector>
+
+class CDialog;
 class CDialogDocument;
 class CWnd;
+class QString;
 
 namespace host {
 
 class HostDocument;
+class HostView;
 
 // Prompts are parts of other commands: they have no entry of their own and are only shown in the gallery.
 enum class CommandMenu { Generate, Select, Loads, Results, Tools, Prompts };
 
-// Opens a tool dialog on the active view.
-struct ToolCommand {
+// What a command of the menus cannot do without.
+enum class Needs { Nothing, View, Selection, Undo, Redo };
+
+// Where a window goes: to a free place beside the view, or where it puts itself.
+enum class Place { BesideView, Own };
+
+struct Command {
     CommandMenu menu;
-    const char* caption; // the dialog's, UTF-8
-    std::unique_ptr<CDialogDocument> (*make)(CWnd* parent);
-    void (*opened)(HostDocument& document) = nullptr; // what follows its opening; null for nothing
+    UINT dialog;                   // number of the template, whose caption the menu bears
+    const char* caption = nullptr; // UTF-8, in its place; null for the template's
+    int kind = 0;                  // tells the commands of one dialog class apart
+    Needs needs = Needs::View;
+
+    // One of the two is there.
+    // Makes a dialog that stays open beside the view, window included; null when there can be none.
+    std::unique_ptr<CDialog> (*open)(HostView& view, CWnd& frame) = nullptr;
+    // Runs a modal dialog, and whatever belongs to its command, until the user is done.
+    void (*run)(HostDocument& document, CWnd& frame) = nullptr;
+
+    // ---- Of those that stay open.
+    Place place = Place::BesideView;
+    void (*opened)(HostDocument& document) = nullptr; // what follows the opening; null for nothing
+    // A kind of results of beams (CElementoSettings) was shown or hidden in the dialog's view; null for who does not
+    // care.
+    void (*resultShown)(CDialog& dialog, int kind, bool shown) = nullptr;
 };
 
-// Runs a modal dialog, and whatever belongs to its command, on the active document.
-struct ModalCommand {
-    CommandMenu menu;
-    const char* caption; // the dialog's, UTF-8
-    void (*run)(HostDocument& document, CWnd& frame);
-};
+// The rows live as long as the program and are known by address. In menu order.
+const std::vector<const Command*>& Commands();
+const Command* FindCommand(UINT dialog, int kind = 0); // null when there is none
 
-std::span<const ToolCommand> ToolCommands();   // in menu order
-std::span<const ModalCommand> ModalCommands(); // in menu order, before the tools of their menu
+// Without the blanks that some templates end theirs with. The module of the dialogs must have started.
+QString CaptionOf(const Command& command);
+// The menu's action of that name runs it.
+QString ActionName(UINT dialog, int kind = 0);
 
 } // namespace host

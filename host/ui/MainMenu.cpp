@@ -3,7 +3,6 @@
 #include "host/commands/AnalysisCommand.h"
 #include "host/commands/Assign.h"
 #include "host/commands/AssignLoad.h"
-#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/files/Version.h"
 #include "host/ui/Icons.h"
@@ -45,12 +44,12 @@ MainMenu::MainMenu(MainWindow& window, Workspace& workspace) : m_window(window),
     BuildFile();
     BuildEdit();
     BuildView();
-    BuildTools("&Genera", CommandMenu::Generate, "genera.");
+    BuildDialogs("&Genera", CommandMenu::Generate);
     BuildSelection();
     BuildAssign();
-    BuildTools("&Carichi", CommandMenu::Loads, "carichi.");
+    BuildDialogs("&Carichi", CommandMenu::Loads);
     BuildAnalysis();
-    BuildTools("S&trumenti", CommandMenu::Tools, "strumenti.");
+    BuildDialogs("S&trumenti", CommandMenu::Tools);
     BuildWindow();
     BuildHelp();
 }
@@ -216,7 +215,7 @@ void MainMenu::BuildSelection() {
             })
             ->setIcon(ToolIcon(QByteArray(each.name).toLower()));
     menu.addSeparator();
-    AddTools(menu, CommandMenu::Select, "selezione.");
+    AddDialogs(menu, CommandMenu::Select);
 }
 
 void MainMenu::BuildAssign() {
@@ -242,7 +241,7 @@ void MainMenu::BuildAnalysis() {
     QMenu& menu = Menu("&Analisi");
     AddForView(menu, "analisi.esegui", "&Esegui analisi", QKeySequence("F5"),
                [](HostView& view) { RunAnalysis(view.Document()); });
-    AddTools(menu, CommandMenu::Results, "analisi.");
+    AddDialogs(menu, CommandMenu::Results);
     QMenu& shown = *menu.addMenu("Diagrammi &mostrati");
     for (const int kind : {CElementoSettings::N, CElementoSettings::V2, CElementoSettings::V3, CElementoSettings::T,
                            CElementoSettings::M2, CElementoSettings::M3, CElementoSettings::N_A,
@@ -255,24 +254,17 @@ void MainMenu::BuildAnalysis() {
     }
 }
 
-void MainMenu::AddTools(QMenu& menu, CommandMenu which, const QString& prefix) {
-    const auto add = [&](const auto& commands) {
-        for (const auto& each : commands)
-            if (each.menu == which)
-                Add(menu, prefix + QString::fromUtf8(each.caption), QString::fromUtf8(each.caption), {}, Needs::View,
-                    [this, &each] { m_workspace.Run(each); });
-    };
-    add(ModalCommands());
-    add(ToolCommands());
+void MainMenu::AddDialogs(QMenu& menu, CommandMenu which) {
+    for (const Command* each : Commands())
+        if (each->menu == which)
+            Add(menu, ActionName(each->dialog, each->kind), CaptionOf(*each), {}, each->needs,
+                [this, each] { m_workspace.Run(*each); });
 }
 
 // A menu without commands is not shown.
-void MainMenu::BuildTools(const QString& title, CommandMenu which, const QString& prefix) {
-    const auto uses = [which](const auto& commands) {
-        return std::any_of(commands.begin(), commands.end(), [which](const auto& each) { return each.menu == which; });
-    };
-    if (uses(ModalCommands()) || uses(ToolCommands()))
-        AddTools(Menu(title), which, prefix);
+void MainMenu::BuildDialogs(const QString& title, CommandMenu which) {
+    if (std::any_of(Commands().begin(), Commands().end(), [which](const Command* each) { return each->menu == which; }))
+        AddDialogs(Menu(title), which);
 }
 
 void MainMenu::BuildWindow() {

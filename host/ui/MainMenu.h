@@ -1,6 +1,8 @@
 // The menus of the main window and their commands.
 #pragma once
 
+#include "host/commands/Commands.h"
+
 #include <QKeySequence>
 #include <QString>
 
@@ -15,7 +17,6 @@ namespace host {
 class HostView;
 class MainWindow;
 class Workspace;
-enum class CommandMenu;
 
 class MainMenu {
   public:
@@ -26,8 +27,6 @@ class MainMenu {
     void Refresh(HostView* view);
 
   private:
-    // What a command cannot do without.
-    enum class Needs { Nothing, View, Selection, Undo, Redo };
     struct Item {
         QAction* action; // owned by the window
         Needs needs;
@@ -52,8 +51,8 @@ class MainMenu {
     void BuildWindow();
     void BuildHelp();
     QMenu& Menu(const QString& title);
-    void AddTools(QMenu& menu, CommandMenu which, const QString& prefix);
-    void BuildTools(const QString& title, CommandMenu which, const QString& prefix);
+    void AddDialogs(QMenu& menu, CommandMenu which);
+    void BuildDialogs(const QString& title, CommandMenu which);
 
     MainWindow& m_window;
     Workspace& m_workspace;

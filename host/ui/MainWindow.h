@@ -58,7 +58,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     void Refresh();
     void ShowCoordinates(const QString& text);
 
-    // Commands by name ("file.salva", "modifica.annulla", "genera.Generazione Nodi Lineare"); null when there is none.
+    // Commands by name ("file.salva", "modifica.annulla"), those of dialogs by ActionName; null when there is none.
     QAction* Command(const QString& name) const { return findChild<QAction*>(name); }
     QString PromptText() const;
 

@@ -1,8 +1,8 @@
 #include "host/ui/ToolDialogs.h"
 
-#include "dialogs/check/DialogCheck.h"
-#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/tool/DialogDocument.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
+#include "host/commands/Commands.h"
 #include "host/ui/DeferredDelete.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
@@ -28,14 +28,16 @@ ToolDialogs::~ToolDialogs() {
     EndAll();
 }
 
-CDialogDocument* ToolDialogs::Open(std::unique_ptr<CDialogDocument> dialog, HostView& view) {
+CDialogDocument* ToolDialogs::Open(const Command& command, HostView& view, CWnd& frame) {
     if (CDialogDocument* former = Of(view))
         End(former);
-    if (!dialog->Create(&view))
+    std::unique_ptr<CDialog> dialog = command.open(view, frame);
+    auto* opened = dynamic_cast<CDialogDocument*>(dialog.get());
+    if (!opened)
         return nullptr;
-    CDialogDocument* opened = dialog.get();
-    m_open.push_back({std::move(dialog), &view});
-    PlaceBeside(*opened, view);
+    dialog.release();
+    m_open.push_back({&command, std::unique_ptr<CDialogDocument>(opened), &view});
+    PlaceBeside(command, *opened, view);
     opened->ShowWindow(SW_SHOW);
     opened->SetActiveWindow();
     return opened;
@@ -47,7 +49,7 @@ CDialogDocument* ToolDialogs::Of(const HostView& view) const {
     return found == m_open.end() ? nullptr : found->dialog.get();
 }
 
-void ToolDialogs::End(const CDialogDocument* dialog) {
+void ToolDialogs::End(const CDialog* dialog) {
     const auto found = std::find_if(m_open.begin(), m_open.end(),
                                     [dialog](const Entry& entry) { return entry.dialog.get() == dialog; });
     if (found == m_open.end())
@@ -68,6 +70,12 @@ void ToolDialogs::Update(const HostView& view, CView* sender, long hint, CObject
     // A window that cannot follow must not break the command that changed the document.
     if (CDialogDocument* dialog = Of(view))
         platform::RunGuarded([&] { dialog->Update(sender, hint, pHint); });
+}
+
+void ToolDialogs::ResultShown(const HostView& view, int kind, bool shown) {
+    for (Entry& entry : m_open)
+        if (entry.view == &view && entry.command->resultShown)
+            entry.command->resultShown(*entry.dialog, kind, shown);
 }
 
 void ToolDialogs::ViewClosing(HostView& view) {
@@ -94,12 +102,10 @@ void ToolDialogs::ViewActivated(HostView& view) {
     }
 }
 
-// Beside the main window where the screen has room, otherwise inside the view's right edge. The check places itself
-// under the view and is only kept on the screen.
-void ToolDialogs::PlaceBeside(CDialogDocument& dialog, HostView& view) {
-    if (dialog.GetStyle() & WS_CHILD)
-        return; // lies in the view, and places itself there
-    QWidget* window = platform::WidgetOf(dialog);
+// Beside the main window where the screen has room, otherwise inside the view's right edge. One that places itself is
+// only kept on the screen.
+void ToolDialogs::PlaceBeside(const Command& command, CDialog& dialog, HostView& view) {
+    QWidget* window = dialog.m_hWnd->widget;
     const QWidget& viewWidget = view.Widget();
     const QRect screen = viewWidget.screen()->availableGeometry();
     const QRect frame = viewWidget.window()->frameGeometry();
@@ -108,7 +114,7 @@ void ToolDialogs::PlaceBeside(CDialogDocument& dialog, HostView& view) {
     QPoint place(frame.right() + gap, viewCorner.y());
     if (place.x() + window->frameGeometry().width() > screen.right())
         place.setX(viewCorner.x() - window->frameGeometry().width() - gap);
-    if (dialog.IsKindOf(RUNTIME_CLASS(CDialogCheck)))
+    if (command.place == Place::Own)
         place = window->pos();
     place.setX(std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - window->width())));
     place.setY(std::clamp(place.y(), screen.top(), std::max(screen.top(), screen.bottom() - window->height() - 40)));

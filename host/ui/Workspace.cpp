@@ -181,21 +181,21 @@ void Workspace::Recover() {
     m_window->ScheduleRefresh();
 }
 
-CDialogDocument* Workspace::Run(const ToolCommand& command) {
+CDialog* Workspace::Run(const Command& command) {
     if (!m_active)
         return nullptr;
     HostView& view = *m_active;
-    CDialogDocument* dialog = m_tools.Open(command.make(&m_window->Frame()), view);
+    if (command.needs == Needs::Selection && view.Document().Selection().IsEmpty())
+        return nullptr;
+    CDialog* dialog = nullptr;
+    if (command.run)
+        command.run(view.Document(), m_window->Frame());
+    else
+        dialog = m_tools.Open(command, view, m_window->Frame());
     if (dialog && command.opened)
         command.opened(view.Document());
-    return dialog;
-}
-
-void Workspace::Run(const ModalCommand& command) {
-    if (!m_active)
-        return;
-    command.run(m_active->Document(), m_window->Frame());
     m_window->ScheduleRefresh();
+    return dialog;
 }
 
 void Workspace::Undo() {

@@ -17,8 +17,7 @@ namespace host {
 
 class HostDocument;
 class MainWindow;
-struct ModalCommand;
-struct ToolCommand;
+struct Command;
 
 // One at a time: it installs itself as the host and its window as the application's main window for as long as it
 // lives. What a user is told or asked goes through message boxes, in Italian.
@@ -59,8 +58,9 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     void Execute(const std::function<void()>& command);
 
     // ---- Commands on the active view; without one nothing happens.
-    CDialogDocument* Run(const ToolCommand& command); // null when the dialog could not be opened
-    void Run(const ModalCommand& command);            // returns when the user is done
+    // Opens the command's dialog and returns it, or runs it until the user is done and returns null. Null also when
+    // there can be no dialog, or nothing is selected for a command that needs it.
+    CDialog* Run(const Command& command);
     void Undo();
     void Redo();
     void SelectLoadCase(HostView& view, int id);
@@ -70,6 +70,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     void EndTool(HostView& view, const CDialogDocument* dialog) override;
     void DocumentChanged(HostView& view, CView* sender, long hint, CObject* pHint) override;
     void ViewChanged(HostView& view) override;
+    void ResultShown(HostView& view, int kind, bool shown) override { m_tools.ResultShown(view, kind, shown); }
     void ShowCoordinates(const QString& text) override;
     bool IsWaiting() const override;
 

@@ -1,7 +1,6 @@
 #include "host/view/HostView.h"
 
 #include "dialogs/frame/tool/DialogDocument.h"
-#include "dialogs/results/DialogDiagrammi.h"
 #include "host/document/HostDocument.h"
 #include "host/view/ViewOwner.h"
 #include "host/view/ViewRenderer.h"
@@ -228,8 +227,7 @@ bool HostView::IsShown(unsigned kind, unsigned item) {
 
 void HostView::SetResultShown(int kind, bool shown) {
     GetTraveSettings().SetRisultato(kind, shown);
-    if (auto* diagrams = dynamic_cast<CDialogDiagrammi*>(m_owner.ToolOf(*this)))
-        diagrams->AggiornaRisultato(kind, shown);
+    m_owner.ResultShown(*this, kind, shown);
     Redraw();
     m_owner.ViewChanged(*this);
 }

@@ -89,7 +89,7 @@ class HostView final : public CQuovarView, public DocumentObserver {
     // A CElementoSettings::Item of one kind (code of TipoElemento), on or off.
     void SetShown(unsigned kind, unsigned item, bool shown);
     bool IsShown(unsigned kind, unsigned item);
-    // A result kind of beams, on or off, in the view and in its window of diagrams.
+    // A result kind of beams, on or off, in the view and in the windows beside it.
     void SetResultShown(int kind, bool shown);
 
     // ---- What the user does with the pointer.

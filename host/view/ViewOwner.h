@@ -22,6 +22,8 @@ class ViewOwner {
     virtual void DocumentChanged(HostView& view, CView* sender, long hint, CObject* pHint) = 0;
     // Prompt, filters or display of the view changed.
     virtual void ViewChanged(HostView& view) = 0;
+    // A kind of results of beams (CElementoSettings) was shown or hidden in the view.
+    virtual void ResultShown(HostView& view, int kind, bool shown) = 0;
     virtual void ShowCoordinates(const QString& text) = 0;
     // A long command is running: the model may be half changed and is not to be drawn.
     virtual bool IsWaiting() const = 0;

@@ -160,10 +160,9 @@ TEST(OptionsTest, SayWhatToDo) {
     EXPECT_EQ(Parse({"modello.asg"}).argument, "modello.asg");
     EXPECT_EQ(Parse({"--gallery", "qui"}).action, Options::Action::Gallery);
     EXPECT_EQ(Parse({"--gallery", "qui"}).argument, "qui");
-    EXPECT_EQ(Parse({"--smoke"}).action, Options::Action::Smoke);
     EXPECT_EQ(Parse({"--help"}).action, Options::Action::Help);
     for (const auto& wrong : std::vector<std::vector<std::string>>{
-             {"--boh"}, {"--gallery"}, {"--gallery", "--smoke"}, {"a", "b"}, {"--help", "--version"}}) {
+             {"--boh"}, {"--gallery"}, {"--gallery", "--results"}, {"a", "b"}, {"--help", "--version"}}) {
         const Options options = Parse(wrong);
         EXPECT_EQ(options.action, Options::Action::Invalid) << wrong.front();
         EXPECT_FALSE(options.error.empty());

@@ -1,7 +1,7 @@
 // The model check in the application: messages from models that earn them, its window, and the check without windows.
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
-#include "host/commands/CheckCommands.h"
+#include "host/commands/Check.h"
 #include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"
 #include "platform/window/Application.h"
@@ -93,9 +93,7 @@ const Case cases[] = {
 class CheckTest : public WorkspaceTest {
   protected:
     Rows Check() {
-        Trigger("strumenti.Check Modello");
-        CDialogDocument* dialog = m_workspace->ToolOf(View());
-        EXPECT_TRUE(dialog) << "the check does not open";
+        CDialogDocument* dialog = OpenTool(CDialogCheck::IDD);
         return dialog ? DialogDriver(*dialog).Rows(CDialogCheck::IDC_LIST_ERRORS) : Rows();
     }
     // Rows and exit status of the check without windows.
@@ -171,7 +169,7 @@ TEST_F(CheckTest, PickingAllRowsSelectsAllWithOneNotification) {
     EXPECT_EQ(checked.Document().GetSizeTraviSelect(), beams + 1);
     EXPECT_EQ(counter.ends, 1);
     checked.Document().RemoveObserver(&counter);
-    RequestCheck(other.Document()); // another document's
+    other.Document().UpdateAllViews(nullptr, MODIFICA_CHECK, nullptr); // another document's
     EXPECT_EQ(static_cast<int>(driver.Rows(CDialogCheck::IDC_LIST_ERRORS).size()), beams + 3);
 }
 

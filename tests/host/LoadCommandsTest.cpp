@@ -6,6 +6,7 @@
 #include "dialogs/loads/DialogListaCasiCarico.h"
 #include "dialogs/loads/DialogListaGruppi.h"
 #include "host/document/ExampleModel.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"
@@ -38,14 +39,14 @@ class LoadCommandsTest : public WorkspaceTest {
     }
 
     // Runs a modal command; the action closes its dialog.
-    void Run(const char* command, const std::function<void(DialogDriver&)>& action) {
+    void Run(UINT dialog, int kind, const std::function<void(DialogDriver&)>& action) {
         m_user.WhenDialogOpens(action);
-        Trigger(command);
+        Trigger(dialog, kind);
         CWinApp::PumpMessages();
     }
     // The same for the list of load cases, which is left open by its commands.
     void RunList(const std::function<void(DialogDriver&)>& action) {
-        Run("carichi.Casi di Carico", [&action](DialogDriver& driver) {
+        Run(CDialogListaCasiCarico::IDD, 0, [&action](DialogDriver& driver) {
             action(driver);
             CWinApp::PumpMessages(); // the step of the command ends
             driver.Click(IDCANCEL);
@@ -75,7 +76,7 @@ class LoadCommandsTest : public WorkspaceTest {
 TEST_F(LoadCommandsTest, ANewLoadCaseIsTheCurrentOne) {
     ExpectOneStep("Crea caso di carico", [this] {
         AnswerName("Attrito – più");
-        Trigger("carichi.Crea Caso di Carico");
+        Trigger(CDialogCreaCasoCarico::IDD);
     });
     CCasoCarico* made = Document().GetSelectCasoCarico();
     ASSERT_TRUE(made);
@@ -92,7 +93,7 @@ TEST_F(LoadCommandsTest, ANewLoadCaseIsTheCurrentOne) {
         EXPECT_EQ(driver.Text(CDialogCreaCasoCarico::IDC_NOME), " x");
         driver.Press(VK_ESCAPE);
     });
-    Trigger("carichi.Crea Caso di Carico");
+    Trigger(CDialogCreaCasoCarico::IDD);
     EXPECT_EQ(State(), before);
 }
 
@@ -157,7 +158,7 @@ TEST_F(LoadCommandsTest, SelectingTheCurrentCaseIsAStepThatKeepsTheResults) {
     ASSERT_EQ(CurrentCase(), Document().GetIndexCasoCarico(0)->GetID());
     Document().m_pAnalisi->m_bRisultatiValidi = 1;
     ExpectOneStep("Seleziona caso di carico", [this] {
-        Run("carichi.Casi di Carico", [](DialogDriver& driver) {
+        Run(CDialogListaCasiCarico::IDD, 0, [](DialogDriver& driver) {
             driver.ClickRow(casesId, 1);
             driver.Click(IDOK);
         });
@@ -171,7 +172,7 @@ TEST_F(LoadCommandsTest, SelectingTheCurrentCaseIsAStepThatKeepsTheResults) {
 
 TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
     ExpectOneStep("Crea combinazione", [this] {
-        Run("carichi.Crea Combinazione", [](DialogDriver& driver) {
+        Run(CDialogCreaCombinazione::IDD, CDialogCreaCombinazione::Crea, [](DialogDriver& driver) {
             driver.Type(CDialogCreaCombinazione::IDC_FATTORE, "1.35");
             driver.Click(CDialogCreaCombinazione::IDC_VATUTTO);
             driver.Type(CDialogCreaCombinazione::IDC_NOME, "Città");
@@ -183,7 +184,7 @@ TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
     EXPECT_EQ(made->GetSizeCDC(), 3);
     EXPECT_EQ(CaseBox().currentText(), QString("Città"));
     ExpectOneStep("Modifica combinazione", [this] {
-        Run("carichi.Modifica Combinazione", [](DialogDriver& driver) {
+        Run(CDialogCreaCombinazione::IDD, CDialogCreaCombinazione::Modifica, [](DialogDriver& driver) {
             driver.ClickRow(CDialogCreaCombinazione::IDC_LIST_CDCB, 0);
             driver.Type(CDialogCreaCombinazione::IDC_FATTORE_COMBINAZIONE, "0.7");
             driver.Click(IDOK);
@@ -194,7 +195,7 @@ TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
     const std::string kept = made->GetNome().ToUtf8();
     m_user.ExpectMessage("Il nome \"" + taken + "\" non è ammesso o è già usato: la combinazione conserva il nome \"" +
                          kept + "\".");
-    Run("carichi.Modifica Combinazione", [&taken](DialogDriver& driver) {
+    Run(CDialogCreaCombinazione::IDD, CDialogCreaCombinazione::Modifica, [&taken](DialogDriver& driver) {
         driver.Type(CDialogCreaCombinazione::IDC_NOME, taken);
         driver.Click(IDOK);
     });
@@ -203,8 +204,7 @@ TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
 }
 
 TEST_F(LoadCommandsTest, GroupsAreMadeOfTheSelection) {
-    m_user.ExpectMessage("Selezionare prima gli elementi del gruppo.");
-    Trigger("carichi.Crea Gruppo");
+    EXPECT_FALSE(m_workspace->Window().Command(ActionName(CDialogCreaGruppo::IDD))->isEnabled()) << "nothing to group";
     Document().Selection().Add(Document().GetIndexTrave(3));
     Document().Selection().Add(Document().GetIndexNodo(7));
     CWinApp::PumpMessages();
@@ -216,7 +216,7 @@ TEST_F(LoadCommandsTest, GroupsAreMadeOfTheSelection) {
                 driver.SetText(CDialogCreaGruppo::IDC_NOME, name);
                 driver.Click(IDOK);
             });
-        Run("carichi.Crea Gruppo", [](DialogDriver& driver) {
+        Run(CDialogCreaGruppo::IDD, 0, [](DialogDriver& driver) {
             driver.SetText(CDialogCreaGruppo::IDC_NOME, "Facciata");
             driver.Click(IDOK);
         });
@@ -236,9 +236,7 @@ TEST_F(LoadCommandsTest, TheGroupListDeletesInOneStepAndFollowsUndo) {
     Document().Selection().Add(Document().GetIndexTrave(0));
     for (const char* name : {"B", "C", "D"})
         Document().CreateGroup(name);
-    Trigger("carichi.Lista Gruppi");
-    CWinApp::PumpMessages();
-    CDialogDocument* list = m_workspace->ToolOf(View());
+    CDialogDocument* list = OpenTool(CDialogListaGruppi::IDD);
     ASSERT_TRUE(list);
     DialogDriver driver(*list);
     const std::vector<std::string> all = {"Copertura", "B", "C", "D"};

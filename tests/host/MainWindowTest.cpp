@@ -1,8 +1,9 @@
 // The main window, its views and the tool dialogs that belong to them.
 #include "host/ui/MainWindow.h"
-#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/tool/DialogDocument.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/generation/DialogGenNodiLineare.h"
+#include "dialogs/loads/DialogCreaCasoCarico.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/view/ViewWidget.h"
@@ -23,31 +24,31 @@ namespace {
 // A tool dialog that notes what it is told.
 class Witness final : public CDialogDocument {
   public:
-    Witness(CWnd* parent, std::vector<long>& hints, int& alive)
-        : CDialogDocument(CDialogGenNodiLineare::IDD, parent), m_hints(hints), m_alive(alive) {
-        ++m_alive;
-    }
-    ~Witness() override { --m_alive; }
-    void Update(CView*, long hint, CObject*) override { m_hints.push_back(hint); }
+    explicit Witness(CWnd* parent) : CDialogDocument(CDialogGenNodiLineare::IDD, parent) { ++alive; }
+    ~Witness() override { --alive; }
+    void Update(CView*, long hint, CObject*) override { hints.push_back(hint); }
     bool HasView() { return GetView() != nullptr; }
     CQuovarDoc* Bound() { return GetDoc(); }
 
-  private:
-    std::vector<long>& m_hints;
-    int& m_alive;
+    static std::unique_ptr<CDialog> Open(HostView& view, CWnd& frame) {
+        auto witness = std::make_unique<Witness>(&frame);
+        EXPECT_TRUE(witness->Create(&view));
+        return witness;
+    }
+
+    static inline std::vector<long> hints;
+    static inline int alive = 0;
 };
+
+const Command witnessRow = {.menu = CommandMenu::Prompts, .dialog = 0, .open = Witness::Open};
 
 } // namespace
 
 class MainWindowTest : public WorkspaceTest {
   protected:
     Witness* OpenWitness(HostView& view) {
-        return static_cast<Witness*>(m_workspace->Tools().Open(
-            std::make_unique<Witness>(&m_workspace->Window().Frame(), m_hints, m_alive), view));
+        return static_cast<Witness*>(m_workspace->Tools().Open(witnessRow, view, m_workspace->Window().Frame()));
     }
-
-    std::vector<long> m_hints;
-    int m_alive = 0;
 };
 
 // Catches a close request that is ignored for one of its two values, a dialog deleted inside its own handler (the
@@ -65,10 +66,10 @@ TEST_F(MainWindowTest, CloseRequestEndsTheDialogForBothValues) {
         else
             dialog->OnCancel();
         EXPECT_FALSE(dialog->IsWindow()) << "the window goes at once";
-        EXPECT_EQ(m_alive, 1) << "the object waits for its handlers to return";
+        EXPECT_EQ(Witness::alive, 1) << "the object waits for its handlers to return";
         EXPECT_FALSE(m_workspace->ToolOf(View()));
         CWinApp::PumpMessages();
-        EXPECT_EQ(m_alive, 0);
+        EXPECT_EQ(Witness::alive, 0);
     }
 }
 
@@ -78,20 +79,20 @@ TEST_F(MainWindowTest, OneToolDialogPerViewHearsItsDocumentOnly) {
     OpenWitness(first);
     Witness* dialog = OpenWitness(first);
     CWinApp::PumpMessages();
-    EXPECT_EQ(m_alive, 1) << "opening another ends the former";
+    EXPECT_EQ(Witness::alive, 1) << "opening another ends the former";
     EXPECT_EQ(m_workspace->ToolOf(first), dialog);
 
     HostView& other = m_workspace->NewDocument();
     CWinApp::PumpMessages();
-    m_hints.clear();
+    Witness::hints.clear();
     other.Document().UpdateAllViews(nullptr, 77, nullptr);
-    EXPECT_TRUE(m_hints.empty());
+    EXPECT_TRUE(Witness::hints.empty());
     first.Document().UpdateAllViews(nullptr, 77, nullptr);
-    EXPECT_EQ(m_hints, std::vector<long>{77});
+    EXPECT_EQ(Witness::hints, std::vector<long>{77});
     m_workspace->NewView(first.Document());
-    m_hints.clear();
+    Witness::hints.clear();
     first.Document().UpdateAllViews(nullptr, 78, nullptr);
-    EXPECT_EQ(m_hints, std::vector<long>{78}) << "once, however many views the document has";
+    EXPECT_EQ(Witness::hints, std::vector<long>{78}) << "once, however many views the document has";
 }
 
 // Catches a dialog that dies with its view or keeps the pointer, one that is never offered the next view, and an
@@ -103,7 +104,7 @@ TEST_F(MainWindowTest, ClosingAViewLeavesItsDialogWithoutOne) {
     EXPECT_EQ(dialog->Bound(), &view.Document());
     EXPECT_TRUE(m_workspace->CloseView(view));
     CWinApp::PumpMessages();
-    ASSERT_EQ(m_alive, 1);
+    ASSERT_EQ(Witness::alive, 1);
     EXPECT_TRUE(dialog->IsWindow());
     EXPECT_FALSE(dialog->HasView());
     dialog->OnOK();
@@ -114,7 +115,7 @@ TEST_F(MainWindowTest, ClosingAViewLeavesItsDialogWithoutOne) {
     EXPECT_EQ(m_workspace->ToolOf(next), dialog);
     m_workspace->CloseView(next);
     dialog->OnCancel();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return m_alive == 0; }, 3000)) << "a cancelled dialog without a view goes";
+    EXPECT_TRUE(QTest::qWaitFor([] { return Witness::alive == 0; }, 3000)) << "a cancelled dialog without a view goes";
 }
 
 // Catches a second view that replaces the first, titles that do not tell them apart, a question for a view that is not
@@ -172,7 +173,7 @@ TEST_F(MainWindowTest, NoCommandStartsInsideAnother) {
         EXPECT_EQ(m_workspace->Views().size(), 1u);
     });
     const int cases = Document().GetSizeCasiCarico();
-    Trigger("carichi.Crea Caso di Carico");
+    Trigger(CDialogCreaCasoCarico::IDD);
     ASSERT_EQ(m_workspace->Views().size(), 1u);
     EXPECT_EQ(Document().GetSizeCasiCarico(), cases + 1);
 }
@@ -186,20 +187,22 @@ TEST_F(MainWindowTest, MenusShowWhatThereIs) {
         EXPECT_FALSE(action->menu()->actions().isEmpty()) << qPrintable(action->text());
     }
     EXPECT_EQ(titles.mid(0, 4), QStringList({"File", "Modifica", "Vista", "Genera"}));
-    for (const ToolCommand& command : ToolCommands()) {
-        std::unique_ptr<CDialogDocument> dialog = command.make(nullptr);
-        ASSERT_TRUE(dialog->Create(&View())) << command.caption;
-        // The menu bears the template's caption; a dialog may give itself a shorter one.
-        const std::string caption = dialog->GetWindowText().ToUtf8(), offered = command.caption;
-        EXPECT_FALSE(caption.empty());
-        EXPECT_TRUE(caption.find(offered) != std::string::npos || offered.find(caption) != std::string::npos)
-            << caption;
-    }
     MainWindow& window = m_workspace->Window();
+    for (const Command* each : Commands()) {
+        const QString caption = CaptionOf(*each);
+        EXPECT_FALSE(caption.isEmpty()) << each->dialog;
+        EXPECT_EQ(FindCommand(each->dialog, each->kind), each) << qPrintable(caption) << " shares its row's name";
+        const QAction* action = window.Command(ActionName(each->dialog, each->kind));
+        ASSERT_EQ(action != nullptr, each->menu != CommandMenu::Prompts) << qPrintable(caption);
+        if (action) {
+            EXPECT_EQ(action->text(), caption);
+        }
+    }
     window.Refresh();
     EXPECT_FALSE(window.Command("modifica.annulla")->isEnabled());
     Document().GenNodi2Punti(CFPoint(0, 0, 0), CFPoint(1, 0, 0), 2);
     CWinApp::PumpMessages();
+    window.Refresh();
     EXPECT_TRUE(window.Command("modifica.annulla")->text().startsWith("&Annulla ")) << "with the step's name";
     Trigger("modifica.annulla");
     EXPECT_TRUE(window.Command("modifica.ripristina")->isEnabled());

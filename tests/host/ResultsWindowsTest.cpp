@@ -24,11 +24,8 @@ namespace {
 class ResultsWindows : public WorkspaceTest {
   protected:
     template <class Dialog>
-    Dialog* Open(const std::string& caption) {
-        for (const ToolCommand& command : ToolCommands())
-            if (command.caption == caption)
-                return dynamic_cast<Dialog*>(m_workspace->Run(command));
-        return nullptr;
+    Dialog* Open() {
+        return dynamic_cast<Dialog*>(m_workspace->Run(*FindCommand(Dialog::IDD)));
     }
     CNodo* Support() {
         for (int i = 0; i < Document().GetSizeNodi(); ++i)
@@ -49,7 +46,7 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
     BuildExample(Document());
     CTrave* beam = Document().GetIndexTrave(0);
     Document().Selection().Add(beam);
-    auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
+    auto* diagrams = Open<CDialogDiagrammi>();
     ASSERT_TRUE(diagrams);
     CWinApp::PumpMessages();
     DialogDriver driver(*diagrams);
@@ -66,7 +63,7 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
     CNodo* support = Support();
     ASSERT_TRUE(support);
     Document().Selection().Add(support);
-    auto* reactions = Open<CDialogNodoReazioniVincolari>("Nodo Reazioni Vincolari");
+    auto* reactions = Open<CDialogNodoReazioniVincolari>();
     ASSERT_TRUE(reactions);
     const std::string title = "Nodo n.ro " + std::to_string(support->GetID());
     EXPECT_EQ(DialogDriver(*reactions).Text(CDialogNodoReazioniVincolari::IDC_NODO), title);
@@ -82,8 +79,8 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
 TEST_F(ResultsWindows, OutlivesItsDocument) {
     BuildExample(Document());
     Document().Selection().Add(Document().GetIndexTrave(0));
-    ASSERT_FALSE(Document().RunAnalysis().refusal);
-    auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
+    ASSERT_TRUE(Document().RunAnalysis().done);
+    auto* diagrams = Open<CDialogDiagrammi>();
     ASSERT_TRUE(diagrams);
     diagrams->SendMessage(WM_COMMAND, CDialogDiagrammi::ID_DIAGRAMMI_VISUALIZZAVALORI);
     CWinApp::PumpMessages();
@@ -102,7 +99,7 @@ TEST_F(ResultsWindows, OutlivesItsDocument) {
 // Faults: a picture of the wrong place or window, one that reaches only the clipboard or only the file, a cancelled
 // file name that loses the clipboard's, a picture that could not be written and nobody said so.
 TEST_F(ResultsWindows, CaptureGoesToClipboardAndFile) {
-    auto* diagrams = Open<CDialogDiagrammi>("Diagrammi");
+    auto* diagrams = Open<CDialogDiagrammi>();
     ASSERT_TRUE(diagrams);
     CWinApp::PumpMessages();
     CWnd* area = diagrams->GetDlgItem(CDialogDiagrammi::IDC_DIAGRAMMA);

@@ -5,6 +5,7 @@
 #include "dialogs/selection/DialogMuovi.h"
 #include "dialogs/selection/DialogRuota.h"
 #include "dialogs/selection/DialogSpecchia.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "model/element/Asta.h"
 #include "model/element/Nodo.h"
@@ -29,18 +30,10 @@ class SelectionCommandsTest : public WorkspaceTest {
         Document().Selection().Add(elements);
         CWinApp::PumpMessages();
     }
-    // From the menu, as the only tool of the view.
-    CDialogDocument& Open(const char* caption) {
-        Trigger((std::string("selezione.") + caption).c_str());
-        CDialogDocument* dialog = m_workspace->ToolOf(View());
-        if (!dialog)
-            throw std::runtime_error(std::string("the dialog does not open: ") + caption);
-        return *dialog;
-    }
-    // A whole command that ends its dialog and is one step.
-    void Run(const char* caption, const std::function<void(DialogDriver&)>& action) {
-        ExpectOneStep(caption, [&] {
-            DialogDriver driver(Open(caption));
+    // A whole command that ends its dialog and is one step with the command's name.
+    void Run(UINT dialog, const std::function<void(DialogDriver&)>& action) {
+        ExpectOneStep(CaptionOf(*FindCommand(dialog)).toUtf8(), [&] {
+            DialogDriver driver(*OpenTool(dialog));
             action(driver);
             CWinApp::PumpMessages();
             EXPECT_FALSE(driver.IsOpen());
@@ -85,7 +78,7 @@ class SelectionCommandsTest : public WorkspaceTest {
 TEST_F(SelectionCommandsTest, CopiesAlongAPickedVectorWithStepsOfTheirOwn) {
     Select({Column()});
     const std::vector<int> before = Sizes();
-    Run("Copia Trasla", [this](DialogDriver& driver) {
+    Run(CopiaTrasla::IDD, [this](DialogDriver& driver) {
         Pick({0, 0, 0});
         Pick({4, 0, 0});
         EXPECT_EQ(driver.Text(CopiaTrasla::IDC_SPAZIATURA), "4");
@@ -118,7 +111,7 @@ TEST_F(SelectionCommandsTest, CopiesRoundAnAxis) {
     const std::vector<int> before = Sizes();
     for (const int copies : {3, 4}) {
         SCOPED_TRACE(copies);
-        Run("Copia Ruota", [&](DialogDriver& driver) {
+        Run(CopiaRuota::IDD, [&](DialogDriver& driver) {
             Pick({0, 0, 0});
             Pick({0, 0, 3});
             EXPECT_EQ(driver.Text(CopiaRuota::IDC_X2 + 2), "3");
@@ -144,7 +137,7 @@ TEST_F(SelectionCommandsTest, TheSecondPickMovesAtOnce) {
     CSetto* wall = Document().GetIndexSetto(0); // from (6, 0, 4) to (8, 0, 6)
     Select({wall});
     const std::vector<int> before = Sizes();
-    Run("Muovi", [this](DialogDriver& driver) {
+    Run(CDialogMuovi::IDD, [this](DialogDriver& driver) {
         Pick({0, 0, 3});
         EXPECT_EQ(driver.Text(CDialogMuovi::IDC_X1 + 2), "3");
         Pick({4, 0, 0});
@@ -158,7 +151,7 @@ TEST_F(SelectionCommandsTest, TheSecondPickMovesAtOnce) {
 TEST_F(SelectionCommandsTest, RotatesAboutAGlobalAndAGeneralAxis) {
     CTrave* beam = Document().GetIndexTrave(1);
     Select({beam});
-    Run("Ruota", [this](DialogDriver& driver) {
+    Run(CDialogRuota::IDD, [this](DialogDriver& driver) {
         driver.Click(CDialogRuota::IDC_RUOTA_Z);
         EXPECT_FALSE(driver.Enabled(CDialogRuota::IDC_X1));
         driver.Type(CDialogRuota::IDC_ANGOLO, "90");
@@ -169,7 +162,7 @@ TEST_F(SelectionCommandsTest, RotatesAboutAGlobalAndAGeneralAxis) {
     EXPECT_EQ(Document().GetIndexTrave(0)->GetNodoFinale(), beam->GetNodoIniziale());
     m_workspace->Undo();
     // Half a turn about the vertical through the beam's first node.
-    Run("Ruota", [this](DialogDriver& driver) {
+    Run(CDialogRuota::IDD, [this](DialogDriver& driver) {
         Pick({4, 0, 0});
         Pick({4, 0, 4});
         driver.Type(CDialogRuota::IDC_ANGOLO, "180");
@@ -183,7 +176,7 @@ TEST_F(SelectionCommandsTest, RotatesAboutAGlobalAndAGeneralAxis) {
 TEST_F(SelectionCommandsTest, MirrorsInTheOriginAndInAPlane) {
     Select({Column()});
     const std::vector<int> before = Sizes();
-    Run("Specchia", [this](DialogDriver& driver) {
+    Run(CDialogSpecchia::IDD, [this](DialogDriver& driver) {
         Pick({8, 0, 4});
         EXPECT_EQ(driver.Text(CDialogSpecchia::IDC_X) + driver.Text(CDialogSpecchia::IDC_Z), "84");
         driver.Click(CDialogSpecchia::IDC_ORIGINE);
@@ -192,7 +185,7 @@ TEST_F(SelectionCommandsTest, MirrorsInTheOriginAndInAPlane) {
     });
     EXPECT_EQ(Sizes(), Plus(before, {0, 1, 0, 0, 1}));
     EXPECT_EQ(Joined(Kind::Truss, {0, 0, 0}, {0, 0, -3}), 1);
-    Run("Specchia", [this](DialogDriver& driver) {
+    Run(CDialogSpecchia::IDD, [this](DialogDriver& driver) {
         Pick({4, 0, 0});
         driver.Click(CDialogSpecchia::IDC_PIANO_YZ);
         driver.Press(VK_RETURN);
@@ -204,7 +197,7 @@ TEST_F(SelectionCommandsTest, MirrorsInTheOriginAndInAPlane) {
 TEST_F(SelectionCommandsTest, CopiesByKeyboardAlone) {
     Select({Column()});
     const std::vector<int> before = Sizes();
-    Run("Copia Trasla", [this](DialogDriver& driver) {
+    Run(CopiaTrasla::IDD, [this](DialogDriver& driver) {
         // The arrows go round in a group, wherever its mnemonic puts the focus.
         const auto choose = [&driver](UINT mnemonic, int button) {
             driver.Press(mnemonic, AltKey);
@@ -240,7 +233,7 @@ TEST_F(SelectionCommandsTest, CopiesByKeyboardAlone) {
 TEST_F(SelectionCommandsTest, TooManyCopiesAreRefused) {
     Select({Column()});
     const std::string before = State();
-    DialogDriver driver(Open("Copia Ruota"));
+    DialogDriver driver(*OpenTool(CopiaRuota::IDD));
     driver.Type(CopiaRuota::IDC_X2 + 2, "1");
     driver.Type(CopiaRuota::IDC_X1, "0.25");
     driver.Type(CopiaRuota::IDC_X2, "0.25");

@@ -1,5 +1,7 @@
 #include "tests/host/WorkspaceTest.h"
 
+#include "dialogs/generation/DialogGenNodiLineare.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "host/view/ViewWidget.h"
@@ -97,19 +99,29 @@ void WorkspaceTest::Press(Qt::Key key) {
     CWinApp::PumpMessages();
 }
 
-void WorkspaceTest::Trigger(const char* command) {
+void WorkspaceTest::Trigger(const QString& command) {
     m_workspace->Window().Refresh();
     QAction* action = m_workspace->Window().Command(command);
-    ASSERT_TRUE(action) << "no command " << command;
-    ASSERT_TRUE(action->isEnabled()) << command << " is disabled";
+    ASSERT_TRUE(action) << "no command " << qPrintable(command);
+    ASSERT_TRUE(action->isEnabled()) << qPrintable(command) << " is disabled";
     action->trigger();
     CWinApp::PumpMessages();
 }
 
+void WorkspaceTest::Trigger(UINT dialog, int kind) {
+    Trigger(ActionName(dialog, kind));
+}
+
 CDialogDocument* WorkspaceTest::OpenLinear() {
-    Trigger("genera.Generazione Nodi Lineare");
+    return OpenTool(CDialogGenNodiLineare::IDD);
+}
+
+CDialogDocument* WorkspaceTest::OpenTool(UINT id) {
+    Trigger(id);
     CDialogDocument* dialog = m_workspace->ToolOf(View());
     EXPECT_TRUE(dialog) << "the dialog does not open";
+    // A window manager takes its time to give it the keys.
+    EXPECT_TRUE(!dialog || QTest::qWaitForWindowActive(dialog->m_hWnd->widget));
     return dialog;
 }
 

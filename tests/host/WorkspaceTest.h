@@ -15,6 +15,7 @@
 
 class CDialogDocument;
 class CNodo;
+class QString;
 namespace host {
 class HostDocument;
 }
@@ -35,10 +36,12 @@ class WorkspaceTest : public testing::Test {
     void Drag(CPoint from, CPoint to, Qt::MouseButton button = Qt::LeftButton);
     void Wheel(CPoint at, int notches);
     void Press(Qt::Key key); // to the view
-    void Trigger(const char* command);
+    void Trigger(const QString& command);
+    void Trigger(UINT dialog, int kind = 0); // the command of a dialog, by the number of its template
 
-    // The linear generation, opened from the menu.
-    CDialogDocument* OpenLinear();
+    // From the menu; null, and a failure, when it does not open.
+    CDialogDocument* OpenTool(UINT dialog);
+    CDialogDocument* OpenLinear(); // the linear generation
 
     // The document as text; see Dump.
     std::string State();

@@ -1,4 +1,4 @@
-// The model check, asked for by the user or from the command line.
+// The model check from the command line.
 #pragma once
 
 #include <cstdio>
@@ -7,11 +7,7 @@ class QString;
 
 namespace host {
 
-class HostDocument;
 class Workspace;
-
-// The check window does not check on its own: this asks every open one of the document to.
-void RequestCheck(HostDocument& document);
 
 // Opens a project or a text model, checks it through the check window and prints that window's rows, one a line, UTF-8.
 // Returns the process's exit status: 0 when the model is free of faults of its own nodes and elements (the list ends

@@ -1,7 +1,9 @@
-#include "host/commands/CheckCommands.h"
+#include "host/commands/Check.h"
 
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/check/DialogStrutture.h"
+#include "host/commands/Subjects.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
@@ -26,21 +28,32 @@ bool PrintRows(const CListBox& list, std::FILE* out, CString& row) {
     return std::fflush(out) == 0 && !std::ferror(out);
 }
 
-} // namespace
-
+// The check window does not check on its own: this asks every open one of the document to.
 void RequestCheck(HostDocument& document) {
     document.UpdateAllViews(nullptr, MODIFICA_CHECK, nullptr);
 }
 
+const Command rows[] = {
+    {.menu = CommandMenu::Tools,
+     .dialog = CDialogCheck::IDD,
+     .open = OpenTool<CDialogCheck>,
+     .place = Place::Own, // under the view
+     .opened = RequestCheck},
+    {.menu = CommandMenu::Tools, .dialog = CDialogStrutture::IDD, .open = OpenTool<CDialogStrutture>},
+};
+
+} // namespace
+
+std::span<const Command> CheckCommands() {
+    return rows;
+}
+
 int PrintCheck(Workspace& workspace, const QString& path, std::FILE* out) {
-    HostView* view = workspace.Open(path);
-    if (!view)
+    if (!workspace.Open(path))
         return unreadable;
-    CDialogDocument* dialog =
-        workspace.Tools().Open(std::make_unique<CDialogCheck>(&workspace.Window().Frame()), *view);
+    CDialog* dialog = workspace.Run(*FindCommand(CDialogCheck::IDD));
     if (!dialog)
         return faulty;
-    RequestCheck(view->Document());
     CString last;
     const bool printed =
         PrintRows(dynamic_cast<CListBox&>(*dialog->GetDlgItem(CDialogCheck::IDC_LIST_ERRORS)), out, last);
