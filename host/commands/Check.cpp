@@ -1,8 +1,8 @@
 #include "host/commands/Check.h"
 
 #include "dialogs/check/DialogCheck.h"
-#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/check/DialogStrutture.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "host/commands/Subjects.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
@@ -38,8 +38,9 @@ const Command rows[] = {
      .dialog = CDialogCheck::IDD,
      .open = OpenTool<CDialogCheck>,
      .place = Place::Own, // under the view
+     .titled = false,
      .opened = RequestCheck},
-    {.menu = CommandMenu::Tools, .dialog = CDialogStrutture::IDD, .open = OpenTool<CDialogStrutture>},
+    {.menu = CommandMenu::Tools, .dialog = CDialogStrutture::IDD, .open = OpenTool<CDialogStrutture>, .titled = false},
 };
 
 } // namespace

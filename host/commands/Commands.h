@@ -34,13 +34,15 @@ struct Command {
     Needs needs = Needs::View;
 
     // One of the two is there.
-    // Makes a dialog that stays open beside the view, window included; null when there can be none.
+    // Makes a dialog that stays open beside the view, window included; null when there can be none. One that is no
+    // CDialogDocument, or lies inside the view, ends with the view.
     std::unique_ptr<CDialog> (*open)(HostView& view, CWnd& frame) = nullptr;
     // Runs a modal dialog, and whatever belongs to its command, until the user is done.
     void (*run)(HostDocument& document, CWnd& frame) = nullptr;
 
     // ---- Of those that stay open.
     Place place = Place::BesideView;
+    bool titled = true; // the caption begins with the document's name; otherwise it stays the template's
     void (*opened)(HostDocument& document) = nullptr; // what follows the opening; null for nothing
     // A kind of results of beams (CElementoSettings) was shown or hidden in the dialog's view; null for who does not
     // care.

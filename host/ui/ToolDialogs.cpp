@@ -3,12 +3,16 @@
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "host/commands/Commands.h"
+#include "host/document/HostDocument.h"
 #include "host/ui/DeferredDelete.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
+#include "model/values/Path.h"
 #include "platform/core/Exception.h"
 #include "platform/toolkit/Bridge.h"
 
+#include <QApplication>
+#include <QScopedValueRollback>
 #include <QScreen>
 
 #include <algorithm>
@@ -16,8 +20,38 @@
 namespace host {
 
 namespace {
+
 constexpr int orphanWatchMilliseconds = 200;
+
+bool LiesInView(const CDialog& dialog) {
+    return dialog.GetStyle() & WS_CHILD;
 }
+
+// Beside the main window where the screen has room, otherwise inside the view's right edge, and a caption lower for
+// each window that stands there already. One that places itself is only kept on the screen.
+void PlaceBeside(const Command& command, QWidget& window, const HostView& view, int others) {
+    const QWidget& viewWidget = view.Widget();
+    const QRect screen = viewWidget.screen()->availableGeometry();
+    const QRect frame = viewWidget.window()->frameGeometry();
+    const QPoint viewCorner = viewWidget.mapToGlobal(QPoint(viewWidget.width(), 0));
+    constexpr int gap = 8, cascade = 28;
+    QPoint place(frame.right() + gap, viewCorner.y() + others * cascade);
+    if (place.x() + window.frameGeometry().width() > screen.right())
+        place.setX(viewCorner.x() - window.frameGeometry().width() - gap);
+    if (command.place == Place::Own)
+        place = window.pos();
+    place.setX(std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - window.width())));
+    place.setY(std::clamp(place.y(), screen.top(), std::max(screen.top(), screen.bottom() - window.height() - 40)));
+    window.move(place);
+}
+
+// What the caption of a dialog begins with; empty for a document that has no file.
+CString CaptionPrefix(const CString& path) {
+    CString name;
+    return SplitPath(path, nullptr, nullptr, &name, nullptr) ? name + " : " : CString();
+}
+
+} // namespace
 
 ToolDialogs::ToolDialogs() {
     m_orphanWatch.setInterval(orphanWatchMilliseconds);
@@ -28,114 +62,243 @@ ToolDialogs::~ToolDialogs() {
     EndAll();
 }
 
-CDialogDocument* ToolDialogs::Open(const Command& command, HostView& view, CWnd& frame) {
-    if (CDialogDocument* former = Of(view))
+template <class Condition>
+std::shared_ptr<ToolDialogs::Tool> ToolDialogs::FindLast(const Condition& condition) const {
+    const auto found =
+        std::find_if(m_tools.rbegin(), m_tools.rend(), [&condition](const auto& each) { return condition(*each); });
+    return found == m_tools.rend() ? nullptr : *found;
+}
+
+std::shared_ptr<ToolDialogs::Tool> ToolDialogs::OpenAt(const HostView& view, UINT dialog) const {
+    return FindLast([&](const Tool& each) { return each.view == &view && each.command->dialog == dialog; });
+}
+
+CDialogDocument* ToolDialogs::Latest(const HostView& view) const {
+    const auto found = FindLast([&view](const Tool& each) { return each.view == &view && each.tool; });
+    return found ? found->tool : nullptr;
+}
+
+bool ToolDialogs::IsOpen(const CDialog* dialog, const HostView& view) const {
+    return dialog &&
+           FindLast([&](const Tool& each) { return each.view == &view && each.dialog.get() == dialog; }) != nullptr;
+}
+
+CDialog* ToolDialogs::Open(const Command& command, HostView& view, CWnd& frame) {
+    EndClosed();
+    if (const auto former = OpenAt(view, command.dialog)) {
+        if (former->command == &command)
+            return BringToFront(*former);
         End(former);
-    std::unique_ptr<CDialog> dialog = command.open(view, frame);
-    auto* opened = dynamic_cast<CDialogDocument*>(dialog.get());
+    }
+    // Listed before its window is made: that may already ask for points.
+    const auto tool = std::make_shared<Tool>(Tool{&command, &view.Document(), &view, nullptr});
+    m_tools.push_back(tool);
+    CDialog* opened = Make(*tool, frame);
     if (!opened)
-        return nullptr;
-    dialog.release();
-    m_open.push_back({&command, std::unique_ptr<CDialogDocument>(opened), &view});
-    PlaceBeside(command, *opened, view);
-    opened->ShowWindow(SW_SHOW);
-    opened->SetActiveWindow();
+        End(tool);
     return opened;
 }
 
-CDialogDocument* ToolDialogs::Of(const HostView& view) const {
-    const auto found =
-        std::find_if(m_open.begin(), m_open.end(), [&view](const Entry& entry) { return entry.view == &view; });
-    return found == m_open.end() ? nullptr : found->dialog.get();
+CDialog* ToolDialogs::Make(Tool& tool, CWnd& frame) {
+    const QScopedValueRollback<Tool*> calling(m_caller, &tool);
+    const auto others = std::count_if(m_tools.begin(), m_tools.end(), [&tool](const auto& each) {
+        return each->view == tool.view && each->command->place == Place::BesideView;
+    });
+    tool.dialog = tool.command->open(*tool.view, frame);
+    if (!tool.dialog)
+        return nullptr;
+    tool.tool = dynamic_cast<CDialogDocument*>(tool.dialog.get());
+    QWidget& window = *tool.dialog->m_hWnd->widget;
+    // Some end themselves.
+    QObject::connect(&window, &QObject::destroyed, &m_orphanWatch, [this] { EndClosed(); });
+    const bool inside = LiesInView(*tool.dialog);
+    if (!inside)
+        PlaceBeside(*tool.command, window, *tool.view, static_cast<int>(others) - 1);
+    tool.dialog->ShowWindow(SW_SHOW);
+    if (!inside)
+        tool.dialog->SetActiveWindow();
+    return tool.dialog.get();
+}
+
+CDialog* ToolDialogs::BringToFront(Tool& tool) {
+    const QScopedValueRollback<Tool*> calling(m_caller, &tool);
+    QWidget& window = *tool.dialog->m_hWnd->widget;
+    if (window.isMinimized())
+        window.showNormal();
+    window.raise();
+    tool.dialog->SetActiveWindow();
+    ResumePicking(tool);
+    return tool.dialog.get();
 }
 
 void ToolDialogs::End(const CDialog* dialog) {
-    const auto found = std::find_if(m_open.begin(), m_open.end(),
-                                    [dialog](const Entry& entry) { return entry.dialog.get() == dialog; });
-    if (found == m_open.end())
+    if (dialog)
+        End(FindLast([dialog](const Tool& each) { return each.dialog.get() == dialog; }));
+}
+
+void ToolDialogs::End(std::shared_ptr<Tool> tool) {
+    if (!tool)
         return;
     // Out of the list first: the dialog's handlers run while its window goes, and may come back here.
-    std::unique_ptr<CDialogDocument> ended = std::move(found->dialog);
-    m_open.erase(found);
-    ended->DestroyWindow();
+    std::erase(m_tools, tool);
+    const QScopedValueRollback<Tool*> calling(m_caller, tool.get());
+    std::unique_ptr<CDialog> ended = std::move(tool->dialog);
+    if (ended)
+        ended->DestroyWindow();
+    if (tool->picks && tool->view)
+        tool->view->StopDefinisciVettore();
     DeleteLater(std::move(ended));
 }
 
 void ToolDialogs::EndAll() {
-    while (!m_open.empty())
-        End(m_open.back().dialog.get());
+    while (!m_tools.empty())
+        End(m_tools.back());
+}
+
+void ToolDialogs::EndAllOf(const HostDocument& document) {
+    while (const auto tool = FindLast([&document](const Tool& each) { return each.document == &document; }))
+        End(tool);
+}
+
+// Those whose window has gone by itself.
+void ToolDialogs::EndClosed() {
+    while (const auto tool = FindLast([](const Tool& each) { return each.dialog && !each.dialog->GetSafeHwnd(); }))
+        End(tool);
 }
 
 void ToolDialogs::Update(const HostView& view, CView* sender, long hint, CObject* pHint) {
-    // A window that cannot follow must not break the command that changed the document.
-    if (CDialogDocument* dialog = Of(view))
-        platform::RunGuarded([&] { dialog->Update(sender, hint, pHint); });
+    for (const auto& each : Tools(m_tools)) // a copy: a dialog may end, or open another, on the news
+        if (each->view == &view && each->dialog && each->tool)
+            // A window that cannot follow must not break the command that changed the document.
+            platform::RunGuarded([&] { each->tool->Update(sender, hint, pHint); });
 }
 
 void ToolDialogs::ResultShown(const HostView& view, int kind, bool shown) {
-    for (Entry& entry : m_open)
-        if (entry.view == &view && entry.command->resultShown)
-            entry.command->resultShown(*entry.dialog, kind, shown);
+    for (const auto& each : Tools(m_tools))
+        if (each->view == &view && each->dialog && each->command->resultShown)
+            each->command->resultShown(*each->dialog, kind, shown);
+}
+
+void ToolDialogs::Renamed(const HostDocument& document, const CString& formerPath) {
+    const CString former = CaptionPrefix(formerPath);
+    for (const auto& each : Tools(m_tools)) {
+        if (each->document != &document || !each->view || !each->dialog || !each->tool || !each->command->titled)
+            continue;
+        const CString caption = each->tool->GetWindowText();
+        const bool prefixed = caption.Left(former.GetLength()) == former;
+        each->tool->SetTitle(prefixed ? caption.Mid(former.GetLength()) : caption);
+    }
 }
 
 void ToolDialogs::ViewClosing(HostView& view) {
-    for (Entry& entry : m_open) {
-        entry.dialog->VistaEliminata(&view);
-        if (entry.view == &view) {
-            entry.view = nullptr;
-            m_orphanWatch.start();
+    for (const auto& each : Tools(m_tools)) {
+        if (each->view != &view || !each->dialog)
+            continue;
+        if (!each->tool || LiesInView(*each->dialog)) {
+            End(each);
+            continue;
         }
+        each->tool->VistaEliminata(&view);
+        each->view = nullptr;
+        m_orphanWatch.start();
     }
 }
 
 void ToolDialogs::ViewActivated(HostView& view) {
-    for (Entry& entry : m_open) {
-        // A dialog without a view would be a second one where the view has its own.
-        if (!entry.view && Of(view))
-            continue;
-        entry.dialog->AggiornaVista(&view);
-        if (!entry.view) {
-            entry.view = &view;
-            // What it shows belongs to another document, which may be gone: before it paints, it looks anew.
-            entry.dialog->Update(nullptr, MODIFICA_RISULTATI_CASO, nullptr);
-        }
-    }
+    EndCancelledOrphans();
+    for (const auto& each : Tools(m_tools))
+        // Where the view has the same dialog already, it would be a second one.
+        if (!each->view && each->dialog && each->tool && each->document == &view.Document() &&
+            !OpenAt(view, each->command->dialog))
+            Adopt(*each, view);
 }
 
-// Beside the main window where the screen has room, otherwise inside the view's right edge. One that places itself is
-// only kept on the screen.
-void ToolDialogs::PlaceBeside(const Command& command, CDialog& dialog, HostView& view) {
-    QWidget* window = dialog.m_hWnd->widget;
-    const QWidget& viewWidget = view.Widget();
-    const QRect screen = viewWidget.screen()->availableGeometry();
-    const QRect frame = viewWidget.window()->frameGeometry();
-    const QPoint viewCorner = viewWidget.mapToGlobal(QPoint(viewWidget.width(), 0));
-    constexpr int gap = 8;
-    QPoint place(frame.right() + gap, viewCorner.y());
-    if (place.x() + window->frameGeometry().width() > screen.right())
-        place.setX(viewCorner.x() - window->frameGeometry().width() - gap);
-    if (command.place == Place::Own)
-        place = window->pos();
-    place.setX(std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - window->width())));
-    place.setY(std::clamp(place.y(), screen.top(), std::max(screen.top(), screen.bottom() - window->height() - 40)));
-    window->move(place);
+void ToolDialogs::Adopt(Tool& tool, HostView& view) {
+    const QScopedValueRollback<Tool*> calling(m_caller, &tool);
+    const bool resumes = tool.picks && !PickerOf(view);
+    tool.picks = false;
+    tool.view = &view;
+    tool.tool->AggiornaVista(&view);
+    tool.tool->Update(nullptr, MODIFICA_RISULTATI_CASO, nullptr); // it showed nothing, or what was
+    if (resumes)
+        ResumePicking(tool);
 }
 
 // Without a view a dialog cannot ask anybody to end it, so its Cancel is looked for.
 void ToolDialogs::EndCancelledOrphans() {
-    std::vector<const CDialogDocument*> cancelled;
-    bool orphans = false;
-    for (const Entry& entry : m_open) {
-        if (entry.view)
-            continue;
-        orphans = true;
-        if (entry.dialog->IsCancel() || !entry.dialog->IsWindow())
-            cancelled.push_back(entry.dialog.get());
-    }
-    for (const CDialogDocument* dialog : cancelled)
-        End(dialog);
-    if (!orphans)
+    while (const auto cancelled =
+               FindLast([](const Tool& each) { return !each.view && each.tool && each.tool->IsCancel(); }))
+        End(cancelled);
+    if (!FindLast([](const Tool& each) { return !each.view; }))
         m_orphanWatch.stop();
+}
+
+std::shared_ptr<ToolDialogs::Tool> ToolDialogs::PickerOf(const HostView& view) const {
+    return FindLast([&view](const Tool& each) { return each.view == &view && each.picks; });
+}
+
+bool ToolDialogs::IsHeld(const Tool* tool) const {
+    return FindLast([tool](const Tool& each) { return &each == tool; }) != nullptr;
+}
+
+ToolDialogs::Tool* ToolDialogs::CallerOn(const HostView& view) const {
+    if (m_caller)
+        return m_caller->view == &view ? m_caller : nullptr;
+    const QWidget* active = QApplication::activeWindow();
+    return FindLast([&](const Tool& each) {
+               return each.view == &view && each.dialog && each.dialog->m_hWnd && each.dialog->m_hWnd->widget == active;
+           })
+        .get();
+}
+
+bool ToolDialogs::IsPicking(const HostView& view) const {
+    return PickerOf(view) != nullptr;
+}
+
+void ToolDialogs::PickingStarted(const HostView& view, const CString& prompt) {
+    const Tool* caller = CallerOn(view);
+    // Nobody known asks, for example a dialog over which a message was shown: the one that was used last.
+    const bool known = IsHeld(caller);
+    const auto tool =
+        FindLast([&](const Tool& each) { return known ? &each == caller : each.view == &view && each.tool; });
+    for (const auto& each : m_tools)
+        if (each->view == &view)
+            each->picks = false;
+    if (!tool)
+        return;
+    tool->picks = true;
+    tool->prompt = prompt;
+    std::erase(m_tools, tool);
+    m_tools.push_back(tool);
+}
+
+bool ToolDialogs::PickingStops(const HostView& view) {
+    Tool* caller = CallerOn(view);
+    const auto picker = PickerOf(view);
+    if (caller && !caller->picks && picker)
+        return false;
+    Tool* stopped = picker ? picker.get() : caller; // one that is ending is in the list no more
+    if (stopped) {
+        stopped->picks = false;
+        stopped->prompt.reset();
+    }
+    return true;
+}
+
+void ToolDialogs::PointPicked(const HostView& view, const CFPoint& point, bool second) {
+    const auto picker = PickerOf(view);
+    if (!picker || !picker->dialog || !picker->tool)
+        return;
+    const QScopedValueRollback<Tool*> calling(m_caller, picker.get());
+    if (second)
+        picker->tool->SetVettoreTo(point);
+    else
+        picker->tool->SetVettoreFrom(point);
+}
+
+void ToolDialogs::ResumePicking(Tool& tool) {
+    if (tool.prompt && !tool.picks)
+        tool.view->StartDefinisciVettore(*tool.prompt, "");
 }
 
 } // namespace host

@@ -1,24 +1,30 @@
-// The open tool dialogs: which view each works on, and when it ends.
+// The dialogs that stay open beside the views: which view each works on, which one picks there, and when it ends.
 #pragma once
+
+#include "platform/core/String.h"
 
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class CDialog;
 class CDialogDocument;
+class CFPoint;
 class CObject;
 class CView;
 class CWnd;
 
 namespace host {
 
+class HostDocument;
 class HostView;
 struct Command;
 
-// A view has at most one tool dialog. A dialog whose view was closed stays open without one until a view without a
-// dialog becomes active and takes it over.
+// Any number lives beside a view, one of each command; at most one of them picks. A tool dialog whose view was closed
+// waits without one until another view of its document is active, and ends with the document. A window that is no tool
+// dialog, or lies inside its view, ends with the view.
 class ToolDialogs {
   public:
     ToolDialogs();
@@ -26,33 +32,60 @@ class ToolDialogs {
     ToolDialogs(const ToolDialogs&) = delete;
     ToolDialogs& operator=(const ToolDialogs&) = delete;
 
-    // Opens the command's dialog beside the view and ends the view's former one. Null, and nothing open, when there can
-    // be none; otherwise the dialog, which stays this object's.
-    CDialogDocument* Open(const Command& command, HostView& view, CWnd& frame);
-    CDialogDocument* Of(const HostView& view) const; // null when it has none
-    bool IsEmpty() const { return m_open.empty(); }
+    // Opens the command's dialog beside the view. One that is open there comes to the front instead, and picks again
+    // when it did; where a class serves several commands, another one's is replaced. Null, and nothing open, when there
+    // can be none; otherwise the dialog, which stays this object's.
+    CDialog* Open(const Command& command, HostView& view, CWnd& frame);
+    CDialogDocument* Latest(const HostView& view) const; // opened last or picking since; null when there is none
+    bool IsOpen(const CDialog* dialog, const HostView& view) const; // for any address
 
     // Destroys the dialog's window now and the object when its handlers have returned. Any other address is ignored.
     void End(const CDialog* dialog);
     void EndAll();
+    void EndAllOf(const HostDocument& document);
 
-    // News for the dialogs; see CDialogDocument.
+    // ---- News for the dialogs; see CDialogDocument.
     void Update(const HostView& view, CView* sender, long hint, CObject* pHint);
     void ResultShown(const HostView& view, int kind, bool shown);
+    void Renamed(const HostDocument& document, const CString& formerPath); // empty when it had none
     void ViewClosing(HostView& view);
     void ViewActivated(HostView& view);
 
-  private:
-    struct Entry {
-        const Command* command;
-        std::unique_ptr<CDialogDocument> dialog;
-        HostView* view; // not owned; null after its closing
-    };
+    // ---- Picking in a view. Who asks for it or stops it is the dialog that is being called or, otherwise, the active
+    // one.
+    bool IsPicking(const HostView& view) const;
+    void PickingStarted(const HostView& view, const CString& prompt);
+    bool PickingStops(const HostView& view); // false for a dialog that is not the one that picks: the mode goes on
+    void PointPicked(const HostView& view, const CFPoint& point, bool second);
 
-    void PlaceBeside(const Command& command, CDialog& dialog, HostView& view);
+  private:
+    struct Tool {
+        const Command* command;
+        HostDocument* document;
+        HostView* view;                     // not owned; null after its closing
+        std::unique_ptr<CDialog> dialog;    // null while it is being opened and after its end
+        CDialogDocument* tool = nullptr;    // the same; null for one of another kind
+        bool picks = false;                 // in its view, or in the one that it had
+        std::optional<CString> prompt = {}; // of its last picking, unless it stopped that by itself
+    };
+    using Tools = std::vector<std::shared_ptr<Tool>>;
+
+    template <class Condition>
+    std::shared_ptr<Tool> FindLast(const Condition& condition) const;
+    std::shared_ptr<Tool> OpenAt(const HostView& view, UINT dialog) const;
+    std::shared_ptr<Tool> PickerOf(const HostView& view) const;
+    Tool* CallerOn(const HostView& view) const;
+    bool IsHeld(const Tool* tool) const;
+    CDialog* Make(Tool& tool, CWnd& frame);
+    CDialog* BringToFront(Tool& tool);
+    void ResumePicking(Tool& tool);
+    void Adopt(Tool& tool, HostView& view);
+    void End(std::shared_ptr<Tool> tool); // by value: the list holds it no longer
+    void EndClosed();
     void EndCancelledOrphans();
 
-    std::vector<Entry> m_open;
+    Tools m_tools; // the one that was opened or began to pick last is at the end
+    Tool* m_caller = nullptr;
     QTimer m_orphanWatch;
 };
 

@@ -133,26 +133,47 @@ bool Workspace::CloseAll() {
     return true;
 }
 
-// The dialogs let go of the view first, then its window ends, then the object; its document goes with its last view.
+HostView* Workspace::OtherViewOf(const HostView& view) const {
+    const auto other = std::find_if(m_views.rbegin(), m_views.rend(), [&view](const auto& each) {
+        return each.get() != &view && &each->Document() == &view.Document();
+    });
+    return other == m_views.rend() ? nullptr : other->get();
+}
+
+void Workspace::Activate(HostView& view) {
+    m_window->ShowView(view);
+    if (m_active != &view) // the window is the active one already, or not yet
+        ViewActivated(view);
+}
+
+// The dialogs let go of the view first, those of a document that goes with it end; then its window ends, then the
+// object. Another view of the document takes its place, and its dialogs.
 void Workspace::ReleaseView(HostView& view) {
     HostDocument& document = view.Document();
+    HostView* other = OtherViewOf(view);
+    m_tools.ViewClosing(view);
+    if (!other)
+        m_tools.EndAllOf(document);
     const auto held =
         std::find_if(m_views.begin(), m_views.end(), [&view](const auto& each) { return each.get() == &view; });
-    m_tools.ViewClosing(view);
     std::unique_ptr<HostView> closing = std::move(*held);
     m_views.erase(held);
-    if (m_active == &view)
+    if (document.GetViewStructure() == &view)
+        document.SetActiveView(other);
+    if (m_active == &view) {
         m_active = nullptr;
-    document.SetActiveView(nullptr);
+        if (other)
+            Activate(*other);
+    } else if (m_active) {
+        m_tools.ViewActivated(*m_active); // it may be the other one
+    }
     closing->Close();
     m_window->RemoveView(*closing);
     DeleteLater(std::move(closing));
-    if (std::none_of(m_views.begin(), m_views.end(), [&](const auto& each) { return &each->Document() == &document; }))
+    if (!other)
         std::erase_if(m_projects, [&document](const auto& each) { return each->document.get() == &document; });
     if (!m_active && !m_views.empty())
-        m_window->ShowView(*m_views.back());
-    if (!m_active && !m_views.empty())
-        ViewActivated(*m_views.back());
+        Activate(*m_views.back());
     m_window->ScheduleRefresh();
 }
 
@@ -215,7 +236,7 @@ void Workspace::SelectLoadCase(HostView& view, int id) {
 }
 
 void Workspace::EndTool(HostView& view, const CDialogDocument* dialog) {
-    if (!dialog || m_tools.Of(view) != dialog)
+    if (!m_tools.IsOpen(dialog, view))
         return;
     m_tools.End(dialog);
     view.Widget().activateWindow();

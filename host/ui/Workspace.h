@@ -66,7 +66,14 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     void SelectLoadCase(HostView& view, int id);
 
     // ---- For the views.
-    CDialogDocument* ToolOf(const HostView& view) const override { return m_tools.Of(view); }
+    // Opened last, or picking since, beside the view; null when there is none.
+    CDialogDocument* ToolOf(const HostView& view) const { return m_tools.Latest(view); }
+    bool IsPicking(const HostView& view) const override { return m_tools.IsPicking(view); }
+    void PickingStarted(const HostView& view, const CString& prompt) override { m_tools.PickingStarted(view, prompt); }
+    bool PickingStops(const HostView& view) override { return m_tools.PickingStops(view); }
+    void PointPicked(const HostView& view, const CFPoint& point, bool second) override {
+        m_tools.PointPicked(view, point, second);
+    }
     void EndTool(HostView& view, const CDialogDocument* dialog) override;
     void DocumentChanged(HostView& view, CView* sender, long hint, CObject* pHint) override;
     void ViewChanged(HostView& view) override;
@@ -100,6 +107,8 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     Project& Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name);
     Project* ProjectOf(const HostDocument& document) const;
     HostView* LastViewOf(const HostDocument& document) const; // null when it has none or more than one
+    HostView* OtherViewOf(const HostView& view) const;        // of the same document; null when there is none
+    void Activate(HostView& view);                            // its window too
     void RunIdle(Project& project);
     void Recover(); // closes what a command left open that ended in an exception: brackets of undo, the wait
     bool AskToSave(Project& project); // false when the user cancels

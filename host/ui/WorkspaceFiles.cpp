@@ -74,8 +74,7 @@ HostView* Workspace::Open(const QString& path) {
     const QString whole = file.absoluteFilePath();
     for (const auto& view : m_views)
         if (!PathOf(view->Document()).isEmpty() && QFileInfo(PathOf(view->Document())) == file) {
-            m_window->ShowView(*view);
-            ViewActivated(*view);
+            Activate(*view);
             return view.get();
         }
     const bool text = IsTextModel(whole);
@@ -103,7 +102,7 @@ HostView* Workspace::Open(const QString& path) {
 
 // The empty document that the application starts with makes room for the first one opened.
 void Workspace::CloseUntouched(HostView* view) {
-    if (!view || LastViewOf(view->Document()) != view || m_tools.Of(*view))
+    if (!view || LastViewOf(view->Document()) != view || m_tools.Latest(*view))
         return;
     HostDocument& document = view->Document();
     if (PathOf(document).isEmpty() && document.GetSizeNodi() == 0 && !document.IsModified() &&
@@ -129,7 +128,9 @@ bool Workspace::SaveAs(HostDocument& document, const QString& path) {
         return false;
     project->path = whole;
     project->name = file.fileName();
+    const CString formerPath = document.GetPathName();
     document.SetPathName(platform::FromQString(whole));
+    m_tools.Renamed(document, formerPath);
     document.MarkSaved();
     m_window->ScheduleRefresh();
     return true;

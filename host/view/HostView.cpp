@@ -73,6 +73,7 @@ CQuovarDoc* HostView::GetDocument() {
 }
 
 void HostView::StartDefinisciVettore(CString prompt, CString) {
+    m_owner.PickingStarted(*this, prompt);
     m_vector = {true, false, prompt, std::nullopt};
     m_widget->setCursor(Qt::CrossCursor);
     m_widget->update();
@@ -80,7 +81,7 @@ void HostView::StartDefinisciVettore(CString prompt, CString) {
 }
 
 void HostView::StopDefinisciVettore() {
-    if (!m_vector.active)
+    if (!m_vector.active || !m_owner.PickingStops(*this))
         return;
     m_vector = {};
     m_widget->unsetCursor();
@@ -266,11 +267,7 @@ bool HostView::Pick(CPoint at) {
     const bool second = m_vector.secondIsNext;
     m_vector.secondIsNext = !second;
     m_vector.from = second ? std::optional<CFPoint>() : point;
-    CDialogDocument* tool = m_owner.ToolOf(*this);
-    if (tool && second)
-        tool->SetVettoreTo(point);
-    else if (tool)
-        tool->SetVettoreFrom(point);
+    m_owner.PointPicked(*this, point, second);
     if (!m_closed) {
         m_widget->update();
         m_owner.ViewChanged(*this);
@@ -278,8 +275,15 @@ bool HostView::Pick(CPoint at) {
     return true;
 }
 
-void HostView::LeaveVectorMode() {
-    StopDefinisciVettore();
+void HostView::BreakOffVector() {
+    if (!m_owner.IsPicking(*this)) {
+        StopDefinisciVettore();
+        return;
+    }
+    m_vector.secondIsNext = false;
+    m_vector.from.reset();
+    m_widget->update();
+    m_owner.ViewChanged(*this);
 }
 
 CNodo* HostView::SnapNode(CPoint at) {
@@ -303,8 +307,8 @@ CString HostView::Prompt() const {
         return {};
     if (!m_vector.prompt.IsEmpty())
         return m_vector.prompt;
-    return m_vector.secondIsNext ? "Fare clic sul secondo nodo del vettore (Esc per terminare)."
-                                 : "Fare clic sul primo nodo del vettore (Esc per terminare).";
+    return m_vector.secondIsNext ? "Fare clic sul secondo nodo del vettore (Esc per ricominciare)."
+                                 : "Fare clic sul primo nodo del vettore.";
 }
 
 void HostView::Redraw() {
@@ -314,9 +318,6 @@ void HostView::Redraw() {
 
 // Sent from inside the dialog's OK or Cancel: its window goes now, the object when those handlers have returned.
 LRESULT HostView::OnFineDialogo(WPARAM wParam, LPARAM lParam) {
-    // A refused command leaves its dialog open with what was typed, for another try.
-    if (wParam == FINEDIALOGO_CONFERMATO && m_document.Selection().TakeRefusal())
-        return 0;
     if (wParam == FINEDIALOGO_CONFERMATO || wParam == FINEDIALOGO_ANNULLATO)
         m_owner.EndTool(*this, reinterpret_cast<const CDialogDocument*>(lParam));
     return 0;

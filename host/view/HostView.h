@@ -96,7 +96,9 @@ class HostView final : public CQuovarView, public DocumentObserver {
     // In vector definition the click picks; otherwise it replaces the selection, or toggles one object of it.
     void ClickAt(CPoint at, bool toggle);
     void SelectRectangle(CPoint a, CPoint b); // adds
-    void LeaveVectorMode();                   // the user's Escape
+    // The user's Escape: a pair begins again with its first point, a dialog that asks for single ones goes on asking.
+    // Without a dialog that picks the mode ends.
+    void BreakOffVector();
     // The node that a pick at the point would take; null when none is near.
     CNodo* SnapNode(CPoint at);
     CString Describe(CPoint at); // for the status bar: coordinates, of the node where one is near

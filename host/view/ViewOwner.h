@@ -2,7 +2,9 @@
 #pragma once
 
 class CDialogDocument;
+class CFPoint;
 class CObject;
+class CString;
 class CView;
 class QString;
 
@@ -14,8 +16,11 @@ class ViewOwner {
   public:
     virtual ~ViewOwner() = default;
 
-    // The tool dialog that works on the view; null when it has none.
-    virtual CDialogDocument* ToolOf(const HostView& view) const = 0;
+    // Picking for the dialogs beside the view; see ToolDialogs.
+    virtual bool IsPicking(const HostView& view) const = 0; // whether there is a dialog that the points go to
+    virtual void PickingStarted(const HostView& view, const CString& prompt) = 0;
+    virtual bool PickingStops(const HostView& view) = 0; // false when it is to go on
+    virtual void PointPicked(const HostView& view, const CFPoint& point, bool second) = 0;
     // The dialog asked to be ended. It may be any address: only a tool dialog of this view is ended.
     virtual void EndTool(HostView& view, const CDialogDocument* dialog) = 0;
     // The view's document changed; the arguments are those of CQuovarDoc::UpdateAllViews.

@@ -257,7 +257,7 @@ void ViewWidget::keyPressEvent(QKeyEvent* event) {
         m_drag = Drag::None;
         update();
     } else {
-        m_view.LeaveVectorMode();
+        m_view.BreakOffVector();
     }
 }
 

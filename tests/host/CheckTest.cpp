@@ -1,7 +1,7 @@
 // The model check in the application: messages from models that earn them, its window, and the check without windows.
+#include "host/commands/Check.h"
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
-#include "host/commands/Check.h"
 #include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"
 #include "platform/window/Application.h"

@@ -1,8 +1,7 @@
-// The main window, its views and the tool dialogs that belong to them.
+// The main window and its views.
 #include "host/ui/MainWindow.h"
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
-#include "dialogs/generation/DialogGenNodiLineare.h"
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
@@ -19,107 +18,10 @@
 
 using namespace host;
 
-namespace {
-
-// A tool dialog that notes what it is told.
-class Witness final : public CDialogDocument {
-  public:
-    explicit Witness(CWnd* parent) : CDialogDocument(CDialogGenNodiLineare::IDD, parent) { ++alive; }
-    ~Witness() override { --alive; }
-    void Update(CView*, long hint, CObject*) override { hints.push_back(hint); }
-    bool HasView() { return GetView() != nullptr; }
-    CQuovarDoc* Bound() { return GetDoc(); }
-
-    static std::unique_ptr<CDialog> Open(HostView& view, CWnd& frame) {
-        auto witness = std::make_unique<Witness>(&frame);
-        EXPECT_TRUE(witness->Create(&view));
-        return witness;
-    }
-
-    static inline std::vector<long> hints;
-    static inline int alive = 0;
-};
-
-const Command witnessRow = {.menu = CommandMenu::Prompts, .dialog = 0, .open = Witness::Open};
-
-} // namespace
-
-class MainWindowTest : public WorkspaceTest {
-  protected:
-    Witness* OpenWitness(HostView& view) {
-        return static_cast<Witness*>(m_workspace->Tools().Open(witnessRow, view, m_workspace->Window().Frame()));
-    }
-};
-
-// Catches a close request that is ignored for one of its two values, a dialog deleted inside its own handler (the
-// sanitizer sees it) or never, and a request for a dialog that is not the view's.
-TEST_F(MainWindowTest, CloseRequestEndsTheDialogForBothValues) {
-    for (const WPARAM value : {FINEDIALOGO_CONFERMATO, FINEDIALOGO_ANNULLATO}) {
-        Witness* dialog = OpenWitness(View());
-        ASSERT_TRUE(dialog);
-        View().SendMessage(WM_FINEDIALOGO, value, 0);
-        View().SendMessage(WM_FINEDIALOGO, value, reinterpret_cast<LPARAM>(&View()));
-        View().SendMessage(WM_FINEDIALOGO, 3, reinterpret_cast<LPARAM>(dialog));
-        EXPECT_TRUE(dialog->IsWindow());
-        if (value == FINEDIALOGO_CONFERMATO)
-            dialog->OnOK();
-        else
-            dialog->OnCancel();
-        EXPECT_FALSE(dialog->IsWindow()) << "the window goes at once";
-        EXPECT_EQ(Witness::alive, 1) << "the object waits for its handlers to return";
-        EXPECT_FALSE(m_workspace->ToolOf(View()));
-        CWinApp::PumpMessages();
-        EXPECT_EQ(Witness::alive, 0);
-    }
-}
-
-// Catches dialogs that pile up on a view, and changes told to the wrong document's dialog or twice.
-TEST_F(MainWindowTest, OneToolDialogPerViewHearsItsDocumentOnly) {
-    HostView& first = View();
-    OpenWitness(first);
-    Witness* dialog = OpenWitness(first);
-    CWinApp::PumpMessages();
-    EXPECT_EQ(Witness::alive, 1) << "opening another ends the former";
-    EXPECT_EQ(m_workspace->ToolOf(first), dialog);
-
-    HostView& other = m_workspace->NewDocument();
-    CWinApp::PumpMessages();
-    Witness::hints.clear();
-    other.Document().UpdateAllViews(nullptr, 77, nullptr);
-    EXPECT_TRUE(Witness::hints.empty());
-    first.Document().UpdateAllViews(nullptr, 77, nullptr);
-    EXPECT_EQ(Witness::hints, std::vector<long>{77});
-    m_workspace->NewView(first.Document());
-    Witness::hints.clear();
-    first.Document().UpdateAllViews(nullptr, 78, nullptr);
-    EXPECT_EQ(Witness::hints, std::vector<long>{78}) << "once, however many views the document has";
-}
-
-// Catches a dialog that dies with its view or keeps the pointer, one that is never offered the next view, and an
-// orphan that cannot be closed.
-TEST_F(MainWindowTest, ClosingAViewLeavesItsDialogWithoutOne) {
-    BuildSmallModel();
-    HostView& view = View();
-    Witness* dialog = OpenWitness(view);
-    EXPECT_EQ(dialog->Bound(), &view.Document());
-    EXPECT_TRUE(m_workspace->CloseView(view));
-    CWinApp::PumpMessages();
-    ASSERT_EQ(Witness::alive, 1);
-    EXPECT_TRUE(dialog->IsWindow());
-    EXPECT_FALSE(dialog->HasView());
-    dialog->OnOK();
-    EXPECT_TRUE(dialog->IsWindow()) << "without a view nobody is asked";
-
-    HostView& next = m_workspace->NewDocument();
-    EXPECT_EQ(dialog->Bound(), &next.Document());
-    EXPECT_EQ(m_workspace->ToolOf(next), dialog);
-    m_workspace->CloseView(next);
-    dialog->OnCancel();
-    EXPECT_TRUE(QTest::qWaitFor([] { return Witness::alive == 0; }, 3000)) << "a cancelled dialog without a view goes";
-}
+using MainWindowTest = WorkspaceTest;
 
 // Catches a second view that replaces the first, titles that do not tell them apart, a question for a view that is not
-// the last, and a camera shared by both.
+// the last, a camera shared by both, and a document without an active view while it has one.
 TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
     BuildSmallModel();
     HostView& first = View();
@@ -143,6 +45,15 @@ TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
 
     EXPECT_TRUE(m_workspace->CloseView(second)) << "no question: another view is left";
     CWinApp::PumpMessages();
+    EXPECT_EQ(m_workspace->ActiveView(), &first);
+    EXPECT_EQ(first.Document().GetViewStructure(), &first);
+    // One that is not the active one goes, and the other stays the document's.
+    EXPECT_TRUE(m_workspace->CloseView(m_workspace->NewView(first.Document())));
+    HostView& third = m_workspace->NewView(first.Document());
+    m_workspace->NewDocument();
+    EXPECT_TRUE(m_workspace->CloseView(third));
+    EXPECT_EQ(first.Document().GetViewStructure(), &first);
+    EXPECT_TRUE(m_workspace->CloseView(View()));
     EXPECT_EQ(m_workspace->ActiveView(), &first);
     m_user.ExpectMessage("Salvare le modifiche a \"Senza titolo 1\"?", IDCANCEL, MB_YESNOCANCEL | MB_ICONQUESTION);
     EXPECT_FALSE(m_workspace->CloseView(first));

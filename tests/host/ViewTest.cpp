@@ -57,8 +57,8 @@ TEST_F(ViewTest, PicksSnapToTheNearestNodeInPairs) {
     EXPECT_EQ(driver.Text(Generation::IDC_X2), "8");
 }
 
-// Catches a camera that ends the picking or eats a pick, and an Escape that leaves it on.
-TEST_F(ViewTest, CameraDoesNotInterruptPickingButEscapeDoes) {
+// Catches a camera that ends the picking or eats a pick, and an Escape that ends it for good or goes on with the pair.
+TEST_F(ViewTest, CameraDoesNotInterruptPickingAndEscapeBeginsThePairAgain) {
     BuildSmallModel();
     DialogDriver driver(*OpenLinear());
     Click(PixelOf(*Document().GetIndexNodo(1)));
@@ -78,12 +78,15 @@ TEST_F(ViewTest, CameraDoesNotInterruptPickingButEscapeDoes) {
     Click(PixelOf(*Document().GetIndexNodo(2)));
     EXPECT_EQ(driver.Text(Generation::IDC_X2), "8");
 
+    Click(PixelOf(*Document().GetIndexNodo(0)));
+    EXPECT_EQ(View().Prompt(), "Fare clic sul secondo nodo del vettore (Esc per ricominciare).");
     Press(Qt::Key_Escape);
-    EXPECT_FALSE(View().IsDefinisciVettore());
-    EXPECT_TRUE(driver.IsOpen()) << "only the mode ends";
-    Click(PixelOf(*Document().GetIndexNodo(3)));
-    EXPECT_EQ(driver.Text(Generation::IDC_X1), "4") << "the dialog gets no picks any more";
-    EXPECT_EQ(Selected(Document()), Elements{Document().GetIndexNodo(3)});
+    EXPECT_TRUE(View().IsDefinisciVettore());
+    EXPECT_TRUE(driver.IsOpen());
+    EXPECT_EQ(View().Prompt(), "Fare clic sul primo nodo del vettore.");
+    Click(PixelOf(*Document().GetIndexNodo(2)));
+    EXPECT_EQ(driver.Text(EditX1), "8") << "a first point";
+    EXPECT_EQ(driver.Text(EditX2), "8");
 }
 
 // Catches a restart that goes on with a second point, and a prompt that the status bar does not show.

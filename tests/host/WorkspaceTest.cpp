@@ -27,6 +27,8 @@ WorkspaceTest::WorkspaceTest() {
     m_workspace->Window().show();
     m_workspace->NewDocument();
     CWinApp::PumpMessages();
+    // A window manager takes its time to activate a window, and would take the keys from the next one.
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&m_workspace->Window()));
 }
 
 WorkspaceTest::~WorkspaceTest() {
@@ -120,7 +122,6 @@ CDialogDocument* WorkspaceTest::OpenTool(UINT id) {
     Trigger(id);
     CDialogDocument* dialog = m_workspace->ToolOf(View());
     EXPECT_TRUE(dialog) << "the dialog does not open";
-    // A window manager takes its time to give it the keys.
     EXPECT_TRUE(!dialog || QTest::qWaitForWindowActive(dialog->m_hWnd->widget));
     return dialog;
 }
