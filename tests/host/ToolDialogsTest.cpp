@@ -139,7 +139,7 @@ TEST_F(ToolDialogsTest, OneOfThemPicks) {
     EXPECT_EQ(twoPoints.Text(CDialogGenNodi2P::IDC_X1), "4");
     EXPECT_EQ(linear.Text(CDialogGenNodiLineare::IDC_X1), "0");
     ASSERT_TRUE(linear.IsOpen());
-    linear.Click(IDCANCEL);
+    linear.Press(VK_ESCAPE);
     CWinApp::PumpMessages();
     EXPECT_FALSE(linear.IsOpen());
     Click(PixelOf(Node(2)));

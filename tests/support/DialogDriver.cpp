@@ -58,11 +58,13 @@ void DialogDriver::Activate() {
     QApplication::processEvents();
     if (!IsOpen())
         return;
-    QWidget* top = m_widget->window();
-    if (!top->isVisible() || top->isActiveWindow())
+    QWidget* top = m_window->widget->window();
+    // The toolkit also calls a tool window active whose main window has the keys.
+    const auto active = [top] { return QApplication::activeWindow() == top; };
+    if (!top->isVisible() || active())
         return;
     top->activateWindow();
-    if (!QTest::qWaitForWindowActive(top, 2000))
+    if (!QTest::qWaitFor(active, 2000))
         ADD_FAILURE() << "the dialog does not become active: " << Caption();
 }
 
