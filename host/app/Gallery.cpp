@@ -85,7 +85,7 @@ bool TakeModal(Camera& camera, Workspace& workspace, const Command& command) {
             return;
         look.stop();
         ok = camera.Take(*top, FileNameOf(CaptionOf(command)));
-        static_cast<CDialog*>(peer->Window())->EndDialog(IDCANCEL);
+        dialog->EndDialog(IDCANCEL);
     });
     look.start(10);
     workspace.Run(command);
@@ -103,7 +103,7 @@ bool TakeTool(Camera& camera, Workspace& workspace, const Command& command) {
     CDialog* dialog = workspace.Run(command);
     if (!dialog)
         return false;
-    const bool taken = camera.Take(*dialog->m_hWnd->widget, FileNameOf(CaptionOf(command)));
+    const bool taken = camera.Take(*platform::WidgetOf(*dialog), FileNameOf(CaptionOf(command)));
     workspace.Tools().End(dialog);
     return taken;
 }

@@ -108,7 +108,7 @@ CDialog* ToolDialogs::Make(Tool& tool, CWnd& frame) {
     if (!tool.dialog)
         return nullptr;
     tool.tool = dynamic_cast<CDialogDocument*>(tool.dialog.get());
-    QWidget& window = *tool.dialog->m_hWnd->widget;
+    QWidget& window = *platform::WidgetOf(*tool.dialog);
     // Some end themselves.
     QObject::connect(&window, &QObject::destroyed, &m_orphanWatch, [this] { EndClosed(); });
     const bool inside = LiesInView(*tool.dialog);
@@ -122,7 +122,7 @@ CDialog* ToolDialogs::Make(Tool& tool, CWnd& frame) {
 
 CDialog* ToolDialogs::BringToFront(Tool& tool) {
     const QScopedValueRollback<Tool*> calling(m_caller, &tool);
-    QWidget& window = *tool.dialog->m_hWnd->widget;
+    QWidget& window = *platform::WidgetOf(*tool.dialog);
     if (window.isMinimized())
         window.showNormal();
     window.raise();
@@ -246,7 +246,7 @@ ToolDialogs::Tool* ToolDialogs::CallerOn(const HostView& view) const {
         return m_caller->view == &view ? m_caller : nullptr;
     const QWidget* active = QApplication::activeWindow();
     return FindLast([&](const Tool& each) {
-               return each.view == &view && each.dialog && each.dialog->m_hWnd && each.dialog->m_hWnd->widget == active;
+               return each.view == &view && each.dialog && active && platform::WidgetOf(*each.dialog) == active;
            })
         .get();
 }

@@ -79,7 +79,7 @@ TEST_F(ResultsWindows, FollowTheAnalysisAndTheModel) {
 TEST_F(ResultsWindows, EndsWithItsDocument) {
     BuildExample(Document());
     Document().Selection().Add(Document().GetIndexTrave(0));
-    ASSERT_TRUE(Document().RunAnalysis().done);
+    ASSERT_FALSE(Document().RunAnalysis().refusal);
     auto* diagrams = Open<CDialogDiagrammi>();
     ASSERT_TRUE(diagrams);
     diagrams->SendMessage(WM_COMMAND, CDialogDiagrammi::ID_DIAGRAMMI_VISUALIZZAVALORI);

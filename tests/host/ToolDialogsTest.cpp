@@ -6,6 +6,7 @@
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "model/element/Nodo.h"
+#include "platform/toolkit/Bridge.h"
 #include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
@@ -114,10 +115,10 @@ TEST_F(ToolDialogsTest, SeveralLiveBesideAView) {
     Witness* second = Open(secondRow);
     CWinApp::PumpMessages();
     EXPECT_EQ(Witness::alive, 2);
-    EXPECT_EQ(QApplication::activeWindow(), second->m_hWnd->widget);
+    EXPECT_EQ(QApplication::activeWindow(), platform::WidgetOf(*second));
     EXPECT_EQ(Open(witnessRow), dialog);
     CWinApp::PumpMessages();
-    EXPECT_EQ(QApplication::activeWindow(), dialog->m_hWnd->widget) << "it comes to the front";
+    EXPECT_EQ(QApplication::activeWindow(), platform::WidgetOf(*dialog)) << "it comes to the front";
     Open(otherKind);
     CWinApp::PumpMessages();
     EXPECT_EQ(Witness::alive, 2) << "it takes the place of the other kind";

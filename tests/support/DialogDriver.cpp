@@ -58,7 +58,7 @@ void DialogDriver::Activate() {
     QApplication::processEvents();
     if (!IsOpen())
         return;
-    QWidget* top = m_window->widget->window();
+    QWidget* top = m_widget->window();
     // The toolkit also calls a tool window active whose main window has the keys.
     const auto active = [top] { return QApplication::activeWindow() == top; };
     if (!top->isVisible() || active())
