@@ -1,54 +1,42 @@
 #include "model/values/Path.h"
 
-#include <cctype>
+#include "platform/core/Folder.h"
+
 #include <filesystem>
 #include <string>
 
 namespace {
 
 struct Parts {
-    std::string drive, dir, name, ext;
+    std::string_view dir, name, ext; // of the path's own bytes
 };
 
-Parts Split(const CString& path) {
-    std::string_view rest = path.View();
+Parts Split(std::string_view path) {
     Parts parts;
-    if (rest.size() > 1 && rest[1] == ':' && std::isalpha(static_cast<unsigned char>(rest[0]))) {
-        parts.drive = rest.substr(0, 2);
-        rest.remove_prefix(2);
-    }
-    const std::size_t separator = rest.find_last_of("/\\");
-    if (separator != std::string_view::npos) {
-        parts.dir = rest.substr(0, separator + 1);
-        rest.remove_prefix(separator + 1);
-    }
+    // Nothing found makes the beginning of a bare name.
+    const std::size_t begin = path.rfind('/') + 1;
+    parts.dir = path.substr(0, begin);
+    parts.name = path.substr(begin);
     // A leading full stop is part of the name of a hidden file, not the start of an extension.
-    const std::size_t stop = rest.rfind('.');
-    if (stop == std::string_view::npos || stop == 0) {
-        parts.name = rest;
-    } else {
-        parts.name = rest.substr(0, stop);
-        parts.ext = rest.substr(stop);
+    const std::size_t stop = parts.name.rfind('.');
+    if (stop != std::string_view::npos && stop != 0) {
+        parts.ext = parts.name.substr(stop);
+        parts.name = parts.name.substr(0, stop);
     }
     return parts;
-}
-
-// The disk's names are UTF-8; the application's texts are not.
-std::filesystem::path OnDisk(const CString& path) {
-    return std::filesystem::path(path.ToUtf8());
 }
 
 } // namespace
 
 int SplitPath(CString path, CString* drive, CString* dir, CString* name, CString* ext) {
-    const Parts parts = Split(path);
+    const Parts parts = Split(path.View());
     if (parts.name.empty())
         return 0;
-    const auto give = [](CString* output, const std::string& part) {
+    const auto give = [](CString* output, std::string_view part) {
         if (output)
-            *output = CString(std::string_view(part));
+            *output = CString(part);
     };
-    give(drive, parts.drive);
+    give(drive, {});
     give(dir, parts.dir);
     give(name, parts.name);
     give(ext, parts.ext);
@@ -56,28 +44,22 @@ int SplitPath(CString path, CString* drive, CString* dir, CString* name, CString
 }
 
 CString GetFileName(CString path) {
-    const Parts parts = Split(path);
-    return CString(std::string_view(parts.name + parts.ext));
+    return CString(path.View().substr(Split(path.View()).dir.size()));
 }
 
 CString GetExtension(CString path) {
-    const Parts parts = Split(path);
-    return parts.ext.empty() ? CString() : CString(std::string_view(parts.ext).substr(1));
+    return CString(Split(path.View()).ext);
 }
 
 CString GetFileDirectory(CString path) {
-    const Parts parts = Split(path);
-    std::string folder = parts.drive + parts.dir;
-    if (parts.dir.size() > 1)
-        folder.pop_back();
-    return CString(std::string_view(folder));
+    return CString(Split(path.View()).dir);
 }
 
 CString ChangeExt(CString path, CString ext) {
-    const Parts parts = Split(path);
+    const Parts parts = Split(path.View());
     if (parts.name.empty())
         return path;
-    std::string changed = parts.drive + parts.dir + parts.name;
+    std::string changed(path.View().substr(0, path.View().size() - parts.ext.size()));
     if (!ext.IsEmpty() && ext[0] != '.')
         changed += '.';
     changed += ext.View();
@@ -86,13 +68,17 @@ CString ChangeExt(CString path, CString ext) {
 
 int IsDirectory(CString path) {
     std::error_code ignored;
-    return std::filesystem::is_directory(OnDisk(path), ignored) ? 1 : 0;
+    return std::filesystem::is_directory(path.ToUtf8(), ignored) ? 1 : 0;
 }
 
-int Del(CString path) {
-    std::error_code error;
-    const std::filesystem::path file = OnDisk(path);
-    if (std::filesystem::is_directory(std::filesystem::symlink_status(file, error)))
-        return 0;
-    return std::filesystem::remove(file, error) && !error ? 1 : 0;
+int Del(CString pattern) {
+    const CString folder = GetFileDirectory(pattern);
+    int deleted = 0;
+    for (const FolderEntry& entry : ListFolder(folder, GetFileName(pattern)))
+        if (!entry.isFolder) {
+            if (!RemoveFile(folder + entry.name))
+                return 0;
+            deleted = 1;
+        }
+    return deleted;
 }

@@ -55,17 +55,18 @@ TEST(UnitsTest, QuantitiesConvertByTheirDimension) {
     EXPECT_STREQ(CGrandezza::_GetStringLunghezza(static_cast<Lunghezza>(-1)), "");
 }
 
-// Faults: one of the two separators forgotten, a full stop in a folder taken for an extension, a hidden file without
-// name.
-TEST(PathTest, SplitsPathsOfBothKinds) {
-    const char* const cases[][5] = {{"C:\\lavori\\v1.2\\ponte.asg", "C:", "\\lavori\\v1.2\\", "ponte", ".asg"},
-                                    {"/home/ing/v1.2/telaio", "", "/home/ing/v1.2/", "telaio", ""},
-                                    {".nascosto", "", "", ".nascosto", ""},
-                                    {"a.b.asg", "", "", "a.b", ".asg"}};
-    for (const auto& [path, drive, dir, name, ext] : cases) {
-        CString parts[4];
+// Faults: a separator or a drive of another system looked for, a full stop in a folder taken for an extension, a hidden
+// file without name.
+TEST(PathTest, SplitsPaths) {
+    const char* const cases[][4] = {{"/home/ing/v1.2/ponte.asg", "/home/ing/v1.2/", "ponte", ".asg"},
+                                    {"/home/ing/v1.2/telaio", "/home/ing/v1.2/", "telaio", ""},
+                                    {"C:\\lavori\\ponte.asg", "", "C:\\lavori\\ponte", ".asg"},
+                                    {".nascosto", "", ".nascosto", ""},
+                                    {"a.b.asg", "", "a.b", ".asg"}};
+    for (const auto& [path, dir, name, ext] : cases) {
+        CString parts[4] = {"x"};
         ASSERT_TRUE(SplitPath(path, &parts[0], &parts[1], &parts[2], &parts[3]));
-        EXPECT_TRUE(parts[0] == drive && parts[1] == dir && parts[2] == name && parts[3] == ext) << path;
+        EXPECT_TRUE(parts[0] == "" && parts[1] == dir && parts[2] == name && parts[3] == ext) << path;
         EXPECT_TRUE(SplitPath(path, nullptr, nullptr, nullptr, nullptr));
     }
 }
@@ -73,17 +74,18 @@ TEST(PathTest, SplitsPathsOfBothKinds) {
 // Fault: a caption made of nothing. Failing leaves the outputs alone.
 TEST(PathTest, RefusesPathsWithoutAFileName) {
     CString name = "prima";
-    for (const char* path : {"", "/", "C:", "C:\\lavori\\", "/home/ing/"})
+    for (const char* path : {"", "/", "/home/ing/"})
         EXPECT_FALSE(SplitPath(path, nullptr, nullptr, &name, nullptr)) << path;
     EXPECT_STREQ(name, "prima");
 }
 
+// A folder and a mask put behind each other make the pattern again, so both parts keep all that they have.
 TEST(PathTest, NamesTheParts) {
     EXPECT_STREQ(GetFileName("/a/b/ponte.asg"), "ponte.asg");
     EXPECT_STREQ(GetFileName("/a/b/"), "");
     EXPECT_STREQ(GetExtension("/a.b/ponte"), "");
-    EXPECT_STREQ(GetExtension("ponte.asg"), "asg");
-    EXPECT_STREQ(GetFileDirectory("/a/b/ponte.asg"), "/a/b");
+    EXPECT_STREQ(GetExtension("ponte.asg"), ".asg");
+    EXPECT_STREQ(GetFileDirectory("/a/b/*.asg"), "/a/b/");
     EXPECT_STREQ(GetFileDirectory("/ponte.asg"), "/");
     EXPECT_STREQ(GetFileDirectory("ponte.asg"), "");
     EXPECT_STREQ(ChangeExt("/a.b/ponte.asg", "inp"), "/a.b/ponte.inp");
@@ -92,21 +94,22 @@ TEST(PathTest, NamesTheParts) {
     EXPECT_STREQ(ChangeExt("/a.b/", "inp"), "/a.b/");
 }
 
-// Faults: a name with accents looked up in the wrong character set, a folder deleted as if it were a file.
+// Faults: a name with accents looked up in the wrong character set, a folder or a neighbour deleted by the pattern.
 TEST(PathTest, WorksOnTheDisk) {
     const std::filesystem::path root =
         std::filesystem::temp_directory_path() / ("quovar_perché_" + std::to_string(getpid()));
-    std::filesystem::create_directory(root);
+    std::filesystem::create_directories(root / "ponte.d");
     const CString folder = CString::FromUtf8(root.string());
-    const CString file = folder + "/modello.asg";
-    std::ofstream(root / "modello.asg") << "x";
+    for (const char* name : {"ponte.asg", "PONTE.inp", "ponte2.asg"})
+        std::ofstream(root / name) << "x";
 
     EXPECT_TRUE(IsDirectory(folder));
-    EXPECT_FALSE(IsDirectory(file));
+    EXPECT_FALSE(IsDirectory(folder + "/ponte.asg"));
     EXPECT_FALSE(Del(folder));
-    EXPECT_TRUE(Del(file));
-    EXPECT_FALSE(std::filesystem::exists(root / "modello.asg"));
-    EXPECT_FALSE(Del(file));
+    EXPECT_TRUE(Del(folder + "/ponte.*"));
+    EXPECT_FALSE(Del(folder + "/ponte.*")); // nothing is left that it may delete
+    EXPECT_FALSE(std::filesystem::exists(root / "ponte.asg") || std::filesystem::exists(root / "PONTE.inp"));
+    EXPECT_TRUE(std::filesystem::exists(root / "ponte.d") && std::filesystem::exists(root / "ponte2.asg"));
     std::filesystem::remove_all(root);
     EXPECT_FALSE(IsDirectory(folder));
 }
