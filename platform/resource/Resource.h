@@ -12,7 +12,7 @@
 namespace platform {
 
 struct ControlTemplate {
-    enum class Kind { Button, Edit, Static, ListBox, ComboBox, ScrollBar, Custom };
+    enum class Kind { Button, Edit, Static, ListBox, ComboBox, Custom };
 
     Kind kind;
     const char* className; // window class; says what a Custom control is, for example "msctls_updown32"

@@ -295,6 +295,9 @@ TEST_F(Compiler, FaultsEndTheBuildWithTheirPlace) {
         {"CONTROL \"\", 5, \"Dial\", 0, 0, 0, 6, 8", "t.rc:4: unknown class \"Dial\""},
         {"CONTROL 8, 5, \"Static\", SS_BITMAP, 0, 0, 6, 8", "t.rc:4: bitmap 8 is missing"},
         {"LTEXT \"\u0416\", 5, 0, 0, 9, 8", "t.rc:4: \"\u0416\" has characters outside the code page"},
+        // The window layer makes no scroll bar of its own: the dialog would open without it.
+        {"SCROLLBAR 5, 0, 0, 9, 8", "t.rc:4: unknown control SCROLLBAR"},
+        {"CONTROL \"\", 5, \"ScrollBar\", 0, 0, 0, 6, 8", "t.rc:4: unknown class \"ScrollBar\""},
         {"KNOB 5, 0, 0, 9, 8", "t.rc:4: unknown control KNOB"},
         {"EDITTEXT IDC_NONE, 0, 0, 9, 8", "t.rc:4: unknown name IDC_NONE"},
         {"LTEXT \"a, 5, 0, 0, 9, 8", "t.rc:4: text without closing quote"},

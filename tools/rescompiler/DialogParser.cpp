@@ -19,7 +19,7 @@ struct DialogParser::Statement {
 };
 
 const DialogParser::Statement* DialogParser::FindStatement(const Token& token) {
-    static constexpr std::array<Statement, 16> statements = {{
+    static constexpr std::array<Statement, 15> statements = {{
         {"LTEXT", "Static", SS_LEFT | WS_GROUP, 0, true},
         {"CTEXT", "Static", SS_CENTER | WS_GROUP, 0, true},
         {"RTEXT", "Static", SS_RIGHT | WS_GROUP, 0, true},
@@ -35,7 +35,6 @@ const DialogParser::Statement* DialogParser::FindStatement(const Token& token) {
         {"GROUPBOX", "Button", BS_GROUPBOX, 0, true},
         {"LISTBOX", "ListBox", LBS_NOTIFY | WS_BORDER, 0, false},
         {"COMBOBOX", "ComboBox", CBS_SIMPLE | WS_TABSTOP, CBS_DROPDOWNLIST, false},
-        {"SCROLLBAR", "ScrollBar", 0, 0, false},
     }};
     std::string word = token.text;
     std::ranges::transform(word, word.begin(), [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
@@ -122,7 +121,7 @@ Control DialogParser::ParseControl() {
 }
 
 void DialogParser::ParseStatement(Control& control, const Statement& statement) {
-    const WindowClass windowClass = *FindWindowClass(statement.className);
+    const platform::ControlClass windowClass = *FindWindowClass(statement.className);
     control.kind = windowClass.kind;
     control.className = windowClass.name;
     if (statement.hasText) {

@@ -12,8 +12,6 @@
 namespace rescompiler {
 namespace {
 
-using Kind = platform::ControlTemplate::Kind;
-
 // The window layer's own constants, so that a script and a control can never disagree on a bit.
 const std::unordered_map<std::string, std::uint32_t>& Styles() {
     static const std::unordered_map<std::string, std::uint32_t> styles = {
@@ -146,8 +144,6 @@ const std::unordered_map<std::string, std::uint32_t>& Styles() {
         {"DS_3DLOOK", 0x04},
         {"DS_CONTEXTHELP", 0x2000},
         {"LBS_STANDARD", LBS_NOTIFY | LBS_SORT | WS_VSCROLL | WS_BORDER},
-        {"SBS_HORZ", 0},
-        {"SBS_VERT", 1},
         {"LANG_ITALIAN", 0x10},
         {"SUBLANG_ITALIAN", 0x01},
     };
@@ -163,18 +159,6 @@ constexpr std::array<std::pair<const char*, int>, 8> standardIds = {{
     {"IDYES", IDYES},
     {"IDNO", IDNO},
     {"IDC_STATIC", IDC_STATIC},
-}};
-
-constexpr std::array<WindowClass, 9> classes = {{
-    {Kind::Button, "Button"},
-    {Kind::Edit, "Edit"},
-    {Kind::Static, "Static"},
-    {Kind::ListBox, "ListBox"},
-    {Kind::ComboBox, "ComboBox"},
-    {Kind::ScrollBar, "ScrollBar"},
-    {Kind::Custom, "msctls_updown32"},
-    {Kind::Custom, "SysTreeView32"},
-    {Kind::Custom, "SysListView32"},
 }};
 
 bool SameName(const std::string& left, const std::string& right) {
@@ -194,9 +178,10 @@ std::optional<int> StandardId(const std::string& name) {
     return found == standardIds.end() ? std::nullopt : std::optional(found->second);
 }
 
-std::optional<WindowClass> FindWindowClass(const std::string& name) {
-    const auto found = std::ranges::find_if(classes, [&](const WindowClass& c) { return SameName(c.name, name); });
-    return found == classes.end() ? std::nullopt : std::optional(*found);
+std::optional<platform::ControlClass> FindWindowClass(const std::string& name) {
+    const auto found = std::ranges::find_if(platform::controlClasses,
+                                            [&](const platform::ControlClass& c) { return SameName(c.name, name); });
+    return found == platform::controlClasses.end() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace rescompiler

@@ -1,7 +1,7 @@
 // Names of styles, standard controls and window classes that every script knows.
 #pragma once
 
-#include "platform/resource/Resource.h"
+#include "platform/resource/ControlClasses.h"
 
 #include <cstdint>
 #include <optional>
@@ -15,12 +15,7 @@ std::optional<std::uint32_t> StyleValue(const std::string& name);
 // Number of a control that every dialog may have: IDOK, IDCANCEL, ..., IDC_STATIC; nothing for another name.
 std::optional<int> StandardId(const std::string& name);
 
-struct WindowClass {
-    platform::ControlTemplate::Kind kind;
-    const char* name; // in the spelling of the window layer
-};
-
 // Class of that name without regard to case; nothing for one that the window layer does not make.
-std::optional<WindowClass> FindWindowClass(const std::string& name);
+std::optional<platform::ControlClass> FindWindowClass(const std::string& name);
 
 } // namespace rescompiler

@@ -36,8 +36,6 @@ const char* KindName(platform::ControlTemplate::Kind kind) {
         return "ListBox";
     case Kind::ComboBox:
         return "ComboBox";
-    case Kind::ScrollBar:
-        return "ScrollBar";
     case Kind::Custom:
         break;
     }

@@ -1,23 +1,20 @@
 #include "platform/private/peers/Controls.h"
+#include "platform/resource/ControlClasses.h"
 
 #include <QApplication>
 #include <QKeyEvent>
+
+#include <algorithm>
+#include <array>
 
 namespace platform {
 
 namespace {
 
-struct ControlClass {
-    const char* name;
-    WindowPeer* (*create)(const ControlSpec&, WindowPeer&);
-};
-
-constexpr ControlClass classes[] = {
-    {"STATIC", CreateStatic},      {"EDIT", CreateEdit},
-    {"BUTTON", CreateButton},      {"LISTBOX", CreateListBox},
-    {"COMBOBOX", CreateComboBox},  {"msctls_updown32", CreateSpin},
-    {"SysTreeView32", CreateTree}, {"SysListView32", CreateListCtrl},
-};
+// One for each class, in the classes' order.
+constexpr std::array creators = {CreateStatic,   CreateEdit, CreateButton, CreateListBox,
+                                 CreateComboBox, CreateSpin, CreateTree,   CreateListCtrl};
+static_assert(creators.size() == controlClasses.size());
 
 // Keys whose real press sends no WM_CHAR.
 bool IsNavigation(WPARAM key) {
@@ -38,10 +35,9 @@ void ApplySpec(WindowPeer& peer, const ControlSpec& spec) {
 }
 
 WindowPeer* CreateControl(const ControlSpec& spec, WindowPeer& parent) {
-    for (const ControlClass& each : classes)
-        if (CompareNoCase(each.name, spec.className) == 0)
-            return each.create(spec, parent);
-    return nullptr;
+    const auto found = std::ranges::find_if(
+        controlClasses, [&](const ControlClass& each) { return CompareNoCase(each.name, spec.className) == 0; });
+    return found == controlClasses.end() ? nullptr : creators[found - controlClasses.begin()](spec, parent);
 }
 
 bool PlayKey(WindowPeer& peer, UINT message, WPARAM wParam) {
