@@ -9,6 +9,7 @@
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
 #include "model/values/Units.h"
+#include "platform/toolkit/HostToolBar.h"
 
 #include <QAction>
 #include <QApplication>
@@ -22,7 +23,6 @@
 #include <QMimeData>
 #include <QStatusBar>
 #include <QTimer>
-#include <QToolBar>
 #include <QUrl>
 
 #include <algorithm>
@@ -127,7 +127,8 @@ void MainWindow::BuildStatusBar() {
 }
 
 void MainWindow::BuildToolBar() {
-    QToolBar* bar = addToolBar("Principale");
+    auto* bar = new platform::HostToolBar(Handle(), "Principale");
+    addToolBar(bar);
     bar->setObjectName("principale");
     bar->setIconSize(QSize(20, 20));
     for (const char* name : {"file.nuovo", "file.apri", "file.salva", "modifica.annulla", "modifica.ripristina"})
@@ -157,6 +158,14 @@ void MainWindow::AddView(HostView& view) {
     window->setWindowIcon(windowIcon());
     m_area->addSubWindow(window);
     window->show();
+}
+
+std::vector<CToolBar*> MainWindow::ToolBars() const {
+    std::vector<CToolBar*> bars;
+    for (QToolBar* each : findChildren<QToolBar*>())
+        if (auto* bar = dynamic_cast<platform::HostToolBar*>(each))
+            bars.push_back(&bar->Bar());
+    return bars;
 }
 
 QMdiSubWindow* MainWindow::WindowOf(const HostView& view) const {

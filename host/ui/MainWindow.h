@@ -48,6 +48,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     HostFrame& Frame() { return m_frame; }
     WaitIndicator& Wait() { return *m_wait; }
     QMdiArea& Area() { return *m_area; }
+    std::vector<CToolBar*> ToolBars() const; // owned by their windows
 
     void AddView(HostView& view);
     void RemoveView(HostView& view); // the view closes itself

@@ -1,11 +1,11 @@
-// The host's main window, as the dialogs use it: the wait bar and the table area.
+// The host's main window, as the dialogs use it: the wait bar, the table area, the tool bars.
 #pragma once
 
+#include "platform/controls/ToolBar.h"
 #include "platform/core/Geometry.h"
 #include "platform/core/String.h"
-#include "platform/window/Window.h"
 
-class CMainFrame : public CWnd {
+class CMainFrame : public CFrameWnd {
   public:
     // The wait bar, sized for nPassi steps. Without an installed host all three do nothing.
     static void _InizioAttesa(CString messaggio, unsigned int nPassi);
