@@ -1,13 +1,14 @@
 #include "platform/window/Application.h"
 
 #include "platform/core/Exception.h"
+#include "platform/private/events/KeypadDecimal.h"
+#include "platform/private/paint/DialogStyle.h"
 #include "platform/private/paint/Fonts.h"
 #include "platform/private/peers/WindowPeer.h"
 
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
-#include <QProxyStyle>
 #include <QPushButton>
 
 #include <clocale>
@@ -54,18 +55,6 @@ class ToolkitApplication : public QApplication {
 namespace {
 
 CWinApp* theApplication = nullptr;
-
-// Boxes and their labels stand a little closer together: templates give them the classic width.
-class DialogStyle : public QProxyStyle {
-  public:
-    DialogStyle() : QProxyStyle("Fusion") {}
-
-    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-        if (metric == PM_CheckBoxLabelSpacing || metric == PM_RadioButtonLabelSpacing)
-            return 3;
-        return QProxyStyle::pixelMetric(metric, option, widget);
-    }
-};
 
 // A light look of our own, whatever the desktop's: drawings are made for a light ground.
 QPalette DialogPalette() {
@@ -134,7 +123,8 @@ CWinApp::CWinApp(LPCTSTR name, int& argc, char** argv) : m_pszAppName(name) {
     // The toolkit has just adopted the machine's locale; printf and the exchange need the decimal point.
     std::setlocale(LC_NUMERIC, "C");
     QLocale::setDefault(QLocale::c());
-    QApplication::setStyle(new DialogStyle);
+    QApplication::setStyle(new platform::DialogStyle);
+    m_toolkit->installEventFilter(new platform::KeypadDecimal(m_toolkit.get()));
     QApplication::setPalette(DialogPalette());
     QApplication::setFont(platform::ToolkitFont("MS Sans Serif", 11, 400, false));
     QApplication::setApplicationName(platform::ToQString(name));

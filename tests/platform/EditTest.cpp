@@ -5,6 +5,9 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QWindow>
 
 namespace {
 
@@ -24,6 +27,8 @@ class Edit : public testing::Test {
 TEST_F(Edit, EveryChangeTellsUpdateAndThenChange) {
     const Log change{Told(100, EN_UPDATE), Told(100, EN_CHANGE)};
     m_edit.SetWindowText("abc"); // a dialog that follows its own writing relies on it
+    EXPECT_EQ(WithoutFocus(m_dialog.Take()), change);
+    m_edit.SetWindowText("abc"); // the same again: dialogs count one notification for each writing
     EXPECT_EQ(WithoutFocus(m_dialog.Take()), change);
     m_user.Click(100);
     m_dialog.Take();
@@ -117,6 +122,50 @@ TEST(EditStyles, AFieldOfSeveralLinesKeepsItsLineEndsAndLeavesTheDialogItsKeys) 
     EXPECT_EQ(edit.GetWindowText(), CString("uno\r\ntre\r\nq"));
     dialog.user.Press(VK_TAB);
     EXPECT_EQ(dialog.user.Focus(), 101);
+}
+
+TEST(EditStyles, OfSeveralLinesOnlyTheProgramsReplacingIsTold) {
+    ControlDialog dialog(OneEdit(ES_MULTILINE));
+    auto& edit = dialog.Control<CEdit>(100);
+    edit.SetWindowText("uno");
+    EXPECT_EQ(WithoutFocus(dialog.Take()), Log{});
+    edit.ReplaceSel("due");
+    EXPECT_EQ(WithoutFocus(dialog.Take()), (Log{Told(100, EN_UPDATE), Told(100, EN_CHANGE)}));
+}
+
+// Faults: question marks from characters outside the code page, and a load that loses the sign it had in a sheet.
+TEST(EditStyles, PastedAndComposedTextsHoldOnlyTheCodePage) {
+    ControlDialog dialog(ControlRows()
+                             .Edit(100)
+                             .Edit(101, ES_MULTILINE)
+                             .Add("COMBOBOX", "", 102, CBS_DROPDOWN | WS_TABSTOP)
+                             .Edit(103, ES_NUMBER));
+    const QString foreign = QString::fromUtf8("\u2212 5,Ωe\u0300€");
+    QApplication::clipboard()->setText(foreign);
+    for (const int id : {100, 101, 102}) {
+        dialog.user.Click(id);
+        dialog.user.Press('V', CtrlKey);
+        EXPECT_EQ(dialog.user.Text(id), "- 5,è€") << id;
+    }
+    QApplication::clipboard()->clear();
+    const std::pair<int, const char*> composed[] = {{100, "- 5,è€"}, {101, "- 5,è€"}, {103, "5"}};
+    for (const auto& [id, text] : composed) {
+        dialog.SetDlgItemText(id, "");
+        dialog.user.Click(id);
+        QInputMethodEvent commit;
+        commit.setCommitString(foreign);
+        QApplication::sendEvent(QApplication::focusWidget(), &commit);
+        EXPECT_EQ(dialog.user.Text(id), text) << id;
+    }
+}
+
+// Italian keyboards have the comma on the keypad; the main keyboard's stays one.
+TEST_F(Edit, TheKeypadsDecimalKeyGivesTheFullStop) {
+    m_user.Click(100);
+    QWindow* window = QApplication::focusWindow();
+    QTest::sendKeyEvent(QTest::Click, window, Qt::Key_Comma, ",", Qt::KeypadModifier);
+    QTest::sendKeyEvent(QTest::Click, window, Qt::Key_Comma, ",", Qt::NoModifier);
+    EXPECT_EQ(m_user.Text(100), ".,");
 }
 
 // Cells copied from a sheet bring line ends; a clipboard may hold anything.

@@ -2,12 +2,14 @@
 
 #include "platform/controls/Edit.h"
 #include "platform/private/peers/Controls.h"
+#include "platform/private/peers/EditText.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTextBlock>
-#include <QValidator>
 
 #include <algorithm>
 
@@ -38,47 +40,10 @@ void ShowReadOnly(QWidget& widget, bool readOnly) {
     widget.setPalette(palette);
 }
 
-CString InCase(const CString& text, DWORD style) {
-    CString result = text;
-    if (style & ES_UPPERCASE)
-        result.MakeUpper();
-    else if (style & ES_LOWERCASE)
-        result.MakeLower();
-    return result;
-}
-
-// What a key may type into a field of that style; empty when it types nothing there. Characters outside the code page
-// would turn into question marks as soon as the program reads them.
-QString TypedText(const QString& text, DWORD style) {
-    if (text.isEmpty() || !text.at(0).isPrint())
-        return text;
-    const CString bytes = FromQString(text);
-    if (bytes.Find('?') >= 0 && !text.contains(QLatin1Char('?')))
-        return {};
-    const auto notDigit = [](QChar c) { return c < QLatin1Char('0') || c > QLatin1Char('9'); };
-    if ((style & ES_NUMBER) && std::any_of(text.begin(), text.end(), notDigit))
-        return {};
-    return ToQString(InCase(bytes, style));
-}
-
 bool IsTyping(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().at(0).isPrint() &&
            !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
 }
-
-// A field of one line holds no line ends: a number copied from a sheet brings one along and would be no number.
-class OneLine : public QValidator {
-  public:
-    using QValidator::QValidator;
-    State validate(QString& input, int& caret) const override {
-        const auto isLineEnd = [](QChar c) { return c == QLatin1Char('\n') || c == QLatin1Char('\r'); };
-        if (std::any_of(input.begin(), input.end(), isLineEnd)) {
-            caret -= static_cast<int>(std::count_if(input.begin(), input.begin() + caret, isLineEnd));
-            input.removeIf(isLineEnd);
-        }
-        return Acceptable;
-    }
-};
 
 CString WithLineEnds(const QString& text) {
     QString lines = text;
@@ -103,7 +68,7 @@ LineEditPeer::LineEditPeer(const ControlSpec& spec, WindowPeer& parentPeer)
         setEchoMode(Password);
     if (spec.style & ES_READONLY)
         SetReadOnly(true);
-    setValidator(new OneLine(this));
+    setValidator(new LineValidator(spec.style, this));
     LineEditPeer::SetText(spec.text);
     connect(this, &QLineEdit::textChanged, this, [this] { TellChange(*this); });
 }
@@ -114,10 +79,13 @@ CString LineEditPeer::Text() const {
 
 void LineEditPeer::SetText(const CString& text) {
     const QString shown = ToQString(InCase(text, WindowPeer::style));
+    const bool same = shown == QLineEdit::text();
     AllowLength(static_cast<int>(shown.size()));
     QLineEdit::setText(shown);
     if (!hasFocus())
         setCursorPosition(0); // a long text shows its beginning
+    if (same)
+        TellChange(*this); // the toolkit tells nothing of it; dialogs count each writing of theirs
 }
 
 std::unique_ptr<CWnd> LineEditPeer::MakeObject() const {
@@ -198,6 +166,16 @@ void LineEditPeer::keyPressEvent(QKeyEvent* event) {
     QLineEdit::keyPressEvent(&changed);
 }
 
+// Keys that the system makes one character of, such as an accent and its letter, arrive past the key events.
+void LineEditPeer::inputMethodEvent(QInputMethodEvent* event) {
+    AllowLength(static_cast<int>(QLineEdit::text().size()));
+    QInputMethodEvent typed(event->preeditString(), event->attributes());
+    typed.setCommitString(TypedText(event->commitString(), WindowPeer::style), event->replacementStart(),
+                          event->replacementLength());
+    QLineEdit::inputMethodEvent(&typed);
+    event->setAccepted(typed.isAccepted());
+}
+
 TextEditPeer::TextEditPeer(const ControlSpec& spec, WindowPeer& parentPeer)
     : HostedScrollArea<QPlainTextEdit>(&parentPeer, parentPeer.Surface()) {
     ApplySpec(*this, spec);
@@ -219,8 +197,10 @@ CString TextEditPeer::Text() const {
 
 void TextEditPeer::SetText(const CString& text) {
     const QString shown = WithoutReturns(InCase(text, WindowPeer::style));
-    if (shown != toPlainText())
+    if (shown != toPlainText()) {
+        const QSignalBlocker silent(this); // of a field of several lines only the user's changes are told
         setPlainText(shown);
+    }
     document()->setModified(false);
 }
 
@@ -313,12 +293,23 @@ void TextEditPeer::keyPressEvent(QKeyEvent* event) {
 void TextEditPeer::insertFromMimeData(const QMimeData* source) {
     if (!source || !source->hasText())
         return;
-    CString inserted = WithLineEnds(WithoutReturns(FromQString(source->text())));
-    if (m_limit > 0) {
-        const auto [start, end] = Selection();
-        inserted = inserted.Left(std::max(0, m_limit - (Text().GetLength() - (end - start))));
-    }
-    Insert(inserted);
+    Insert(WithinLimit(WithLineEnds(WithoutReturns(FromQString(InCodePage(source->text()))))));
+}
+
+CString TextEditPeer::WithinLimit(const CString& inserted) const {
+    if (m_limit <= 0)
+        return inserted;
+    const auto [start, end] = Selection();
+    return inserted.Left(std::max(0, m_limit - (Text().GetLength() - (end - start))));
+}
+
+void TextEditPeer::inputMethodEvent(QInputMethodEvent* event) {
+    const QString text = TypedText(event->commitString(), WindowPeer::style);
+    QInputMethodEvent typed(event->preeditString(), event->attributes());
+    typed.setCommitString(ToQString(WithinLimit(FromQString(text))), event->replacementStart(),
+                          event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(&typed);
+    event->setAccepted(typed.isAccepted());
 }
 
 WindowPeer* CreateEdit(const ControlSpec& spec, WindowPeer& parent) {

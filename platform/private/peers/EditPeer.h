@@ -62,6 +62,7 @@ class LineEditPeer final : public Hosted<QLineEdit>, public EditControl {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
 
   private:
     bool PlayKey(UINT message, WPARAM wParam);
@@ -99,11 +100,13 @@ class TextEditPeer final : public HostedScrollArea<QPlainTextEdit>, public EditC
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
 
   private:
     int ToBytes(int position) const; // a line end is one character in the toolkit, two here
     int FromBytes(int position) const;
+    CString WithinLimit(const CString& inserted) const; // what of it the user may still enter
 
     int m_limit = 0; // 0 for none
 };
