@@ -41,7 +41,7 @@ int CComboBox::InsertString(int row, LPCTSTR text) {
 
 int CComboBox::DeleteString(UINT row) {
     ComboBoxPeer* box = Combo(m_hWnd);
-    return box && box->Remove(static_cast<int>(row)) ? box->count() : CB_ERR;
+    return box && box->Remove(static_cast<int>(row)) ? box->Count() : CB_ERR;
 }
 
 void CComboBox::ResetContent() {
@@ -51,38 +51,38 @@ void CComboBox::ResetContent() {
 
 int CComboBox::GetCount() const {
     const ComboBoxPeer* box = Combo(m_hWnd);
-    return box ? box->count() : CB_ERR;
+    return box ? box->Count() : CB_ERR;
 }
 
 int CComboBox::GetLBText(int row, LPSTR buffer) const {
     const ComboBoxPeer* box = ComboWith(m_hWnd, row);
     if (!box)
         return CB_ERR;
-    const CString text = platform::FromQString(box->itemText(row));
+    const CString& text = box->TextOf(row);
     std::memcpy(buffer, static_cast<const char*>(text), static_cast<std::size_t>(text.GetLength()) + 1);
     return text.GetLength();
 }
 
 void CComboBox::GetLBText(int row, CString& text) const {
     if (const ComboBoxPeer* box = ComboWith(m_hWnd, row))
-        text = platform::FromQString(box->itemText(row));
+        text = box->TextOf(row);
 }
 
 int CComboBox::GetLBTextLen(int row) const {
     const ComboBoxPeer* box = ComboWith(m_hWnd, row);
-    return box ? platform::FromQString(box->itemText(row)).GetLength() : CB_ERR;
+    return box ? box->TextOf(row).GetLength() : CB_ERR;
 }
 
 DWORD_PTR CComboBox::GetItemData(int row) const {
-    const ComboBoxPeer* box = ComboWith(m_hWnd, row);
-    return box ? static_cast<DWORD_PTR>(box->itemData(row).toULongLong()) : static_cast<DWORD_PTR>(CB_ERR);
+    ComboBoxPeer* box = ComboWith(m_hWnd, row);
+    return box ? box->DataOf(row) : static_cast<DWORD_PTR>(CB_ERR);
 }
 
 int CComboBox::SetItemData(int row, DWORD_PTR data) {
     ComboBoxPeer* box = ComboWith(m_hWnd, row);
     if (!box)
         return CB_ERR;
-    box->setItemData(row, QVariant::fromValue<qulonglong>(data));
+    box->DataOf(row) = data;
     return CB_OKAY;
 }
 

@@ -50,11 +50,8 @@ void CListBox::ResetContent() {
 }
 
 int CListBox::InitStorage(int rows, UINT) {
-    ListBoxPeer* list = Box(m_hWnd);
-    if (!list || rows < 0)
-        return LB_ERRSPACE;
-    list->Reserve(rows);
-    return list->Count() + rows;
+    const ListBoxPeer* list = Box(m_hWnd);
+    return list && rows >= 0 ? list->Count() + rows : int{LB_ERRSPACE};
 }
 
 int CListBox::GetCount() const {
@@ -103,9 +100,9 @@ int CListBox::SetItemDataPtr(int row, void* data) {
 
 int CListBox::GetCurSel() const {
     const ListBoxPeer* list = Box(m_hWnd);
-    if (!list || (!list->Multiple() && list->SelectedCount() == 0))
+    if (!list)
         return LB_ERR;
-    return list->Caret();
+    return list->Multiple() ? list->Caret() : list->Current();
 }
 
 int CListBox::SetCurSel(int row) {

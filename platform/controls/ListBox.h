@@ -16,7 +16,7 @@ class CListBox : public CWnd {
     int InsertString(int row, LPCTSTR text); // -1 appends; never sorts
     int DeleteString(UINT row);              // the rows that are left, or LB_ERR
     void ResetContent();
-    int InitStorage(int rows, UINT bytes);    // makes room once for rows to come
+    int InitStorage(int rows, UINT bytes);    // the rows that there will be; room for them needs no asking
     int GetCount() const;                     // LB_ERR without a window
     int GetText(int row, LPSTR buffer) const; // the caller's buffer holds GetTextLen + 1 bytes; returns the length
     void GetText(int row, CString& text) const;

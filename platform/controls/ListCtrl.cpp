@@ -139,7 +139,7 @@ UINT CListCtrl::GetItemState(int row, UINT mask) const {
     if (!RowOf(m_hWnd, row))
         return 0;
     ListCtrlControl& control = *List(m_hWnd);
-    return mask & ((control.Selected(row) ? LVIS_SELECTED : 0u) | (control.Focused(row) ? LVIS_FOCUSED : 0u));
+    return mask & ((control.Model().Selected(row) ? LVIS_SELECTED : 0u) | (control.Focused(row) ? LVIS_FOCUSED : 0u));
 }
 
 BOOL CListCtrl::SetItemState(int row, UINT state, UINT mask) {
@@ -155,7 +155,7 @@ int CListCtrl::GetNextItem(int row, UINT flags) const {
     if (!control)
         return -1;
     if (flags & LVNI_SELECTED)
-        return control->NextSelected(row);
+        return control->Model().NextSelected(row);
     if (flags & LVNI_FOCUSED) {
         const int focused = control->View().currentIndex().row();
         return focused > row ? focused : -1;
@@ -165,7 +165,7 @@ int CListCtrl::GetNextItem(int row, UINT flags) const {
 
 UINT CListCtrl::GetSelectedCount() const {
     ListCtrlControl* control = List(m_hWnd);
-    return control ? static_cast<UINT>(control->SelectedCount()) : 0;
+    return control ? static_cast<UINT>(control->Model().SelectedCount()) : 0;
 }
 
 POSITION CListCtrl::GetFirstSelectedItemPosition() const {

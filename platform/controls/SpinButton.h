@@ -18,7 +18,8 @@ class CSpinButtonCtrl : public CScrollBar {
   public:
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
 
-    // The up arrow steps towards `upper`, also when that is the smaller one. The range without a call is 0 to 100.
+    // The up arrow steps towards `upper`, also when that is the smaller one. The range without a call is 100 to 0: up
+    // takes one away.
     void SetRange(int lower, int upper) { SetRange32(lower, upper); }
     void SetRange32(int lower, int upper);
     DWORD GetRange() const; // upper in the low word, lower in the high one

@@ -2,6 +2,8 @@
 #include "tests/platform/ControlDialog.h"
 
 #include "platform/controls/Button.h"
+#include "platform/controls/ListBox.h"
+#include "platform/controls/ListCtrl.h"
 #include "platform/controls/Static.h"
 #include "platform/private/peers/WindowPeer.h"
 
@@ -81,6 +83,36 @@ TEST_F(Button, AClickThatEndsOutsideOrOnADisabledButtonIsNone) {
     Control(300).EnableWindow(FALSE);
     Control(300).m_hWnd->Click();
     EXPECT_EQ(WithoutFocus(m_dialog.Take()), Log{});
+}
+
+// The message box that leaving a field opens takes the release of the press that left it. Neither a button that stays
+// sunken nor a list that selects without telling may come of it.
+TEST(Presses, ThatEndedInAMessageBoxBeginNothing) {
+    ControlDialog dialog(ControlRows()
+                             .Edit(100)
+                             .Button("Calcola", 300)
+                             .Add("LISTBOX", "", 400, LBS_NOTIFY | WS_TABSTOP)
+                             .Add("SysListView32", "", 500, LVS_REPORT | WS_TABSTOP));
+    auto& box = dialog.Control<CListBox>(400);
+    box.AddString("riga");
+    auto& view = dialog.Control<CListCtrl>(500);
+    view.InsertItem(0, "riga");
+    for (const int id : {300, 400, 500}) {
+        dialog.user.Click(100);
+        dialog.Take();
+        QWidget* surface = dialog.GetDlgItem(id)->m_hWnd->Surface();
+        QWindow* window = surface->window()->windowHandle();
+        const QPoint inside = surface->mapTo(surface->window(), QPoint(8, 4));
+        dialog.onCommand = [&] { // stands for the box
+            dialog.onCommand = nullptr;
+            QTest::mouseRelease(window, Qt::LeftButton, {}, QPoint(1, 1));
+        };
+        QTest::mousePress(window, Qt::LeftButton, {}, inside);
+        EXPECT_EQ(WithoutFocus(dialog.Take()), Log{}) << id;
+    }
+    EXPECT_FALSE(dialog.Control<CButton>(300).GetState() & BST_PUSHED);
+    EXPECT_EQ(box.GetCurSel(), LB_ERR);
+    EXPECT_EQ(view.GetSelectedCount(), 0u);
 }
 
 TEST(Static, TellsClicksOnlyWhenAskedTo) {

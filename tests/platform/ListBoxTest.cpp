@@ -2,6 +2,11 @@
 #include "tests/platform/ControlDialog.h"
 
 #include "platform/controls/ListBox.h"
+#include "platform/private/peers/WindowPeer.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
 
 namespace {
 
@@ -113,6 +118,48 @@ TEST(ListBox, MultipleSelectionTogglesRowByRow) {
     EXPECT_EQ(dialog.Take(), selected);
 }
 
+// The rectangle may leave the selected row; there is one selected row all the same.
+TEST(ListBox, ACaretThatTheProgramMovesLeavesOneSelection) {
+    ListDialog dialog(0);
+    dialog.box.SetCurSel(1);
+    dialog.box.SetCaretIndex(3);
+    EXPECT_EQ(dialog.box.GetCurSel(), 1);
+    dialog.box.InsertString(0, "prima");
+    EXPECT_EQ(dialog.box.GetCurSel(), 2);
+    dialog.box.SetCurSel(5);
+    EXPECT_EQ(dialog.user.SelectedRows(100), Rows{5});
+}
+
+// Fault: the look's own focus rectangle, a pale blue ground that seems a selection.
+TEST(ListBox, TheCurrentRowHasARectangleAndNoGround) {
+    ListDialog dialog(LBS_EXTENDEDSEL);
+    dialog.user.ClickRow(100, 1);
+    dialog.user.ClickRow(100, 1, CtrlKey); // current, not selected
+    CRect row;
+    dialog.box.GetItemRect(1, &row);
+    const QImage shown = dialog.box.m_hWnd->Surface()->grab().toImage();
+    const auto dots = [&](int y) {
+        int count = 0;
+        for (int x = row.left; x < row.right; ++x)
+            count += shown.pixel(x, y) != qRgb(255, 255, 255);
+        return count;
+    };
+    EXPECT_GT(dots(row.top), 20);
+    EXPECT_EQ(shown.pixel(row.right - 4, row.CenterPoint().y), qRgb(255, 255, 255));
+}
+
+TEST(ListBox, AHorizontalScrollBarMayComeLater) {
+    ListDialog dialog(0);
+    dialog.box.SetHorizontalExtent(1000);
+    CRect before, after;
+    TestApp::PumpMessages();
+    dialog.box.GetClientRect(before);
+    dialog.box.ModifyStyle(0, WS_HSCROLL);
+    TestApp::PumpMessages();
+    dialog.box.GetClientRect(after);
+    EXPECT_LT(after.Height(), before.Height());
+}
+
 TEST(ListBox, TheProgramSelectsRangesAndAll) {
     ListDialog dialog(LBS_EXTENDEDSEL);
     EXPECT_EQ(dialog.box.SetSel(-1, TRUE), LB_OKAY);
@@ -172,4 +219,26 @@ TEST(ListBox, AHundredThousandRowsStayWhole) {
     EXPECT_EQ(dialog.Selected().size(), std::size_t{count});
     dialog.box.SetTopIndex(count - 1);
     EXPECT_GT(dialog.box.GetTopIndex(), count - 20); // the last page
+}
+
+// Rows beyond one block of the store, put in and taken out anywhere, against a plain vector.
+TEST(ListBox, RowsKeepTheirOrderWhereverTheyComeAndGo) {
+    ListDialog dialog(0, 0);
+    std::vector<int> expected;
+    unsigned random = 1;
+    for (int step = 0; step < 3000; ++step) {
+        random = random * 1664525u + 1013904223u;
+        const auto place = random / 65536 % (expected.size() + 1);
+        if (step % 3 == 2 && place < expected.size()) {
+            dialog.box.DeleteString(static_cast<UINT>(place));
+            expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(place));
+        } else {
+            dialog.box.SetItemData(dialog.box.InsertString(static_cast<int>(place), "x"), static_cast<DWORD_PTR>(step));
+            expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(place), step);
+        }
+    }
+    std::vector<int> rows;
+    for (int row = 0; row < dialog.box.GetCount(); ++row)
+        rows.push_back(static_cast<int>(dialog.box.GetItemData(row)));
+    EXPECT_EQ(rows, expected);
 }

@@ -60,6 +60,24 @@ TEST_F(Spin, TypedNumbersCountAndStayAsTyped) {
     EXPECT_EQ(m_user.Text(100), "-1234");
 }
 
+// The step starts from the number that is shown: 50 less 1 is still beyond 10.
+TEST_F(Spin, AStepFromBeyondTheRangeEndsAtItsEnd) {
+    m_spin.SetRange(0, 10);
+    m_user.Type(100, "50");
+    m_user.Press(VK_DOWN);
+    EXPECT_EQ(m_user.Text(100), "10");
+}
+
+TEST_F(Spin, WithoutARangeUpTakesAway) {
+    int lower = 0;
+    int upper = 0;
+    m_spin.GetRange(lower, upper);
+    EXPECT_EQ(std::pair(lower, upper), std::pair(100, 0));
+    m_spin.SetPos(10);
+    m_user.ClickSpinUp(200);
+    EXPECT_EQ(m_user.Text(100), "9");
+}
+
 TEST(SpinStyles, TheRangesEndsAreMetOrWrapped) {
     ControlDialog dialog(SpinBeside(attached | UDS_WRAP));
     auto& spin = dialog.Control<CSpinButtonCtrl>(200);
@@ -75,6 +93,7 @@ TEST(SpinStyles, TheRangesEndsAreMetOrWrapped) {
 }
 
 TEST_F(Spin, ArrowKeysInTheBuddyStepAndAHandlerMayRefuse) {
+    m_spin.SetRange(0, 100);
     m_spin.SetPos(10);
     m_user.Click(100);
     m_user.Press(VK_UP);

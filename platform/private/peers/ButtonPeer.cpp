@@ -165,6 +165,12 @@ void ButtonOf<Base>::StyleChanged() {
 }
 
 template <class Base>
+void ButtonOf<Base>::mousePressEvent(QMouseEvent* event) {
+    if (StillPressed(*event))
+        Base::mousePressEvent(event);
+}
+
+template <class Base>
 void ButtonOf<Base>::mouseDoubleClickEvent(QMouseEvent* event) {
     if ((WindowPeer::style & BS_NOTIFY) && event->button() == Qt::LeftButton)
         this->NotifyParent(BN_DOUBLECLICKED);

@@ -54,6 +54,7 @@ class ButtonOf final : public Hosted<Base>, public ButtonControl {
   protected:
     void nextCheckState() override;
     bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:

@@ -2,6 +2,7 @@
 
 #include "platform/controls/ComboBox.h"
 #include "platform/private/peers/Controls.h"
+#include "platform/private/peers/EditText.h"
 
 #include <QAbstractItemView>
 #include <QLineEdit>
@@ -17,9 +18,33 @@ constexpr int closedHeight = 21; // pixels; what is left of the template's heigh
 
 } // namespace
 
+QVariant ComboBoxModel::data(const QModelIndex& index, int role) const {
+    const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
+    return text && rows.Has(index.row()) ? ToQString(rows.At(index.row()).text) : QVariant();
+}
+
+void ComboBoxModel::Insert(int index, const CString& text) {
+    beginInsertRows({}, index, index);
+    rows.Insert(index, {text, 0});
+    endInsertRows();
+}
+
+void ComboBoxModel::Remove(int index) {
+    beginRemoveRows({}, index, index);
+    rows.Erase(index);
+    endRemoveRows();
+}
+
+void ComboBoxModel::Clear() {
+    beginResetModel();
+    rows.Clear();
+    endResetModel();
+}
+
 ComboBoxPeer::ComboBoxPeer(const ControlSpec& spec, WindowPeer& parentPeer)
     : Hosted<QComboBox>(&parentPeer, parentPeer.Surface()) {
     ApplySpec(*this, spec);
+    setModel(&m_model);
     setFocusPolicy(Qt::StrongFocus); // the wheel alone does not bring the focus
     setInsertPolicy(NoInsert);
     const int listHeight = spec.place.height() - closedHeight;
@@ -28,6 +53,7 @@ ComboBoxPeer::ComboBoxPeer(const ControlSpec& spec, WindowPeer& parentPeer)
     if ((spec.style & 3) != CBS_DROPDOWNLIST) {
         setEditable(true);
         setCompleter(nullptr);
+        setValidator(new LineValidator(0, this));
         connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
             const QPointer<QWidget> alive = this;
             NotifyParent(CBN_EDITUPDATE);
@@ -71,20 +97,17 @@ LRESULT ComboBoxPeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
 int ComboBoxPeer::Add(const CString& text) {
     if (!(WindowPeer::style & CBS_SORT))
         return Insert(-1, text);
-    int place = count();
-    while (place > 0 && CompareNoCase(text.View(), FromQString(itemText(place - 1)).View()) < 0)
-        --place;
-    return Insert(place, text);
+    return Insert(SortedPlace(Count(), text, [this](int index) -> const CString& { return TextOf(index); }), text);
 }
 
 int ComboBoxPeer::Insert(int index, const CString& text) {
-    if (index < -1 || index > count())
+    if (index < -1 || index > Count())
         return CB_ERR;
     if (index < 0)
-        index = count();
+        index = Count();
     const bool none = currentIndex() < 0;
     const QString typed = currentText();
-    insertItem(index, ToQString(text), QVariant::fromValue<qulonglong>(0));
+    m_model.Insert(index, text);
     if (none) { // the toolkit selects the first row that comes
         setCurrentIndex(-1);
         if (isEditable())
@@ -98,7 +121,7 @@ bool ComboBoxPeer::Remove(int index) {
     if (!Has(index))
         return false;
     const bool wasSelected = index == currentIndex();
-    removeItem(index);
+    m_model.Remove(index);
     if (wasSelected)
         setCurrentIndex(-1);
     m_told = currentIndex();
@@ -106,16 +129,19 @@ bool ComboBoxPeer::Remove(int index) {
 }
 
 void ComboBoxPeer::Reset() {
-    clear();
+    m_model.Clear();
+    setCurrentIndex(-1);
+    if (isEditable())
+        clearEditText();
     m_told = -1;
 }
 
 int ComboBoxPeer::find(int startAfter, const CString& text, bool whole) const {
     const int start = Has(startAfter) ? startAfter : -1;
-    for (int step = 1; step <= count(); ++step) {
-        const int index = (start + step) % count();
-        const CString candidate = FromQString(itemText(index));
-        if (CompareNoCase(whole ? candidate.View() : candidate.View().substr(0, text.View().size()), text.View()) == 0)
+    for (int step = 1; step <= Count(); ++step) {
+        const int index = (start + step) % Count();
+        const std::string_view candidate = TextOf(index).View();
+        if (CompareNoCase(whole ? candidate : candidate.substr(0, text.View().size()), text.View()) == 0)
             return index;
     }
     return CB_ERR;

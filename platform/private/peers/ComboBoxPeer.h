@@ -2,10 +2,28 @@
 #pragma once
 
 #include "platform/private/peers/Hosted.h"
+#include "platform/private/peers/RowStore.h"
 
+#include <QAbstractListModel>
 #include <QComboBox>
 
 namespace platform {
+
+class ComboBoxModel final : public QAbstractListModel {
+  public:
+    struct Row {
+        CString text;
+        DWORD_PTR data = 0;
+    };
+
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows.Count(); }
+    QVariant data(const QModelIndex& index, int role) const override;
+    void Insert(int index, const CString& text);
+    void Remove(int index);
+    void Clear();
+
+    RowStore<Row> rows;
+};
 
 class ComboBoxPeer final : public Hosted<QComboBox> {
   public:
@@ -22,7 +40,10 @@ class ComboBoxPeer final : public Hosted<QComboBox> {
     int Insert(int index, const CString& text); // -1 appends; -1 for a bad place
     bool Remove(int index);
     void Reset();
-    bool Has(int index) const { return index >= 0 && index < count(); }
+    int Count() const { return m_model.rows.Count(); }
+    bool Has(int index) const { return m_model.rows.Has(index); }
+    const CString& TextOf(int index) const { return m_model.rows.At(index).text; } // the row must be there
+    DWORD_PTR& DataOf(int index) { return m_model.rows.At(index).data; }
     int find(int startAfter, const CString& text, bool whole) const;
 
     int Selected() const; // -1 when the text is no row's
@@ -36,6 +57,7 @@ class ComboBoxPeer final : public Hosted<QComboBox> {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    ComboBoxModel m_model;
     int m_told = -1; // the selection that the parent knows or that the program made
     bool m_dropped = false;
     bool m_focusTold = false;

@@ -3,6 +3,9 @@
 
 #include "platform/private/peers/WindowPeer.h"
 
+#include <QGuiApplication>
+#include <QMouseEvent>
+
 #include <typeinfo>
 
 namespace platform {
@@ -17,6 +20,12 @@ Peer* ControlOf(HWND handle) {
 // Plays a WM_KEYDOWN or WM_CHAR that the program sends to a control. Keys that type are played by their WM_CHAR only,
 // since a real one sends both. True when the message was one of them.
 bool PlayKey(WindowPeer& peer, UINT message, WPARAM wParam);
+
+// False for a press whose button is up again: when the focus that it took away opened a message box, the release went
+// to the box, and what the press begins would never end.
+inline bool StillPressed(const QMouseEvent& press) {
+    return QGuiApplication::mouseButtons() & press.button();
+}
 
 // A control of each class; owned by the parent's widget.
 WindowPeer* CreateEdit(const ControlSpec& spec, WindowPeer& parent);

@@ -1,4 +1,5 @@
 // The user's selecting in list boxes.
+#include "platform/private/peers/Controls.h"
 #include "platform/private/peers/ListBoxPeer.h"
 
 #include <QKeyEvent>
@@ -142,7 +143,7 @@ void ListBoxPeer::keyPressEvent(QKeyEvent* event) {
 }
 
 void ListBoxPeer::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || (WindowPeer::style & LBS_NOSEL))
+    if (event->button() != Qt::LeftButton || (WindowPeer::style & LBS_NOSEL) || !StillPressed(*event))
         return;
     const int index = RowAt(static_cast<int>(event->position().y()));
     if (!RowOf(index))

@@ -32,8 +32,13 @@ ListBoxPeer::ListBoxPeer(const ControlSpec& spec, WindowPeer& parentPeer)
     setFocusPolicy(Qt::StrongFocus);
     const bool framed = (spec.style & WS_BORDER) || (spec.exStyle & (WS_EX_CLIENTEDGE | WS_EX_STATICEDGE));
     setFrameShape(framed ? StyledPanel : NoFrame);
-    setVerticalScrollBarPolicy(spec.style & WS_VSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
-    setHorizontalScrollBarPolicy(spec.style & WS_HSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    ListBoxPeer::StyleChanged();
+}
+
+void ListBoxPeer::StyleChanged() {
+    const DWORD style = WindowPeer::style;
+    setVerticalScrollBarPolicy(style & WS_VSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(style & WS_HSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
 }
 
 std::unique_ptr<CWnd> ListBoxPeer::MakeObject() const {
@@ -50,13 +55,10 @@ LRESULT ListBoxPeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
 }
 
 int ListBoxPeer::Add(const CString& text) {
-    if (!(WindowPeer::style & LBS_SORT) || m_rows.empty() || CompareNoCase(m_rows.back().text.View(), text.View()) <= 0)
+    if (!(WindowPeer::style & LBS_SORT))
         return Insert(-1, text);
-    const auto place =
-        std::upper_bound(m_rows.begin(), m_rows.end(), text, [](const CString& added, const Row& present) {
-            return CompareNoCase(added.View(), present.text.View()) < 0;
-        });
-    return Insert(static_cast<int>(place - m_rows.begin()), text);
+    return Insert(SortedPlace(Count(), text, [this](int index) -> const CString& { return m_rows.At(index).text; }),
+                  text);
 }
 
 int ListBoxPeer::Insert(int index, const CString& text) {
@@ -64,7 +66,8 @@ int ListBoxPeer::Insert(int index, const CString& text) {
         return LB_ERR;
     if (index < 0)
         index = Count();
-    m_rows.insert(m_rows.begin() + index, Row{text, 0, false});
+    m_rows.Insert(index, Row{text, 0, false});
+    m_current += m_current >= index;
     m_caret += m_caret >= index;
     m_anchor += m_anchor >= index;
     if (Multiple() && m_caret < 0)
@@ -78,7 +81,10 @@ bool ListBoxPeer::Remove(int index) {
     if (!gone)
         return false;
     m_selectedCount -= gone->selected;
-    m_rows.erase(m_rows.begin() + index);
+    m_rows.Erase(index);
+    if (m_current == index)
+        m_current = -1;
+    m_current -= m_current > index;
     if (m_caret == index && !Multiple())
         m_caret = -1;
     else if (m_caret > index || m_caret >= Count())
@@ -90,9 +96,9 @@ bool ListBoxPeer::Remove(int index) {
 }
 
 void ListBoxPeer::Reset() {
-    m_rows.clear();
+    m_rows.Clear();
     m_selectedCount = 0;
-    m_caret = m_anchor = -1;
+    m_current = m_caret = m_anchor = -1;
     m_dragging = false;
     RowsChanged();
 }
@@ -102,7 +108,7 @@ int ListBoxPeer::find(int startAfter, const CString& text, bool whole) const {
     const int start = startAfter < 0 || startAfter >= total ? -1 : startAfter;
     for (int step = 1; step <= total; ++step) {
         const int index = (start + step) % total;
-        const std::string_view candidate = m_rows[static_cast<std::size_t>(index)].text.View();
+        const std::string_view candidate = m_rows.At(index).text.View();
         if (whole ? CompareNoCase(candidate, text.View()) == 0 : StartsWith(candidate, text.View()))
             return index;
     }
@@ -110,13 +116,13 @@ int ListBoxPeer::find(int startAfter, const CString& text, bool whole) const {
 }
 
 void ListBoxPeer::Select(int index) {
-    SetSelected(m_caret, m_caret,
-                false); // no other row can be selected; callers step through a hundred thousand of them
-    m_caret = m_anchor = RowOf(index) ? index : -1;
-    if (m_caret < 0)
+    // No other row can be selected; callers step through a hundred thousand of them.
+    SetSelected(m_current, m_current, false);
+    m_current = m_caret = m_anchor = RowOf(index) ? index : -1;
+    if (m_current < 0)
         return;
-    SetSelected(m_caret, m_caret, true);
-    ShowRow(m_caret);
+    SetSelected(m_current, m_current, true);
+    ShowRow(m_current);
 }
 
 void ListBoxPeer::SetSelected(int first, int last, bool selected) {
@@ -125,7 +131,7 @@ void ListBoxPeer::SetSelected(int first, int last, bool selected) {
     if (first > last || (!selected && m_selectedCount == 0))
         return;
     for (int index = first; index <= last; ++index) {
-        Row& each = m_rows[static_cast<std::size_t>(index)];
+        Row& each = m_rows.At(index);
         m_selectedCount += int{selected} - int{each.selected};
         each.selected = selected;
     }
@@ -253,7 +259,7 @@ void ListBoxPeer::paintEvent(QPaintEvent* event) {
     for (int index = first; index <= last; ++index) {
         const QRect place = RowRect(index).translated(-horizontalScrollBar()->value(), 0);
         const QRect wide(place.topLeft(), QSize(std::max(place.width(), m_extent), place.height()));
-        PaintRow(painter, m_rows[static_cast<std::size_t>(index)], wide, focused && index == m_caret);
+        PaintRow(painter, m_rows.At(index), wide, focused && index == m_caret);
     }
 }
 

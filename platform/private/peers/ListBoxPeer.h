@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/private/peers/Hosted.h"
+#include "platform/private/peers/RowStore.h"
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
@@ -25,23 +26,23 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     UINT DialogCode() const override { return WantsArrows | WantsCharacters; }
     std::unique_ptr<CWnd> MakeObject() const override;
     void FocusChanged(bool gained) override;
+    void StyleChanged() override;
     LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM) override;
 
     bool Multiple() const { return WindowPeer::style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL); }
     bool Extended() const { return WindowPeer::style & LBS_EXTENDEDSEL; }
-    int Count() const { return static_cast<int>(m_rows.size()); }
-    Row* RowOf(int index) { return index >= 0 && index < Count() ? &m_rows[static_cast<std::size_t>(index)] : nullptr; }
+    int Count() const { return m_rows.Count(); }
+    Row* RowOf(int index) { return m_rows.Has(index) ? &m_rows.At(index) : nullptr; }
 
     int Add(const CString& text);               // at the end, or in its sorted place
     int Insert(int index, const CString& text); // -1 appends; -1 for a bad place
     bool Remove(int index);
     void Reset();
-    void Reserve(int rows) { m_rows.reserve(m_rows.size() + static_cast<std::size_t>(rows)); }
     int find(int startAfter, const CString& text, bool whole) const; // -1 when there is none
 
     // The program's selecting, which tells nobody.
-    int Current() const { return m_caret; } // single selection: the selected row
-    void Select(int index);                 // single selection, -1 for none
+    int Current() const { return m_current; } // single selection: the selected row, -1 for none
+    void Select(int index);                   // single selection, -1 for none
     void SetSelected(int first, int last, bool selected);
     int SelectedCount() const { return m_selectedCount; }
     int Caret() const { return m_caret; }
@@ -91,10 +92,11 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     int TypeAhead(const QString& typed);
     bool TypingAhead() const;
 
-    std::vector<Row> m_rows;
+    RowStore<Row> m_rows;
     int m_selectedCount = 0;
-    int m_caret = -1;  // with the focus rectangle
-    int m_anchor = -1; // where a range of the user's begins
+    int m_current = -1; // single selection: the selected row, which the program may take the caret away from
+    int m_caret = -1;   // with the focus rectangle
+    int m_anchor = -1;  // where a range of the user's begins
     int m_extent = 0;
     std::vector<int> m_tabStops;
     bool m_arrangePending = false;

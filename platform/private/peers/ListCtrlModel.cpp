@@ -58,10 +58,6 @@ bool ListCtrlModel::setData(const QModelIndex& index, const QVariant& value, int
     return SetText(index.row(), index.column(), text);
 }
 
-const ListCtrlModel::Row* ListCtrlModel::RowAt(int index) const {
-    return index >= 0 && index < Count() ? &m_rows[static_cast<std::size_t>(index)] : nullptr;
-}
-
 const CString& ListCtrlModel::Text(int index, int column) const {
     static const CString none;
     const Row* found = RowAt(index);
@@ -71,26 +67,52 @@ const CString& ListCtrlModel::Text(int index, int column) const {
 
 void ListCtrlModel::InsertRowAt(int index, Row row) {
     beginInsertRows({}, index, index);
-    m_rows.insert(m_rows.begin() + index, std::move(row));
+    m_rows.Insert(index, std::move(row));
+    m_noneBefore += m_noneBefore >= index;
     endInsertRows();
 }
 
 void ListCtrlModel::RemoveRowAt(int index) {
     beginRemoveRows({}, index, index);
-    m_rows.erase(m_rows.begin() + index);
+    m_selectedCount -= m_rows.At(index).selected;
+    m_rows.Erase(index);
+    m_noneBefore -= m_noneBefore > index;
     endRemoveRows();
 }
 
 void ListCtrlModel::Clear() {
     beginResetModel();
-    m_rows.clear();
+    m_rows.Clear();
+    m_selectedCount = m_noneBefore = 0;
     endResetModel();
+}
+
+// The walk over all selected rows looks at each row once; so does asking again and again for the first one while the
+// selection moves on.
+int ListCtrlModel::NextSelected(int after) const {
+    if (m_selectedCount == 0)
+        return -1;
+    const bool first = after < m_noneBefore;
+    int row = first ? m_noneBefore : after + 1;
+    while (row < Count() && !m_rows.At(row).selected)
+        ++row;
+    if (first)
+        m_noneBefore = row;
+    return row < Count() ? row : -1;
+}
+
+void ListCtrlModel::SetSelected(int row, bool selected) {
+    Row& changed = m_rows.At(row);
+    m_selectedCount += int{selected} - int{changed.selected};
+    changed.selected = selected;
+    if (selected)
+        m_noneBefore = std::min(m_noneBefore, row);
 }
 
 bool ListCtrlModel::SetText(int row, int column, const CString& text) {
     if (!RowAt(row) || column < 0 || column >= columnCount())
         return false;
-    std::vector<CString>& texts = m_rows[static_cast<std::size_t>(row)].texts;
+    std::vector<CString>& texts = m_rows.At(row).texts;
     if (texts.size() <= static_cast<std::size_t>(column))
         texts.resize(static_cast<std::size_t>(column) + 1);
     texts[static_cast<std::size_t>(column)] = text;
@@ -101,14 +123,14 @@ bool ListCtrlModel::SetText(int row, int column, const CString& text) {
 bool ListCtrlModel::SetRowData(int row, DWORD_PTR data) {
     if (!RowAt(row))
         return false;
-    m_rows[static_cast<std::size_t>(row)].data = data;
+    m_rows.At(row).data = data;
     return true;
 }
 
 bool ListCtrlModel::SetImage(int row, int image) {
     if (!RowAt(row))
         return false;
-    m_rows[static_cast<std::size_t>(row)].image = image;
+    m_rows.At(row).image = image;
     emit dataChanged(index(row, 0), index(row, 0));
     return true;
 }
@@ -121,11 +143,11 @@ void ListCtrlModel::SetImages(const CImageList* images) {
 
 void ListCtrlModel::Reorder(const std::vector<int>& order) {
     beginResetModel();
-    std::vector<Row> sorted;
-    sorted.reserve(m_rows.size());
+    RowStore<Row> sorted;
     for (const int former : order)
-        sorted.push_back(std::move(m_rows[static_cast<std::size_t>(former)]));
+        sorted.Insert(sorted.Count(), std::move(m_rows.At(former)));
     m_rows = std::move(sorted);
+    m_noneBefore = 0;
     endResetModel();
 }
 
@@ -135,9 +157,10 @@ void ListCtrlModel::InsertColumnAt(int index, Column column) {
     if (!first)
         beginInsertColumns({}, index, index);
     m_columns.insert(m_columns.begin() + index, std::move(column));
-    for (Row& each : m_rows)
-        if (!first && each.texts.size() > static_cast<std::size_t>(index))
-            each.texts.insert(each.texts.begin() + index, CString());
+    for (int row = 0; row < Count(); ++row)
+        if (std::vector<CString>& texts = m_rows.At(row).texts;
+            !first && texts.size() > static_cast<std::size_t>(index))
+            texts.insert(texts.begin() + index, CString());
     if (first)
         emit headerDataChanged(Qt::Horizontal, 0, 0);
     else
@@ -147,9 +170,9 @@ void ListCtrlModel::InsertColumnAt(int index, Column column) {
 void ListCtrlModel::RemoveColumnAt(int index) {
     beginResetModel();
     m_columns.erase(m_columns.begin() + index);
-    for (Row& each : m_rows)
-        if (each.texts.size() > static_cast<std::size_t>(index))
-            each.texts.erase(each.texts.begin() + index);
+    for (int row = 0; row < Count(); ++row)
+        if (std::vector<CString>& texts = m_rows.At(row).texts; texts.size() > static_cast<std::size_t>(index))
+            texts.erase(texts.begin() + index);
     endResetModel();
 }
 

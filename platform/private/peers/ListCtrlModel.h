@@ -1,8 +1,10 @@
-// Rows and columns of a list view.
+// Rows and columns of a list view. The selection is the rows' own: the toolkit keeps it as a list of ranges, which many
+// separate rows make slow.
 #pragma once
 
 #include "platform/controls/ImageList.h"
 #include "platform/core/String.h"
+#include "platform/private/peers/RowStore.h"
 
 #include <QAbstractTableModel>
 
@@ -17,6 +19,7 @@ class ListCtrlModel final : public QAbstractTableModel {
         std::vector<CString> texts; // by column; missing ones are empty
         DWORD_PTR data = 0;
         int image = -1;
+        bool selected = false;
     };
     struct Column {
         CString heading;
@@ -32,8 +35,8 @@ class ListCtrlModel final : public QAbstractTableModel {
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
-    int Count() const { return static_cast<int>(m_rows.size()); }
-    const Row* RowAt(int index) const;
+    int Count() const { return m_rows.Count(); }
+    const Row* RowAt(int index) const { return m_rows.Has(index) ? &m_rows.At(index) : nullptr; }
     const CString& Text(int row, int column) const;
     void InsertRowAt(int index, Row row);
     void RemoveRowAt(int index);
@@ -46,6 +49,11 @@ class ListCtrlModel final : public QAbstractTableModel {
     // order[new row] is the old one.
     void Reorder(const std::vector<int>& order);
 
+    bool Selected(int row) const { return m_rows.Has(row) && m_rows.At(row).selected; }
+    int SelectedCount() const { return m_selectedCount; }
+    int NextSelected(int after) const;        // -1 for none
+    void SetSelected(int row, bool selected); // the row must be there; tells nobody, repaints nothing
+
     int Columns() const { return static_cast<int>(m_columns.size()); }
     void InsertColumnAt(int index, Column column);
     void RemoveColumnAt(int index);
@@ -54,7 +62,9 @@ class ListCtrlModel final : public QAbstractTableModel {
     std::function<bool(int row, const CString& text)> acceptLabel; // asks whether an edited label may stay
 
   private:
-    std::vector<Row> m_rows;
+    RowStore<Row> m_rows;
+    int m_selectedCount = 0;
+    mutable int m_noneBefore = 0;  // no row before this one is selected
     std::vector<Column> m_columns; // empty in a list without a heading, which has one column all the same
     const CImageList* m_images = nullptr;
 };

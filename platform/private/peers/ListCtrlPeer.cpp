@@ -5,12 +5,32 @@
 
 #include <QHeaderView>
 #include <QListView>
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include <algorithm>
 #include <numeric>
 
 namespace platform {
+
+namespace {
+
+// Paints the selection, which the toolkit does not know.
+class RowDelegate final : public QStyledItemDelegate {
+  public:
+    RowDelegate(const ListCtrlModel& model, QObject* parent) : QStyledItemDelegate(parent), m_model(model) {}
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state.setFlag(QStyle::State_Selected, m_model.Selected(index.row()));
+    }
+
+  private:
+    const ListCtrlModel& m_model;
+};
+
+} // namespace
 
 void ListCtrlControl::SetUp(const ControlSpec& spec) {
     QAbstractItemView& shown = View();
@@ -22,59 +42,20 @@ void ListCtrlControl::SetUp(const ControlSpec& spec) {
     shown.setTabKeyNavigation(false);
     const bool framed = (spec.style & WS_BORDER) || (spec.exStyle & (WS_EX_CLIENTEDGE | WS_EX_STATICEDGE));
     shown.setFrameShape(framed ? QFrame::StyledPanel : QFrame::NoFrame);
-    shown.setSelectionMode(spec.style & LVS_SINGLESEL ? QAbstractItemView::SingleSelection
-                                                      : QAbstractItemView::ExtendedSelection);
-    shown.setSelectionBehavior(QAbstractItemView::SelectRows);
-    shown.setEditTriggers(spec.style & LVS_EDITLABELS
-                              ? QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed
-                              : QAbstractItemView::NoEditTriggers);
-    QObject::connect(shown.selectionModel(), &QItemSelectionModel::selectionChanged, &shown,
-                     [this](const QItemSelection& selected, const QItemSelection& deselected) {
-                         TellSelection(selected, deselected);
-                     });
-}
-
-bool ListCtrlControl::Selected(int row) {
-    return View().selectionModel()->isSelected(RowIndex(row));
-}
-
-int ListCtrlControl::SelectedCount() {
-    int count = 0;
-    for (const QItemSelectionRange& range : View().selectionModel()->selection())
-        count += range.height();
-    return count;
-}
-
-// Ranges, not rows: walking the selection of a hundred thousand must not look through all of it for each.
-int ListCtrlControl::NextSelected(int after) {
-    int next = -1;
-    const QItemSelection& selection = View().selectionModel()->selection();
-    for (const QItemSelectionRange& range : selection)
-        if (range.bottom() > after) {
-            const int candidate = std::max(range.top(), after + 1);
-            next = next < 0 ? candidate : std::min(next, candidate);
-        }
-    return next;
+    shown.setSelectionMode(QAbstractItemView::NoSelection); // it is ours
+    shown.setItemDelegate(new RowDelegate(m_model, &shown));
+    shown.setEditTriggers(spec.style & LVS_EDITLABELS ? QAbstractItemView::EditKeyPressed
+                                                      : QAbstractItemView::NoEditTriggers);
 }
 
 void ListCtrlControl::SetState(int row, UINT state, UINT mask) {
-    QItemSelectionModel& selection = *View().selectionModel();
     const bool all = row < 0;
+    const bool select = state & LVIS_SELECTED;
     const QPointer<QWidget> alive = Peer().widget;
-    if (mask & LVIS_SELECTED) {
-        const bool select = state & LVIS_SELECTED;
-        const bool single = View().selectionMode() == QAbstractItemView::SingleSelection;
-        QItemSelectionModel::SelectionFlags command =
-            select ? QItemSelectionModel::Select : QItemSelectionModel::Deselect;
-        if (select && single)
-            command = QItemSelectionModel::ClearAndSelect;
-        const int last = all ? m_model.Count() - 1 : row;
-        if (last >= 0 && !(all && select && single))
-            selection.select(QItemSelection(RowIndex(all ? 0 : row), RowIndex(last)),
-                             command | QItemSelectionModel::Rows);
-    }
+    if ((mask & LVIS_SELECTED) && !(all && select && Single()))
+        SelectRows(all ? 0 : row, all ? m_model.Count() - 1 : row, select, select && Single());
     if (alive && !Peer().destroyed && !all && (mask & state & LVIS_FOCUSED))
-        selection.setCurrentIndex(RowIndex(row), QItemSelectionModel::NoUpdate);
+        View().selectionModel()->setCurrentIndex(RowIndex(row), QItemSelectionModel::NoUpdate);
 }
 
 void ListCtrlControl::SetImages(const CImageList* images) {
@@ -84,31 +65,24 @@ void ListCtrlControl::SetImages(const CImageList* images) {
 
 int ListCtrlControl::Insert(int row, ListCtrlModel::Row content) {
     int place = std::clamp(row, 0, m_model.Count());
-    if (Peer().style & LVS_SORTASCENDING) {
-        const auto before = [&](int index) {
-            return CompareNoCase(m_model.Text(index, 0).View(), content.texts.front().View()) <= 0;
-        };
-        for (place = m_model.Count(); place > 0 && !before(place - 1);)
-            --place;
-    }
+    if (Peer().style & LVS_SORTASCENDING)
+        place = SortedPlace(m_model.Count(), content.texts.front(),
+                            [this](int index) -> const CString& { return m_model.Text(index, 0); });
     m_model.InsertRowAt(place, std::move(content));
+    mark += mark >= place;
     return place;
 }
 
 void ListCtrlControl::Remove(int row) {
-    m_silent = true;
-    const bool wasSelected = Selected(row);
     m_model.RemoveRowAt(row);
-    if (wasSelected && View().selectionMode() == QAbstractItemView::SingleSelection)
-        View().clearSelection(); // the toolkit would select the neighbour
-    m_silent = false;
+    if (mark == row)
+        mark = -1;
+    mark -= mark > row;
 }
 
 void ListCtrlControl::Clear() {
-    m_silent = true;
     m_model.Clear();
     mark = -1;
-    m_silent = false;
 }
 
 void ListCtrlControl::Sort(PFNLVCOMPARE compare, LPARAM argument) {
@@ -117,43 +91,16 @@ void ListCtrlControl::Sort(PFNLVCOMPARE compare, LPARAM argument) {
     const auto dataOf = [this](int row) { return static_cast<LPARAM>(m_model.RowAt(row)->data); };
     std::stable_sort(order.begin(), order.end(),
                      [&](int a, int b) { return compare(dataOf(a), dataOf(b), argument) < 0; });
-    // The selection and the focus stay with their rows.
-    std::vector<bool> wasSelected(order.size());
-    for (int row = NextSelected(-1); row >= 0; row = NextSelected(row))
-        wasSelected[static_cast<std::size_t>(row)] = true;
-    const int current = View().currentIndex().row();
-    m_silent = true;
-    m_model.Reorder(order);
-    for (std::size_t row = 0; row < order.size(); ++row) {
-        const int former = order[row];
-        const UINT state = (wasSelected[static_cast<std::size_t>(former)] ? LVIS_SELECTED : 0u) |
-                           (former == current ? LVIS_FOCUSED : 0u);
-        if (state)
-            SetState(static_cast<int>(row), state, state);
-    }
-    m_silent = false;
-}
-
-void ListCtrlControl::TellSelection(const QItemSelection& selected, const QItemSelection& deselected) {
-    if (m_silent)
-        return;
-    const QPointer<QWidget> alive = Peer().widget;
-    const auto tellRows = [&](const QItemSelection& rows, UINT before, UINT after) {
-        for (const QItemSelectionRange& range : rows)
-            for (int row = range.top(); row <= range.bottom(); ++row) {
-                if (!alive || Peer().destroyed || !m_model.RowAt(row))
-                    return;
-                NMLISTVIEW change;
-                change.iItem = row;
-                change.uOldState = before;
-                change.uNewState = after;
-                change.uChanged = LVIF_STATE;
-                change.lParam = m_model.RowAt(row)->data;
-                Peer().NotifyParent(change.hdr, LVN_ITEMCHANGED);
-            }
+    // The mark and the focus stay with their rows, as the selection does.
+    const auto placeOf = [&order](int former) {
+        const auto found = std::find(order.begin(), order.end(), former);
+        return found == order.end() ? -1 : static_cast<int>(found - order.begin());
     };
-    tellRows(deselected, LVIS_SELECTED, 0);
-    tellRows(selected, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    const int focused = View().currentIndex().row();
+    m_model.Reorder(order);
+    mark = placeOf(mark);
+    if (focused >= 0)
+        View().selectionModel()->setCurrentIndex(RowIndex(placeOf(focused)), QItemSelectionModel::NoUpdate);
 }
 
 LRESULT ListCtrlControl::TellItem(int code, const QPoint& point) {
@@ -259,21 +206,30 @@ QRect ListCtrlOf<Base>::RowRect(int row, int part) {
 
 template <class Base>
 void ListCtrlOf<Base>::keyPressEvent(QKeyEvent* event) {
-    if (!TellKey(*event))
-        Base::keyPressEvent(event);
+    if (TellKey(*event) || SelectByKey(*event))
+        return;
+    const QPointer<QWidget> alive = this;
+    const int former = this->currentIndex().row();
+    Base::keyPressEvent(event); // moves the current row
+    if (alive && !WindowPeer::destroyed)
+        PickByKey(former, *event);
 }
 
 template <class Base>
 void ListCtrlOf<Base>::mousePressEvent(QMouseEvent* event) {
     const QPointer<QWidget> alive = this;
+    if (!StillPressed(*event))
+        return;
     m_pressed = event->button() == Qt::LeftButton;
-    const QModelIndex at = this->indexAt(event->position().toPoint());
-    if (!at.isValid() && !(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)))
-        this->clearSelection(); // beside the rows
-    if (alive && !WindowPeer::destroyed)
-        Base::mousePressEvent(event);
-    if (alive && at.isValid() && !(event->modifiers() & Qt::ShiftModifier))
-        mark = at.row();
+    const int row = RowAt(event->position().toPoint());
+    Base::mousePressEvent(event); // makes it the current row
+    if (!alive || WindowPeer::destroyed)
+        return;
+    if (row < 0 && !(event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier)))
+        SelectRows(0, -1, false, true); // beside the rows
+    // The right button leaves a selection alone that it is pressed over: the menu is meant for all of it.
+    else if (row >= 0 && (m_pressed || !Model().Selected(row)))
+        PickByMouse(row, event->modifiers());
 }
 
 template <class Base>

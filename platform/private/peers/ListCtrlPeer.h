@@ -1,4 +1,5 @@
-// List views on the toolkit's: a table for LVS_REPORT, a list for the other kinds.
+// List views on the toolkit's: a table for LVS_REPORT, a list for the other kinds. The toolkit shows the rows and moves
+// the current one; what is selected is decided and kept here.
 #pragma once
 
 #include "platform/controls/ListCtrl.h"
@@ -6,13 +7,12 @@
 #include "platform/private/peers/ListCtrlModel.h"
 
 #include <QAbstractItemView>
-#include <QItemSelection>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 namespace platform {
 
-// What both views share. Selections are told from the selection model's signal, so that those of the program count too.
+// What both views share.
 class ListCtrlControl {
   public:
     virtual ~ListCtrlControl() = default;
@@ -24,30 +24,37 @@ class ListCtrlControl {
     virtual QRect RowRect(int row, int part) = 0;
 
     ListCtrlModel& Model() { return m_model; }
-    bool Selected(int row);
     bool Focused(int row) { return View().currentIndex().row() == row; }
     void SetState(int row, UINT state, UINT mask);
-    int SelectedCount();
-    int NextSelected(int after); // -1 for none
     int RowAt(const QPoint& point) { return View().indexAt(point).row(); }
     void SetImages(const CImageList* images);
     int Insert(int row, ListCtrlModel::Row content);
     void Remove(int row);
     void Clear(); // tells nobody
     void Sort(PFNLVCOMPARE compare, LPARAM argument);
-    int mark = -1; // the row from which a selection extends
+    int mark = -1; // the row from which a selection extends; it stays with its row, and ends with it
 
   protected:
     void SetUp(const ControlSpec& spec); // when the view exists
-    void TellSelection(const QItemSelection& selected, const QItemSelection& deselected);
+    bool Single() { return Peer().style & LVS_SINGLESEL; }
+
+    // The user's selecting. The mark has its new place before anybody hears of the selection.
+    void PickByMouse(int row, Qt::KeyboardModifiers modifiers);
+    void PickByKey(int former, const QKeyEvent& event); // `former` was the current row before the key
+    bool SelectByKey(const QKeyEvent& event);           // Space and Ctrl+A; true when it was one of them
+    // The rows become selected or not; with `only` the others lose their selection. Who loses it is told before who
+    // gets it.
+    void SelectRows(int first, int last, bool select, bool only);
     LRESULT TellItem(int code, const QPoint& point);
     bool TellKey(const QKeyEvent& event); // true when the key is spent
     bool TellLabel(int row, LPCTSTR text);
     QModelIndex RowIndex(int row) { return m_model.index(row, 0); }
 
   private:
+    void ExtendTo(int row, bool only);
+    void TellRows(const std::vector<int>& rows, UINT before, UINT after);
+
     ListCtrlModel m_model;
-    bool m_silent = false;
 };
 
 template <class Base>

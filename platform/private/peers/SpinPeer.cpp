@@ -184,7 +184,7 @@ void SpinPeer::mousePressEvent(QMouseEvent* event) {
     WindowPeer* shown = Buddy();
     if (EditOf(m_buddy) && shown->widget->isEnabled())
         shown->widget->setFocus(Qt::MouseFocusReason);
-    if (!alive || WindowPeer::destroyed)
+    if (!alive || WindowPeer::destroyed || !StillPressed(*event))
         return;
     m_pressed = DirectionAt(event->position().toPoint());
     m_repeating = false;

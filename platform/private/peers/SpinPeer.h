@@ -41,8 +41,8 @@ class SpinPeer final : public Hosted<QWidget> {
     void TellScroll(UINT code);
     void StopRepeating();
 
-    int m_lower = 0;
-    int m_upper = 100;
+    int m_lower = 100; // up goes towards the second number, also when that is the smaller one
+    int m_upper = 0;
     int m_position = 0;
     int m_base = 10;
     QPointer<QWidget> m_buddy;

@@ -2,6 +2,7 @@
 
 #include "platform/private/paint/Icons.h"
 #include "platform/private/peers/Controls.h"
+#include "platform/private/peers/RowStore.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -74,28 +75,23 @@ LRESULT TreePeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
     return PlayKey(*this, message, wParam);
 }
 
-int TreePeer::PlaceOf(QTreeWidgetItem& parentItem, const QString& text, HTREEITEM after) const {
+int TreePeer::PlaceOf(QTreeWidgetItem& parentItem, const CString& text, HTREEITEM after) const {
     const int count = parentItem.childCount();
     if (after == TVI_FIRST)
         return 0;
     if (after == TVI_LAST || !after || after == TVI_ROOT)
         return count;
-    if (after == TVI_SORT) {
-        int place = count;
-        while (place > 0 &&
-               CompareNoCase(FromQString(text).View(), FromQString(parentItem.child(place - 1)->text(0)).View()) < 0)
-            --place;
-        return place;
-    }
-    return parentItem.indexOfChild(reinterpret_cast<TreeItem*>(after)) + 1;
+    if (after == TVI_SORT)
+        return SortedPlace(count, text,
+                           [&parentItem](int index) { return FromQString(parentItem.child(index)->text(0)); });
+    return indexFromItem(reinterpret_cast<TreeItem*>(after)).row() + 1; // it knows its row; no search for it
 }
 
 TreeItem* TreePeer::Add(const CString& text, int image, int selectedImage, QTreeWidgetItem* parentItem,
                         HTREEITEM after) {
     QTreeWidgetItem& owner = parentItem ? *parentItem : *invisibleRootItem();
     auto* item = new TreeItem; // the tree's from the insertion on
-    const QString shown = ToQString(text);
-    item->setText(0, shown);
+    item->setText(0, ToQString(text));
     if (WindowPeer::style & TVS_EDITLABELS)
         item->setFlags(item->flags() | Qt::ItemIsEditable);
     if (HasBoxes())
@@ -103,7 +99,7 @@ TreeItem* TreePeer::Add(const CString& text, int image, int selectedImage, QTree
     item->image = image;
     item->selectedImage = selectedImage;
     ShowImage(*item);
-    const int place = PlaceOf(owner, shown, after);
+    const int place = PlaceOf(owner, text, after);
     if (place == owner.childCount())
         owner.addChild(item);
     else
@@ -257,9 +253,12 @@ void TreePeer::SortChildren(TreeItem* item) {
     QTreeWidgetItem* selected = SelectedItem();
     m_silent = true;
     QList<QTreeWidgetItem*> children = owner->takeChildren();
-    std::stable_sort(children.begin(), children.end(), [](const QTreeWidgetItem* a, const QTreeWidgetItem* b) {
-        return CompareNoCase(FromQString(a->text(0)).View(), FromQString(b->text(0)).View()) < 0;
-    });
+    std::vector<std::pair<CString, QTreeWidgetItem*>> sorted; // each text is converted once
+    for (QTreeWidgetItem* child : children)
+        sorted.emplace_back(FromQString(child->text(0)), child);
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const auto& a, const auto& b) { return a.first.CompareNoCase(b.first) < 0; });
+    std::transform(sorted.begin(), sorted.end(), children.begin(), [](const auto& each) { return each.second; });
     owner->addChildren(children);
     setCurrentItem(selected);
     m_told = static_cast<TreeItem*>(selected);
@@ -300,7 +299,7 @@ void TreePeer::mousePressEvent(QMouseEvent* event) {
     UINT flags = 0;
     m_pressedAt = event->position().toPoint();
     TreeItem* item = HitTest(m_pressedAt, flags);
-    m_pressed = event->button() == Qt::LeftButton && flags != TVHT_ONITEMBUTTON;
+    m_pressed = event->button() == Qt::LeftButton && flags != TVHT_ONITEMBUTTON && StillPressed(*event);
     if (event->button() == Qt::LeftButton && flags == TVHT_ONITEMBUTTON)
         expand(item, TVE_TOGGLE);
 }

@@ -50,7 +50,7 @@ class TreePeer final : public HostedScrollArea<QTreeWidget> {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
-    int PlaceOf(QTreeWidgetItem& parentItem, const QString& text, HTREEITEM after) const;
+    int PlaceOf(QTreeWidgetItem& parentItem, const CString& text, HTREEITEM after) const;
     void SelectionMoved();
     void LabelEdited(QTreeWidgetItem* item);
     LRESULT Tell(int code);
