@@ -1,5 +1,7 @@
 #include "host/app/Options.h"
 
+#include "platform/core/String.h"
+
 #include <string_view>
 
 namespace host {
@@ -56,7 +58,7 @@ Options ParseOptions(int argc, char** argv) {
                 continue;
             }
             if (!options.argument.empty())
-                return Invalid("Argomento in più: " + std::string(given));
+                return Invalid("Argomento in più: "_utf8 + std::string(given));
             options.argument = given;
             continue;
         }

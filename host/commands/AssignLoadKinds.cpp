@@ -26,10 +26,10 @@ const LoadField concentrated[] = {{"distanza", "Distanza dal primo nodo", -1, "L
                                   {"mx", "Momento", 0, "F*L"},
                                   {"my", "Momento", 1, "F*L"},
                                   {"mz", "Momento", 2, "F*L"}};
-const LoadField temperature[] = {{"media", "Variazione media", -1, "°C"},
-                                 {"gradiente2", "Gradiente lungo l'asse", 1, "°C/L"},
-                                 {"gradiente3", "Gradiente lungo l'asse", 2, "°C/L"},
-                                 {"alfa", "Alfa, 0 = del materiale", -1, "1/°C", Role::Coefficient}};
+const LoadField temperature[] = {{"media", "Variazione media", -1, "°C"_utf8},
+                                 {"gradiente2", "Gradiente lungo l'asse", 1, "°C/L"_utf8},
+                                 {"gradiente3", "Gradiente lungo l'asse", 2, "°C/L"_utf8},
+                                 {"alfa", "Alfa, 0 = del materiale", -1, "1/°C"_utf8, Role::Coefficient}};
 const LoadField weight[] = {
     {"x", "Accelerazione", 0, "L/s^2"}, {"y", "Accelerazione", 1, "L/s^2"}, {"z", "Accelerazione", 2, "L/s^2"}};
 

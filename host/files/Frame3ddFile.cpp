@@ -1,6 +1,7 @@
 #include "host/files/Frame3ddFile.h"
 
 #include "host/files/NumberReader.h"
+#include "platform/core/String.h"
 
 #include <cmath>
 
@@ -21,7 +22,7 @@ class Parser {
     Frame3ddModel Parse() {
         m_model.title = std::string(m_reader.Line());
         if (m_model.title.size() > longestTitle)
-            m_reader.Fail("il titolo è troppo lungo.");
+            m_reader.Fail("il titolo è troppo lungo."_utf8);
         ReadNodes();
         ReadRestraints();
         ReadElements();
@@ -46,7 +47,7 @@ class Parser {
     // Rows may come in any order, but each number once.
     void Once(std::vector<bool>& seen, int number, const char* what) {
         if (seen[static_cast<std::size_t>(number - 1)])
-            m_reader.Fail(std::string(what) + " " + std::to_string(number) + " è già stato definito.");
+            m_reader.Fail(std::string(what) + " " + std::to_string(number) + " è già stato definito."_utf8);
         seen[static_cast<std::size_t>(number - 1)] = true;
     }
 
@@ -69,7 +70,7 @@ class Parser {
         for (double& coordinate : place) {
             coordinate = m_reader.Real("attesa una coordinata del nodo");
             if (std::fabs(coordinate) > farthest)
-                m_reader.Fail("la coordinata del nodo è troppo grande.");
+                m_reader.Fail("la coordinata del nodo è troppo grande."_utf8);
         }
     }
 
@@ -109,12 +110,12 @@ class Parser {
         element.torsion = Positive("atteso il momento d'inerzia torsionale");
         element.inertiaY = Positive("atteso il momento d'inerzia y");
         element.inertiaZ = Positive("atteso il momento d'inerzia z");
-        element.young = Positive("atteso il modulo di elasticità");
+        element.young = Positive("atteso il modulo di elasticità"_utf8);
         element.shearModulus = Positive("atteso il modulo di taglio");
         if (!std::isfinite(element.Poisson()))
-            m_reader.Fail("il modulo di taglio è troppo piccolo per il modulo di elasticità.");
+            m_reader.Fail("il modulo di taglio è troppo piccolo per il modulo di elasticità."_utf8);
         element.roll = m_reader.Real("atteso l'angolo di rotazione dell'elemento");
-        element.density = NotNegative("attesa la densità");
+        element.density = NotNegative("attesa la densità"_utf8);
     }
 
     double Positive(const char* what) {
@@ -142,7 +143,7 @@ class Parser {
     double Within(double length, const char* what) {
         const double value = NotNegative(what);
         if (value > length * (1 + 1e-6))
-            m_reader.Fail("il carico è oltre la fine dell'elemento.");
+            m_reader.Fail("il carico è oltre la fine dell'elemento."_utf8);
         return value;
     }
 
@@ -157,7 +158,7 @@ class Parser {
 
     void ReadLoadCase() {
         Frame3ddLoadCase loads;
-        Reals(loads.gravity, "attesa l'accelerazione di gravità");
+        Reals(loads.gravity, "attesa l'accelerazione di gravità"_utf8);
         ReadNodal(loads.nodal, "atteso il numero dei nodi caricati", "atteso il carico del nodo",
                   static_cast<int>(m_model.nodes.size()));
         ReadElementLoads(loads);
@@ -216,7 +217,7 @@ class Parser {
             if ((row.depthY == 0 && row.plusY != row.minusY) || (row.depthZ == 0 && row.plusZ != row.minusZ))
                 m_reader.Fail("la variazione termica richiede un'altezza della sezione maggiore di zero.");
             if (!std::isfinite(row.Mean()) || !std::isfinite(row.GradientY()) || !std::isfinite(row.GradientZ()))
-                m_reader.Fail("la variazione termica è troppo grande.");
+                m_reader.Fail("la variazione termica è troppo grande."_utf8);
         }
     }
 

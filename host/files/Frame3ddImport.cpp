@@ -250,7 +250,7 @@ DocumentData ImportFrame3dd(const std::string& path, std::vector<CString>* notes
     if (size < 0)
         throw FileError("Impossibile aprire il file.");
     if (size > longestFile)
-        throw FileError("Il file è troppo grande.");
+        throw FileError("Il file è troppo grande."_utf8);
     std::string text(static_cast<std::size_t>(size), '\0');
     file.seekg(0);
     if (!file.read(text.data(), size))

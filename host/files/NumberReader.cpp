@@ -1,6 +1,7 @@
 #include "host/files/NumberReader.h"
 
 #include "host/files/FileError.h"
+#include "platform/core/String.h"
 
 #include <charconv>
 #include <cmath>
@@ -110,7 +111,7 @@ int NumberReader::Count(const char* what, int numbersPerRow, int highest) {
     // A number takes a character and a separator at least; the last one may do without the separator.
     const std::size_t room = (m_text.size() - m_position + 1) / 2;
     if (static_cast<std::size_t>(count) * static_cast<std::size_t>(numbersPerRow) > room)
-        Fail("il file è troppo corto per contenere " + std::to_string(count) + " righe.");
+        Fail("il file è troppo corto per contenere "_utf8 + std::to_string(count) + " righe.");
     return count;
 }
 

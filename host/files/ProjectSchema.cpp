@@ -52,7 +52,8 @@ RowWriter::RowWriter(Database& database, const Table& table, int& rows)
 
 RowWriter& RowWriter::Put(double value) {
     if (!std::isfinite(value))
-        throw FileError(std::string("Tabella ") + m_table.name + ": un valore è troppo grande per essere salvato.");
+        throw FileError(std::string("Tabella ") + m_table.name +
+                        ": un valore è troppo grande per essere salvato."_utf8);
     m_statement.Bind(++m_column, value);
     return *this;
 }
@@ -80,7 +81,7 @@ bool RowReader::Next() {
     if (!m_statement.Step())
         return false;
     if (m_statement.Integer(0) != m_row)
-        Fail("la riga manca o è ripetuta.");
+        Fail("la riga manca o è ripetuta."_utf8);
     return true;
 }
 
@@ -94,7 +95,7 @@ int RowReader::Int(int lowest, int highest) {
     if (!m_statement.GetInteger(m_column, value))
         Fail("atteso un numero intero.");
     if (value < lowest || value > highest)
-        Fail("il numero " + std::to_string(value) + " non è ammesso.");
+        Fail("il numero " + std::to_string(value) + " non è ammesso."_utf8);
     return static_cast<int>(value);
 }
 
@@ -111,7 +112,7 @@ double RowReader::Real() {
 double RowReader::Real(double lowest, double highest) {
     const double value = Real();
     if (value < lowest || value > highest)
-        Fail("un valore è fuori dai limiti.");
+        Fail("un valore è fuori dai limiti."_utf8);
     return value;
 }
 

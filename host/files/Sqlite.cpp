@@ -1,6 +1,7 @@
 #include "host/files/Sqlite.h"
 
 #include "host/files/FileError.h"
+#include "platform/core/String.h"
 
 #include <sqlite3.h>
 
@@ -77,9 +78,9 @@ void Database::Fail() const {
         throw FileError("Memoria insufficiente.");
     switch (sqlite3_errcode(m_db) & 0xff) {
     case SQLITE_NOTADB:
-        throw FileError("Il file non è un progetto.");
+        throw FileError("Il file non è un progetto."_utf8);
     case SQLITE_CORRUPT:
-        throw FileError("Il file è danneggiato o incompleto.");
+        throw FileError("Il file è danneggiato o incompleto."_utf8);
     case SQLITE_CANTOPEN:
         throw FileError("Impossibile aprire il file.");
     case SQLITE_FULL:

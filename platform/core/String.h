@@ -171,6 +171,10 @@ inline platform::FormatArgument::FormatArgument(const CString& string)
 }
 
 CString operator""_t(const char* utf8, std::size_t length);
+// Changes nothing: says of a literal with accents that UTF-8 is what its reader expects.
+constexpr const char* operator""_utf8(const char* utf8, std::size_t) {
+    return utf8;
+}
 
 // Writes UTF-8, for logs and test messages.
 std::ostream& operator<<(std::ostream& stream, const CString& string);

@@ -74,7 +74,7 @@ QPalette DialogPalette() {
 
 struct BoxButton {
     int command;
-    const char* text;
+    const char* text; // UTF-8
     QMessageBox::ButtonRole role;
 };
 
@@ -89,9 +89,9 @@ std::vector<BoxButton> ButtonsOf(UINT type) {
     case MB_ABORTRETRYIGNORE:
         return {{IDABORT, "Interrompi", reject}, {IDRETRY, "Riprova", accept}, {IDIGNORE, "Ignora", no}};
     case MB_YESNOCANCEL:
-        return {{IDYES, "&Sì", yes}, {IDNO, "&No", no}, {IDCANCEL, "Annulla", reject}};
+        return {{IDYES, "&Sì"_utf8, yes}, {IDNO, "&No", no}, {IDCANCEL, "Annulla", reject}};
     case MB_YESNO:
-        return {{IDYES, "&Sì", yes}, {IDNO, "&No", no}};
+        return {{IDYES, "&Sì"_utf8, yes}, {IDNO, "&No", no}};
     case MB_RETRYCANCEL:
         return {{IDRETRY, "Riprova", accept}, {IDCANCEL, "Annulla", reject}};
     default:
