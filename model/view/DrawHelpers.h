@@ -1,4 +1,4 @@
-// Small drawing helpers that several dialogs share.
+// Free functions about pens, fonts and windows that dialogs use when they draw.
 #pragma once
 
 #include "platform/core/Geometry.h"

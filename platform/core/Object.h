@@ -5,6 +5,9 @@
 //       DECLARE_DYNAMIC(CTrave)            in the header, without a semicolon
 //   };
 //   IMPLEMENT_DYNAMIC(CTrave, CLinea)      in the source, without a semicolon
+//
+// The base that is named is the next one that declares a run-time class, which need not be the class right above: those
+// in between (TwoPointDialog, ConfirmedDialog) are how a class is made, not what others ask it to be.
 #pragma once
 
 #include "platform/core/Types.h"

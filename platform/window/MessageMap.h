@@ -1,10 +1,13 @@
 // Message maps: a class lists which of its handlers take which messages. A map's entries are tried in their order, then
 // those of the base class's map.
 //
-//     BEGIN_MESSAGE_MAP(CDialogMuovi, CDialogDocument)
-//     ON_WM_DESTROY()
-//     ON_BN_CLICKED(1090, OnRadioX)
+//     BEGIN_MESSAGE_MAP(CDialogRuota, TwoPointDialog)
+//     ON_BN_CLICKED(IDC_RUOTA_X, OnRadioRuotaAsse)
+//     ON_BN_CLICKED(IDC_RUOTA_Y, OnRadioRuotaY)
 //     END_MESSAGE_MAP()
+//
+// The base is the class right above, whether or not it has a run-time class: another one would leave out the handlers
+// in between. IMPLEMENT_DYNAMIC names the next class above that has a run-time class (see core/Object.h).
 //
 // A handler named by a macro of a WM_ message has the signature that the thunk of that macro shows.
 #pragma once

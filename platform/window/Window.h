@@ -170,7 +170,8 @@ class CScrollBar : public CWnd {
     DECLARE_DYNAMIC(CScrollBar)
 };
 
-// Non-zero while the handle's window exists.
+// Non-zero for any handle. It cannot tell whether the window still exists: ask with the handle that the object holds
+// now (GetSafeHwnd), which is null once its window has gone, never with one that was kept.
 inline bool IsWindow(HWND handle) {
     return handle != nullptr;
 }

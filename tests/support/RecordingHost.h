@@ -3,8 +3,10 @@
 //     RecordingHost host;
 //     CDialogGenNodiLineare dialog;
 //     host.Open(dialog);                       the host's way: on the view, beside it
+//     host.Take();                             what opening itself asked for
 //     ...
-//     EXPECT_EQ(host.Take(), Lines({"GenNodiLineare (2,3,0) (2,4,0) 1 1", "WM_FINEDIALOGO 1"}));
+//     EXPECT_EQ(host.Take(), Lines({"GenNodiLineare (2,3,0) (2,4,0) 1 1", "WM_FINEDIALOGO 1",
+//     "StopDefinisciVettore"}));
 #pragma once
 
 #include "dialogs/frame/host/MainFrame.h"
