@@ -3,7 +3,7 @@
 
 #include "host/document/DocumentData.h"
 #include "host/document/Refusal.h"
-#include "model/result/LineaRisultati.h"
+#include "model/result/TraveRisultati.h"
 
 #include <array>
 #include <optional>

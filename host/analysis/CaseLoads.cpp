@@ -3,6 +3,7 @@
 
 #include "host/analysis/Analysis.h"
 #include "host/document/Refusal.h"
+#include "model/element/TipoElemento.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Materiale.h"
 

@@ -4,7 +4,7 @@
 // linear elastic, with shear deformation where a shear ratio is not 0.
 #pragma once
 
-#include "model/result/LineaRisultati.h"
+#include "model/element/LineaRisultati.h"
 
 #include <Eigen/Core>
 

@@ -1,5 +1,7 @@
 #include "host/analysis/ResultsCsv.h"
 
+#include "model/element/Linea.h"
+
 namespace host {
 
 namespace {

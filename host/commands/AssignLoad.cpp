@@ -2,6 +2,7 @@
 
 #include "host/commands/AssignLoadDialog.h"
 #include "host/document/HostDocument.h"
+#include "model/element/TipoElemento.h"
 #include "model/entity/CasoCarico.h"
 #include "platform/window/Application.h"
 

@@ -5,6 +5,7 @@
 #include "model/element/Asta.h"
 #include "model/element/Linea.h"
 #include "model/element/Poligono.h"
+#include "model/element/TipoElemento.h"
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"
 

@@ -3,6 +3,7 @@
 #include "model/element/Asta.h"
 #include "model/element/Setto.h"
 #include "model/element/Solaio.h"
+#include "model/element/TipoElemento.h"
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"

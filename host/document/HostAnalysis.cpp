@@ -1,5 +1,6 @@
 #include "host/document/HostAnalysis.h"
 
+#include "model/element/LineaRisultati.h"
 #include "model/entity/Combinazione.h"
 #include "platform/core/Collections.h"
 

@@ -5,6 +5,8 @@
 #include "dialogs/frame/host/QuovarAnalisi.h"
 #include "host/analysis/Analysis.h"
 
+class CLineaRisultati;
+
 namespace host {
 
 // It owns the results that elements point at. They go as soon as the model changes: whoever owns the model calls Clear.

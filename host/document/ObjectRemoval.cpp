@@ -4,7 +4,7 @@
 #include "host/document/HostEditing.h"
 #include "host/document/ModelWalks.h"
 #include "model/element/LineaFisica.h"
-#include "model/element/Poligono.h"
+#include "model/element/PoligonoFisico.h"
 #include "model/entity/Combinazione.h"
 #include "model/entity/Gruppo.h"
 

@@ -1,5 +1,6 @@
 #include "host/files/LoadValues.h"
 
+#include "model/element/TipoElemento.h"
 #include "model/load/Carico.h"
 
 namespace host {

@@ -3,7 +3,8 @@
 #include "host/files/ProjectFile.h"
 #include "host/files/ProjectSchema.h"
 #include "model/element/LineaFisica.h"
-#include "model/element/Poligono.h"
+#include "model/element/PoligonoFisico.h"
+#include "model/element/TipoElemento.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
 #include "model/entity/Gruppo.h"
@@ -27,12 +28,12 @@ constexpr int mostReleases = 1000;
 // something. The pages behind them are checked while their rows are read.
 void CheckSchema(Database& database) {
     if (database.Pragma("application_id") != projectApplicationId)
-        throw FileError("Il file non è un progetto.");
+        throw FileError("Il file non è un progetto."_utf8);
     const std::int64_t format = database.Pragma("user_version");
     if (format > projectFormat)
-        throw FileError("Il progetto è stato salvato da una versione più recente del programma.");
+        throw FileError("Il progetto è stato salvato da una versione più recente del programma."_utf8);
     if (format != projectFormat)
-        throw FileError("Il formato del progetto non è valido.");
+        throw FileError("Il formato del progetto non è valido."_utf8);
     Statement statement(database, "SELECT type, sql FROM sqlite_schema ORDER BY rowid");
     for (const Table* table : tables::all)
         if (!statement.Step() || statement.Text(0) != "table" || statement.Text(1) != CreationSql(*table))
@@ -67,7 +68,7 @@ class Reader {
         ReadLoaded();
         ReadMembers();
         if (m_rows != m_expectedRows)
-            throw FileError("Il progetto è incompleto: mancano delle righe.");
+            throw FileError("Il progetto è incompleto: mancano delle righe."_utf8);
         CheckCurrentCase();
         return std::move(m_data);
     }
@@ -88,7 +89,7 @@ class Reader {
         added.SetForza(m_data.Units().force);
         std::unique_ptr<CElemento> element = std::move(object);
         if (!m_data.Append(element))
-            row.Fail("il numero " + std::to_string(id) + " è già usato.");
+            row.Fail("il numero " + std::to_string(id) + " è già usato."_utf8);
         return added;
     }
 
@@ -115,7 +116,7 @@ class Reader {
                 row.Fail(message);
             return kind;
         }
-        row.Fail("il genere dell'elemento non è valido.");
+        row.Fail("il genere dell'elemento non è valido."_utf8);
     }
 
     template <class T>
@@ -173,7 +174,7 @@ class Reader {
         std::unordered_set<CString> names;
         const auto takeName = [&](RowReader& row, CElementoStrutturale& entity) {
             if (!names.insert(entity.GetNome()).second)
-                row.Fail("il nome \"" + Shown(entity.GetNome()) + "\" è già usato.");
+                row.Fail("il nome \"" + Shown(entity.GetNome()) + "\" è già usato."_utf8);
         };
         ForEach(tables::loadCases, [&](RowReader& row) { takeName(row, ReadNamed<CCasoCarico>(row)); });
         ForEach(tables::combinations, [&](RowReader& row) { takeName(row, ReadNamed<CCombinazione>(row)); });
@@ -181,7 +182,7 @@ class Reader {
             auto& combination = Required<CCombinazione>(row, Kind::Combination);
             const int loadCase = Required<CCasoCarico>(row, Kind::LoadCase).GetID();
             if (!combination.AddCDC(loadCase, row.Real()))
-                row.Fail("il caso di carico è già nella combinazione.");
+                row.Fail("il caso di carico è già nella combinazione."_utf8);
         });
     }
 
@@ -243,7 +244,7 @@ class Reader {
             if (line.GetSizeSpecifiche() == mostReleases)
                 row.Fail("la linea ha troppi svincoli.");
             if (line.IsIDSpecifica(id))
-                row.Fail("lo svincolo è ripetuto.");
+                row.Fail("lo svincolo è ripetuto."_utf8);
             const bool end = row.Flag();
             auto release = std::make_unique<CSpecificheSvincoliTrave>(end, 0, 0, 0, 0);
             for (int i = 0; i < 4; ++i)
@@ -270,7 +271,7 @@ class Reader {
         ForEach(tables::vertices, [this](RowReader& row) {
             auto& polygon = Required<CPoligono>(row, ReadKind(row, IsPolygonKind, "solo setti e solai hanno vertici."));
             if (polygon.GetSize() == mostVertices || !polygon.AggiungiVertice(&Required<CNodo>(row, Kind::Node)))
-                row.Fail("il vertice è ripetuto.");
+                row.Fail("il vertice è ripetuto."_utf8);
         });
         for (const Kind kind : {Kind::Wall, Kind::Slab})
             for (int i = 0; i < m_data.Size(kind); ++i)
@@ -285,9 +286,9 @@ class Reader {
             const int id = row.Id();
             std::unique_ptr<CCarico> load = MakeLoad(static_cast<unsigned>(row.Int(1, 255)));
             if (!load)
-                row.Fail("il genere del carico non è valido.");
+                row.Fail("il genere del carico non è valido."_utf8);
             if (loadCase.GetCarico(id, nullptr))
-                row.Fail("il numero " + std::to_string(id) + " è già usato.");
+                row.Fail("il numero " + std::to_string(id) + " è già usato."_utf8);
             load->SetReference(row.Int(CCarico::Global, CCarico::Local));
             load->SetSetId(row.Reference());
             const LoadValues list = ValuesOf(*load);
@@ -311,7 +312,7 @@ class Reader {
             const unsigned code = load->GetTipoElemento();
             const bool nodal = code == TipoElemento::CaricoNodale || code == TipoElemento::CaricoSpostamento;
             if (nodal != (kind == Kind::Node) || code == TipoElemento::CaricoPesoProprio)
-                row.Fail("l'elemento non può portare questo genere di carico.");
+                row.Fail("l'elemento non può portare questo genere di carico."_utf8);
             carrier.AddCarico(load, 0);
         });
     }
@@ -322,7 +323,7 @@ class Reader {
             const Kind kind = ReadKind(row, IsSelectableKind, "");
             auto& element = Required<CElementoGruppo>(row, kind);
             if (!group.AddElemento(CodeOf(kind), element.GetID()))
-                row.Fail("l'elemento è già nel gruppo.");
+                row.Fail("l'elemento è già nel gruppo."_utf8);
             element.AddGruppo(group.GetID());
         });
     }

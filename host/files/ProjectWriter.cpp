@@ -3,7 +3,7 @@
 #include "host/files/ProjectFile.h"
 #include "host/files/ProjectSchema.h"
 #include "model/element/LineaFisica.h"
-#include "model/element/Poligono.h"
+#include "model/element/PoligonoFisico.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
 #include "model/entity/Gruppo.h"

@@ -1,12 +1,12 @@
 // A truss member: axial force only.
 #pragma once
 
-#include "model/result/LineaRisultati.h"
+#include "model/element/LineaRisultati.h"
 
 class CAsta : public CLineaRisultati {
     DECLARE_DYNCREATE(CAsta)
 
-    CAsta() : CLineaRisultati(TipoElemento::Asta) {}
+    CAsta();
     CAsta& operator=(const CAsta& altro) {
         operator=(Source(altro));
         return *this;

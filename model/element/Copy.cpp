@@ -2,7 +2,7 @@
 
 #include "model/element/LineaFisica.h"
 #include "model/element/Nodo.h"
-#include "model/element/Poligono.h"
+#include "model/element/PoligonoFisico.h"
 
 namespace {
 

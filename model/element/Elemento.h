@@ -3,9 +3,6 @@
 // demand.
 #pragma once
 
-#include "model/design/ElementoProgetto.h"
-#include "model/element/TipoElemento.h"
-#include "model/result/ElementoRisultati.h"
 #include "model/values/FPoint.h"
 #include "model/values/Units.h"
 #include "platform/core/Collections.h"
@@ -16,7 +13,10 @@
 
 class Adv3d;
 class Adv3dRect;
+class CElementoProgetto;
+class CElementoRisultati;
 class CElementoSettings;
+class CElementoVerifica;
 class CNodo;
 struct ElementExtras;
 struct FaceElemento;

@@ -1,6 +1,7 @@
 #include "model/element/ElementoCarico.h"
 
 #include "model/element/ElementExtras.h"
+#include "model/load/Carico.h"
 #include "model/view/Adv3d.h"
 
 IMPLEMENT_DYNAMIC(CElementoCarico, CElementoVista)

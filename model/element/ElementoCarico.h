@@ -2,7 +2,9 @@
 #pragma once
 
 #include "model/element/ElementoGruppo.h"
-#include "model/load/Carico.h"
+
+class CCarico;
+class CCaricoTemperatura;
 
 class CElementoCarico : public CElementoVista {
     DECLARE_DYNAMIC(CElementoCarico)

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 
-IMPLEMENT_DYNAMIC(CSpecifiche, CObject)
-IMPLEMENT_DYNCREATE(CSpecificheSvincoliTrave, CSpecifiche)
 IMPLEMENT_DYNAMIC(CElementoSpecifiche, CElementoCarico)
 
 int CElementoSpecifiche::AddSpecifica(CSpecifiche* pSpecifica) {

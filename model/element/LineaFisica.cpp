@@ -1,15 +1,12 @@
 #include "model/element/LineaFisica.h"
 
-#include "model/element/Asta.h"
 #include "model/element/Nodo.h"
-#include "model/element/Trave.h"
+#include "model/element/TipoElemento.h"
 #include "model/entity/Materiale.h"
 #include "model/entity/Sezione.h"
 #include "model/view/Adv3d.h"
 
 IMPLEMENT_DYNAMIC(CLineaFisica, CLinea)
-IMPLEMENT_DYNCREATE(CTrave, CLineaRisultati)
-IMPLEMENT_DYNCREATE(CAsta, CLineaRisultati)
 
 void CLineaFisica::SetMateriale(int id, CMateriale* pMateriale) {
     m_nIDMateriale = id;
@@ -68,16 +65,4 @@ int CLineaFisica::GetTextInfo(CString& testo) {
     testo.Format("%s n.ro %d, nodi %d - %d", GetTipoElemento() == TipoElemento::Asta ? "Asta" : "Trave", GetID(),
                  GetIDNodoIniziale(), GetIDNodoFinale());
     return 1;
-}
-
-unsigned CTrave::GetReleases(int estremo) {
-    unsigned released = 0;
-    for (int i = 0; i < GetSizeSpecifiche(); ++i) {
-        const auto* release = DYNAMIC_DOWNCAST(CSpecificheSvincoliTrave, static_cast<CObject*>(GetIndexSpecifica(i)));
-        if (!release || (release->GetEnd() != 0) != (estremo != 0))
-            continue;
-        for (int flag = 0; flag < 4; ++flag)
-            released |= release->GetRelease(flag) ? 1u << flag : 0u;
-    }
-    return released;
 }

@@ -1,12 +1,14 @@
 #include "model/element/Nodo.h"
 
+#include "model/element/TipoElemento.h"
 #include "model/index/NodeGrid.h"
 
 #include <algorithm>
 
-IMPLEMENT_DYNAMIC(CVincolo, CObject)
-IMPLEMENT_DYNAMIC(CMolla, CObject)
 IMPLEMENT_DYNCREATE(CNodo, CElementoCarico)
+
+CNodo::CNodo() : CElementoCarico(TipoElemento::Nodo) {
+}
 
 CNodo::~CNodo() {
     if (m_grid)

@@ -5,6 +5,7 @@
 #include "model/element/ElementoCarico.h"
 #include "model/element/Molla.h"
 #include "model/element/Vincolo.h"
+#include "model/result/ElementoRisultati.h"
 
 #include <vector>
 
@@ -15,7 +16,7 @@ class CNodo : public CElementoCarico {
 
     using CElemento::Select;
 
-    CNodo() : CElementoCarico(TipoElemento::Nodo) {}
+    CNodo();
     explicit CNodo(CFPoint punto) : CNodo() { m_point = punto; }
     CNodo(const CNodo&) = delete;
     // Elements that still meet here lose the node; a grid that holds it forgets it.

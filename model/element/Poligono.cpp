@@ -1,11 +1,15 @@
 #include "model/element/Poligono.h"
 
 #include "model/element/Nodo.h"
+#include "model/element/TipoElemento.h"
 
 #include <algorithm>
 #include <cmath>
 
 IMPLEMENT_DYNCREATE(CPoligono, CElementoSpecifiche)
+
+CPoligono::CPoligono() : CPoligono(TipoElemento::Poligono) {
+}
 
 namespace {
 

@@ -1,7 +1,7 @@
-// Walls and slabs.
+#include "model/element/PoligonoFisico.h"
+
 #include "model/element/Nodo.h"
-#include "model/element/Setto.h"
-#include "model/element/Solaio.h"
+#include "model/element/TipoElemento.h"
 #include "model/entity/Materiale.h"
 #include "model/entity/Spessore.h"
 
@@ -9,13 +9,8 @@
 #include <cmath>
 
 IMPLEMENT_DYNAMIC(CPoligonoFisico, CPoligono)
-IMPLEMENT_DYNCREATE(CSetto, CPoligonoFisico)
-IMPLEMENT_DYNCREATE(CSolaio, CPoligonoFisico)
 
 namespace {
-
-// Of the square root of the area: a wall that is further out of its plane than this is warped, not rounded.
-constexpr double warped = 1e-3;
 
 // Another polygon of the same kind on the same nodes, in any order; null when there is none.
 CPoligono* Twin(CPoligono& polygon) {
@@ -87,25 +82,4 @@ int CPoligonoFisico::GetTextInfo(CString& testo) {
     for (int i = 0; i < GetSize(); ++i)
         testo.AppendFormat(" %d", GetIDVertice(i));
     return 1;
-}
-
-int CSetto::CheckElemento(CStringArray& messaggi) {
-    const int before = messaggi.GetSize();
-    const double area = AreaVector().GetMod() / 2;
-    if (area == 0)
-        messaggi.Add("Il setto ha area nulla.");
-    else if (GetOutOfPlane() > warped * std::sqrt(area))
-        messaggi.Add("Il setto non è piano."_t);
-    if (GetSize() != 3 && GetSize() != 4)
-        messaggi.Add("Il setto non ha 3 o 4 nodi.");
-    CPoligonoFisico::CheckElemento(messaggi);
-    return messaggi.GetSize() == before;
-}
-
-int CSolaio::CheckElemento(CStringArray& messaggi) {
-    const int before = messaggi.GetSize();
-    if (AreaVector().GetMod() == 0)
-        messaggi.Add("Il solaio è degenere: i suoi nodi non formano una superficie."_t);
-    CPoligonoFisico::CheckElemento(messaggi);
-    return messaggi.GetSize() == before;
 }

@@ -1,14 +1,14 @@
 // A wall.
 #pragma once
 
-#include "model/element/Poligono.h"
+#include "model/element/PoligonoFisico.h"
 
 class CSetto : public CPoligonoFisico {
     DECLARE_DYNCREATE(CSetto)
 
     using CPoligonoFisico::operator=;
 
-    CSetto() : CPoligonoFisico(TipoElemento::Setto) {}
+    CSetto();
     CSetto& operator=(const CSetto& altro) {
         operator=(Source(altro));
         return *this;

@@ -1,14 +1,14 @@
 // A slab.
 #pragma once
 
-#include "model/element/Poligono.h"
+#include "model/element/PoligonoFisico.h"
 
 class CSolaio : public CPoligonoFisico {
     DECLARE_DYNCREATE(CSolaio)
 
     using CPoligonoFisico::operator=;
 
-    CSolaio() : CPoligonoFisico(TipoElemento::Solaio) {}
+    CSolaio();
     CSolaio& operator=(const CSolaio& altro) {
         operator=(Source(altro));
         return *this;

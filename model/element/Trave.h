@@ -1,12 +1,12 @@
 // A beam: hands forces and moments over at both ends, unless released.
 #pragma once
 
-#include "model/result/LineaRisultati.h"
+#include "model/element/LineaRisultati.h"
 
 class CTrave : public CLineaRisultati {
     DECLARE_DYNCREATE(CTrave)
 
-    CTrave() : CLineaRisultati(TipoElemento::Trave) {}
+    CTrave();
     CTrave& operator=(const CTrave& altro) {
         operator=(Source(altro));
         return *this;

@@ -1,9 +1,14 @@
 #include "model/entity/CasoCarico.h"
 
+#include "model/element/TipoElemento.h"
+
 #include <algorithm>
 #include <utility>
 
 IMPLEMENT_DYNCREATE(CCasoCarico, CElementoStrutturale)
+
+CCasoCarico::CCasoCarico() : CElementoStrutturale(TipoElemento::CasoCarico) {
+}
 
 CCasoCarico::CCasoCarico(const CCasoCarico& altro) : CElementoStrutturale(altro) {
     CopyLoads(const_cast<CCasoCarico&>(altro));

@@ -13,7 +13,7 @@ class CCasoCarico : public CElementoStrutturale {
 
     using CElementoStrutturale::operator=;
 
-    CCasoCarico() : CElementoStrutturale(TipoElemento::CasoCarico) {}
+    CCasoCarico();
     CCasoCarico(const CCasoCarico& altro);
     CCasoCarico& operator=(const CCasoCarico& altro) {
         operator=(Source(altro));

@@ -11,7 +11,7 @@ class CCombinazione : public CElementoStrutturale {
 
     using CElementoStrutturale::operator=;
 
-    CCombinazione() : CElementoStrutturale(TipoElemento::Combinazione) {}
+    CCombinazione();
     CCombinazione(const CCombinazione&) = default;
     CCombinazione& operator=(const CCombinazione& altro) {
         operator=(Source(altro));

@@ -11,7 +11,7 @@ class CGruppo : public CElementoStrutturale {
 
     using CElementoStrutturale::operator=;
 
-    CGruppo() : CElementoStrutturale(TipoElemento::Gruppo) {}
+    CGruppo();
     CGruppo(const CGruppo&) = default;
     CGruppo& operator=(const CGruppo& altro) {
         operator=(Source(altro));

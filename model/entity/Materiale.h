@@ -8,7 +8,7 @@ class CMateriale : public CElementoStrutturale {
 
     using CElementoStrutturale::operator=;
 
-    CMateriale() : CElementoStrutturale(TipoElemento::Materiale) {}
+    CMateriale();
     CMateriale(const CMateriale&) = default;
     CMateriale& operator=(const CMateriale& altro) {
         operator=(Source(altro));

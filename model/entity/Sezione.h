@@ -9,7 +9,7 @@ class CSezione : public CElementoStrutturale {
 
     using CElementoStrutturale::operator=;
 
-    CSezione() : CElementoStrutturale(TipoElemento::Sezione) {}
+    CSezione();
     CSezione(const CSezione&) = default;
     CSezione& operator=(const CSezione& altro) {
         operator=(Source(altro));

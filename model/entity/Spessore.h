@@ -8,7 +8,7 @@ class CSpessore : public CElementoStrutturale {
 
     using CElementoStrutturale::operator=;
 
-    CSpessore() : CElementoStrutturale(TipoElemento::Spessore) {}
+    CSpessore();
     CSpessore(const CSpessore&) = default;
     CSpessore& operator=(const CSpessore& altro) {
         operator=(Source(altro));

@@ -1,6 +1,7 @@
 #include "model/load/Carico.h"
 
 #include "model/element/Linea.h"
+#include "model/element/TipoElemento.h"
 
 #include <cmath>
 
@@ -12,6 +13,29 @@ IMPLEMENT_DYNCREATE(CCaricoTrapezoidale, CCarico)
 IMPLEMENT_DYNCREATE(CCaricoConcentrato, CCarico)
 IMPLEMENT_DYNCREATE(CCaricoTemperatura, CCarico)
 IMPLEMENT_DYNCREATE(CCaricoPesoProprio, CCarico)
+
+CCaricoNodale::CCaricoNodale() : CCarico(TipoElemento::CaricoNodale) {
+}
+
+CCaricoSpostamento::CCaricoSpostamento() : CCarico(TipoElemento::CaricoSpostamento) {
+}
+
+CCaricoUniforme::CCaricoUniforme() : CCarico(TipoElemento::CaricoUniforme) {
+}
+
+CCaricoTrapezoidale::CCaricoTrapezoidale() : CCarico(TipoElemento::CaricoTrapezoidale) {
+    SetReference(Local);
+}
+
+CCaricoConcentrato::CCaricoConcentrato() : CCarico(TipoElemento::CaricoConcentrato) {
+}
+
+CCaricoTemperatura::CCaricoTemperatura() : CCarico(TipoElemento::CaricoTemperatura) {
+    SetReference(Local);
+}
+
+CCaricoPesoProprio::CCaricoPesoProprio() : CCarico(TipoElemento::CaricoPesoProprio) {
+}
 
 namespace {
 

@@ -46,7 +46,7 @@ class CCarico : public CElemento {
 class CCaricoNodale : public CCarico {
     DECLARE_DYNCREATE(CCaricoNodale)
 
-    CCaricoNodale() : CCarico(TipoElemento::CaricoNodale) {}
+    CCaricoNodale();
     CCaricoNodale(CFPoint force, CFPoint moment) : CCaricoNodale() {
         m_force = force;
         m_moment = moment;
@@ -69,7 +69,7 @@ class CCaricoNodale : public CCarico {
 class CCaricoSpostamento : public CCarico {
     DECLARE_DYNCREATE(CCaricoSpostamento)
 
-    CCaricoSpostamento() : CCarico(TipoElemento::CaricoSpostamento) {}
+    CCaricoSpostamento();
     CCaricoSpostamento(CFPoint spostamento, CFPoint rotazione) : CCaricoSpostamento() {
         m_displacement = spostamento;
         m_rotation = rotazione;
@@ -91,7 +91,7 @@ class CCaricoSpostamento : public CCarico {
 class CCaricoUniforme : public CCarico {
     DECLARE_DYNCREATE(CCaricoUniforme)
 
-    CCaricoUniforme() : CCarico(TipoElemento::CaricoUniforme) {}
+    CCaricoUniforme();
     CCaricoUniforme(CFPoint carico, int riferimento) : CCaricoUniforme() {
         m_load = carico;
         SetReference(riferimento);
@@ -119,7 +119,7 @@ class CCaricoTrapezoidale : public CCarico {
         double fine = 0;   // and at `a`
     };
 
-    CCaricoTrapezoidale() : CCarico(TipoElemento::CaricoTrapezoidale) { SetReference(Local); }
+    CCaricoTrapezoidale();
     Stretch& GetStretch(int asse) { return m_stretches[asse]; } // 0 to 2
 
     CElemento& operator=(CElemento& altro) override;
@@ -136,7 +136,7 @@ class CCaricoTrapezoidale : public CCarico {
 class CCaricoConcentrato : public CCarico {
     DECLARE_DYNCREATE(CCaricoConcentrato)
 
-    CCaricoConcentrato() : CCarico(TipoElemento::CaricoConcentrato) {}
+    CCaricoConcentrato();
     CCaricoConcentrato(CFPoint force, double distanza, int riferimento) : CCaricoConcentrato() {
         m_force = force;
         m_dDistanza = distanza;
@@ -162,7 +162,7 @@ class CCaricoConcentrato : public CCarico {
 class CCaricoTemperatura : public CCarico {
     DECLARE_DYNCREATE(CCaricoTemperatura)
 
-    CCaricoTemperatura() : CCarico(TipoElemento::CaricoTemperatura) { SetReference(Local); }
+    CCaricoTemperatura();
 
     double& GetTemperature() { return m_dUniforme; } // degrees, of the axis
     double& GetGradient2() { return m_dGradient2; }  // degrees/length, growing along local axis 2
@@ -185,7 +185,7 @@ class CCaricoTemperatura : public CCarico {
 class CCaricoPesoProprio : public CCarico {
     DECLARE_DYNCREATE(CCaricoPesoProprio)
 
-    CCaricoPesoProprio() : CCarico(TipoElemento::CaricoPesoProprio) {}
+    CCaricoPesoProprio();
     explicit CCaricoPesoProprio(CFPoint accelerazione) : CCaricoPesoProprio() { m_acceleration = accelerazione; }
     CFPoint& GetAcceleration() { return m_acceleration; } // length/s^2, global axes
 

@@ -1,7 +1,7 @@
 // One quantity along a line, with what its diagram needs to know of it.
 #pragma once
 
-#include "model/result/LineaRisultati.h"
+#include "model/result/DiagramStretch.h"
 
 #include <algorithm>
 #include <cmath>

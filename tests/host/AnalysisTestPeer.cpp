@@ -1,6 +1,7 @@
 // The analysis beside the printed results of another program, model by model.
 #include "host/analysis/Analysis.h"
 #include "host/files/Frame3ddImport.h"
+#include "model/element/Linea.h"
 
 #include <gtest/gtest.h>
 

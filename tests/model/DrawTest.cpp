@@ -1,5 +1,6 @@
 // What reaches the picture. The pixels are read back: a drawing that is empty, upside down or in the wrong order shows.
 #include "model/element/FaceElemento.h"
+#include "model/element/TipoElemento.h"
 #include "model/entity/CasoCarico.h"
 #include "model/view/Adv3d.h"
 #include "model/view/DrawHelpers.h"

@@ -1,4 +1,5 @@
 // Named entities: load cases and their loads, combinations, groups, sections; and the loads that elements carry.
+#include "model/element/TipoElemento.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
 #include "model/entity/Gruppo.h"

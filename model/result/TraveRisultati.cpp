@@ -1,35 +1,13 @@
-#include "model/result/LineaRisultati.h"
+#include "model/result/TraveRisultati.h"
 
-#include "model/entity/Sezione.h"
 #include "model/view/ElementoSettings.h"
 
 #include <algorithm>
 #include <cmath>
 
 IMPLEMENT_DYNCREATE(CTraveRisultati, CElementoRisultati)
-IMPLEMENT_DYNAMIC(CLineaRisultati, CLineaFisica)
 
 namespace {
-
-// Position of a kind among the six internal forces; -1 for none of them.
-int Component(int kind) {
-    switch (kind) {
-    case CElementoSettings::N:
-        return 0;
-    case CElementoSettings::V2:
-        return 1;
-    case CElementoSettings::V3:
-        return 2;
-    case CElementoSettings::T:
-        return 3;
-    case CElementoSettings::M2:
-        return 4;
-    case CElementoSettings::M3:
-        return 5;
-    default:
-        return -1;
-    }
-}
 
 // The local axis, 0 to 2, of the forces that bend as this component does: M2 comes from forces along 3.
 int BendingAxis(int component) {
@@ -75,65 +53,24 @@ void AppendScaled(Loads& to, const Loads& from, double factor) {
 
 } // namespace
 
-// ---- Stretches
-
-int DiagramStretch::GetEnds(double (&x)[2]) const {
-    const double a2 = 3 * c[3], a1 = 2 * c[2], a0 = c[1];
-    double roots[2];
-    int count = 0;
-    if (a2 == 0) {
-        if (a1 != 0)
-            roots[count++] = -a0 / a1;
-    } else {
-        const double discriminant = a1 * a1 - 4 * a2 * a0;
-        if (discriminant > 0) {
-            // The root whose terms add up first, the other one from the product: no cancellation.
-            const double q = -(a1 + std::copysign(std::sqrt(discriminant), a1)) / 2;
-            roots[count++] = q / a2;
-            if (q != 0)
-                roots[count++] = a0 / q;
-        }
-    }
-    std::sort(roots, roots + count);
-    int inside = 0;
-    for (int i = 0; i < count; ++i)
-        if (roots[i] > 0 && roots[i] < a - da)
-            x[inside++] = da + roots[i];
-    return inside;
-}
-
-// Between its extremes the diagram goes one way only, so each part holds one zero at most.
-int DiagramStretch::GetZeros(double (&x)[3]) const {
-    double bounds[4] = {da};
-    double level[2];
-    int count = 1;
-    for (int i = 0, levels = GetEnds(level); i < levels; ++i)
-        bounds[count++] = level[i];
-    bounds[count++] = a;
-    int found = 0;
-    const auto add = [&](double place) {
-        if (found < 3 && (found == 0 || place > x[found - 1]))
-            x[found++] = place;
-    };
-    if (c[0] == 0 && c[1] == 0 && c[2] == 0 && c[3] == 0)
+int CTraveRisultati::Component(int tipo) {
+    switch (tipo) {
+    case CElementoSettings::N:
         return 0;
-    for (int i = 0; i + 1 < count; ++i) {
-        double low = bounds[i], high = bounds[i + 1];
-        const double first = GetValue(low), last = GetValue(high);
-        if (first == 0)
-            add(low);
-        if (first * last < 0) {
-            for (double middle = (low + high) / 2; middle > low && middle < high; middle = (low + high) / 2)
-                (GetValue(middle) * first > 0 ? low : high) = middle;
-            add(low);
-        }
-        if (last == 0)
-            add(bounds[i + 1]);
+    case CElementoSettings::V2:
+        return 1;
+    case CElementoSettings::V3:
+        return 2;
+    case CElementoSettings::T:
+        return 3;
+    case CElementoSettings::M2:
+        return 4;
+    case CElementoSettings::M3:
+        return 5;
+    default:
+        return -1;
     }
-    return found;
 }
-
-// ---- Results of one line
 
 void CTraveRisultati::GetEndForces(double (&forze)[12]) const {
     for (int i = 0; i < 6; ++i) {
@@ -299,81 +236,4 @@ std::vector<DiagramStretch> CTraveRisultati::GetDiagram(int tipo) const {
     for (std::size_t i = 0; i + 1 < places.size(); ++i)
         pieces.push_back(walk.Next(places[i], places[i + 1]));
     return pieces;
-}
-
-// ---- The line
-
-CTraveRisultati* CLineaRisultati::GetLineResults() {
-    return DYNAMIC_DOWNCAST(CTraveRisultati, static_cast<CObject*>(GetRisultati()));
-}
-
-// The internal force that a kind shows, and what it is divided by: 1, or a section property. 0 for a kind, or a stress,
-// that the line does not have.
-int CLineaRisultati::ForceKind(int tipo, double& divisor) {
-    const CSezione* section = GetSezione();
-    divisor = 1;
-    int base = tipo;
-    if (tipo == CElementoSettings::N_A) {
-        divisor = section ? section->GetArea() : 0;
-        base = CElementoSettings::N;
-    } else if (tipo == CElementoSettings::M2_W2) {
-        divisor = section ? section->GetW2() : 0;
-        base = CElementoSettings::M2;
-    } else if (tipo == CElementoSettings::M3_W3) {
-        divisor = section ? section->GetW3() : 0;
-        base = CElementoSettings::M3;
-    }
-    return divisor > 0 && Component(base) >= 0 ? base : 0;
-}
-
-int CLineaRisultati::GetDiagram(int tipo, std::vector<DiagramStretch>& tratti) {
-    double divisor;
-    const int kind = ForceKind(tipo, divisor);
-    const CTraveRisultati* results = GetLineResults();
-    if (!kind || !results)
-        return 0;
-    tratti = results->GetDiagram(kind);
-    for (DiagramStretch& piece : tratti)
-        for (double& coefficient : piece.c)
-            coefficient /= divisor;
-    return 1;
-}
-
-int CLineaRisultati::GetRisultato(int tipo, double x, CTraveRisultati::Side lato, double& valore) {
-    double divisor;
-    const int kind = ForceKind(tipo, divisor);
-    const CTraveRisultati* results = GetLineResults();
-    if (!kind || !results)
-        return 0;
-    valore = results->GetInternalForce(kind, x, lato) / divisor;
-    return 1;
-}
-
-int CLineaRisultati::GetRisultatoNodo(int nodo, int tipo, double& valore) {
-    CTraveRisultati* results = GetLineResults();
-    double divisor;
-    const int kind = ForceKind(tipo, divisor);
-    if (!kind || !results || nodo < 0 || nodo > 1)
-        return 0;
-    valore = results->GetNodeResults(nodo)->GetIndex(Component(kind)) / divisor;
-    return 1;
-}
-
-int CLineaRisultati::UpdateMinMaxRisultati(int tipo, int& primo, double& minimo, double& massimo) {
-    std::vector<DiagramStretch> pieces;
-    if (!GetDiagram(tipo, pieces) || pieces.empty())
-        return 0;
-    const auto widen = [&](double value) {
-        minimo = primo ? value : std::min(minimo, value);
-        massimo = primo ? value : std::max(massimo, value);
-        primo = 0;
-    };
-    for (const DiagramStretch& piece : pieces) {
-        double level[2];
-        widen(piece.GetValue(piece.da));
-        widen(piece.GetValue(piece.a));
-        for (int i = 0, count = piece.GetEnds(level); i < count; ++i)
-            widen(piece.GetValue(level[i]));
-    }
-    return 1;
 }

@@ -1,7 +1,7 @@
 // The diagrams of a line's results.
+#include "model/element/LineaRisultati.h"
 #include "model/entity/Sezione.h"
 #include "model/result/DiagramSheet.h"
-#include "model/result/LineaRisultati.h"
 #include "model/view/ElementoSettings.h"
 #include "platform/window/Window.h"
 

@@ -1,0 +1,3 @@
+#include "model/element/Molla.h"
+
+IMPLEMENT_DYNAMIC(CMolla, CObject)

@@ -1,0 +1,4 @@
+#include "model/element/Specifiche.h"
+
+IMPLEMENT_DYNAMIC(CSpecifiche, CObject)
+IMPLEMENT_DYNCREATE(CSpecificheSvincoliTrave, CSpecifiche)

@@ -1,0 +1,3 @@
+#include "model/element/Vincolo.h"
+
+IMPLEMENT_DYNAMIC(CVincolo, CObject)
