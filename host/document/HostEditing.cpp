@@ -64,7 +64,7 @@ void HostEditing::SetTolerance(double tolerance) {
 void HostEditing::ChangeUnits(Lunghezza length, Forza force) {
     if (length == Data().Units().length && force == Data().Units().force)
         return;
-    Undo().Record(std::make_unique<UnitChange>(Data(), DocumentUnits{length, force}), "Cambia unità di misura");
+    Undo().Record(std::make_unique<UnitChange>(Data(), DocumentUnits{length, force}), "Cambia unità di misura"_utf8);
     UpdateAllViews(nullptr, MODIFICA_LUNGHEZZE, nullptr);
     UpdateAllViews(nullptr, MODIFICA_UNITA, nullptr);
 }
