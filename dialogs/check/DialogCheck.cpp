@@ -8,10 +8,11 @@
 #include "dialogs/frame/host/QuovarSelection.h"
 #include "model/element/Asta.h"
 #include "model/element/Nodo.h"
-#include "model/element/Setto.h"
 #include "model/element/Solaio.h"
 #include "model/element/Trave.h"
 #include "platform/window/DataExchange.h"
+
+#include <vector>
 
 IMPLEMENT_DYNAMIC(CDialogCheck, CDialogDocument)
 

@@ -1,9 +1,13 @@
 #include "dialogs/check/RestraintCheck.h"
 
+#include "model/element/Molla.h"
 #include "model/element/Nodo.h"
 #include "model/element/Setto.h"
 #include "model/element/Specifiche.h"
 #include "model/element/Trave.h"
+#include "model/element/Vincolo.h"
+
+#include <utility>
 
 namespace {
 

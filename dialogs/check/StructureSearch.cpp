@@ -5,10 +5,11 @@
 #include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarSelection.h"
 #include "model/element/Nodo.h"
-#include "platform/window/Application.h"
+#include "platform/core/Exception.h"
 
 #include <algorithm>
 #include <memory>
+#include <vector>
 
 StructureSearch::~StructureSearch() {
     RemoveAllStructures();

@@ -4,6 +4,7 @@
 #include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "model/entity/CasoCarico.h"
+#include "platform/core/Exception.h"
 #include "platform/window/Application.h"
 #include "platform/window/DataExchange.h"
 

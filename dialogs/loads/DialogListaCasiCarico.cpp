@@ -10,8 +10,11 @@
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
+#include "model/load/Carico.h"
 #include "model/result/ElementoRisultati.h"
 #include "platform/window/DataExchange.h"
+
+#include <vector>
 
 namespace {
 

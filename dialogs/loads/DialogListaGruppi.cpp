@@ -7,6 +7,8 @@
 #include "model/entity/Gruppo.h"
 #include "platform/window/DataExchange.h"
 
+#include <vector>
+
 IMPLEMENT_DYNAMIC(CDialogListaGruppi, CDialogDocument)
 
 BEGIN_MESSAGE_MAP(CDialogListaGruppi, CDialogDocument)

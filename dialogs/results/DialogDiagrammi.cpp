@@ -10,8 +10,6 @@
 #include "platform/window/DataExchange.h"
 #include "platform/window/Menu.h"
 
-#include <memory>
-
 int CDialogDiagrammi::_bStaticCursor = 0;
 
 BEGIN_MESSAGE_MAP(CDialogDiagrammi, CDialogDocument)

@@ -3,6 +3,7 @@
 #include "dialogs/frame/host/QuovarDoc.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "model/element/Nodo.h"
+#include "model/result/ElementoRisultati.h"
 #include "platform/window/DataExchange.h"
 
 IMPLEMENT_DYNAMIC(CDialogNodoReazioniVincolari, CDialogDocument)

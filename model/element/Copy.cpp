@@ -1,7 +1,9 @@
 #include "model/element/Copy.h"
 
+#include "model/element/Linea.h"
 #include "model/element/LineaFisica.h"
 #include "model/element/Nodo.h"
+#include "model/element/Poligono.h"
 #include "model/element/PoligonoFisico.h"
 
 namespace {

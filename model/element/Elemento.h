@@ -8,6 +8,7 @@
 #include "platform/core/Collections.h"
 #include "platform/core/Geometry.h"
 #include "platform/core/Object.h"
+#include "platform/core/String.h"
 
 #include <memory>
 

@@ -2,7 +2,6 @@
 
 #include "model/element/Nodo.h"
 
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/element/LineaFisica.h"
+#include "model/result/DiagramStretch.h"
 #include "model/result/TraveRisultati.h"
 
 #include <vector>

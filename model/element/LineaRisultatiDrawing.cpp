@@ -2,12 +2,15 @@
 #include "model/element/LineaRisultati.h"
 #include "model/entity/Sezione.h"
 #include "model/result/DiagramSheet.h"
+#include "model/result/TraveRisultati.h"
 #include "model/view/ElementoSettings.h"
+#include "platform/drawing/DeviceContext.h"
 #include "platform/window/Window.h"
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 namespace {
 

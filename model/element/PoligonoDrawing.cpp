@@ -5,6 +5,9 @@
 #include "model/view/Adv3d.h"
 #include "model/view/Adv3dRect.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 // The projected corners; empty when one of them cannot be seen.

@@ -1,5 +1,6 @@
 #include "model/element/Trave.h"
 
+#include "model/element/Specifiche.h"
 #include "model/element/TipoElemento.h"
 
 IMPLEMENT_DYNCREATE(CTrave, CLineaRisultati)

@@ -1,5 +1,7 @@
 #include "model/entity/ElementoStrutturale.h"
 
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CElementoStrutturale, CElemento)
 
 CElementoStrutturale::CElementoStrutturale(const CElementoStrutturale& altro)

@@ -3,6 +3,7 @@
 
 #include "model/entity/ElementoStrutturale.h"
 
+#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
