@@ -1,8 +1,8 @@
 #include "host/commands/Commands.h"
 
 #include "host/commands/Subjects.h"
-#include "platform/toolkit/Bridge.h"
 #include "platform/resource/Resource.h"
+#include "platform/toolkit/Bridge.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "host/ui/ToolDialogs.h"
 
-#include "dialogs/frame/tool/DialogDocument.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/DeferredDelete.h"

@@ -1,7 +1,7 @@
 // The main window and its views.
 #include "host/ui/MainWindow.h"
-#include "dialogs/frame/tool/DialogDocument.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
+#include "dialogs/frame/tool/DialogDocument.h"
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
