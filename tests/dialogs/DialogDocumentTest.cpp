@@ -127,7 +127,7 @@ TEST_F(DialogDocument, MayBeDeletedInsideItsOwnRequest) {
 
 TEST_F(DialogDocument, CaptionNamesTheDocument) {
     EXPECT_EQ(m_driver.Caption(), "Ponte : Prova");
-    m_host.doc.SetPathName("C:\\lavori.2024\\ Città nuova.v2.asg"_t);
+    m_host.doc.SetPathName("/lavori.2024/ Città nuova.v2.asg"_t);
     m_dialog.SetTitle("Angolo Beta "); // blanks of name and title stay
     EXPECT_EQ(m_driver.Caption(), " Città nuova.v2 : Angolo Beta ");
     m_host.doc.SetPathName("");

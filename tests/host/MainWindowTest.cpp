@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QToolBar>
 
 using namespace host;
 
@@ -87,6 +88,17 @@ TEST_F(MainWindowTest, NoCommandStartsInsideAnother) {
     Trigger(CDialogCreaCasoCarico::IDD);
     ASSERT_EQ(m_workspace->Views().size(), 1u);
     EXPECT_EQ(Document().GetSizeCasiCarico(), cases + 1);
+}
+
+// Fault: a bar that dialogs do not get, or that they show and hide without the main window.
+TEST_F(MainWindowTest, ItsToolBarsAreBarsOfTheFrame) {
+    MainWindow& window = m_workspace->Window();
+    const std::vector<CToolBar*> bars = window.ToolBars();
+    ASSERT_EQ(bars.size(), 1u);
+    EXPECT_EQ(bars[0]->GetWindowText(), CString("Principale"));
+    window.Frame().ShowControlBar(bars[0], FALSE, TRUE);
+    EXPECT_TRUE(window.findChild<QToolBar*>("principale")->isHidden());
+    EXPECT_FALSE(bars[0]->GetStyle() & WS_VISIBLE);
 }
 
 // Catches a menu that shows a command without a dialog or leaves one out, and undo that does not name its step.
