@@ -4,6 +4,8 @@
 #include "model/load/Carico.h"
 #include "model/view/Adv3d.h"
 
+#include <vector>
+
 IMPLEMENT_DYNAMIC(CElementoCarico, CElementoVista)
 
 namespace {

@@ -3,6 +3,7 @@
 #include "model/element/ElementExtras.h"
 
 #include <algorithm>
+#include <vector>
 
 IMPLEMENT_DYNAMIC(CElementoGruppo, CElemento)
 IMPLEMENT_DYNAMIC(CElementoVista, CElementoGruppo)

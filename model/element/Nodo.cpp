@@ -4,6 +4,7 @@
 #include "model/index/NodeGrid.h"
 
 #include <algorithm>
+#include <memory>
 
 IMPLEMENT_DYNCREATE(CNodo, CElementoCarico)
 

@@ -3,6 +3,7 @@
 #include "platform/private/peers/EditPeer.h"
 
 #include <limits>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CEdit, CWnd)
 

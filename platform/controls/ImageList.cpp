@@ -5,6 +5,7 @@
 #include "platform/private/paint/Surface.h"
 
 #include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CImageList, CObject)
 

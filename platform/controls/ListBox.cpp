@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
+#include <vector>
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 

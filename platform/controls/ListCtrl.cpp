@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
+#include <string>
+#include <string_view>
 
 namespace {
 

@@ -2,6 +2,8 @@
 #include "platform/private/paint/Surface.h"
 #include "platform/window/Window.h"
 
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CDC, CObject)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)

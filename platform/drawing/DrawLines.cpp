@@ -2,7 +2,10 @@
 #include "platform/drawing/DeviceContext.h"
 #include "platform/private/paint/Surface.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 using platform::Surface;
 

@@ -6,6 +6,7 @@
 #include <dlfcn.h>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace platform {

@@ -5,6 +5,8 @@
 #include "platform/toolkit/PainterDC.h"
 #include "platform/window/Dialog.h"
 
+#include <string>
+
 namespace platform {
 
 // The peer of a widget that is not made here: the two are separate objects, and the widget owns the peer.

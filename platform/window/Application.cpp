@@ -12,6 +12,7 @@
 #include <QPushButton>
 
 #include <clocale>
+#include <vector>
 
 IMPLEMENT_DYNAMIC(CWinApp, CObject)
 

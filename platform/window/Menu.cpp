@@ -7,6 +7,8 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 IMPLEMENT_DYNAMIC(CMenu, CObject)
 

@@ -8,6 +8,7 @@
 #include <QApplication>
 
 #include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CWnd, CObject)
 IMPLEMENT_DYNAMIC(CScrollBar, CWnd)

@@ -11,6 +11,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <memory>
 
 // The font of a window that was given none is its dialog's: 8 points.
 CFont* platform::WindowPeer::FontObject() {

@@ -1,5 +1,7 @@
 #include "platform/private/paint/Picture.h"
 
+#include <utility>
+
 namespace platform {
 
 void Picture::Erase(const QRegion& area) {

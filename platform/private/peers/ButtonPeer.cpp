@@ -11,6 +11,8 @@
 #include <QStyleOption>
 
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 namespace platform {
 

@@ -9,6 +9,9 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <memory>
+#include <string_view>
+#include <utility>
 
 namespace platform {
 

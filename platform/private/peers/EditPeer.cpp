@@ -12,6 +12,8 @@
 #include <QTextBlock>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace platform {
 

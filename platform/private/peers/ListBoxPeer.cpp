@@ -12,6 +12,8 @@
 #include <QStyleOptionFocusRect>
 
 #include <algorithm>
+#include <memory>
+#include <string_view>
 #include <utility>
 
 namespace platform {

@@ -2,6 +2,7 @@
 #include "platform/private/peers/ListCtrlPeer.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace platform {
 

@@ -5,6 +5,7 @@
 #include "platform/private/peers/WindowPeer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 

@@ -12,6 +12,10 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace platform {
 

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <memory>
 #include <qdrawutil.h>
 
 namespace platform {

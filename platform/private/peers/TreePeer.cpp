@@ -11,6 +11,9 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
 
 namespace platform {
 

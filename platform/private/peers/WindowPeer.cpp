@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
