@@ -50,5 +50,5 @@ void CButton::SetButtonStyle(UINT style, BOOL) {
 void CButton::SetBitmap(const CBitmap* bitmap) {
     const platform::BitmapData* data = bitmap ? bitmap->Data() : nullptr;
     if (platform::ButtonControl* control = Button(m_hWnd))
-        control->SetPicture(data ? QPixmap::fromImage(data->canvas->image) : QPixmap());
+        control->SetPicture(data ? QPixmap::fromImage(data->image) : QPixmap());
 }

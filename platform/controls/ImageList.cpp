@@ -62,7 +62,7 @@ BOOL CImageList::DeleteImageList() {
 int CImageList::Add(CBitmap* bitmap, COLORREF mask) {
     if (!bitmap || !bitmap->Data())
         return -1;
-    QImage strip = bitmap->Data()->canvas->image.copy();
+    QImage strip = bitmap->Data()->image.copy();
     if (mask != CLR_NONE)
         MakeTransparent(strip, platform::Opaque(mask));
     return AddStrip(*m_data, strip);
@@ -71,8 +71,8 @@ int CImageList::Add(CBitmap* bitmap, COLORREF mask) {
 int CImageList::Add(CBitmap* bitmap, CBitmap* mask) {
     if (!bitmap || !bitmap->Data() || !mask || !mask->Data())
         return -1;
-    QImage strip = bitmap->Data()->canvas->image.copy();
-    const QImage holes = mask->Data()->canvas->image.copy().scaled(strip.size());
+    QImage strip = bitmap->Data()->image.copy();
+    const QImage holes = mask->Data()->image.scaled(strip.size());
     for (int y = 0; y < strip.height(); ++y)
         for (int x = 0; x < strip.width(); ++x)
             if (qGray(holes.pixel(x, y)) > 127)
@@ -83,7 +83,7 @@ int CImageList::Add(CBitmap* bitmap, CBitmap* mask) {
 int CImageList::Add(HICON icon) {
     if (!icon || icon->kind != platform::GdiData::Kind::Bitmap || m_data->size.isEmpty())
         return -1;
-    const QImage& source = static_cast<platform::BitmapData*>(icon)->canvas->image;
+    const QImage& source = static_cast<platform::BitmapData*>(icon)->image;
     const qreal scale = source.devicePixelRatio();
     QImage image =
         source.scaled((QSizeF(m_data->size) * scale).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

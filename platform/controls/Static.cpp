@@ -16,7 +16,7 @@ BOOL CStatic::Create(LPCTSTR text, DWORD style, const CRect& rect, CWnd* parent,
 void CStatic::SetBitmap(const CBitmap* bitmap) {
     const platform::BitmapData* data = bitmap ? bitmap->Data() : nullptr;
     if (auto* peer = ControlOf<StaticPeer>(m_hWnd))
-        peer->SetPicture(data ? data->canvas->image.copy() : QImage());
+        peer->SetPicture(data ? data->image.copy() : QImage());
 }
 
 void CStatic::SetPicture(int number) {

@@ -2,7 +2,6 @@
 #include "platform/window/Application.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <exception>
 #include <new>
@@ -97,38 +96,10 @@ BOOL CFileException::GetErrorMessage(LPSTR buffer, UINT size, UINT*) {
     return CopyMessage(text, buffer, size);
 }
 
-int CFileException::ErrnoToException(int osError) {
-    switch (osError) {
-    case 0:
-        return none;
-    case ENOENT:
-        return fileNotFound;
-    case ENOTDIR:
-    case ENAMETOOLONG:
-        return badPath;
-    case EMFILE:
-    case ENFILE:
-        return tooManyOpenFiles;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return accessDenied;
-    case EBUSY:
-        return sharingViolation;
-    case ENOSPC:
-        return diskFull;
-    case EIO:
-        return hardIO;
-    default:
-        return genericException;
-    }
-}
-
 namespace {
 
 // Made while the library loads, so that running out of memory can still be told.
 CMemoryException memoryException(FALSE);
-CNotSupportedException notSupportedException(FALSE);
 CInvalidArgException invalidArgException(FALSE);
 CUserException userException(FALSE);
 
@@ -138,20 +109,12 @@ void AfxThrowMemoryException() {
     throw &memoryException;
 }
 
-void AfxThrowNotSupportedException() {
-    throw &notSupportedException;
-}
-
 void AfxThrowInvalidArgException() {
     throw &invalidArgException;
 }
 
 void AfxThrowUserException() {
     throw &userException;
-}
-
-void AfxThrowFileException(int cause, int osError, const CString& fileName) {
-    throw new CFileException(cause, osError, fileName);
 }
 
 namespace platform {

@@ -91,19 +91,16 @@ class CFileException : public CException {
     explicit CFileException(int cause = none, int osError = -1, const CString& fileName = CString());
 
     BOOL GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext = nullptr) override;
-    static int ErrnoToException(int osError);
 
     int m_cause;
     int m_lOsError;
     CString m_strFileName;
 };
 
-// Memory and argument exceptions are made beforehand: throwing them needs no memory, and Delete() leaves them.
+// Those that these throw are made beforehand: throwing them needs no memory, and Delete() leaves them.
 [[noreturn]] void AfxThrowMemoryException();
-[[noreturn]] void AfxThrowNotSupportedException();
 [[noreturn]] void AfxThrowInvalidArgException();
 [[noreturn]] void AfxThrowUserException();
-[[noreturn]] void AfxThrowFileException(int cause, int osError = -1, const CString& fileName = CString());
 
 namespace platform {
 

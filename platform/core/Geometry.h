@@ -89,15 +89,11 @@ struct CRect {
     constexpr CPoint BottomRight() const { return {right, bottom}; }
     constexpr CPoint CenterPoint() const { return {(left + right) / 2, (top + bottom) / 2}; }
     constexpr BOOL IsRectEmpty() const { return left >= right || top >= bottom; }
-    constexpr BOOL IsRectNull() const { return left == 0 && top == 0 && right == 0 && bottom == 0; }
     constexpr BOOL PtInRect(CPoint point) const {
         return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
     }
 
-    constexpr void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
     constexpr void SetRectEmpty() { *this = CRect(); }
-    constexpr void CopyRect(const CRect* source) { *this = CRect(*source); }
-    constexpr BOOL EqualRect(const CRect* other) const { return *this == *other; }
 
     constexpr void InflateRect(int dx, int dy) { InflateRect(dx, dy, dx, dy); }
     constexpr void InflateRect(CSize size) { InflateRect(size.cx, size.cy); }
@@ -171,6 +167,5 @@ struct CRect {
 using POINT = CPoint;
 using SIZE = CSize;
 using RECT = CRect;
-using LPPOINT = CPoint*;
 using LPRECT = CRect*;
 using LPCRECT = const CRect*;

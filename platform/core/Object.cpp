@@ -18,16 +18,6 @@ CRuntimeClass* CObject::GetRuntimeClass() const {
     return RUNTIME_CLASS(CObject);
 }
 
-// Documents are stored by the host, not object by object, so the base has nothing of its own to write.
-void CObject::Serialize(CArchive&) {
-}
-
-void CObject::AssertValid() const {
-}
-
-void CObject::Dump(CDumpContext&) const {
-}
-
 BOOL CObject::IsKindOf(const CRuntimeClass* kind) const {
     return GetRuntimeClass()->IsDerivedFrom(kind);
 }

@@ -12,8 +12,6 @@
 
 #include "platform/core/Types.h"
 
-class CArchive;
-class CDumpContext;
 class CObject;
 
 struct CRuntimeClass {
@@ -31,15 +29,10 @@ struct CRuntimeClass {
 
 class CObject {
   public:
-    // The order of these five is part of the contract with the classes that derive from this one.
     virtual CRuntimeClass* GetRuntimeClass() const;
     virtual ~CObject() = default;
-    virtual void Serialize(CArchive& archive);
-    virtual void AssertValid() const;
-    virtual void Dump(CDumpContext& context) const;
 
     BOOL IsKindOf(const CRuntimeClass* kind) const;
-    BOOL IsSerializable() const { return FALSE; }
 
     static CRuntimeClass classCObject;
 

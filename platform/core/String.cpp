@@ -1,7 +1,6 @@
 #include "platform/core/String.h"
 
 #include <algorithm>
-#include <cstring>
 #include <ostream>
 
 CString::CString(const char* bytes, int length)
@@ -22,14 +21,6 @@ CString CString::Mid(int first, int count) const {
 CString CString::Right(int count) const {
     count = std::clamp(count, 0, GetLength());
     return Mid(GetLength() - count, count);
-}
-
-CString CString::SpanIncluding(const char* set) const {
-    return CString(View().substr(0, m_bytes.find_first_not_of(set)));
-}
-
-CString CString::SpanExcluding(const char* set) const {
-    return CString(View().substr(0, m_bytes.find_first_of(set)));
 }
 
 namespace {
@@ -117,11 +108,6 @@ CString& CString::MakeLower() {
     return *this;
 }
 
-CString& CString::MakeReverse() {
-    std::reverse(m_bytes.begin(), m_bytes.end());
-    return *this;
-}
-
 CString& CString::TrimLeft(const char* set) {
     m_bytes.erase(0, m_bytes.find_first_not_of(set));
     return *this;
@@ -134,17 +120,6 @@ CString& CString::TrimRight(const char* set) {
 
 CString& CString::Trim(const char* set) {
     return TrimRight(set).TrimLeft(set);
-}
-
-char* CString::GetBuffer(int length) {
-    if (length > GetLength())
-        m_bytes.resize(static_cast<std::size_t>(length));
-    return m_bytes.data();
-}
-
-void CString::ReleaseBuffer(int length) {
-    m_bytes.resize(length < 0 ? std::strlen(m_bytes.c_str())
-                              : std::min(static_cast<std::size_t>(length), m_bytes.size()));
 }
 
 CString& CString::operator=(const char* bytes) {

@@ -85,8 +85,6 @@ class CString {
     CString Mid(int first) const { return Mid(first, GetLength()); }
     CString Mid(int first, int count) const;
     CString Right(int count) const;
-    CString SpanIncluding(const char* set) const;
-    CString SpanExcluding(const char* set) const;
 
     // Positions, or -1.
     int Find(const char* part, int start = 0) const;
@@ -106,7 +104,6 @@ class CString {
 
     CString& MakeUpper();
     CString& MakeLower();
-    CString& MakeReverse();
     // Blanks are space, tab, line ends, vertical tab and form feed.
     CString& TrimLeft(const char* set = blanks);
     CString& TrimRight(const char* set = blanks);
@@ -117,7 +114,6 @@ class CString {
     // By bytes; CompareNoCase by the code page's letters.
     int Compare(const char* other) const { return m_bytes.compare(other ? other : ""); }
     int CompareNoCase(const char* other) const { return platform::CompareNoCase(m_bytes, other ? other : ""); }
-    int Collate(const char* other) const { return CompareNoCase(other); }
 
     template <typename... Arguments>
     void Format(const char* pattern, const Arguments&... arguments) {
@@ -127,10 +123,6 @@ class CString {
     void AppendFormat(const char* pattern, const Arguments&... arguments) {
         m_bytes += Formatted(pattern, arguments...);
     }
-
-    // The bytes for writing, at least `length` of them; ReleaseBuffer follows, -1 meaning "up to the first 0".
-    char* GetBuffer(int length = 0);
-    void ReleaseBuffer(int length = -1);
 
     CString& operator=(const char* bytes);
     CString& operator=(char byte);

@@ -1,4 +1,4 @@
-// The device context's lines and arcs.
+// The device context's lines.
 #include "platform/drawing/DeviceContext.h"
 #include "platform/private/paint/Surface.h"
 
@@ -83,10 +83,6 @@ bool DrawLevelOrUpright(const Surface& surface, QPainter& painter, CPoint from, 
 
 CPoint CDC::MoveTo(int x, int y) {
     return std::exchange(m_surface->state.position, CPoint(x, y));
-}
-
-CPoint CDC::GetCurrentPosition() const {
-    return m_surface->state.position;
 }
 
 BOOL CDC::LineTo(int x, int y) {

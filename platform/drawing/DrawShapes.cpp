@@ -2,12 +2,6 @@
 #include "platform/drawing/DeviceContext.h"
 #include "platform/private/paint/Surface.h"
 
-#include <QPainterPath>
-
-#include <algorithm>
-#include <cmath>
-#include <numbers>
-
 using platform::Surface;
 
 namespace {
@@ -54,44 +48,17 @@ void DrawSolidRectangle(Surface& surface, QPainter& painter, const CRect& line) 
         painter.fillRect(surface.Target(inner), surface.Brush());
 }
 
-// Angle of the ray through a point, in the ellipse's own terms: sixteenths of a degree, counterclockwise from the
-// right.
-double RayAngle(const QRectF& box, QPointF point) {
-    const double x = (point.x() - box.center().x()) / std::max(box.width(), 1e-9);
-    const double y = (box.center().y() - point.y()) / std::max(box.height(), 1e-9);
-    return std::atan2(y, x) * 180 / std::numbers::pi * 16;
-}
-
-struct ArcSpan {
-    QRectF box;
-    int start;
-    int length;
-};
-
-ArcSpan SpanOf(const Surface& surface, const CRect& rect, CPoint start, CPoint end) {
-    ArcSpan span;
-    span.box = OutlineRect(surface, Outline(surface, Normalized(rect)));
-    const double from = RayAngle(span.box, surface.OutlinePoint(start, false));
-    double length = RayAngle(span.box, surface.OutlinePoint(end, false)) - from;
-    if (length <= 0)
-        length += 360 * 16; // equal rays are the whole ellipse
-    span.start = static_cast<int>(std::lround(from));
-    span.length = static_cast<int>(std::lround(length));
-    return span;
-}
-
-Qt::FillRule FillRule(const Surface& surface) {
-    return surface.state.fillMode == WINDING ? Qt::WindingFill : Qt::OddEvenFill;
-}
-
 template <class Point>
-BOOL DrawPolygon(const Surface& surface, QPainter& painter, const Point* points, int count) {
+BOOL DrawPolygon(Surface& surface, const Point* points, int count) {
+    QPainter* painter = surface.Shaping();
+    if (!painter)
+        return surface.HasTarget();
     QPolygonF polygon;
     polygon.reserve(count);
     for (int i = 0; i < count; ++i)
         polygon << surface.OutlinePoint(points[i], false);
     if (polygon.size() >= 2)
-        painter.drawPolygon(polygon, FillRule(surface));
+        painter->drawPolygon(polygon, Qt::OddEvenFill);
     return polygon.size() >= 2;
 }
 
@@ -123,18 +90,6 @@ BOOL CDC::Rectangle(LPCRECT rect) {
     return Rectangle(rect->left, rect->top, rect->right, rect->bottom);
 }
 
-BOOL CDC::RoundRect(int left, int top, int right, int bottom, int width, int height) {
-    const CRect rect = Normalized({left, top, right, bottom});
-    QPainter* painter = rect.IsRectEmpty() ? nullptr : m_surface->Shaping();
-    if (painter)
-        painter->drawRoundedRect(OutlineRect(*m_surface, Outline(*m_surface, rect)), width / 2.0, height / 2.0);
-    return m_surface->HasTarget();
-}
-
-BOOL CDC::RoundRect(LPCRECT rect, CPoint corner) {
-    return RoundRect(rect->left, rect->top, rect->right, rect->bottom, corner.x, corner.y);
-}
-
 BOOL CDC::Ellipse(int left, int top, int right, int bottom) {
     CRect rect = Normalized({left, top, right, bottom});
     if (!m_surface->HasPen())
@@ -161,67 +116,10 @@ BOOL CDC::Ellipse(LPCRECT rect) {
     return Ellipse(rect->left, rect->top, rect->right, rect->bottom);
 }
 
-BOOL CDC::Arc(LPCRECT rect, CPoint start, CPoint end) {
-    QPainter* painter = rect->IsRectEmpty() ? nullptr : m_surface->Shaping();
-    if (painter) {
-        const ArcSpan span = SpanOf(*m_surface, *rect, start, end);
-        painter->drawArc(span.box, span.start, span.length);
-    }
-    return m_surface->HasTarget();
-}
-
-BOOL CDC::Arc(int left, int top, int right, int bottom, int startX, int startY, int endX, int endY) {
-    const CRect rect(left, top, right, bottom);
-    return Arc(&rect, {startX, startY}, {endX, endY});
-}
-
-BOOL CDC::Pie(LPCRECT rect, CPoint start, CPoint end) {
-    QPainter* painter = rect->IsRectEmpty() ? nullptr : m_surface->Shaping();
-    if (painter) {
-        const ArcSpan span = SpanOf(*m_surface, *rect, start, end);
-        painter->drawPie(span.box, span.start, span.length);
-    }
-    return m_surface->HasTarget();
-}
-
-BOOL CDC::Pie(int left, int top, int right, int bottom, int startX, int startY, int endX, int endY) {
-    const CRect rect(left, top, right, bottom);
-    return Pie(&rect, {startX, startY}, {endX, endY});
-}
-
-BOOL CDC::Chord(LPCRECT rect, CPoint start, CPoint end) {
-    QPainter* painter = rect->IsRectEmpty() ? nullptr : m_surface->Shaping();
-    if (painter) {
-        const ArcSpan span = SpanOf(*m_surface, *rect, start, end);
-        painter->drawChord(span.box, span.start, span.length);
-    }
-    return m_surface->HasTarget();
-}
-
 BOOL CDC::Polygon(const CPoint* points, int count) {
-    return PolyPolygon(points, &count, 1);
+    return DrawPolygon(*m_surface, points, count);
 }
 
 BOOL CDC::Polygon(const FinePoint* points, int count) {
-    QPainter* painter = m_surface->Shaping();
-    return painter ? DrawPolygon(*m_surface, *painter, points, count) : m_surface->HasTarget();
-}
-
-BOOL CDC::PolyPolygon(const CPoint* points, const int* counts, int polygons) {
-    QPainter* painter = m_surface->Shaping();
-    if (!painter)
-        return m_surface->HasTarget();
-    if (polygons == 1) // a path costs several times as much
-        return DrawPolygon(*m_surface, *painter, points, counts[0]);
-    QPainterPath path;
-    path.setFillRule(FillRule(*m_surface));
-    for (int i = 0; i < polygons; points += counts[i++]) {
-        QPolygonF polygon;
-        for (int j = 0; j < counts[i]; ++j)
-            polygon << m_surface->OutlinePoint(points[j], false);
-        path.addPolygon(polygon);
-        path.closeSubpath();
-    }
-    painter->drawPath(path);
-    return TRUE;
+    return DrawPolygon(*m_surface, points, count);
 }

@@ -39,13 +39,12 @@ CString Counted(LPCTSTR text, int length) {
 
 // One line with its top left at a point; the character at `underlined` gets a line below it, -1 is none.
 void DrawLine(Surface& surface, QPainter& painter, int x, int y, const QString& text, qsizetype underlined = -1) {
-    const CPoint at(x + surface.state.origin.x, y + surface.state.origin.y);
     const QColor color = QColor::fromRgb(platform::Opaque(surface.state.textColor));
     const int slope = surface.state.fontDescription.lfEscapement;
     const QTransform upright = painter.transform();
-    QPoint corner(at.x, at.y);
+    QPoint corner(x, y);
     if (slope != 0) { // the line turns about its reference point
-        painter.translate(at.x, at.y);
+        painter.translate(x, y);
         painter.rotate(-slope / 10.0);
         corner = QPoint(0, 0);
     }
@@ -87,53 +86,14 @@ Line WithoutPrefix(const QString& text) {
     return line;
 }
 
-QString WithTabs(const QString& text, bool expand) {
-    QString result;
-    for (const QChar c : text) {
-        if (c != '\t')
-            result += c;
-        else
-            result += QString(expand ? 8 - result.size() % 8 : 1, ' ');
-    }
-    return result;
-}
-
-// Breaks at blanks; a word wider than the line keeps a line of its own.
-void Wrap(Surface& surface, const Line& line, int width, std::vector<Line>& lines) {
-    qsizetype start = 0, fits = -1;
-    const auto put = [&](qsizetype end) {
-        const bool mine = line.underlined >= start && line.underlined < end;
-        lines.push_back({line.text.mid(start, end - start), mine ? line.underlined - start : -1});
-    };
-    for (qsizetype i = 0; i <= line.text.size(); ++i) {
-        if (i < line.text.size() && line.text[i] != ' ')
-            continue;
-        if (fits > start && WidthOf(surface, line.text.mid(start, i - start)) > width) {
-            put(fits);
-            start = fits + 1;
-        }
-        fits = i;
-    }
-    put(line.text.size());
-}
-
-std::vector<Line> Layout(Surface& surface, const CString& text, int width, UINT format) {
+std::vector<Line> Layout(const CString& text, UINT format) {
     QString all = platform::ToQString(text);
-    all.replace("\r\n", "\n").replace('\r', '\n');
+    all.replace("\r\n", "\n").replace('\r', '\n').replace('\t', ' ');
     if (format & DT_SINGLELINE)
         all.replace('\n', ' ');
     std::vector<Line> lines;
-    for (const QString& paragraph : all.split('\n')) {
-        const QString plain = WithTabs(paragraph, format & DT_EXPANDTABS);
-        const Line line = format & DT_NOPREFIX ? Line{plain, -1} : WithoutPrefix(plain);
-        if ((format & DT_WORDBREAK) && !(format & DT_SINGLELINE))
-            Wrap(surface, line, width, lines);
-        else
-            lines.push_back(line);
-    }
-    if (format & DT_END_ELLIPSIS)
-        for (Line& line : lines)
-            line.text = surface.Metrics().elidedText(line.text, Qt::ElideRight, width);
+    for (const QString& plain : all.split('\n'))
+        lines.push_back(format & DT_NOPREFIX ? Line{plain, -1} : WithoutPrefix(plain));
     return lines;
 }
 
@@ -151,7 +111,7 @@ BOOL CDC::TextOut(int x, int y, const CString& text) {
     return ExtTextOut(x, y, 0, nullptr, text);
 }
 
-BOOL CDC::ExtTextOut(int x, int y, UINT options, LPCRECT rect, const CString& text, const int* spacing) {
+BOOL CDC::ExtTextOut(int x, int y, UINT options, LPCRECT rect, const CString& text) {
     if (rect && (options & ETO_OPAQUE))
         m_surface->Fill(*rect, m_surface->state.backColor);
     const bool clipped = rect && (options & ETO_CLIPPED);
@@ -159,28 +119,10 @@ BOOL CDC::ExtTextOut(int x, int y, UINT options, LPCRECT rect, const CString& te
         SaveDC();
         IntersectClipRect(rect);
     }
-    const QString line = platform::ToQString(text);
-    const UINT align = m_surface->state.textAlign;
-    int width = 0; // measuring costs as much as drawing
-    if (spacing)
-        for (qsizetype i = 0; i < line.size(); ++i)
-            width += spacing[i];
-    else if (align & (TA_RIGHT | TA_UPDATECP))
-        width = WidthOf(*m_surface, line);
-    CPoint at = align & TA_UPDATECP ? m_surface->state.position : CPoint(x, y);
-    const CPoint reference = at;
-    at.x -= (align & TA_CENTER) == TA_CENTER ? width / 2 : align & TA_RIGHT ? width : 0;
-    at.y -= (align & TA_BASELINE) == TA_BASELINE ? Ascent(*m_surface) : align & TA_BOTTOM ? LineHeight(*m_surface) : 0;
-    if (QPainter* painter = m_surface->Plain()) {
-        if (!spacing)
-            DrawLine(*m_surface, *painter, at.x, at.y, line);
-        for (qsizetype i = 0; spacing && i < line.size(); at.x += spacing[i++])
-            DrawLine(*m_surface, *painter, at.x, at.y, line.mid(i, 1));
-    }
+    if (QPainter* painter = m_surface->Plain())
+        DrawLine(*m_surface, *painter, x, y, platform::ToQString(text));
     if (clipped)
         RestoreDC(-1);
-    if ((align & TA_UPDATECP) && (align & TA_CENTER) != TA_CENTER)
-        m_surface->state.position.x = reference.x + (align & TA_RIGHT ? -width : width);
     return m_surface->HasTarget();
 }
 
@@ -212,7 +154,7 @@ int CDC::DrawText(LPCTSTR text, int length, LPRECT rect, UINT format) {
 }
 
 int CDC::DrawText(const CString& text, LPRECT rect, UINT format) {
-    const std::vector<Line> lines = Layout(*m_surface, text, rect->Width(), format);
+    const std::vector<Line> lines = Layout(text, format);
     const int height = LineHeight(*m_surface), total = height * static_cast<int>(lines.size());
     if (format & DT_CALCRECT) {
         int widest = 0;

@@ -57,19 +57,8 @@ BOOL CGdiObject::Replace(HGDIOBJ handle) {
     return handle != nullptr;
 }
 
-BOOL CGdiObject::CreateStockObject(int index) {
-    const CGdiObject* stock = platform::StockObject(index);
-    if (!stock || stock->GetRuntimeClass() != GetRuntimeClass())
-        return FALSE;
-    return Replace(stock->m_hObject->Copy());
-}
-
 BOOL CPen::CreatePen(int style, int width, COLORREF color) {
     return Replace(new platform::PenData({static_cast<UINT>(style), {std::max(width, 0), 0}, color}));
-}
-
-BOOL CPen::CreatePenIndirect(const LOGPEN* description) {
-    return CreatePen(static_cast<int>(description->lopnStyle), description->lopnWidth.x, description->lopnColor);
 }
 
 int CPen::GetLogPen(LOGPEN* description) const {
@@ -84,28 +73,11 @@ const platform::PenData* CPen::Data() const {
 }
 
 BOOL CBrush::CreateSolidBrush(COLORREF color) {
-    return Replace(new platform::BrushData({BS_SOLID, color, 0}));
-}
-
-BOOL CBrush::CreateHatchBrush(int hatch, COLORREF color) {
-    return Replace(new platform::BrushData({BS_HATCHED, color, hatch}));
-}
-
-BOOL CBrush::CreatePatternBrush(CBitmap* pattern) {
-    if (!pattern || !pattern->Data())
-        return FALSE;
-    return Replace(new platform::BrushData({BS_PATTERN, 0, 0}, pattern->Data()->canvas->image.copy()));
+    return Replace(new platform::BrushData({BS_SOLID, color}));
 }
 
 BOOL CBrush::CreateBrushIndirect(const LOGBRUSH* description) {
     return Replace(new platform::BrushData(*description));
-}
-
-int CBrush::GetLogBrush(LOGBRUSH* description) const {
-    if (!Data())
-        return 0;
-    *description = Data()->description;
-    return static_cast<int>(sizeof *description);
 }
 
 const platform::BrushData* CBrush::Data() const {
@@ -145,15 +117,6 @@ BOOL CFont::CreatePointFont(int tenths, LPCTSTR face, CDC* device) {
     return CreatePointFontIndirect(&description, device);
 }
 
-BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline,
-                       BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
-                       BYTE pitchAndFamily, LPCTSTR face) {
-    LOGFONT description = {height,    width,   escapement,   orientation,   weight,  italic,         underline,
-                           strikeOut, charSet, outPrecision, clipPrecision, quality, pitchAndFamily, {}};
-    std::strncpy(description.lfFaceName, face ? face : "", sizeof description.lfFaceName - 1);
-    return CreateFontIndirect(&description);
-}
-
 int CFont::GetLogFont(LOGFONT* description) const {
     if (!Data())
         return 0;
@@ -190,16 +153,6 @@ QImage ResourceImage(const platform::BitmapResource* resource) {
     return resource ? platform::RenderSvg(resource->svg, {}, scale) : QImage();
 }
 
-QImage BlackImage(int width, int height, qreal scale) {
-    if (width < 0 || height < 0 || width > largestBitmap || height > largestBitmap)
-        return {};
-    QImage image((QSizeF(std::max(width, 1), std::max(height, 1)) * scale).toSize(),
-                 QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-    image.fill(Qt::black);
-    return image;
-}
-
 } // namespace
 
 BOOL CBitmap::LoadBitmap(UINT id) {
@@ -212,38 +165,16 @@ BOOL CBitmap::LoadIcon(UINT id) {
     return !image.isNull() && Replace(new platform::BitmapData(std::move(image)));
 }
 
-BOOL CBitmap::CreateCompatibleBitmap(CDC* device, int width, int height) {
-    QImage image = BlackImage(width, height, device ? device->GetScale() : 1);
-    return !image.isNull() && Replace(new platform::BitmapData(std::move(image)));
-}
-
-BOOL CBitmap::CreateBitmap(int width, int height, UINT, UINT bitsPerPixel, const void* bits) {
-    QImage image = BlackImage(width, height, 1);
-    if (image.isNull() || (bits && bitsPerPixel != 1 && bitsPerPixel != 32))
+BOOL CBitmap::CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits) {
+    if (width <= 0 || height <= 0 || std::max(width, height) > largestBitmap || planes != 1 || bitsPerPixel != 32)
         return FALSE;
-    const auto* bytes = static_cast<const unsigned char*>(bits);
-    const int stride = bitsPerPixel == 32 ? width * 4 : (width + 15) / 16 * 2;
-    for (int y = 0; bits && y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            const unsigned char* row = bytes + static_cast<std::ptrdiff_t>(y) * stride;
-            QRgb pixel = 0;
-            if (bitsPerPixel == 32)
-                std::memcpy(&pixel, row + 4 * x, sizeof pixel);
-            else
-                pixel = row[x / 8] & 0x80u >> x % 8 ? qRgb(255, 255, 255) : qRgb(0, 0, 0);
-            image.setPixel(x, y, 0xff000000u | pixel);
-        }
+    QImage image(width, height, QImage::Format_RGB32);
+    if (bits)
+        std::memcpy(image.bits(), bits, static_cast<std::size_t>(image.sizeInBytes()));
+    else
+        image.fill(Qt::black);
+    image.convertTo(QImage::Format_ARGB32_Premultiplied);
     return Replace(new platform::BitmapData(std::move(image)));
-}
-
-int CBitmap::GetBitmap(BITMAP* description) const {
-    if (!Data())
-        return 0;
-    *description = {};
-    description->bmWidth = Data()->size().width();
-    description->bmHeight = Data()->size().height();
-    description->bmWidthBytes = description->bmWidth * 4;
-    return static_cast<int>(sizeof *description);
 }
 
 platform::BitmapData* CBitmap::Data() const {

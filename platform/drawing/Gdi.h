@@ -20,8 +20,7 @@ struct BitmapData;
 using HGDIOBJ = platform::GdiData*;
 
 enum PenStyle { PS_SOLID, PS_DASH, PS_DOT, PS_DASHDOT, PS_DASHDOTDOT, PS_NULL, PS_INSIDEFRAME };
-enum BrushStyle : UINT { BS_SOLID, BS_NULL, BS_HOLLOW = BS_NULL, BS_HATCHED, BS_PATTERN };
-enum HatchStyle { HS_HORIZONTAL, HS_VERTICAL, HS_FDIAGONAL, HS_BDIAGONAL, HS_CROSS, HS_DIAGCROSS };
+enum BrushStyle : UINT { BS_SOLID, BS_NULL, BS_HOLLOW = BS_NULL };
 enum FontWeight { FW_DONTCARE = 0, FW_LIGHT = 300, FW_NORMAL = 400, FW_MEDIUM = 500, FW_BOLD = 700, FW_HEAVY = 900 };
 enum StockObject {
     WHITE_BRUSH,
@@ -51,7 +50,6 @@ struct LOGPEN {
 struct LOGBRUSH {
     UINT lbStyle = BS_SOLID;
     COLORREF lbColor = 0;
-    int lbHatch = 0;
 };
 
 struct LOGFONT {
@@ -71,16 +69,6 @@ struct LOGFONT {
     char lfFaceName[32] = {};
 };
 
-struct BITMAP {
-    LONG bmType = 0;
-    LONG bmWidth = 0; // device-independent pixels
-    LONG bmHeight = 0;
-    LONG bmWidthBytes = 0;
-    WORD bmPlanes = 1;
-    WORD bmBitsPixel = 32;
-    void* bmBits = nullptr;
-};
-
 class CGdiObject : public CObject {
     DECLARE_DYNAMIC(CGdiObject)
 
@@ -90,7 +78,6 @@ class CGdiObject : public CObject {
     ~CGdiObject() override { DeleteObject(); }
 
     HGDIOBJ m_hObject = nullptr;
-    HGDIOBJ GetSafeHandle() const { return m_hObject; }
     operator HGDIOBJ() const { return m_hObject; }
 
     // 0 when there was nothing.
@@ -98,8 +85,6 @@ class CGdiObject : public CObject {
     // Takes a handle over from Detach of an object of the same class; 0 for null.
     BOOL Attach(HGDIOBJ handle);
     HGDIOBJ Detach();
-    // Fills the object with a copy of a stock one; 0 when the class or the number does not fit.
-    BOOL CreateStockObject(int index);
 
   protected:
     BOOL Replace(HGDIOBJ handle);
@@ -113,7 +98,6 @@ class CPen : public CGdiObject {
 
     // Width in pixels, 0 and 1 alike; broken styles are solid from 2 on.
     BOOL CreatePen(int style, int width, COLORREF color);
-    BOOL CreatePenIndirect(const LOGPEN* description);
     // Non-zero when the pen exists, with `description` filled.
     int GetLogPen(LOGPEN* description) const;
 
@@ -127,12 +111,8 @@ class CBitmap : public CGdiObject {
     BOOL LoadBitmap(UINT id);
     // The same for icons.
     BOOL LoadIcon(UINT id);
-    // Black, of the device's scale.
-    BOOL CreateCompatibleBitmap(CDC* device, int width, int height);
-    // `bits`: null for black, or rows of 32-bit pixels 0xAARRGGBB, of 1-bit pixels padded to 16 bits (set is white).
+    // `bits`: null for black, or rows of pixels 0x00RRGGBB. 0 for other than one plane of 32-bit pixels.
     BOOL CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits);
-    // Non-zero when the bitmap exists, with `description` filled.
-    int GetBitmap(BITMAP* description) const;
 
     platform::BitmapData* Data() const;
 };
@@ -142,14 +122,9 @@ class CBrush : public CGdiObject {
 
     CBrush() = default;
     explicit CBrush(COLORREF color) { CreateSolidBrush(color); }
-    CBrush(int hatch, COLORREF color) { CreateHatchBrush(hatch, color); }
-    explicit CBrush(CBitmap* pattern) { CreatePatternBrush(pattern); }
 
     BOOL CreateSolidBrush(COLORREF color);
-    BOOL CreateHatchBrush(int hatch, COLORREF color);
-    BOOL CreatePatternBrush(CBitmap* pattern);
     BOOL CreateBrushIndirect(const LOGBRUSH* description);
-    int GetLogBrush(LOGBRUSH* description) const;
 
     const platform::BrushData* Data() const;
 };
@@ -162,9 +137,6 @@ class CFont : public CGdiObject {
     // lfHeight holds the tenths of a point.
     BOOL CreatePointFontIndirect(const LOGFONT* description, CDC* device = nullptr);
     BOOL CreateFontIndirect(const LOGFONT* description);
-    BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline,
-                    BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
-                    BYTE pitchAndFamily, LPCTSTR face);
     // Non-zero when the font exists, with `description` filled.
     int GetLogFont(LOGFONT* description) const;
 

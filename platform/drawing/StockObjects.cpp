@@ -6,7 +6,7 @@ namespace platform {
 namespace {
 
 std::unique_ptr<CGdiObject> Brush(UINT style, COLORREF color) {
-    const LOGBRUSH description = {style, color, 0};
+    const LOGBRUSH description = {style, color};
     auto made = std::make_unique<CBrush>();
     made->CreateBrushIndirect(&description);
     return made;

@@ -6,6 +6,7 @@
 #include "model/view/DrawHelpers.h"
 #include "platform/drawing/DeviceContext.h"
 #include "tests/model/SmallModel.h"
+#include "tests/platform/Sheet.h"
 
 #include <algorithm>
 
@@ -17,9 +18,6 @@ constexpr auto info = &CElemento::DrawInformazioni;
 class DrawTest : public testing::Test {
   protected:
     DrawTest() {
-        m_dc.CreateCompatibleDC(nullptr);
-        m_bitmap.CreateBitmap(400, 300, 1, 32, nullptr);
-        m_dc.SelectObject(&m_bitmap);
         m_view.SetViewport(CRect(0, 0, 400, 300));
         m_view.SetDirection(Adv3d::Front);
         m_view.SetScale(10);
@@ -47,8 +45,8 @@ class DrawTest : public testing::Test {
     }
 
     SmallModel m_m;
-    CDC m_dc;
-    CBitmap m_bitmap;
+    Sheet m_sheet{400, 300};
+    CDC& m_dc = m_sheet.Dc();
     Adv3d m_view;
 };
 

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-
 namespace {
 
 class Beam : public CObject {
@@ -65,7 +63,7 @@ TEST(Exception, EndsAsItWasMade) {
 
 TEST(Exception, SaysWhatHappened) {
     CMemoryException memory(FALSE);
-    CFileException file(CFileException::ErrnoToException(ENOENT), ENOENT, "ponte.asg");
+    CFileException file(CFileException::fileNotFound, -1, "ponte.asg");
     CUserException silent(FALSE);
     const Boxes boxes;
     for (CException* exception : std::initializer_list<CException*>{&memory, &file, &silent})
@@ -86,7 +84,7 @@ TEST(Geometry, RectanglesAreHalfOpen) {
     EXPECT_EQ(rect.CenterPoint(), CPoint(7, 5));
     CRect result;
     EXPECT_FALSE(result.IntersectRect(rect, CRect(12, 3, 20, 8))) << "touching rectangles share nothing";
-    EXPECT_TRUE(result.IsRectNull());
+    EXPECT_EQ(result, CRect());
     EXPECT_TRUE(result.UnionRect(rect, CRect(50, 50, 50, 60))) << "an empty rectangle adds nothing";
     EXPECT_EQ(result, rect);
     EXPECT_EQ(rect | CRect(0, 0, 1, 1), CRect(0, 0, 12, 8));

@@ -26,9 +26,7 @@ class Canvas {
     }
     QPainter* Painter() { return &*m_painter; }
 
-    // Puts a colour under everything, once: operations that combine with what is there need something to be there.
-    void MakeOpaque(QRgb background);
-    void Clear();
+    void Clear() { image.fill(Qt::transparent); }
     void Clear(const QRect& part); // device-independent pixels, inside the image
 
     QImage image;                 // premultiplied, at its scale; never copied while a painter is open on it
@@ -37,7 +35,6 @@ class Canvas {
   private:
     std::optional<QPainter> m_painter;
     int m_users = 0;
-    bool m_opaque = false;
 };
 
 } // namespace platform

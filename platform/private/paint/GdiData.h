@@ -3,13 +3,11 @@
 
 #include "platform/drawing/Gdi.h"
 
-#include "platform/private/paint/Canvas.h"
-
 #include <QFont>
 #include <QImage>
 
-#include <memory>
 #include <span>
+#include <utility>
 
 namespace platform {
 
@@ -17,46 +15,38 @@ struct GdiData {
     enum class Kind { Pen, Brush, Font, Bitmap };
 
     explicit GdiData(Kind k) : kind(k) {}
-    GdiData(const GdiData&) = default;
+    GdiData(const GdiData&) = delete;
+    GdiData& operator=(const GdiData&) = delete;
     virtual ~GdiData() = default;
-    virtual GdiData* Copy() const = 0;
 
     const Kind kind;
 };
 
 struct PenData : GdiData {
     explicit PenData(const LOGPEN& d) : GdiData(Kind::Pen), description(d) {}
-    GdiData* Copy() const override { return new PenData(*this); }
 
     LOGPEN description;
 };
 
 struct BrushData : GdiData {
-    explicit BrushData(const LOGBRUSH& d, const QImage& image = {})
-        : GdiData(Kind::Brush), description(d), pattern(image) {}
-    GdiData* Copy() const override { return new BrushData(*this); }
+    explicit BrushData(const LOGBRUSH& d) : GdiData(Kind::Brush), description(d) {}
 
     LOGBRUSH description;
-    QImage pattern;
 };
 
 struct FontData : GdiData {
     explicit FontData(const LOGFONT& d);
-    GdiData* Copy() const override { return new FontData(*this); }
 
     LOGFONT description;
     QFont font;
 };
 
-// The pixels are shared with the device context that the bitmap is selected into, which may outlive it.
 struct BitmapData : GdiData {
-    explicit BitmapData(QImage image) : GdiData(Kind::Bitmap), canvas(std::make_shared<Canvas>(std::move(image))) {}
-    GdiData* Copy() const override { return new BitmapData(canvas->image.copy()); }
+    explicit BitmapData(QImage pixels) : GdiData(Kind::Bitmap), image(std::move(pixels)) {}
 
-    QSize size() const { return canvas->image.deviceIndependentSize().toSize(); }
+    QSize size() const { return image.deviceIndependentSize().toSize(); }
 
-    std::shared_ptr<Canvas> canvas;
-    std::shared_ptr<QImage> pixels{canvas, &canvas->image}; // the same object, for those who only read
+    QImage image;
 };
 
 inline QRgb Opaque(COLORREF color) {

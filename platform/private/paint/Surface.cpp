@@ -9,35 +9,6 @@
 namespace platform {
 namespace {
 
-QPainter::CompositionMode CompositionMode(int mode) {
-    switch (mode) {
-    case R2_BLACK:
-        return QPainter::RasterOp_ClearDestination;
-    case R2_NOTCOPYPEN:
-        return QPainter::RasterOp_NotSource;
-    case R2_NOT:
-        return QPainter::RasterOp_NotDestination;
-    case R2_XORPEN:
-        return QPainter::RasterOp_SourceXorDestination;
-    case R2_MASKPEN:
-        return QPainter::RasterOp_SourceAndDestination;
-    case R2_NOTXORPEN:
-        return QPainter::RasterOp_NotSourceXorDestination;
-    case R2_NOP:
-        return QPainter::CompositionMode_Destination;
-    case R2_MERGEPEN:
-        return QPainter::RasterOp_SourceOrDestination;
-    case R2_WHITE:
-        return QPainter::RasterOp_SetDestination;
-    default:
-        return QPainter::CompositionMode_SourceOver;
-    }
-}
-
-bool Combines(QPainter::CompositionMode mode) {
-    return mode >= QPainter::RasterOp_SourceOrDestination;
-}
-
 QPen MakePen(const LOGPEN& description, const QColor& color) {
     const int width = std::max<int>(description.lopnWidth.x, 1);
     QPen pen(color, width);
@@ -55,12 +26,6 @@ QPen MakePen(const LOGPEN& description, const QColor& color) {
     pen.setCapStyle(width > 3 ? Qt::RoundCap : Qt::SquareCap);
     pen.setJoinStyle(width > 3 ? Qt::RoundJoin : Qt::MiterJoin);
     return pen;
-}
-
-Qt::BrushStyle HatchStyle(int hatch) {
-    constexpr Qt::BrushStyle styles[] = {Qt::HorPattern,   Qt::VerPattern,   Qt::FDiagPattern,
-                                         Qt::BDiagPattern, Qt::CrossPattern, Qt::DiagCrossPattern};
-    return hatch >= 0 && hatch < static_cast<int>(std::size(styles)) ? styles[hatch] : Qt::SolidPattern;
 }
 
 template <typename Object>
@@ -139,17 +104,13 @@ bool Surface::Bind() {
     return m_painter;
 }
 
-QPainter* Surface::Prepared(QPainter::CompositionMode mode) {
+QPainter* Surface::Plain() {
     if (!Bind())
         return nullptr;
     if (m_canvas && m_canvas->artist != this) {
         m_canvas->artist = this;
         m_penStale = m_brushStale = m_clipStale = true;
     }
-    if (Combines(mode) && m_canvas)
-        m_canvas->MakeOpaque(Background());
-    if (m_painter->compositionMode() != mode)
-        m_painter->setCompositionMode(mode);
     if (std::exchange(m_clipStale, false)) {
         const std::optional<QRegion>& base = m_baseClip;
         if (state.clip)
@@ -163,7 +124,7 @@ QPainter* Surface::Prepared(QPainter::CompositionMode mode) {
 }
 
 QPainter* Surface::Shaping() {
-    QPainter* painter = Prepared(CompositionMode(state.mode));
+    QPainter* painter = Plain();
     if (!painter)
         return nullptr;
     if (std::exchange(m_penStale, false))
@@ -186,25 +147,10 @@ bool Surface::SolidPen() const {
     return style == PS_SOLID || style == PS_INSIDEFRAME || (style != PS_NULL && PenWidth() > 1);
 }
 
-QBrush Surface::MakeBrush(const LOGBRUSH& description, const QImage& pattern) const {
-    const QColor color = QColor::fromRgb(Opaque(description.lbColor));
-    switch (description.lbStyle) {
-    case BS_NULL:
+QBrush Surface::MakeBrush(const LOGBRUSH& description) {
+    if (description.lbStyle == BS_NULL)
         return QBrush(Qt::NoBrush);
-    case BS_PATTERN:
-        return QBrush(pattern);
-    case BS_HATCHED:
-        break;
-    default:
-        return QBrush(color);
-    }
-    const QBrush hatch(color, HatchStyle(description.lbHatch));
-    if (state.backMode != OPAQUE)
-        return hatch;
-    QImage tile(8, 8, QImage::Format_ARGB32_Premultiplied); // one period of every hatch
-    tile.fill(Opaque(state.backColor));
-    QPainter(&tile).fillRect(tile.rect(), hatch);
-    return QBrush(tile);
+    return QBrush(QColor::fromRgb(Opaque(description.lbColor)));
 }
 
 const QFontMetricsF& Surface::Metrics() {

@@ -25,16 +25,11 @@ struct DrawState {
     CFont* font;
     LOGPEN penDescription;
     LOGBRUSH brushDescription;
-    QImage pattern;
     QFont qFont;
     LOGFONT fontDescription;
     COLORREF textColor = RGB(0, 0, 0);
     COLORREF backColor = RGB(255, 255, 255);
     int backMode = OPAQUE;
-    UINT textAlign = TA_LEFT;
-    int mode = R2_COPYPEN;
-    int fillMode = ALTERNATE;
-    CPoint origin;
     CPoint position;
     std::optional<QRegion> clip; // target coordinates
 };
@@ -52,11 +47,9 @@ class Surface {
     void UseCanvas(std::shared_ptr<Canvas> canvas); // null draws nowhere
     bool HasTarget() const;
 
-    // The painter with clipping and drawing mode set, or null for nowhere. The mode is the state's for pens and shapes,
-    // and plain for everything else.
-    QPainter* Plain() { return Prepared(QPainter::CompositionMode_SourceOver); }
+    // The painter with clipping set, or null for nowhere.
+    QPainter* Plain();
     QPainter* Shaping(); // pen and brush are set as well
-    QPainter* WithMode(QPainter::CompositionMode mode) { return Prepared(mode); }
     void PenChanged() { m_penStale = true; }
     void BrushChanged() { m_brushStale = true; }
     void ClipChanged() { m_clipStale = true; }
@@ -67,8 +60,8 @@ class Surface {
     bool SolidPen() const;
     bool ThinPen() const { return SolidPen() && PenWidth() == 1; }
     QColor PenColor() const { return QColor::fromRgb(Opaque(state.penDescription.lopnColor)); }
-    QBrush Brush() const { return MakeBrush(state.brushDescription, state.pattern); }
-    QBrush MakeBrush(const LOGBRUSH& description, const QImage& pattern) const;
+    QBrush Brush() const { return MakeBrush(state.brushDescription); }
+    static QBrush MakeBrush(const LOGBRUSH& description);
     const QFontMetricsF& Metrics();
 
     // A straight stroke through the middle of the pixel at this point.
@@ -81,9 +74,7 @@ class Surface {
     QPointF OutlinePoint(Point point, bool thin) const {
         return Shifted(point, OutlineShift(thin));
     }
-    QRect Target(const CRect& rect) const {
-        return {rect.left + state.origin.x, rect.top + state.origin.y, rect.Width(), rect.Height()};
-    }
+    static QRect Target(const CRect& rect) { return {rect.left, rect.top, rect.Width(), rect.Height()}; }
 
     void Fill(const CRect& rect, const QBrush& brush);
     void Fill(const CRect& rect, COLORREF color);
@@ -96,21 +87,16 @@ class Surface {
 
     DrawState state;
     std::vector<DrawState> saved;
-    CBitmap* bitmap = nullptr; // selected; null for none
-    bool memory = false;
     std::vector<QLineF> lines; // reused from call to call
 
   private:
-    friend class ::CDC;
-
     void SetScale(double scale) { m_scale = scale > 0 ? scale : 1; }
     template <class Point>
-    QPointF Shifted(Point point, double by) const {
-        return {point.x + state.origin.x + by, point.y + state.origin.y + by};
+    static QPointF Shifted(Point point, double by) {
+        return {point.x + by, point.y + by};
     }
     double OutlineShift(bool thin) const;
     bool Bind();
-    QPainter* Prepared(QPainter::CompositionMode mode);
 
     QPointer<QWidget> m_widget;
     WindowPeer* m_peer = nullptr; // good while the widget lives
