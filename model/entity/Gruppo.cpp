@@ -38,11 +38,6 @@ int CGruppo::RemoveElement(unsigned tipo, int id) {
     return 1;
 }
 
-void CGruppo::RemoveElements() {
-    m_members.clear();
-    m_positions.clear();
-}
-
 int CGruppo::IsElemento(unsigned tipo, int id) const {
     return m_positions.count(Key(tipo, id)) > 0;
 }

@@ -22,7 +22,6 @@ class CGruppo : public CElementoStrutturale {
 
     int AddElemento(unsigned tipo, int id); // 0 when it is there already
     int RemoveElement(unsigned tipo, int id);
-    void RemoveElements();
     int IsElemento(unsigned tipo, int id) const;
     int GetSizeElementi() const { return static_cast<int>(m_members.size()); }
     unsigned GetElementKindAt(int i) const; // 0 for an index outside

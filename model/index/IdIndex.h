@@ -20,8 +20,6 @@ class IdIndex {
             m_sparse.emplace(id, object);
         }
         ++m_count;
-        if (id > m_highest)
-            m_highest = id;
         return true;
     }
     // Null when there is none.
@@ -44,9 +42,6 @@ class IdIndex {
     void Clear() { *this = IdIndex(); }
 
     int GetSize() const { return m_count; }
-    // Above every identifier that was ever inserted: a deleted number is not given again, so that undo finds it free.
-    // 0 when the numbers are used up.
-    int GetNextID() const { return m_highest < 0x7fffffff ? m_highest + 1 : 0; }
 
   private:
     // The dense part stays within a small multiple of what it holds.
@@ -55,5 +50,4 @@ class IdIndex {
     std::vector<T*> m_dense;
     std::unordered_map<int, T*> m_sparse;
     int m_count = 0;
-    int m_highest = 0;
 };

@@ -14,6 +14,4 @@ struct DiagramStretch {
     bool IsStraight() const { return c[2] == 0 && c[3] == 0; }
     // Places strictly inside the stretch where the diagram is level, in increasing order; returns how many.
     int GetEnds(double (&x)[2]) const;
-    // Places where the diagram crosses or reaches zero, both ends included; none for a diagram that is zero all along.
-    int GetZeros(double (&x)[3]) const;
 };

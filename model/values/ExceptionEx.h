@@ -8,8 +8,6 @@ class CExceptionEx : public CException {
 
     explicit CExceptionEx(CString messaggio);
 
-    const CString& GetMessageText() const { return m_strMessage; }
-
     BOOL GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext = nullptr) override;
     // Shows the message, an empty one too, in a box of type `nType`; returns the button.
     int ReportError(UINT nType = 0, UINT nMessageID = 0) override;

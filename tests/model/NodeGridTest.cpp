@@ -117,10 +117,8 @@ TEST(IdIndexTest, FindsDenseAndWildNumbers) {
     EXPECT_EQ(index.Find(1), &a);
     EXPECT_EQ(index.Find(2147483646), &b);
     EXPECT_TRUE(!index.Find(2) && !index.Find(-1));
-    EXPECT_EQ(index.GetNextID(), 2147483647);
     EXPECT_TRUE(index.Remove(2147483646));
     EXPECT_FALSE(index.Remove(2147483646));
-    EXPECT_EQ(index.GetNextID(), 2147483647);
 
     // A number that was wild when it came is dense later on: it must not be taken twice.
     IdIndex<int> growing;
