@@ -135,28 +135,6 @@ TEST_F(Strutture, NodesRemovedAfterTheSearch) {
     EXPECT_EQ(Texts().size(), 2u) << "later changes do not refresh the list";
 }
 
-// Reaches the selection of a structure that the search cannot make.
-class OpenStrutture : public CDialogStrutture {
-  public:
-    using CDialogStrutture::GetIndexStructure;
-    using CDialogStrutture::SelezionaStruttura;
-};
-
-TEST_F(Strutture, StructureWithAStrangerStopsAtIt) {
-    m_model.Frame();
-    OpenStrutture open;
-    m_host.Open(open);
-    m_host.Take();
-    const CurrentNodes current(m_host.doc);
-    open.SelezionaStruttura(nullptr, current);
-    EXPECT_EQ(m_host.Take(), Lines{});
-    open.GetIndexStructure(0)->InsertAt(1, m_host.doc.travi[0].get());
-    open.SelezionaStruttura(open.GetIndexStructure(0), current);
-    EXPECT_EQ(m_host.Take(),
-              (Lines{"UpdateAllViews null 8 null", "UpdateAllViews null 17 null", "SelezionaTrave 1 null Adv3dRect"}));
-    open.DestroyWindow();
-}
-
 TEST_F(Strutture, ClosedBeforeTheTimer) {
     m_model.Frame();
     m_driver = Reopen();

@@ -107,7 +107,7 @@ class Comparison {
 TEST(AnalysisPeer, PrintedDigitsAgree) {
     const std::filesystem::path folder = std::filesystem::path(QUOVAR_SHARED_DIR) / "data" / "frame3dd";
     if (!std::filesystem::exists(folder))
-        GTEST_SKIP() << "the models are not here";
+        GTEST_SKIP() << "no models in " << folder;
     const std::pair<const char*, int> models[] = {
         {"exA", 2 * (12 + 42 + 12)}, {"exB", 3 * (1 + 8 + 4)}, {"exC", 18 + 96 + 4}, {"exH", 148 + 590 + 36}};
     for (const auto& [name, rows] : models) {
