@@ -68,6 +68,8 @@ TEST(CheckTest, WallsAndSlabs) {
     EXPECT_EQ(Check(m.Polygon<CSetto>({&a, &b, &e})), "Il setto ha area nulla.\n");
     EXPECT_EQ(Check(m.Polygon<CSetto>({&c, &d, &a, &b})),
               "L'elemento ha gli stessi nodi dell'elemento CSetto n.ro 1.\n");
+    CNodo &f = m.Node(4, 0, 6), &g = m.Node(2, 0, 8);
+    EXPECT_EQ(Check(m.Polygon<CSetto>({&a, &b, &f, &g, &d})), "Il setto non ha 3 o 4 nodi.\n");
 
     CSolaio& bare = m.Polygon<CSolaio>({&a, &b, &c});
     bare.SetMateriale(0, nullptr);

@@ -159,6 +159,7 @@ TEST(Picture, PaintingEnds) {
     for (int i = 0; i < 5; ++i)
         CWinApp::PumpMessages();
     EXPECT_EQ(window.painted, before);
+    EXPECT_EQ(CPaintDC(&window).m_ps.rcPaint, CRect(0, 0, 40, 30));
 }
 
 TEST(Picture, KeepsItsContentAcrossScales) {
