@@ -94,7 +94,7 @@ BOOL CDialogCopiaTrasla::OnInitDialog() {
     HideEditor();
     EnableVettore(m_nDirezione == directionVector);
     ResetListBox();
-    UpdateData(FALSE);
+    WriteControls();
     StartPicking();
     return TRUE;
 }
@@ -108,6 +108,7 @@ BOOL CDialogCopiaTrasla::DestroyWindow() {
 void CDialogCopiaTrasla::ResetFields() {
     m_closing = false;
     ResetPoints();
+    m_shownFrom = m_shownTo = CFPoint();
     m_nCopie = 1;
     m_nUnione = joinNothing;
     m_dSpaziatura = defaultSpacing;
@@ -123,8 +124,33 @@ double& CDialogCopiaTrasla::GetIndexPass(int index) {
     return m_dPasso[index >= 0 && index < GetMaxPass() ? index : 0];
 }
 
+bool CDialogCopiaTrasla::WriteControls() {
+    m_shownFrom = GetVettoreFrom();
+    m_shownTo = GetVettoreTo();
+    return UpdateData(FALSE) != 0;
+}
+
 bool CDialogCopiaTrasla::ReadControls() {
-    return !m_closing && !IsCancel() && UpdateData(TRUE);
+    if (m_closing || IsCancel() || !UpdateData(TRUE))
+        return false;
+    if (m_nDirezione == directionVector && VectorChanged())
+        FollowVector();
+    return true;
+}
+
+void CDialogCopiaTrasla::VectorEdited() {
+    if (ReadControls() && VectorChanged())
+        FollowVector();
+}
+
+bool CDialogCopiaTrasla::VectorChanged() {
+    return !(GetVettoreFrom() == m_shownFrom && GetVettoreTo() == m_shownTo);
+}
+
+void CDialogCopiaTrasla::FollowVector() {
+    m_nDirezione = directionVector;
+    if (WriteControls())
+        UpdateSpaziatura(GetSpaziatura(GetVettoreDiff()));
 }
 
 int CDialogCopiaTrasla::GetNPass() {
@@ -163,7 +189,7 @@ void CDialogCopiaTrasla::UpdateSpaziatura(double spaziatura) {
     if (!ReadControls())
         return;
     m_dSpaziatura = spaziatura;
-    if (!UpdateData(FALSE))
+    if (!WriteControls())
         return;
     InitPass(spaziatura);
     ResetListBox();
@@ -179,13 +205,13 @@ double CDialogCopiaTrasla::GetSpaziatura(CFPoint vettore) {
 }
 
 void CDialogCopiaTrasla::SetVettoreFrom(CFPoint point, int bAggiorna) {
-    if (IsCancel() || (bAggiorna && !UpdateData(TRUE)))
+    if (IsCancel() || (bAggiorna && !ReadControls()))
         return;
     StoreFrom(point);
     m_nDirezione = directionVector;
     EnableVettore(TRUE);
     if (bAggiorna)
-        UpdateData(FALSE);
+        WriteControls();
 }
 
 void CDialogCopiaTrasla::SetVettoreFrom(CFPoint point) {
@@ -193,26 +219,17 @@ void CDialogCopiaTrasla::SetVettoreFrom(CFPoint point) {
 }
 
 void CDialogCopiaTrasla::SetVettoreTo(CFPoint point, int bAggiorna) {
-    if (IsCancel() || (bAggiorna && !UpdateData(TRUE)))
+    if (IsCancel() || (bAggiorna && !ReadControls()))
         return;
     StoreTo(point);
     m_nDirezione = directionVector;
     EnableVettore(TRUE);
-    if (bAggiorna && UpdateData(FALSE))
+    if (bAggiorna && WriteControls())
         UpdateSpaziatura(GetSpaziatura(GetVettoreDiff()));
 }
 
 void CDialogCopiaTrasla::SetVettoreTo(CFPoint point) {
     SetVettoreTo(point, TRUE);
-}
-
-void CDialogCopiaTrasla::VectorEdited(const double& coordinate) {
-    const double old = coordinate;
-    if (!ReadControls() || coordinate == old)
-        return;
-    m_nDirezione = directionVector;
-    if (UpdateData(FALSE))
-        UpdateSpaziatura(GetSpaziatura(GetVettoreDiff()));
 }
 
 void CDialogCopiaTrasla::OnRadioX() {
@@ -237,7 +254,7 @@ void CDialogCopiaTrasla::OnChangeEditPasso() {
     } else if (m_nDirezione == directionVector && m_dSpaziatura != old) {
         AfxMessageBox("La spaziatura non può essere cambiata con il vettore attivo."_t);
         m_dSpaziatura = old;
-        UpdateData(FALSE);
+        WriteControls();
     } else if (m_dSpaziatura != old) {
         UpdateSpaziatura(m_dSpaziatura);
     }
@@ -284,7 +301,7 @@ void CDialogCopiaTrasla::ModificaPasso(int n) {
     const CRect place = EditorPlace(row);
     if (n < 0) {
         m_dValoreLista = GetIndexPass(row);
-        if (!UpdateData(FALSE))
+        if (!WriteControls())
             return;
     } else {
         CString digit;
@@ -312,7 +329,7 @@ void CDialogCopiaTrasla::OnKillfocusEditList() {
         return;
     if (m_dValoreLista == 0) {
         m_dValoreLista = old;
-        if (!UpdateData(FALSE))
+        if (!WriteControls())
             return;
     }
     GetIndexPass(m_nIndiceModifica) = m_dValoreLista;

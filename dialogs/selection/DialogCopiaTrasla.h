@@ -78,12 +78,12 @@ class CDialogCopiaTrasla : public TwoPointDialog {
     void OnRadioX();
     void OnRadioY() { OnRadioX(); }
     void OnRadioZ() { OnRadioX(); }
-    void OnKillfocusEditCopiatraslaX1() { VectorEdited(m_dX1); }
-    void OnKillfocusEditCopiatraslaX2() { VectorEdited(m_dX2); }
-    void OnKillfocusEditCopiatraslaY1() { VectorEdited(m_dY1); }
-    void OnKillfocusEditCopiatraslaY2() { VectorEdited(m_dY2); }
-    void OnKillfocusEditCopiatraslaZ1() { VectorEdited(m_dZ1); }
-    void OnKillfocusEditCopiatraslaZ2() { VectorEdited(m_dZ2); }
+    void OnKillfocusEditCopiatraslaX1() { VectorEdited(); }
+    void OnKillfocusEditCopiatraslaX2() { VectorEdited(); }
+    void OnKillfocusEditCopiatraslaY1() { VectorEdited(); }
+    void OnKillfocusEditCopiatraslaY2() { VectorEdited(); }
+    void OnKillfocusEditCopiatraslaZ1() { VectorEdited(); }
+    void OnKillfocusEditCopiatraslaZ2() { VectorEdited(); }
     void OnChangeEditPasso();
     void OnChangeEditCopiatraslaCopie();
 
@@ -97,15 +97,21 @@ class CDialogCopiaTrasla : public TwoPointDialog {
     void EnableVettore(int bEnable);
     void ResetFields();
     // False when the user cancelled, the window is going, or a field does not parse, which has been reported then.
+    // While the vector is the direction, a change of its points sets every step to its length, whichever reading takes
+    // it.
     bool ReadControls();
-    // The user left the edit of this coordinate.
-    void VectorEdited(const double& coordinate);
+    bool WriteControls();
+    // The user left the edit of a coordinate: a change makes the vector the direction.
+    void VectorEdited();
+    bool VectorChanged();
+    void FollowVector();
     bool AcceptSteps();
     void SetAxisVector();
     CRect EditorPlace(int row);
     void HideEditor();
 
     bool m_closing = false;
+    CFPoint m_shownFrom, m_shownTo; // the vector in the controls, which the fields leave for an axis at OK
 
     DECLARE_MESSAGE_MAP()
 };

@@ -215,6 +215,21 @@ TEST_F(CopiaTrasla, TypedCoordinateUpdatesTheSteps) {
     EXPECT_EQ(m_driver.Rows(list), Lines{Row(1, "8")}) << "leaving an edit unchanged resets nothing";
 }
 
+// Catches steps of the former length where another reading than that of the edit's leaving takes the change of a point.
+TEST_F(CopiaTrasla, AnyReadingOfAChangedPointResetsTheSteps) {
+    m_host.View().Pick(0, 0, 0);
+    m_host.View().Pick(5, 0, 0);
+    m_driver.Type(1197, "9");
+    m_driver.Press(VK_RETURN); // the edit keeps the focus
+    EXPECT_EQ(m_host.Take(), Command({"9 0 0 0"}, 0, 0));
+    EXPECT_EQ(m_driver.Rows(list), Lines{Row(1, "9")});
+    m_driver.SetText(1197, "7");
+    EXPECT_EQ(m_dialog.GetNPass(), 1);
+    EXPECT_EQ(m_driver.Text(spacing) + m_driver.Rows(list)[0], "7" + Row(1, "7"));
+    m_driver.Press(VK_RETURN);
+    EXPECT_EQ(m_host.Take(), Command({"7 0 0 0"}, 0, 0));
+}
+
 TEST_F(CopiaTrasla, LeavingTheVectorResetsTheSteps) {
     TypeStep(0, '8');
     m_driver.Click(radioX);
