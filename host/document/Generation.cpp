@@ -69,11 +69,11 @@ double Turn(double angle) {
 
 Places PlacesOnLine(const CFPoint& start, const CFPoint& towards, double spacing, int count, double tolerance) {
     CFPoint direction = towards - start;
-    if (!IsCount(count) || !start.IsFinite() || !towards.IsFinite() || !std::isfinite(spacing) || spacing <= 0 ||
+    if (!IsCount(count) || !start.IsFinite() || !towards.IsFinite() || !std::isfinite(spacing) ||
         !direction.Normalize())
         return {};
     // One place needs no spacing, but a spacing that no second node could keep is a mistake all the same.
-    if (!(spacing > tolerance))
+    if (!(std::fabs(spacing) > tolerance))
         return {};
     Places places;
     places.reserve(static_cast<std::size_t>(count));

@@ -13,6 +13,7 @@ inline constexpr int mostGeneratedNodes = 1'000'000;
 
 using Places = std::vector<CFPoint>;
 
+// A negative spacing leads away from `towards`.
 Places PlacesOnLine(const CFPoint& start, const CFPoint& towards, double spacing, int count, double tolerance);
 // Both ends included; one place alone is the first end.
 Places PlacesOnSegment(const CFPoint& from, const CFPoint& to, int count, double tolerance);

@@ -43,6 +43,10 @@ TEST(DocumentGeneration, LinePlacesNodesFromTheStart) {
     // What lies there already is met, not doubled.
     EXPECT_NE(document.GenNodiLineare({2, 4.5, 0}, {2, 5, 0}, 1.5, 3), 0);
     EXPECT_EQ(document.GetSizeNodi(), 4);
+    // A negative spacing goes the other way.
+    EXPECT_NE(document.GenNodiLineare({2, 3, 0}, {2, 7, 0}, -1.5, 3), 0);
+    EXPECT_EQ(document.GetSizeNodi(), 6);
+    ExpectNear(At(document, 5), {2, 0, 0});
 }
 
 TEST(DocumentGeneration, SegmentHasBothEnds) {
@@ -66,7 +70,6 @@ TEST(DocumentGeneration, NonsenseIsRejected) {
     EXPECT_EQ(document.GenNodiLineare(o, x, 1, 2'000'000'000), 0);
     EXPECT_EQ(document.GenNodiLineare(o, o, 1, 5), 0);
     EXPECT_EQ(document.GenNodiLineare(o, x, 0, 5), 0);
-    EXPECT_EQ(document.GenNodiLineare(o, x, -1, 5), 0);
     EXPECT_EQ(document.GenNodiLineare(o, x, 1e-9, 5), 0) << "nodes within the tolerance of each other";
     EXPECT_EQ(document.GenNodiLineare(o, x, std::nan(""), 5), 0);
     EXPECT_EQ(document.GenNodiLineare({infinity, 0, 0}, x, 1, 5), 0);
