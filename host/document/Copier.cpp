@@ -9,6 +9,8 @@
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"
 
+#include <algorithm>
+#include <climits>
 #include <cmath>
 #include <numbers>
 
@@ -25,18 +27,16 @@ double Clean(double degrees) {
     return std::fabs(degrees - whole) < 1e-9 ? whole + 0.0 : degrees;
 }
 
-// The same nodes in the same order, or the other way round.
-bool SameLine(CElemento& line, CNodo* first, CNodo* second) {
-    CNodo* a = line.GetIndexNodo(0);
-    CNodo* b = line.GetIndexNodo(1);
-    return (a == first && b == second) || (a == second && b == first);
-}
-
 bool HasNode(CElemento& element, CNodo* node) {
     for (int i = 0; i < element.GetSize(); ++i)
         if (element.GetIndexNodo(i) == node)
             return true;
     return false;
+}
+
+void LeaveGroups(CElementoGruppo& copy) {
+    while (copy.GetSizeGruppi() > 0)
+        copy.EliminaGruppo(copy.GetIDGruppo(0));
 }
 
 } // namespace
@@ -50,13 +50,18 @@ double BetaAfter(CLineaFisica& line, const Motion& motion, const CFPoint& newFir
     return Clean(std::atan2(-Dot(third, base2), Dot(third, base3)) * 180 / std::numbers::pi);
 }
 
+void TurnSprings(CNodo& node, const Motion& motion) {
+    for (int i = 0; i < node.GetSizeMolle(); ++i)
+        node.GetIndexMolla(i)->GetDirection() = motion.Direction(node.GetIndexMolla(i)->GetDirection());
+}
+
 Copier::Copier(HostDocument& document, const std::vector<CElemento*>& selection)
     : m_document(document), m_objects(static_cast<int>(selection.size())) {
     std::unordered_map<CNodo*, std::size_t> places;
     const auto enter = [&](CNodo* node) {
-        const auto [found, isNew] = places.emplace(node, m_current.size());
+        const auto [found, isNew] = places.emplace(node, m_originals.size());
         if (isNew) {
-            m_current.push_back(node);
+            m_originals.push_back(node);
             m_selected.push_back(node->IsSelect() != 0);
         }
         return found->second;
@@ -73,145 +78,161 @@ Copier::Copier(HostDocument& document, const std::vector<CElemento*>& selection)
             item.nodes.push_back(enter(element->GetIndexNodo(i)));
         m_items.push_back(std::move(item));
     }
+    m_former = m_originals;
+    if (m_originals.empty())
+        return;
+    m_low = m_high = *m_originals[0]->GetPunto();
+    for (CNodo* node : m_originals) {
+        const CFPoint& p = *node->GetPunto();
+        m_low = {std::min(m_low.x, p.x), std::min(m_low.y, p.y), std::min(m_low.z, p.z)};
+        m_high = {std::max(m_high.x, p.x), std::max(m_high.y, p.y), std::max(m_high.z, p.z)};
+    }
 }
 
-bool Copier::Accepts(int copies) const {
-    const std::size_t each = m_current.size() + m_items.size();
-    return each == 0 || static_cast<std::size_t>(copies) <= (mostCopies - m_made) / each;
-}
-
-bool Copier::Copy(const Motion& motion, int join) {
-    if (!Accepts(1))
+bool Copier::Accepts(std::size_t copies) const {
+    const std::size_t each = m_originals.size() + m_items.size();
+    if (each > 0 && copies > mostCopies / each)
         return false;
-    m_made += m_current.size() + m_items.size();
-    CopyNodes(motion);
-    for (Item& item : m_items) {
+    const std::size_t most = copies * (each + m_originals.size()); // with the joins
+    for (const Kind kind : allKinds) {
+        const int next = m_document.Data().NextId(kind);
+        if (IsSelectableKind(kind) && (next == 0 || most > static_cast<std::size_t>(INT_MAX - next)))
+            return false;
+    }
+    return true;
+}
+
+bool Copier::Reaches(const Motion& motion) const {
+    // What lies between the corners of a box still lies between them after a motion: most copies need no more.
+    bool whole = true;
+    for (int i = 0; whole && i < 8; ++i)
+        whole = IsUsablePlace(
+            motion.Place({i & 1 ? m_high.x : m_low.x, i & 2 ? m_high.y : m_low.y, i & 4 ? m_high.z : m_low.z}));
+    return whole || std::all_of(m_originals.begin(), m_originals.end(),
+                                [&motion](CNodo* node) { return IsUsablePlace(motion.Place(*node->GetPunto())); });
+}
+
+void Copier::Copy(const Motion& motion, int join) {
+    PlaceNodes(motion);
+    for (const Item& item : m_items) {
         CopyItem(item, motion);
         CMainFrame::_StepBar();
     }
     Join(join);
-    m_current.swap(m_next);
-    return true;
+    m_former.swap(m_next);
 }
 
-void Copier::CopyNodes(const Motion& motion) {
+void Copier::PlaceNodes(const Motion& motion) {
+    const int firstNew = m_document.Data().NextId(Kind::Node);
     const double tolerance = m_document.GetTolerance();
-    m_next.resize(m_current.size());
-    for (std::size_t i = 0; i < m_current.size(); ++i) {
-        CNodo& original = *m_current[i];
-        const CFPoint place = motion.Place(*original.GetPunto());
-        CNodo* there = m_document.Data().NodeAt(place, nullptr, tolerance);
-        // A place out of reach gets no copy, and what hangs on it none either.
-        m_next[i] = there ? there : IsUsablePlace(place) ? CopyNode(original, place, motion) : nullptr;
+    m_next.assign(m_originals.size(), nullptr);
+    // A node that stays where it is serves as its own copy, before another one that comes there may take it.
+    for (std::size_t i = 0; i < m_originals.size(); ++i) {
+        CNodo* original = m_originals[i];
+        if (CFPoint::GetMod(motion.Place(*original->GetPunto()), *original->GetPunto()) > tolerance)
+            continue;
+        original->SetAlready(1);
+        m_next[i] = original;
+    }
+    for (std::size_t i = 0; i < m_originals.size(); ++i) {
+        if (!m_next[i]) {
+            const CFPoint place = motion.Place(*m_originals[i]->GetPunto());
+            CNodo* met = Met(place, firstNew);
+            m_next[i] = met ? met : CopyNode(*m_originals[i], place, motion);
+            m_next[i]->SetAlready(1);
+        }
         if (m_selected[i])
             CMainFrame::_StepBar();
     }
-    for (CNodo*& node : m_next)
-        if (!node)
-            node = m_current[static_cast<std::size_t>(&node - m_next.data())];
+    for (CNodo* node : m_next)
+        node->SetAlready(0);
+}
+
+// The node at the place that was there before the copy and serves none of its nodes yet; null when there is none.
+CNodo* Copier::Met(const CFPoint& place, int firstNew) const {
+    return m_document.Data().NodeAt(place, m_document.GetTolerance(),
+                                    [firstNew](CNodo& node) { return node.GetID() < firstNew && !node.IsAlready(); });
 }
 
 CNodo* Copier::CopyNode(CNodo& original, const CFPoint& place, const Motion& motion) {
     auto copy = std::make_unique<CNodo>();
     *copy = static_cast<const CNodo&>(original);
     copy->SetPoint(place);
-    while (copy->GetSizeGruppi() > 0)
-        copy->EliminaGruppo(copy->GetIDGruppo(0));
-    for (int i = 0; i < copy->GetSizeMolle(); ++i)
-        copy->GetIndexMolla(i)->GetDirection() = motion.Direction(copy->GetIndexMolla(i)->GetDirection());
+    LeaveGroups(*copy);
+    TurnSprings(*copy, motion);
     return m_document.AddNew(std::move(copy), "Copia");
 }
 
-// An element of the same kind that has the item's nodes at their next places; null when there is none.
-CElemento* Copier::Existing(const Item& item) const {
-    CNodo* first = m_next[item.nodes[0]];
-    CNodo* second = m_next[item.nodes[1]];
-    CNodo* fewer = first->GetSizeElementi() <= second->GetSizeElementi() ? first : second;
+// Whether an element of the kind has these nodes.
+bool Copier::Exists(Kind kind, const std::vector<CNodo*>& nodes) const {
+    CNodo* fewer = nodes[0]->GetSizeElementi() <= nodes[1]->GetSizeElementi() ? nodes[0] : nodes[1];
     for (int i = 0; i < fewer->GetSizeElementi(); ++i) {
         CElemento* element = fewer->GetIndexElemento(i);
-        if (element->GetTipoElemento() != CodeOf(item.kind) ||
-            element->GetSize() != static_cast<int>(item.nodes.size()))
-            continue;
-        if (IsLineKind(item.kind)) {
-            if (SameLine(*element, first, second))
-                return element;
-            continue;
-        }
-        bool all = true;
-        for (std::size_t j = 0; all && j < item.nodes.size(); ++j)
-            all = HasNode(*element, m_next[item.nodes[j]]);
-        if (all)
-            return element;
+        if (element->GetTipoElemento() == CodeOf(kind) && element->GetSize() == static_cast<int>(nodes.size()) &&
+            std::all_of(nodes.begin(), nodes.end(), [element](CNodo* node) { return HasNode(*element, node); }))
+            return true;
     }
-    return nullptr;
+    return false;
 }
 
-void Copier::CopyItem(Item& item, const Motion& motion) {
-    if (!item.current)
-        return;
-    for (std::size_t i = 1; i < item.nodes.size(); ++i) {
-        for (std::size_t j = 0; j < i; ++j) {
-            if (m_next[item.nodes[i]] == m_next[item.nodes[j]]) {
-                item.current = nullptr;
-                return;
-            }
-        }
-    }
-    CElemento* existing = Existing(item);
-    item.current = existing ? existing : MakeCopy(item, motion);
+void Copier::CopyItem(const Item& item, const Motion& motion) {
+    m_corners.clear();
+    for (const std::size_t place : item.nodes)
+        m_corners.push_back(m_next[place]);
+    if (!Exists(item.kind, m_corners))
+        MakeCopy(item, motion);
 }
 
-CElemento* Copier::MakeCopy(const Item& item, const Motion& motion) {
+// The copy gets the nodes in m_corners.
+void Copier::MakeCopy(const Item& item, const Motion& motion) {
     std::unique_ptr<CElemento> copy = MakeObject(item.kind);
-    *copy = *item.current;
+    *copy = *item.original;
     auto& carrier = static_cast<CElementoCarico&>(*copy);
-    while (carrier.GetSizeGruppi() > 0)
-        carrier.EliminaGruppo(carrier.GetIDGruppo(0));
+    LeaveGroups(carrier);
     if (IsLineKind(item.kind)) {
         auto& line = static_cast<CLineaFisica&>(*copy);
-        CNodo* first = m_next[item.nodes[0]];
-        CNodo* second = m_next[item.nodes[1]];
-        line.SetBeta(
-            BetaAfter(static_cast<CLineaFisica&>(*item.current), motion, *first->GetPunto(), *second->GetPunto()));
-        line.SetNodi(first, second);
+        line.SetBeta(BetaAfter(static_cast<CLineaFisica&>(*item.original), motion, *m_corners[0]->GetPunto(),
+                               *m_corners[1]->GetPunto()));
+        line.SetNodi(m_corners[0], m_corners[1]);
         if (motion.Mirrors())
-            MirrorLoads(carrier);
+            MirrorLoads(carrier, 1);
     } else {
-        // Round the other way after mirroring, so that the normal is the mirrored one.
-        auto& polygon = static_cast<CPoligono&>(*copy);
-        const std::size_t count = item.nodes.size();
-        for (std::size_t i = 0; i < count; ++i)
-            polygon.AggiungiVertice(m_next[item.nodes[motion.Mirrors() ? (count - i) % count : i]]);
+        // After mirroring round the other way, so that the normal is the mirrored one, and from the second vertex to
+        // the first, so that axis 1 goes on lying along the first side.
+        if (motion.Mirrors()) {
+            std::reverse(m_corners.begin(), m_corners.end());
+            std::rotate(m_corners.begin(), m_corners.end() - 2, m_corners.end());
+            MirrorLoads(carrier, 0);
+        }
+        for (CNodo* corner : m_corners)
+            static_cast<CPoligono&>(*copy).AggiungiVertice(corner);
     }
-    return m_document.Add(std::move(copy), "Copia");
+    m_document.Add(std::move(copy), "Copia");
 }
 
 void Copier::Join(int join) {
     if (join != UNIONE_TRAVI && join != UNIONE_ASTE)
         return;
     const Kind kind = join == UNIONE_TRAVI ? Kind::Beam : Kind::Truss;
-    Item item{kind, nullptr, {0, 1}};
-    std::vector<CNodo*> pair(2);
-    for (std::size_t i = 0; i < m_current.size(); ++i) {
-        if (m_current[i] == m_next[i])
-            continue;
-        pair = {m_current[i], m_next[i]};
-        pair.swap(m_next);
-        const bool there = Existing(item) != nullptr;
-        pair.swap(m_next);
-        if (there)
+    for (std::size_t i = 0; i < m_former.size(); ++i) {
+        m_corners = {m_former[i], m_next[i]};
+        if (m_corners[0] == m_corners[1] || Exists(kind, m_corners))
             continue;
         if (kind == Kind::Beam)
-            m_document.AddTrave(m_current[i]->GetID(), m_next[i]->GetID(), nullptr);
+            m_document.AddTrave(m_corners[0]->GetID(), m_corners[1]->GetID(), nullptr);
         else
-            m_document.AddAsta(m_current[i]->GetID(), m_next[i]->GetID(), nullptr);
+            m_document.AddAsta(m_corners[0]->GetID(), m_corners[1]->GetID(), nullptr);
     }
 }
 
 namespace {
 
-// Changes the sign of what points along the second axis, or turns about the other two; false when nothing does.
-bool Mirror(CCarico& load) {
+double& Along(CFPoint& vector, int axis) {
+    return axis == 0 ? vector.x : axis == 1 ? vector.y : vector.z;
+}
+
+// Changes the sign of what points along the axis, or turns about another one; false when nothing does.
+bool Mirror(CCarico& load, int axis) {
     if (load.GetReference() != CCarico::Local)
         return false;
     const auto flip = [](double& value) {
@@ -221,17 +242,18 @@ bool Mirror(CCarico& load) {
     };
     switch (load.GetTipoElemento()) {
     case TipoElemento::CaricoUniforme:
-        return flip(static_cast<CCaricoUniforme&>(load).GetCarico().y);
+        return flip(Along(static_cast<CCaricoUniforme&>(load).GetCarico(), axis));
     case TipoElemento::CaricoTrapezoidale: {
-        auto& part = static_cast<CCaricoTrapezoidale&>(load).GetStretch(1);
+        auto& part = static_cast<CCaricoTrapezoidale&>(load).GetStretch(axis);
         return flip(part.inizio) | flip(part.fine);
     }
     case TipoElemento::CaricoConcentrato: {
         auto& point = static_cast<CCaricoConcentrato&>(load);
-        return flip(point.GetForceVector().y) | flip(point.GetMomentVector().x) | flip(point.GetMomentVector().z);
+        return flip(Along(point.GetForceVector(), axis)) | flip(Along(point.GetMomentVector(), (axis + 1) % 3)) |
+               flip(Along(point.GetMomentVector(), (axis + 2) % 3));
     }
     case TipoElemento::CaricoTemperatura:
-        return flip(static_cast<CCaricoTemperatura&>(load).GetGradient2());
+        return axis == 1 && flip(static_cast<CCaricoTemperatura&>(load).GetGradient2());
     default:
         return false;
     }
@@ -239,20 +261,21 @@ bool Mirror(CCarico& load) {
 
 } // namespace
 
-// Loads are shared by the elements that carry them: a mirrored one is another load, made once for all.
-void Copier::MirrorLoads(CElementoCarico& copy) {
+// Loads are shared by the elements that carry them: a mirrored one is another load, made once for all. `axis` is the
+// local one that has changed sides: the second of lines, the first of polygons.
+void Copier::MirrorLoads(CElementoCarico& copy, int axis) {
     std::vector<CCarico*> loads;
     for (int i = 0; i < copy.GetSizeCarichi(); ++i)
         if (CCarico* load = copy.GetIndexCarico(i))
             loads.push_back(load);
     copy.EliminaCarichi();
     for (CCarico* load : loads) {
-        CCarico*& mirrored = m_mirrored[load];
+        CCarico*& mirrored = m_mirrored[axis][load];
         if (!mirrored) {
             mirrored = load;
             std::unique_ptr<CElemento> other = CopyOf(*load);
             auto* loadCase = m_document.GetCasoCarico(load->GetIDCasoCarico(), nullptr);
-            if (loadCase && other && Mirror(static_cast<CCarico&>(*other)))
+            if (loadCase && other && Mirror(static_cast<CCarico&>(*other), axis))
                 mirrored =
                     m_document.AddCarico(*loadCase, std::unique_ptr<CCarico>(static_cast<CCarico*>(other.release())));
         }

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <memory>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -114,6 +115,10 @@ class DocumentData : public ModelLookup {
     // The nearest node, other than `excluded` (null excludes none); see NodeGrid.
     CNodo* NodeAt(const CFPoint& place, const CNodo* excluded, double tolerance) const;
     // What counts as exactly the same place in a model of this size.
+    // The nearest of those that the test accepts.
+    CNodo* NodeAt(const CFPoint& place, double tolerance, const std::function<bool(CNodo&)>& accepts) const {
+        return m_grid->Find(place, tolerance, accepts);
+    }
     double ExactTolerance() const;
 
     // How near two nodes may lie before they count as one.

@@ -11,7 +11,7 @@ class HostGeneration : public HostEditing {
     // finite, and points that coincide within the tolerance of the document where they must differ. A place where a
     // node lies already gets no second one. Each call is one undo step.
     //
-    // The first node is at `inizio`. `passo` must be larger than the tolerance.
+    // The first node is at `inizio`; a negative `passo` leads away from `direzione`. It must exceed the tolerance.
     int GenNodiLineare(CFPoint inizio, CFPoint direzione, double passo, int nNodi) override;
     // Equally spaced, both ends included; a single node lies at the first end.
     int GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) override;

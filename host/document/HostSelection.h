@@ -6,6 +6,7 @@
 #include "platform/core/Collections.h"
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -17,6 +18,7 @@ class HostDocument;
 
 class Copier;
 class Motion;
+struct CopyCycle;
 
 class HostSelection : public CQuovarSelection {
   public:
@@ -58,9 +60,6 @@ class HostSelection : public CQuovarSelection {
     bool IsEmpty() const { return m_all.empty(); }
     CObList* List();
 
-    // Whether the last command was refused or stopped, which the user was told; once for each.
-    bool TakeRefusal();
-
     Snapshot TakeSnapshot();
     void Restore(const Snapshot& snapshot);
     // Forgets without touching the elements, which may be gone.
@@ -69,7 +68,15 @@ class HostSelection : public CQuovarSelection {
   private:
     unsigned Put(CElemento* element);
     void Changed(unsigned kinds);
-    void Transform(const Motion& motion, int copies, int join, const char* stepName, const CString& message);
+
+    // The motion from the selection to the i-th copy, from 1; that of the selection itself is the first.
+    using MotionOf = std::function<Motion(int)>;
+    void Refuse(const CString& why) const;
+    bool CanBegin(int copies) const;
+    bool CanCopy(const Copier& copier, int copies, const MotionOf& motionOf) const;
+    void Transform(const MotionOf& motionOf, int copies, int join, const char* stepName, const CString& message);
+    void Rotate(const CFPoint& from, const CFPoint& axis, const std::function<double(int)>& radians, double snap,
+                int copies, int join);
 
     HostDocument& m_document;
     std::vector<CElemento*> m_all;
@@ -77,8 +84,7 @@ class HostSelection : public CQuovarSelection {
     Snapshot m_snapshot; // of the current state, or null
     CObList m_list;
     bool m_listValid = false;
-    std::unique_ptr<Copier> m_cycle; // between the start and the end of a copy cycle
-    bool m_refused = false;          // the last command, or its rest: too many copies
+    std::unique_ptr<CopyCycle> m_cycle; // between the start and the end of a copy cycle
 };
 
 } // namespace host

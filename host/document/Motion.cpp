@@ -1,5 +1,7 @@
 #include "host/document/Motion.h"
 
+#include <cmath>
+
 namespace host {
 
 namespace {
@@ -14,7 +16,12 @@ Motion Motion::Translation(const CFPoint& vector) {
     return motion;
 }
 
-Motion Motion::Rotation(const CFPoint& point, const CFPoint& axis, double sine, double cosine) {
+Motion Motion::Rotation(const CFPoint& point, const CFPoint& axis, double radians, double snap) {
+    double sine = std::sin(radians), cosine = std::cos(radians);
+    if (std::fabs(sine) < snap || std::fabs(cosine) < snap) {
+        sine = std::round(sine);
+        cosine = std::round(cosine);
+    }
     Motion motion;
     motion.m_turns = true;
     motion.m_fixed = point;

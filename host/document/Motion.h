@@ -8,8 +8,9 @@ namespace host {
 class Motion {
   public:
     static Motion Translation(const CFPoint& vector);
-    // About an axis through a point; `axis` is a unit vector.
-    static Motion Rotation(const CFPoint& point, const CFPoint& axis, double sine, double cosine);
+    // About an axis through a point; `axis` is a unit vector. Sine and cosine within `snap` of a quarter turn's are
+    // these: columns that turn must stay upright, and a copy round a corner must meet the node that is there.
+    static Motion Rotation(const CFPoint& point, const CFPoint& axis, double radians, double snap);
     // In the plane through the point with the given unit normal, or in the point itself.
     static Motion Reflection(const CFPoint& point, const CFPoint& normal);
     static Motion Inversion(const CFPoint& point);

@@ -181,6 +181,15 @@ NodeGrid::Level& NodeGrid::LevelFor(double tolerance) const {
 }
 
 CNodo* NodeGrid::Find(const CFPoint& point, const CNodo* excluded, double tolerance) const {
+    return Search(point, tolerance, [excluded](CNodo& node) { return &node != excluded; });
+}
+
+CNodo* NodeGrid::Find(const CFPoint& point, double tolerance, const std::function<bool(CNodo&)>& accepts) const {
+    return Search(point, tolerance, accepts);
+}
+
+template <class Test>
+CNodo* NodeGrid::Search(const CFPoint& point, double tolerance, const Test& accepts) const {
     if (m_count == 0 || !point.IsFinite() || !(tolerance >= 0) || !std::isfinite(tolerance))
         return nullptr;
     const Level& level = LevelFor(tolerance);
@@ -199,7 +208,7 @@ CNodo* NodeGrid::Find(const CFPoint& point, const CNodo* excluded, double tolera
                         continue;
                     CNodo* const node = m_slots[slot];
                     const double distance = (node->m_point - point).GetMod();
-                    if (node == excluded || !(distance <= nearest))
+                    if (!(distance <= nearest) || !accepts(*node))
                         continue;
                     if (!best || distance < nearest || node->GetID() < best->GetID()) {
                         best = node;

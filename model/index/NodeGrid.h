@@ -8,6 +8,7 @@
 #include "model/values/FPoint.h"
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 class CNodo;
@@ -30,6 +31,8 @@ class NodeGrid {
     // none); of equally near ones that with the lowest identifier. Null when there is none. A negative tolerance finds
     // nothing, 0 finds nodes at exactly the point.
     CNodo* Find(const CFPoint& point, const CNodo* excluded, double tolerance) const;
+    // The same among the nodes that the test accepts.
+    CNodo* Find(const CFPoint& point, double tolerance, const std::function<bool(CNodo&)>& accepts) const;
 
   private:
     friend class CNodo;
@@ -50,6 +53,8 @@ class NodeGrid {
         std::vector<Link> links; // by slot
     };
 
+    template <class Test>
+    CNodo* Search(const CFPoint& point, double tolerance, const Test& accepts) const;
     void Move(CNodo* node, const CFPoint& point);
     void Link(Level& level, std::uint32_t slot) const;
     static void Unlink(Level& level, std::uint32_t slot);

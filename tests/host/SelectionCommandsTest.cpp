@@ -228,22 +228,27 @@ TEST_F(SelectionCommandsTest, CopiesByKeyboardAlone) {
     EXPECT_EQ(Joined(Kind::Truss, {0, 2.5, 3}, {0, 7, 3}), 1);
 }
 
-// Ten million copies are refused at once where the host knows their number. Catches an endless command, and a dialog
-// that stays when its command was refused.
+// Ten million copies are refused before one of them is made. Catches an endless command, a half one, and a dialog that
+// stays when its command was refused.
 TEST_F(SelectionCommandsTest, TooManyCopiesAreRefused) {
     Select({Column()});
     const std::string before = State();
+    const auto refuse = [&](DialogDriver& driver, int copies) {
+        driver.SetText(copies, "10000000");
+        m_user.ExpectMessage("Troppe copie: il comando non è stato eseguito.", IDOK, MB_OK);
+        driver.Press(VK_RETURN);
+        EXPECT_FALSE(driver.IsOpen());
+        EXPECT_EQ(State(), before);
+        EXPECT_EQ(Document().Undo().UndoCount(), 0u);
+    };
+    DialogDriver along(*OpenTool(CopiaTrasla::IDD));
+    refuse(along, CopiaTrasla::IDC_COPIE);
     DialogDriver driver(*OpenTool(CopiaRuota::IDD));
     driver.Type(CopiaRuota::IDC_X2 + 2, "1");
     driver.Type(CopiaRuota::IDC_X1, "0.25");
     driver.Type(CopiaRuota::IDC_X2, "0.25");
     driver.Type(CopiaRuota::IDC_ANGOLO, "1.5");
-    driver.Type(CopiaRuota::IDC_COPIE, "10000000");
-    m_user.ExpectMessage("Troppe copie: il comando non è stato eseguito.", IDOK, MB_OK);
-    driver.Press(VK_RETURN);
-    EXPECT_FALSE(driver.IsOpen());
-    EXPECT_EQ(State(), before);
-    EXPECT_EQ(Document().Undo().UndoCount(), 0u);
+    refuse(driver, CopiaRuota::IDC_COPIE);
 }
 
 } // namespace
