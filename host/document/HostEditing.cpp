@@ -77,11 +77,13 @@ void HostEditing::AssegnaBetaSelezione(double beta, int, int) {
     }
 }
 
+// The beams that the active view shows; without a view, those that any would show.
 void HostEditing::AssegnaBetaVista(double beta, int, int) {
     UndoStep step(Undo(), "Angolo beta");
+    Adv3d* vista = GetVista();
     for (int i = 0; i < Data().Size(Kind::Beam); ++i) {
         auto* beam = Data().As<CLineaFisica>(Kind::Beam, i);
-        if (beam->IsVisible())
+        if (vista ? beam->CanDraw(vista) : beam->IsVisible())
             Modify(*beam, [&] { beam->SetBeta(beta); });
     }
 }

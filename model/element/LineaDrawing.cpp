@@ -4,21 +4,10 @@
 #include "model/view/Adv3d.h"
 #include "model/view/Adv3dRect.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace {
 
-constexpr double touchPixels = 4; // how far from a line a click still means it
 constexpr COLORREF releaseColor = RGB(200, 0, 0);
 constexpr COLORREF axisColors[3] = {RGB(200, 0, 0), RGB(0, 150, 0), RGB(0, 0, 200)};
-
-double DistanceToSegment(double x, double y, const Adv3d::Punto& a, const Adv3d::Punto& b) {
-    const double dx = b.x - a.x, dy = b.y - a.y;
-    const double square = dx * dx + dy * dy;
-    const double t = square > 0 ? std::clamp(((x - a.x) * dx + (y - a.y) * dy) / square, 0.0, 1.0) : 0;
-    return std::hypot(x - a.x - t * dx, y - a.y - t * dy);
-}
 
 } // namespace
 
@@ -54,9 +43,9 @@ int CLinea::IsInRect(CPoint a, CPoint b, Adv3d* pVista) {
 int CLinea::PtIn(CPoint punto, Adv3d* pVista) {
     if (!CanDraw(pVista))
         return 0;
-    const Adv3d::Punto a = pVista->Project(*m_pNodi[0]->GetPunto());
-    const Adv3d::Punto b = pVista->Project(*m_pNodi[1]->GetPunto());
-    return a.visible && b.visible && DistanceToSegment(punto.x, punto.y, a, b) <= touchPixels;
+    Adv3d::Punto a, b;
+    return pVista->ProjectSegment(*m_pNodi[0]->GetPunto(), *m_pNodi[1]->GetPunto(), a, b) &&
+           a.DistanceFromLine(punto, b) <= Adv3d::touchPixels;
 }
 
 void CLinea::UpdateInvalideRect(Adv3dRect* pRect, int margine) {

@@ -6,6 +6,7 @@
 #include "model/view/Adv3dRect.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace {
@@ -24,17 +25,51 @@ std::vector<CPoint> Corners(CPoligono& polygon, const Adv3d& vista) {
     return points;
 }
 
-bool Inside(const std::vector<CPoint>& polygon, CPoint point) {
+using Outline = std::vector<Adv3d::Punto>;
+
+// The outline of what can be seen, of which a perspective may leave a part behind the eye.
+Outline VisibleOutline(CPoligono& polygon, const Adv3d& vista) {
+    Outline outline;
+    Adv3d::Punto p, q;
+    for (int i = 0, count = polygon.GetSize(); i < count; ++i) {
+        const CFPoint& to = *polygon.GetVertice((i + 1) % count)->GetPunto();
+        if (!vista.ProjectSegment(*polygon.GetVertice(i)->GetPunto(), to, p, q))
+            continue;
+        outline.push_back(p);
+        if (!vista.Project(to).visible)
+            outline.push_back(q); // the next side begins elsewhere
+    }
+    return outline;
+}
+
+bool Inside(const Outline& outline, CPoint point) {
     bool odd = false;
-    for (std::size_t i = 0, j = polygon.size() - 1; i < polygon.size(); j = i++) {
-        const CPoint a = polygon[i], b = polygon[j];
+    for (std::size_t i = 0, j = outline.size() - 1; i < outline.size(); j = i++) {
+        const Adv3d::Punto &a = outline[i], &b = outline[j];
         if ((a.y > point.y) == (b.y > point.y))
             continue;
-        const double crossing = a.x + static_cast<double>(b.x - a.x) * (point.y - a.y) / (b.y - a.y);
-        if (point.x < crossing)
+        if (point.x < a.x + (b.x - a.x) * (point.y - a.y) / (b.y - a.y))
             odd = !odd;
     }
     return odd;
+}
+
+// Seen edge on, a polygon is a line: hardly wider than what a click may miss a line by.
+bool IsThin(const Outline& outline) {
+    double twiceArea = 0, around = 0;
+    for (std::size_t i = 0, j = outline.size() - 1; i < outline.size(); j = i++) {
+        const Adv3d::Punto &a = outline[j], &b = outline[i];
+        twiceArea += (a.x - outline[0].x) * (b.y - outline[0].y) - (b.x - outline[0].x) * (a.y - outline[0].y);
+        around += std::hypot(b.x - a.x, b.y - a.y);
+    }
+    return std::abs(twiceArea) <= around * Adv3d::touchPixels;
+}
+
+bool NearEdge(const Outline& outline, CPoint point) {
+    for (std::size_t i = 0, j = outline.size() - 1; i < outline.size(); j = i++)
+        if (outline[j].DistanceFromLine(point, outline[i]) <= Adv3d::touchPixels)
+            return true;
+    return false;
 }
 
 CRect Bounds(const std::vector<CPoint>& points) {
@@ -81,8 +116,8 @@ int CPoligono::IsInRect(CPoint a, CPoint b, Adv3d* pVista) {
 int CPoligono::PtIn(CPoint punto, Adv3d* pVista) {
     if (!CanDraw(pVista))
         return 0;
-    const std::vector<CPoint> points = Corners(*this, *pVista);
-    return !points.empty() && Inside(points, punto);
+    const Outline outline = VisibleOutline(*this, *pVista);
+    return !outline.empty() && (Inside(outline, punto) || (IsThin(outline) && NearEdge(outline, punto)));
 }
 
 void CPoligono::UpdateInvalideRect(Adv3dRect* pRect, int margine) {

@@ -54,6 +54,13 @@ CPoint Adv3d::Punto::Pixel() const {
     return {whole(x), whole(y)};
 }
 
+double Adv3d::Punto::DistanceFromLine(CPoint pixel, const Punto& end) const {
+    const double dx = end.x - x, dy = end.y - y;
+    const double square = dx * dx + dy * dy;
+    const double t = square > 0 ? std::clamp(((pixel.x - x) * dx + (pixel.y - y) * dy) / square, 0.0, 1.0) : 0;
+    return std::hypot(pixel.x - x - t * dx, pixel.y - y - t * dy);
+}
+
 Adv3d::Adv3d() {
     SetDirection(Axonometry);
     GetSettings(TipoElemento::Nodo).SetColor(RGB(30, 60, 160));
@@ -183,6 +190,21 @@ Adv3d::Punto Adv3d::Project(const CFPoint& punto) const {
     const double x = m_originX + along(m_axes[0]) * scale;
     const double y = m_originY - along(m_axes[1]) * scale;
     return {x, y, depth, std::isfinite(x) && std::isfinite(y)};
+}
+
+bool Adv3d::ProjectSegment(const CFPoint& a, const CFPoint& b, Punto& p, Punto& q) const {
+    p = Project(a);
+    q = Project(b);
+    if (p.visible == q.visible)
+        return p.visible;
+    // One end lies behind the eye: halving finds the visible part well within a pixel of the window's edge.
+    CFPoint seen = p.visible ? a : b, hidden = p.visible ? b : a;
+    for (int i = 0; i < 24; ++i) {
+        const CFPoint middle = (seen + hidden) * 0.5;
+        (Project(middle).visible ? seen : hidden) = middle;
+    }
+    (p.visible ? q : p) = Project(seen);
+    return true;
 }
 
 CFPoint Adv3d::Unproject(CPoint pixel, const CFPoint& piano) const {

@@ -27,7 +27,11 @@ class Adv3d {
         bool visible =
             false; // false behind the eye of a perspective, or when a coordinate is no number: x and y mean nothing
         CPoint Pixel() const;
+        // Of a pixel from the line that leads from here to `end` on the screen.
+        double DistanceFromLine(CPoint pixel, const Punto& end) const;
     };
+
+    static constexpr double touchPixels = 4; // how far from a line a click still means it
 
     Adv3d();
 
@@ -64,6 +68,9 @@ class Adv3d {
     void SetEyeDistance(double multiplo);
 
     Punto Project(const CFPoint& punto) const;
+    // The ends of what can be seen of a line, of which a perspective may leave a part behind the eye; false for
+    // nothing.
+    bool ProjectSegment(const CFPoint& a, const CFPoint& b, Punto& p, Punto& q) const;
     // The point of the plane through `piano`, parallel to the screen, that a pixel shows.
     CFPoint Unproject(CPoint pixel, const CFPoint& piano) const;
     double GetDepth(const CFPoint& punto) const { return Dot(m_axes[2], punto - m_target); }

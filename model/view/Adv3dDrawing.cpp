@@ -70,18 +70,9 @@ void Adv3d::SetDC(CDC* pDC) {
 void Adv3d::Segment(const CFPoint& a, const CFPoint& b, COLORREF color, int width) {
     if (!m_dc)
         return;
-    Punto p = Project(a), q = Project(b);
-    if (!p.visible && !q.visible)
+    Punto p, q;
+    if (!ProjectSegment(a, b, p, q))
         return;
-    if (!p.visible || !q.visible) {
-        // One end lies behind the eye: halving finds the visible part well within a pixel of the window's edge.
-        CFPoint seen = p.visible ? a : b, hidden = p.visible ? b : a;
-        for (int i = 0; i < 24; ++i) {
-            const CFPoint middle = (seen + hidden) * 0.5;
-            (Project(middle).visible ? seen : hidden) = middle;
-        }
-        (p.visible ? q : p) = Project(seen);
-    }
     if (!Clip(p.x, p.y, q.x, q.y))
         return;
     const CPoint ends[] = {Whole(p.x, p.y), Whole(q.x, q.y)};

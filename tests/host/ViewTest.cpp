@@ -5,6 +5,7 @@
 #include "host/ui/MainWindow.h"
 #include "host/view/ViewWidget.h"
 #include "model/element/Nodo.h"
+#include "model/element/Poligono.h"
 #include "model/element/TipoElemento.h"
 #include "model/element/Trave.h"
 #include "platform/window/Application.h"
@@ -131,6 +132,51 @@ TEST_F(ViewTest, ClickReplacesCtrlTogglesRectangleAdds) {
 
     Click(PixelOf(CFPoint(-0.8, 0, 5)));
     EXPECT_TRUE(Selected(document).empty()) << "a click on nothing empties the selection";
+}
+
+// Catches walls and slabs that cannot be hit from the side, and lines that cannot when the eye stands among them.
+TEST_F(ViewTest, WhatIsSeenEdgeOnOrInPartIsHit) {
+    BuildSmallModel();
+    HostDocument& document = Document();
+    KindFilter planes;
+    planes.beams = planes.nodes = planes.trusses = false;
+    View().SetFilter(planes);
+    View().SetDirection(Adv3d::Top);
+    for (const Kind kind : {Kind::Wall, Kind::Slab}) {
+        auto* plane = static_cast<CPoligono*>(document.Data().At(kind, 0));
+        const CPoint at = PixelOf((*plane->GetVertice(0)->GetPunto() + *plane->GetVertice(2)->GetPunto()) * 0.5);
+        Click({at.x, at.y + 3});
+        EXPECT_EQ(Selected(document), Elements{plane});
+        Click({at.x, at.y + 9});
+        EXPECT_TRUE(Selected(document).empty()) << "as far as a click may miss a line, no further";
+    }
+    View().SetFilter({});
+    View().SetDirection(Adv3d::Right);
+    View().SetPerspective(true);
+    View().Vista().SetEyeDistance(0.001); // well before the far end of the beams
+    Adv3d::Punto from, to;
+    CTrave* beam = document.GetIndexTrave(1);
+    const CFPoint first = *beam->GetNodoIniziale()->GetPunto(), second = *beam->GetNodoFinale()->GetPunto();
+    ASSERT_NE(View().Vista().Project(first).visible, View().Vista().Project(second).visible);
+    ASSERT_TRUE(View().Vista().ProjectSegment(first, second, from, to));
+    EXPECT_TRUE(
+        beam->PtIn(CPoint(static_cast<int>(from.x + to.x) / 2, static_cast<int>(from.y + to.y) / 2), &View().Vista()));
+}
+
+// Catches an assignment that reaches what the view does not show.
+TEST_F(ViewTest, BetaOfTheViewLeavesHiddenBeamsAlone) {
+    BuildSmallModel();
+    HostDocument& document = Document();
+    const std::size_t steps = document.Undo().UndoCount();
+    View().SetShown(TipoElemento::Trave, CElementoSettings::Object, false);
+    document.AssegnaBetaVista(30, 1, 0);
+    EXPECT_EQ(document.GetIndexTrave(0)->GetBeta(), 0);
+    EXPECT_EQ(document.Undo().UndoCount(), steps);
+    View().SetShown(TipoElemento::Trave, CElementoSettings::Object, true);
+    document.GetIndexTrave(1)->SetVisible(0);
+    document.AssegnaBetaVista(30, 1, 0);
+    EXPECT_EQ(document.GetIndexTrave(0)->GetBeta(), 30);
+    EXPECT_EQ(document.GetIndexTrave(1)->GetBeta(), 0);
 }
 
 // Catches filters that are not asked, and hits on objects that the view does not show.
