@@ -26,7 +26,8 @@ class CaseAnalysis {
     CaseAnalysis(FrameModel& model, const FrameSystem& system, CaseLoads loads)
         : m_model(model), m_system(system), m_loads(std::move(loads)) {}
 
-    CaseResults Run(int id) {
+    // `former` holds the cases analysed before.
+    CaseResults Run(int id, const std::vector<CaseResults>& former) {
         FixEnds();
         const bool settles = !m_loads.displacements.isZero(0);
         // What the held ends, moved where they must be, hand over to the nodes.
@@ -48,7 +49,7 @@ class CaseAnalysis {
             Eigen::Map<Vector12>(ends, 12) = m_ends[i];
             m_loads.lines[i].SetEndForces(ends);
         }
-        results.lines = std::move(m_loads.lines);
+        results.lines = LineResults(m_loads.lines, former.empty() ? nullptr : &former.front().lines);
         results.displacements.resize(m_model.nodes.size());
         for (std::size_t i = 0; i < m_model.nodes.size(); ++i)
             std::copy_n(displacements.data() + 6 * i, 6, results.displacements[i].begin());
@@ -166,7 +167,8 @@ AnalysisOutcome Analyse(DocumentData& data) {
         for (int i = 0; i < count; ++i) {
             auto& loadCase = *data.As<CCasoCarico>(Kind::LoadCase, i);
             CaseLoads loads = table.Gather(model, loadCase);
-            outcome.cases.push_back(CaseAnalysis(model, system, std::move(loads)).Run(loadCase.GetID()));
+            CaseAnalysis analysis(model, system, std::move(loads));
+            outcome.cases.push_back(analysis.Run(loadCase.GetID(), outcome.cases));
             CMainFrame::_StepBar();
         }
         outcome.notes = std::move(model.notes);
@@ -177,33 +179,47 @@ AnalysisOutcome Analyse(DocumentData& data) {
     return outcome;
 }
 
+namespace {
+
+// Of the same model, with nothing in it.
+CaseResults EmptySum(const CaseResults& alike, std::vector<CTraveRisultati>& lines) {
+    CaseResults sum;
+    sum.displacements.resize(alike.displacements.size());
+    sum.reactions = alike.reactions;
+    for (CaseResults::Reaction& reaction : sum.reactions)
+        reaction.values = {};
+    lines.resize(alike.lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const CTraveRisultati line = alike.lines[i];
+        lines[i].SetID(line.GetID());
+        lines[i].SetLineLength(line.GetLunghezzaLinea());
+    }
+    return sum;
+}
+
+} // namespace
+
 CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& cases) {
     CaseResults sum;
+    std::vector<CTraveRisultati> lines;
+    if (!cases.empty())
+        sum = EmptySum(cases.front(), lines);
     sum.id = combination.GetID();
     for (const CaseResults& each : cases) {
         double factor = 0;
-        if (sum.lines.empty()) {
-            sum.displacements.resize(each.displacements.size());
-            sum.lines.resize(each.lines.size());
-            for (std::size_t i = 0; i < sum.lines.size(); ++i) {
-                sum.lines[i].SetID(each.lines[i].GetID());
-                sum.lines[i].SetLineLength(each.lines[i].GetLunghezzaLinea());
-            }
-            sum.reactions = each.reactions;
-            for (CaseResults::Reaction& reaction : sum.reactions)
-                reaction.values = {};
-        }
         if (!combination.GetFattoreCDC(combination.GetIndexCDC(each.id), factor))
             continue;
         for (std::size_t i = 0; i < sum.displacements.size(); ++i)
             for (std::size_t j = 0; j < 6; ++j)
                 sum.displacements[i][j] += factor * each.displacements[i][j];
-        for (std::size_t i = 0; i < sum.lines.size(); ++i)
-            sum.lines[i].Sum(each.lines[i], factor);
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            lines[i].Sum(each.lines[i], factor);
         for (std::size_t i = 0; i < sum.reactions.size(); ++i)
             for (std::size_t j = 0; j < 6; ++j)
                 sum.reactions[i].values[j] += factor * each.reactions[i].values[j];
     }
+    if (!cases.empty())
+        sum.lines = LineResults(lines, &cases.front().lines);
     return sum;
 }
 

@@ -1,9 +1,9 @@
 // Linear static analysis of space frames: beams and truss members on restraints and springs.
 #pragma once
 
+#include "host/analysis/LineResults.h"
 #include "host/document/DocumentData.h"
 #include "host/document/Refusal.h"
-#include "model/result/TraveRisultati.h"
 
 #include <array>
 #include <optional>
@@ -26,7 +26,7 @@ struct CaseResults {
 
     int id = 0;                                       // of the load case or combination
     std::vector<std::array<double, 6>> displacements; // by node, in document order; radians for the last three
-    std::vector<CTraveRisultati> lines;               // beams, then truss members, in document order
+    LineResults lines;                                // beams, then truss members, in document order
     std::vector<Reaction> reactions;                  // of the nodes with a restraint or a spring
 };
 

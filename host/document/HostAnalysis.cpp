@@ -4,6 +4,8 @@
 #include "model/entity/Combinazione.h"
 #include "platform/core/Collections.h"
 
+#include <algorithm>
+
 namespace host {
 
 AnalysisOutcome HostAnalysis::Run() {
@@ -24,7 +26,6 @@ bool HostAnalysis::Clear() {
     if (!m_cases.empty()) {
         Show(0); // before the records go that the elements point at
         m_cases = {};
-        m_combined = {};
     }
     return valid;
 }
@@ -52,23 +53,25 @@ CLineaRisultati* HostAnalysis::Line(std::size_t index) const {
 
 void HostAnalysis::Show(int caseId) {
     auto* combination = m_data.FindAs<CCombinazione>(Kind::Combination, caseId);
-    CaseResults* results = Find(caseId);
-    CaseResults former = std::move(m_combined); // lives until the elements have let it go
-    m_combined = {};
     if (combination && !m_cases.empty()) {
-        m_combined = Combine(*combination, m_cases);
-        results = &m_combined;
+        const CaseResults sum = Combine(*combination, m_cases);
+        m_shown = caseId;
+        ShowRecords(&sum);
+        return;
     }
+    const CaseResults* results = Find(caseId);
     m_shown = results ? caseId : 0;
     ShowRecords(results);
 }
 
 // In the middle of a command the model may have lost elements while the results still stand: their numbers tell.
-void HostAnalysis::ShowRecords(CaseResults* results) {
+void HostAnalysis::ShowRecords(const CaseResults* results) {
+    std::vector<CTraveRisultati> records; // the former ones live until the lines have let them go
+    if (results)
+        records = results->lines.All();
     for (std::size_t i = 0, count = LineCount(); i < count; ++i)
-        Line(i)->SetRisultati(results && i < results->lines.size() && results->lines[i].GetID() == Line(i)->GetID()
-                                  ? &results->lines[i]
-                                  : nullptr);
+        Line(i)->SetRisultati(i < records.size() && records[i].GetID() == Line(i)->GetID() ? &records[i] : nullptr);
+    m_records = std::move(records);
     for (int i = 0; i < m_data.Size(Kind::Node); ++i)
         m_data.Node(i)->SetReactions(nullptr);
     if (!results)
@@ -86,8 +89,8 @@ int HostAnalysis::LeggiRisultati(int idCaso, CObArray& out, int) {
     const CaseResults* results = m_bRisultatiValidi ? Results(idCaso) : nullptr;
     if (!results)
         return 0;
-    for (const CTraveRisultati& each : results->lines)
-        out.Add(new CTraveRisultati(each));
+    for (std::size_t i = 0; i < results->lines.size(); ++i)
+        out.Add(new CTraveRisultati(results->lines[i]));
     return 1;
 }
 
@@ -114,9 +117,12 @@ int HostAnalysis::CreaRisultati(int idCaso, CObArray& risultati, int) {
     CaseResults* results = m_bRisultatiValidi ? Find(idCaso) : nullptr;
     if (!results || !Fits(risultati))
         return 0;
-    // In place: elements that show this case point at these records.
-    for (std::size_t i = 0; i < results->lines.size(); ++i)
-        results->lines[i] = *static_cast<CTraveRisultati*>(risultati.GetAt(static_cast<int>(i)));
+    std::vector<CTraveRisultati> records;
+    for (CObject* record : risultati)
+        records.push_back(*static_cast<CTraveRisultati*>(record));
+    results->lines = LineResults(records, &m_cases.front().lines);
+    if (idCaso == m_shown) // in place: the lines point at them
+        std::copy(records.begin(), records.end(), m_records.begin());
     return 1;
 }
 

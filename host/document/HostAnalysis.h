@@ -32,7 +32,7 @@ class HostAnalysis : public CQuovarAnalisi {
     int RipristinaRisultati() override;
 
   private:
-    void ShowRecords(CaseResults* results); // null shows none
+    void ShowRecords(const CaseResults* results); // null shows none
     CLineaRisultati* Line(std::size_t index) const;
     std::size_t LineCount() const;
     bool Fits(const CObArray& records) const;
@@ -40,8 +40,8 @@ class HostAnalysis : public CQuovarAnalisi {
 
     DocumentData& m_data;
     std::vector<CaseResults> m_cases;
-    CaseResults m_combined; // of the combination shown last
-    int m_shown = 0;        // case or combination; 0 none
+    std::vector<CTraveRisultati> m_records; // of what is shown, which the lines point at
+    int m_shown = 0;                        // case or combination; 0 none
 };
 
 } // namespace host

@@ -24,6 +24,9 @@ class CLineaRisultati : public CLineaFisica {
     virtual void DisegnaDiagrammaTrave(CWnd* pWnd, int bN, int bV2, int bV3, int bT, int bM2, int bM3, int bNA,
                                        int bM2W2, int bM3W3, int bLettura, CPoint punto);
 
+    // An analysis gives every line results: the pointer lies in the line, not in the record of what few objects have.
+    CElementoRisultati* GetRisultati() override { return m_pRisultati; }
+    void SetRisultati(CElementoRisultati* pRisultati) override { m_pRisultati = pRisultati; }
     // The results of the load case that is shown; null when there are none. Not owned.
     CTraveRisultati* GetLineResults();
     // Any of the nine kinds, stresses included. 0, and nothing changed, without results, for another kind, or for a
@@ -41,4 +44,6 @@ class CLineaRisultati : public CLineaFisica {
 
   private:
     int ForceKind(int tipo, double& divisor);
+
+    CElementoRisultati* m_pRisultati = nullptr;
 };
