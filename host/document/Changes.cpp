@@ -101,6 +101,41 @@ void Grouping::Redo() {
     ForEachMember(m_data, m_group, [this](CElementoGruppo& member) { member.AddGruppo(m_group.GetID()); });
 }
 
+void Disbanding::Undo() {
+    std::size_t next = 0;
+    ForEachMember(m_data, m_group,
+                  [&](CElementoGruppo& member) { member.RestoreGruppo(m_places[next++], m_group.GetID()); });
+    m_places = {};
+}
+
+void Disbanding::Redo() {
+    ForEachMember(m_data, m_group, [this](CElementoGruppo& member) {
+        m_places.push_back(member.GetIndexGruppo(m_group.GetID()));
+        member.EliminaGruppo(m_group.GetID());
+    });
+}
+
+Leaving::Leaving(CGruppo& group, const std::vector<CElemento*>& members) : m_group(group) {
+    m_members.reserve(members.size());
+    for (CElemento* member : members)
+        if (group.IsElemento(member->GetTipoElemento(), member->GetID()))
+            m_members.push_back({member->GetTipoElemento(), member->GetID(), 0});
+    Redo();
+}
+
+// The last one to leave comes back first: each finds its place as it left it.
+void Leaving::Undo() {
+    for (std::size_t i = m_members.size(); i-- > 0;)
+        m_group.RestoreElement(m_members[i].place, m_members[i].kind, m_members[i].id);
+}
+
+void Leaving::Redo() {
+    for (Member& member : m_members) {
+        member.place = m_group.GetIndexElemento(member.kind, member.id);
+        m_group.RemoveElement(member.kind, member.id);
+    }
+}
+
 LoadMembership::LoadMembership(CCasoCarico& loadCase, std::unique_ptr<CCarico> load)
     : m_case(loadCase), m_id(loadCase.AddCarico(load.get())) {
     if (m_id != 0)

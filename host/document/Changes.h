@@ -132,6 +132,39 @@ class Grouping : public Change {
     CGruppo& m_group;
 };
 
+// The members of a group that is about to go, which forget it.
+class Disbanding : public Change {
+  public:
+    Disbanding(DocumentData& data, CGruppo& group) : m_data(data), m_group(group) { Redo(); }
+
+    void Undo() override;
+    void Redo() override;
+
+  private:
+    DocumentData& m_data;
+    CGruppo& m_group;
+    std::vector<int> m_places; // of the group in each member's list
+};
+
+// Elements that leave a group because they are about to go. They go on knowing it.
+class Leaving : public Change {
+  public:
+    // Takes them out.
+    Leaving(CGruppo& group, const std::vector<CElemento*>& members);
+
+    void Undo() override;
+    void Redo() override;
+
+  private:
+    struct Member {
+        unsigned kind;
+        int id;
+        int place; // from which it left
+    };
+    CGruppo& m_group;
+    std::vector<Member> m_members;
+};
+
 // A load that entered its case as the last one, or left it. No element refers to it while it is out.
 class LoadMembership : public Change {
   public:

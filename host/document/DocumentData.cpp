@@ -104,10 +104,21 @@ bool DocumentData::Contains(CElemento& object) const {
 }
 
 int DocumentData::IndexOf(Kind kind, int id) const {
+    const CElemento* object = Find(kind, id);
+    return object ? static_cast<int>(PlaceOf(kind, *object)) : -1;
+}
+
+// Looked for from where the list changed last, on both sides: objects are taken out one after the other.
+std::size_t DocumentData::PlaceOf(Kind kind, const CElemento& object) const {
     const auto& objects = ListOf(kind).objects;
-    const auto found =
-        std::find_if(objects.begin(), objects.end(), [id](const auto& object) { return object->GetID() == id; });
-    return found == objects.end() ? -1 : static_cast<int>(found - objects.begin());
+    std::size_t up = std::min(objects.LastPlace(), objects.size()), down = up;
+    while (up < objects.size() || down > 0) {
+        if (up < objects.size() && objects[up++].get() == &object)
+            return up - 1;
+        if (down > 0 && objects[--down].get() == &object)
+            return down;
+    }
+    return objects.size();
 }
 
 int DocumentData::NextId(Kind kind) const {
@@ -169,8 +180,7 @@ void DocumentData::Add(Kind kind, std::unique_ptr<CElemento> object) {
 
 std::unique_ptr<CElemento> DocumentData::TakeLast(Kind kind) {
     List& its = ListOf(kind);
-    std::unique_ptr<CElemento> object = std::move(its.objects.back());
-    its.objects.pop_back();
+    std::unique_ptr<CElemento> object = its.objects.TakeLast();
     Leave(kind, *object);
     // The newest number is free again, so that a command repeated after its undo numbers alike.
     int& next = ListOf(Counter(kind)).next;
@@ -182,9 +192,15 @@ std::unique_ptr<CElemento> DocumentData::TakeLast(Kind kind) {
 DocumentData::Taken DocumentData::Take(Kind kind, const std::vector<CElemento*>& objects) {
     Taken taken;
     taken.reserve(objects.size());
+    auto& from = ListOf(kind).objects;
+    if (objects.size() == 1) {
+        const std::size_t place = PlaceOf(kind, *objects[0]);
+        Leave(kind, *objects[0]);
+        taken.emplace_back(place, from.Take(place));
+        return taken;
+    }
     for (CElemento* object : objects)
         object->SetAlready(1);
-    auto& from = ListOf(kind).objects;
     std::size_t kept = 0;
     for (std::size_t i = 0; i < from.size(); ++i) {
         if (from[i]->IsAlready()) {
@@ -203,6 +219,12 @@ DocumentData::Taken DocumentData::Take(Kind kind, const std::vector<CElemento*>&
 
 void DocumentData::PutBack(Kind kind, Taken taken) {
     auto& to = ListOf(kind).objects;
+    if (taken.size() == 1) {
+        const std::size_t place = taken[0].first;
+        to.Put(place, std::move(taken[0].second));
+        Enter(kind, *to[place]);
+        return;
+    }
     std::size_t from = to.size(); // behind the next object that moves up
     std::size_t at = to.size() + taken.size();
     to.resize(at);

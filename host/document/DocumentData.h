@@ -1,6 +1,7 @@
 // Everything that a project holds, without undo, selection or views: what files are read into and written from.
 #pragma once
 
+#include "host/document/GapVector.h"
 #include "model/element/Copy.h"
 #include "model/element/Nodo.h"
 #include "model/index/IdIndex.h"
@@ -9,8 +10,8 @@
 #include "platform/core/String.h"
 
 #include <array>
-#include <memory>
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -114,11 +115,11 @@ class DocumentData : public ModelLookup {
     void MoveNode(CNodo& node, const CFPoint& place);
     // The nearest node, other than `excluded` (null excludes none); see NodeGrid.
     CNodo* NodeAt(const CFPoint& place, const CNodo* excluded, double tolerance) const;
-    // What counts as exactly the same place in a model of this size.
     // The nearest of those that the test accepts.
     CNodo* NodeAt(const CFPoint& place, double tolerance, const std::function<bool(CNodo&)>& accepts) const {
         return m_grid->Find(place, tolerance, accepts);
     }
+    // What counts as exactly the same place in a model of this size.
     double ExactTolerance() const;
 
     // How near two nodes may lie before they count as one.
@@ -140,7 +141,7 @@ class DocumentData : public ModelLookup {
 
   private:
     struct List {
-        std::vector<std::unique_ptr<CElemento>> objects;
+        GapVector<std::unique_ptr<CElemento>> objects;
         IdIndex<CElemento> ids;
         int next = 1;
     };
@@ -149,6 +150,7 @@ class DocumentData : public ModelLookup {
     // The list whose counter numbers the kind.
     static Kind Counter(Kind kind) { return kind == Kind::Combination ? Kind::LoadCase : kind; }
     void Add(Kind kind, std::unique_ptr<CElemento> object);
+    std::size_t PlaceOf(Kind kind, const CElemento& object) const;
     void Enter(Kind kind, CElemento& object);
     void Grow(const CFPoint& place);
     void Leave(Kind kind, CElemento& object);

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 namespace host {
 
@@ -37,11 +38,16 @@ std::vector<CElemento*> WithElements(const DocumentData& data, std::vector<CElem
     return once;
 }
 
-void LeaveGroups(HostEditing& document, Kind kind, CElemento& object) {
-    auto& member = static_cast<CElementoGruppo&>(object);
-    for (int i = 0; i < member.GetSizeGruppi(); ++i)
-        if (auto* group = document.Data().FindAs<CGruppo>(Kind::Group, member.GetIDGruppo(i)))
-            document.Modify(*group, [&] { group->RemoveElement(CodeOf(kind), object.GetID()); });
+// One change for each group, however many leave it.
+void LeaveGroups(HostEditing& document, const std::vector<CElemento*>& objects) {
+    std::map<int, std::vector<CElemento*>> leaving;
+    for (CElemento* object : objects)
+        if (auto* member = DYNAMIC_DOWNCAST(CElementoGruppo, object))
+            for (int i = 0; i < member->GetSizeGruppi(); ++i)
+                leaving[member->GetIDGruppo(i)].push_back(member);
+    for (const auto& [id, members] : leaving)
+        if (auto* group = document.Data().FindAs<CGruppo>(Kind::Group, id))
+            document.Undo().Record(std::make_unique<Leaving>(*group, members), stepName);
 }
 
 void LetGoCase(HostEditing& document, int id) {
@@ -57,9 +63,7 @@ void LetGoCase(HostEditing& document, int id) {
 }
 
 void LetGoGroup(HostEditing& document, CGruppo& group) {
-    ForEachMember(document.Data(), group, [&](CElementoGruppo& member) {
-        document.Modify(member, [&] { member.EliminaGruppo(group.GetID()); });
-    });
+    document.Undo().Record(std::make_unique<Disbanding>(document.Data(), group), stepName);
 }
 
 void LetGoOfLines(HostEditing& document, Kind kind, int id) {
@@ -86,11 +90,9 @@ void LetGoOfPolygons(HostEditing& document, Kind kind, int id) {
     }
 }
 
-// Everything that refers to the object lets it go.
+// Everything that refers to the named entity lets it go.
 void LetGo(HostEditing& document, Kind kind, CElemento& object) {
-    if (IsSelectableKind(kind)) {
-        LeaveGroups(document, kind, object);
-    } else if (kind == Kind::LoadCase) {
+    if (kind == Kind::LoadCase) {
         LetGoCase(document, object.GetID());
     } else if (kind == Kind::Group) {
         LetGoGroup(document, static_cast<CGruppo&>(object));
@@ -131,9 +133,12 @@ void RemoveObjects(HostEditing& document, std::vector<CElemento*> objects) {
         return;
     UndoStep step(document.Undo(), stepName);
     document.Selection().Remove(objects);
+    LeaveGroups(document, objects);
     for (CElemento* object : objects) {
         Kind kind;
         KindOf(*object, kind);
+        if (IsSelectableKind(kind))
+            continue;
         LetGo(document, kind, *object);
         LeaveCurrentCase(document, kind, object->GetID());
     }

@@ -53,6 +53,12 @@ int CElementoGruppo::GetSizeGruppi() {
     return Data() ? static_cast<int>(Data()->groups.size()) : 0;
 }
 
+void CElementoGruppo::RestoreGruppo(int i, int id) {
+    std::vector<int>& groups = MakeData().groups;
+    if (i >= 0 && i <= GetSizeGruppi() && !IsGruppo(id))
+        groups.insert(groups.begin() + i, id);
+}
+
 CElemento& CElementoGruppo::operator=(CElemento& altro) {
     if (this == &altro)
         return *this;

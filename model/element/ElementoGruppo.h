@@ -12,6 +12,7 @@ class CElementoGruppo : public CElemento {
     virtual int GetIDGruppo(int i);     // group at a position, 0 outside
     virtual int IsGruppo(int id);
     int GetSizeGruppi();
+    void RestoreGruppo(int i, int id); // puts a group back at the position from which it was taken
 
     CElemento& operator=(CElemento& altro) override;
     CElementoGruppo& operator=(CElementoGruppo& altro) { // of any kind: each class copies what is its own

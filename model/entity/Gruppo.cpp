@@ -2,6 +2,8 @@
 
 #include "model/element/TipoElemento.h"
 
+#include <utility>
+
 IMPLEMENT_DYNCREATE(CGruppo, CElementoStrutturale)
 
 CGruppo::CGruppo() : CElementoStrutturale(TipoElemento::Gruppo) {
@@ -38,8 +40,18 @@ int CGruppo::RemoveElement(unsigned tipo, int id) {
     return 1;
 }
 
-int CGruppo::IsElemento(unsigned tipo, int id) const {
-    return m_positions.count(Key(tipo, id)) > 0;
+void CGruppo::RestoreElement(int place, unsigned tipo, int id) {
+    if (!AddElemento(tipo, id) || place < 0 || place + 1 >= GetSizeElementi())
+        return;
+    Member& there = m_members[static_cast<std::size_t>(place)];
+    std::swap(there, m_members.back());
+    m_positions[Key(tipo, id)] = place;
+    m_positions[Key(m_members.back().kind, m_members.back().id)] = GetSizeElementi() - 1;
+}
+
+int CGruppo::GetIndexElemento(unsigned tipo, int id) const {
+    const auto found = m_positions.find(Key(tipo, id));
+    return found == m_positions.end() ? -1 : found->second;
 }
 
 unsigned CGruppo::GetElementKindAt(int i) const {

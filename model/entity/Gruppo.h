@@ -22,7 +22,10 @@ class CGruppo : public CElementoStrutturale {
 
     int AddElemento(unsigned tipo, int id); // 0 when it is there already
     int RemoveElement(unsigned tipo, int id);
-    int IsElemento(unsigned tipo, int id) const;
+    // Puts a member back where RemoveElement took it from; the last one removed first, a group is as it was before.
+    void RestoreElement(int place, unsigned tipo, int id);
+    int IsElemento(unsigned tipo, int id) const { return GetIndexElemento(tipo, id) >= 0; }
+    int GetIndexElemento(unsigned tipo, int id) const; // -1 for no member
     int GetSizeElementi() const { return static_cast<int>(m_members.size()); }
     unsigned GetElementKindAt(int i) const; // 0 for an index outside
     int GetElementIdAt(int i) const;        // 0 for an index outside

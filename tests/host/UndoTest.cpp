@@ -76,6 +76,30 @@ TEST_F(UndoTest, RemovingGivesEverythingBack) {
     EXPECT_EQ(Dump(m_document.Data()), last);
 }
 
+// Catches a record for each element of each group that it leaves, which made large deletions quadratic, and members
+// that come back in another order.
+TEST_F(UndoTest, GroupsChangeOnceACommand) {
+    m_document.SelectAll();
+    for (const char* name : {"A", "B", "C"})
+        m_document.CreateGroup(name);
+    HostUndo& undo = m_document.Undo();
+    const auto recordsOf = [&](const char* what, const std::function<void()>& command) {
+        const std::size_t before = undo.RecordCount();
+        ExpectExact(what, command);
+        return undo.RecordCount() - before;
+    };
+    const int beams = m_document.GetSizeTravi();
+    m_document.Selection().Clear();
+    for (int i = beams; i-- > 0;)
+        if (i % 3 != 1)
+            m_document.Selection().Add(m_document.GetIndexTrave(i));
+    const std::size_t groups = static_cast<std::size_t>(m_document.GetSizeGruppi());
+    EXPECT_LE(recordsOf("beams", [&] { m_document.DeleteSelection(); }), groups + 1);
+    EXPECT_EQ(recordsOf("group between others", [&] { m_document.EliminaGruppo(static_cast<int>(groups) - 2); }), 2u);
+    CTrave* beam = m_document.GetIndexTrave(0);
+    recordsOf("group and member", [&] { m_document.Remove({m_document.GetIndexGruppo(0), beam}); });
+}
+
 // Catches steps that swallow the next command, double, or never close.
 TEST_F(UndoTest, BracketsNestAndSurviveBeingForgotten) {
     HostUndo& undo = m_document.Undo();
@@ -154,6 +178,26 @@ TEST_F(UndoTest, ChangesOfOneTurnOfTheLoopAreOneStep) {
     m_document.AddNodo(place, nullptr, 1);
     m_document.Idle();
     EXPECT_EQ(m_document.Undo().UndoCount(), 2u);
+}
+
+// A sweep over all groups, or over all members, for each that goes would outlast the runner's limit.
+TEST(UndoSize, ManyGroupsGoOneByOne) {
+    constexpr int count = 100'000;
+    HostDocument document;
+    document.SetIdleScheduler([] {});
+    document.GenNodiLineare({0, 0, 0}, {1, 0, 0}, 1, 1);
+    for (int i = 0; i < count; ++i)
+        document.AddNew(std::make_unique<CGruppo>());
+    document.Idle();
+    for (int i = 0; i < count / 2; ++i) // every other one, as the list of groups deletes what is selected in it
+        document.EliminaGruppo(i);
+    document.Idle();
+    ASSERT_EQ(document.GetSizeGruppi(), count / 2);
+    EXPECT_EQ(document.GetIndexGruppo(9)->GetID(), 20);
+    document.Undo().Undo();
+    ASSERT_EQ(document.GetSizeGruppi(), count);
+    for (int i = 0; i < count; ++i)
+        ASSERT_EQ(document.GetIndexGruppo(i)->GetID(), i + 1);
 }
 
 // A journal that looked for each object anew would outlast the runner's limit.
