@@ -1,7 +1,7 @@
 // The lines' results of one load case, packed: with many cases they are most of what an analysis leaves behind.
 #pragma once
 
-#include "model/result/LineaRisultati.h"
+#include "model/result/TraveRisultati.h"
 
 #include <array>
 #include <cstdint>

@@ -9,6 +9,8 @@
 #include "model/entity/Sezione.h"
 #include "model/entity/Spessore.h"
 
+#include <initializer_list>
+
 class CheckBuilder {
   public:
     explicit CheckBuilder(host::HostDocument& document) : document(document) {
@@ -36,6 +38,13 @@ class CheckBuilder {
         Select(node);
         const CMolla spring(kind, stiffness, direction);
         AssignSpring(document, &spring, true);
+    }
+    void Release(CTrave& beam, std::initializer_list<int> ends) {
+        host::EndReleases releases;
+        for (const int end : ends)
+            releases.released[end][CSpecificheSvincoliTrave::M3] = true;
+        Select(beam);
+        AssignReleases(document, releases);
     }
     CTrave* Beam(int a, int b) { return document.AddTrave(a, b, nullptr); }
     CNodo& At(int number) { return *document.Data().FindNode(number); }

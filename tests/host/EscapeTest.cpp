@@ -1,5 +1,7 @@
 // Exceptions out of commands and tool dialogs, with the command half done.
 #include "dialogs/frame/tool/DialogDocument.h"
+#include "dialogs/generation/DialogGenNodiLineare.h"
+#include "host/commands/Subjects.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "platform/core/Exception.h"
@@ -15,25 +17,30 @@ namespace {
 // A tool dialog that does the test's work wherever the host calls it.
 class Calling final : public CDialogDocument {
   public:
-    Calling(CWnd* parent, std::function<void()> work) : CDialogDocument(9015, parent), m_work(std::move(work)) {}
+    explicit Calling(CWnd* parent) : CDialogDocument(CDialogGenNodiLineare::IDD, parent) {}
     bool follows = false;
+    std::function<void()> work = [] {};
 
     void Update(CView*, long, CObject*) override {
         if (follows)
-            m_work();
+            work();
     }
-    void SetVettoreFrom(CFPoint) override { m_work(); }
+    void SetVettoreFrom(CFPoint) override { work(); }
     BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override {
         if (message == WM_USER + 1)
-            m_work();
+            work();
         return CDialogDocument::OnWndMsg(message, wParam, lParam, result);
     }
-
-  private:
-    std::function<void()> m_work;
 };
 
-using EscapeTest = WorkspaceTest;
+const Command calling{.menu = CommandMenu::Tools, .dialog = CDialogGenNodiLineare::IDD, .open = OpenTool<Calling>};
+
+class EscapeTest : public WorkspaceTest {
+  protected:
+    Calling* OpenCalling() {
+        return static_cast<Calling*>(m_workspace->Tools().Open(calling, View(), m_workspace->Window().Frame()));
+    }
+};
 
 } // namespace
 
@@ -84,9 +91,9 @@ TEST_F(EscapeTest, ACommandThatFailsLeavesAStepAndAWorkingApplication) {
     };
     for (const auto& way : ways) {
         SCOPED_TRACE(way.name);
-        auto* tool = static_cast<Calling*>(
-            m_workspace->Tools().Open(std::make_unique<Calling>(&m_workspace->Window().Frame(), way.work), View()));
+        Calling* tool = OpenCalling();
         ASSERT_TRUE(tool);
+        tool->work = way.work;
         m_user.ExpectMessage("Memoria piena");
         way.reach(*tool);
         m_user.Verify();
@@ -95,13 +102,12 @@ TEST_F(EscapeTest, ACommandThatFailsLeavesAStepAndAWorkingApplication) {
         EXPECT_EQ(Document().Undo().UndoCount(), 1u);
         EXPECT_TRUE(Document().Undo().Undo());
         EXPECT_EQ(State(), before);
+        m_workspace->Tools().End(tool);
     }
 }
 
 // The standard new-file command of a dialog's menu is the application's.
 TEST_F(EscapeTest, ANewFileIsMadeFromADialog) {
-    auto* tool = m_workspace->Tools().Open(
-        std::make_unique<Calling>(&m_workspace->Window().Frame(), std::function<void()>()), View());
-    tool->SendMessage(WM_COMMAND, ID_FILE_NEW);
+    OpenCalling()->SendMessage(WM_COMMAND, ID_FILE_NEW);
     EXPECT_EQ(m_workspace->Views().size(), 2u);
 }

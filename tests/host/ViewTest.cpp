@@ -86,8 +86,8 @@ TEST_F(ViewTest, CameraDoesNotInterruptPickingAndEscapeBeginsThePairAgain) {
     EXPECT_TRUE(driver.IsOpen());
     EXPECT_EQ(View().Prompt(), "Fare clic sul primo nodo del vettore.");
     Click(PixelOf(*Document().GetIndexNodo(2)));
-    EXPECT_EQ(driver.Text(EditX1), "8") << "a first point";
-    EXPECT_EQ(driver.Text(EditX2), "8");
+    EXPECT_EQ(driver.Text(Generation::IDC_X1), "8") << "a first point";
+    EXPECT_EQ(driver.Text(Generation::IDC_X2), "8");
 }
 
 // Catches a restart that goes on with a second point, and a prompt that the status bar does not show.

@@ -64,6 +64,9 @@ void DialogDriver::Activate() {
     if (!top->isVisible() || active())
         return;
     top->activateWindow();
+    // Offscreen, nobody activates a window that was hidden while active and is shown again.
+    if (!QTest::qWaitFor(active, 500))
+        QApplication::setActiveWindow(top);
     if (!QTest::qWaitFor(active, 2000))
         ADD_FAILURE() << "the dialog does not become active: " << Caption();
 }
