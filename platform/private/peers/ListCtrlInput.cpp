@@ -30,8 +30,10 @@ void ListCtrlControl::SelectRows(int first, int last, bool select, bool only) {
     if (lost.empty() && got.empty())
         return;
     View().viewport()->update();
+    const QPointer<QWidget> alive = Peer().widget;
     TellRows(lost, LVIS_SELECTED, 0);
-    TellRows(got, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    if (alive)
+        TellRows(got, 0, LVIS_SELECTED | LVIS_FOCUSED);
 }
 
 // A handler may end the window, or the rows.
