@@ -8,6 +8,7 @@
 #include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
+#include <QTest>
 #include <QTimer>
 
 using namespace host;
@@ -61,6 +62,7 @@ TEST_F(EscapeTest, ACommandThatFailsLeavesAStepAndAWorkingApplication) {
     const auto command = [&] {
         CFPoint point(1, 2, 3);
         Document().AddNodo(point, nullptr, 1);
+        Document().UpdateAllViews(nullptr, MODIFICA_ELEMENTI_FINE);
         ++done;
     };
     const struct {
@@ -98,8 +100,8 @@ TEST_F(EscapeTest, ACommandThatFailsLeavesAStepAndAWorkingApplication) {
         way.reach(*tool);
         m_user.Verify();
         EXPECT_FALSE(m_workspace->IsWaiting() || Document().Undo().IsInBracket());
-        CWinApp::PumpMessages();
-        EXPECT_EQ(Document().Undo().UndoCount(), 1u);
+        // What comes at rest waits for the end of a wait.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Document().Undo().UndoCount() == 1; }));
         EXPECT_TRUE(Document().Undo().Undo());
         EXPECT_EQ(State(), before);
         m_workspace->Tools().End(tool);
