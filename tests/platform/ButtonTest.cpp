@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QWindow>
 
+#include <utility>
+
 namespace {
 
 class Button : public testing::Test {
@@ -103,11 +105,12 @@ TEST(Presses, ThatEndedInAMessageBoxBeginNothing) {
         QWidget* surface = dialog.GetDlgItem(id)->m_hWnd->Surface();
         QWindow* window = surface->window()->windowHandle();
         const QPoint inside = surface->mapTo(surface->window(), QPoint(8, 4));
-        dialog.onCommand = [&] { // stands for the box
-            dialog.onCommand = nullptr;
+        dialog.onCommand = [&dialog, window] { // stands for the box
+            const auto once = std::exchange(dialog.onCommand, nullptr);
             QTest::mouseRelease(window, Qt::LeftButton, {}, QPoint(1, 1));
         };
         QTest::mousePress(window, Qt::LeftButton, {}, inside);
+        dialog.onCommand = nullptr;
         EXPECT_EQ(WithoutFocus(dialog.Take()), Log{}) << id;
     }
     EXPECT_FALSE(dialog.Control<CButton>(300).GetState() & BST_PUSHED);

@@ -44,7 +44,9 @@ class ClientArea final : public QWidget {
   protected:
     bool event(QEvent* event) override {
         return DispatchEvent(m_peer, event, [](WindowPeer& peer, QEvent* inner) {
-            return static_cast<ClientArea*>(peer.Surface())->QWidget::event(inner);
+            // While it is being made, the dialog does not know it yet.
+            auto* client = dynamic_cast<ClientArea*>(peer.Surface());
+            return client && client->QWidget::event(inner);
         });
     }
 
