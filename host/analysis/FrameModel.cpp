@@ -47,6 +47,7 @@ class Reader {
         }
         m_model.typicalLength = sum / static_cast<double>(m_model.members.size());
         m_model.extent = box.diagonal().norm();
+        m_model.centre = box.center();
     }
 
     void ReadNodes() {

@@ -28,8 +28,9 @@ struct FrameModel {
     std::vector<bool> active;    // by node: a member ends there; others are not analysed
     std::vector<Member> members; // beams, then truss members, in document order
     std::vector<GroundSpring> springs;
-    double typicalLength = 1; // the members' mean
-    double extent = 1;        // the diagonal of the box around the members
+    double typicalLength = 1;                         // the members' mean
+    double extent = 1;                                // the diagonal of the box around the members
+    Eigen::Vector3d centre = Eigen::Vector3d::Zero(); // of that box
 
     // What the user must know of the results: what is not considered, what is not exact. Once each.
     void Note(const CString& sentence);

@@ -1,7 +1,7 @@
 // The equations of a frame: assembled and factored once, solved for each load case.
 #pragma once
 
-#include "host/analysis/FrameModel.h"
+#include "host/analysis/ElementForces.h"
 #include "host/analysis/SparseCholesky.h"
 
 namespace host {
@@ -11,12 +11,14 @@ class FrameSystem {
     // Numbers the free components and assembles the stiffness. The model must outlive the system.
     explicit FrameSystem(const FrameModel& model);
 
-    // Throws Refusal, naming a node and how it moves, when the structure is a mechanism.
+    // Throws Refusal, naming a node and how it moves, when the structure is a mechanism, or so soft against its
+    // stiffest members that the digits of a number do not tell it from one.
     void Factor();
     // The displacements, six components a node, under forces at the nodes. Restrained components are those that are
     // given. Throws Refusal when a moment turns a node that nothing holds against it.
-    Eigen::VectorXd Solve(const Eigen::VectorXd& forces, const Eigen::VectorXd& prescribed) const;
+    LongVector Solve(const Eigen::VectorXd& forces, const Eigen::VectorXd& prescribed) const;
 
+    const ElementForces& Elements() const { return m_elements; }
     // The forces that the springs act with on the nodes, six components a node.
     Eigen::VectorXd SpringForces(const Eigen::VectorXd& displacements) const;
 
@@ -37,9 +39,21 @@ class FrameSystem {
     void AddBlock(int rowNode, int row, int columnNode, int column, const Eigen::Matrix3d& block);
     void HoldIdleTurns();
     void HoldIdleTurnsOf(int node, const Eigen::Matrix3d& stiffness);
-    Eigen::VectorXd SoftestMotion(double& energy) const;
+    void HoldIdleTurn(const IdleTurn& turn, double stiffness);
+    void RefuseLooseParts() const;
+    // Adds as little stiffness as it takes to have a factor.
+    void FactorStiffness();
+    // Something of every motion, most of the softest.
+    LongVector SoftMotion() const;
+    // What the factor does not know of a motion: of one that it solves for, little; of a mechanism, all.
+    LongVector Unsolved(const LongVector& motion) const;
+    LongVector Normalised(const LongVector& motion) const;
+    // Of its unknowns, as the diagonal of the stiffness weighs them: free of units.
+    double Size(const Eigen::VectorXd& unknowns) const;
+    Eigen::VectorXd Gathered(const LongVector& all) const;
+    LongVector Spread(const Eigen::VectorXd& unknowns) const;
     CString OrTooShort() const;
-    [[noreturn]] void Refuse(const Eigen::VectorXd& motion) const;
+    [[noreturn]] void Refuse(const CString& verdict, const LongVector& motion) const;
     int& Unknown(int node, int component) { return m_unknowns[static_cast<std::size_t>(6 * node + component)]; }
     int Unknown(int node, int component) const { return m_unknowns[static_cast<std::size_t>(6 * node + component)]; }
 
@@ -48,7 +62,9 @@ class FrameSystem {
     std::vector<Eigen::Triplet<double>> m_entries;
     std::vector<Eigen::Matrix3d> m_turning; // by node: what holds its rotations
     std::vector<IdleTurn> m_idleTurns;
-    Sparse m_stiffness; // lower half
+    ElementForces m_elements;   // with what holds idle turns
+    Sparse m_stiffness;         // lower half
+    Eigen::VectorXd m_diagonal; // of the stiffness
     SparseCholesky m_solver;
 };
 

@@ -6,13 +6,7 @@ namespace host {
 
 namespace {
 
-// One plane of bending: the components of its displacement and rotation at both ends. Along axis 3 a positive rotation
-// is the falling slope, hence the sign.
-struct Plane {
-    int v1, r1, v2, r2;
-    double sign;
-};
-constexpr Plane planes[2] = {{1, 5, 7, 11, 1.0}, {2, 4, 8, 10, -1.0}}; // displacements along 2, and along 3
+using Bending = StrainStiffness::Bending;
 
 void AddBar(Matrix12& k, int first, int second, double stiffness) {
     k(first, first) += stiffness;
@@ -21,34 +15,57 @@ void AddBar(Matrix12& k, int first, int second, double stiffness) {
     k(second, first) -= stiffness;
 }
 
-void AddBending(Matrix12& k, const Plane& p, double ei, double shear, double length) {
-    const double unit = ei / ((1 + shear) * length * length * length);
-    const double side = 6 * length * unit * p.sign;
-    const double near = (4 + shear) * length * length * unit;
-    const double far = (2 - shear) * length * length * unit;
-    AddBar(k, p.v1, p.v2, 12 * unit);
+void AddBending(Matrix12& k, const BendingPlane& p, const Bending& bending, double length) {
+    const double near = (bending.first + bending.coupled) / length * p.sign;
+    const double far = (bending.coupled + bending.second) / length * p.sign;
+    AddBar(k, p.v1, p.v2, (near + far) * p.sign / length);
     const auto both = [&k](int i, int j, double value) {
         k(i, j) += value;
         k(j, i) += value;
     };
-    both(p.v1, p.r1, side);
-    both(p.v1, p.r2, side);
-    both(p.v2, p.r1, -side);
-    both(p.v2, p.r2, -side);
-    both(p.r1, p.r2, far);
-    k(p.r1, p.r1) += near;
-    k(p.r2, p.r2) += near;
+    both(p.v1, p.r1, near);
+    both(p.v1, p.r2, far);
+    both(p.v2, p.r1, -near);
+    both(p.v2, p.r2, -far);
+    both(p.r1, p.r2, bending.coupled);
+    k(p.r1, p.r1) += bending.first;
+    k(p.r2, p.r2) += bending.second;
 }
 
-Matrix12 WholeStiffness(const Member& m) {
+Matrix12 Assembled(const StrainStiffness& strains, double length) {
     Matrix12 k = Matrix12::Zero();
-    AddBar(k, 0, 6, m.ea / m.length);
-    if (m.truss)
-        return k;
-    AddBar(k, 3, 9, m.gj / m.length);
-    AddBending(k, planes[0], m.ei3, m.shear2, m.length);
-    AddBending(k, planes[1], m.ei2, m.shear3, m.length);
+    AddBar(k, 0, 6, strains.axial);
+    AddBar(k, 3, 9, strains.torsion);
+    for (int i = 0; i < 2; ++i)
+        AddBending(k, bendingPlanes[i], strains.bending[i], length);
     return k;
+}
+
+// With a hinge at an end, that end's turn follows the other's.
+Bending BendingStiffness(double ei, double shear, double length, bool firstReleased, bool secondReleased) {
+    if (firstReleased && secondReleased)
+        return {};
+    const double unit = ei / length;
+    if (firstReleased || secondReleased) {
+        const double hinged = 12 * unit / (4 + shear);
+        return {secondReleased ? hinged : 0, 0, firstReleased ? hinged : 0};
+    }
+    const double near = (4 + shear) / (1 + shear) * unit;
+    return {near, (2 - shear) / (1 + shear) * unit, near};
+}
+
+StrainStiffness StrainsOf(const Member& m, unsigned released) {
+    const auto free = [released](int component) { return (released >> component & 1) != 0; };
+    StrainStiffness strains;
+    if (!free(0) && !free(6))
+        strains.axial = m.ea / m.length;
+    if (m.truss)
+        return strains;
+    if (!free(3) && !free(9))
+        strains.torsion = m.gj / m.length;
+    strains.bending[0] = BendingStiffness(m.ei3, m.shear2, m.length, free(5), free(11));
+    strains.bending[1] = BendingStiffness(m.ei2, m.shear3, m.length, free(4), free(10));
+    return strains;
 }
 
 // A component whose stiffness is gone once others are condensed out: only rounding is left of it.
@@ -56,7 +73,7 @@ constexpr double nothing = 1e-12;
 
 // Frees the released components, one after the other. Calls `lost` with a component that nothing holds any more.
 template <class Lost>
-void Condense(const Member& m, Matrix12& k, Vector12* forces, const Lost& lost) {
+void Condense(const Member& m, Matrix12& k, Vector12& forces, const Lost& lost) {
     const Vector12 before = k.diagonal();
     for (int d = 0; d < 12; ++d) {
         if (!(m.released >> d & 1))
@@ -64,16 +81,14 @@ void Condense(const Member& m, Matrix12& k, Vector12* forces, const Lost& lost) 
         const double pivot = k(d, d);
         if (pivot > nothing * before(d)) {
             const Vector12 column = k.col(d) / pivot;
-            if (forces)
-                *forces -= column * (*forces)(d);
+            forces -= column * forces(d);
             k -= column * k.row(d).eval();
-        } else if (forces) {
-            lost(d, (*forces)(d));
+        } else {
+            lost(d, forces(d));
         }
         k.row(d).setZero();
         k.col(d).setZero();
-        if (forces)
-            (*forces)(d) = 0;
+        forces(d) = 0;
     }
 }
 
@@ -97,7 +112,7 @@ Shape TrussShape(double x, double length) {
     return {{1 - t, 0, t, 0}, {-1 / length, 0, 1 / length, 0}};
 }
 
-void HoldAcross(Vector12& f, const Plane& p, const Shape& shape, double force, double moment) {
+void HoldAcross(Vector12& f, const BendingPlane& p, const Shape& shape, double force, double moment) {
     const int places[4] = {p.v1, p.r1, p.v2, p.r2};
     for (int i = 0; i < 4; ++i) {
         const double turn = i % 2 ? p.sign : 1.0; // of a rotation against the slope of the shape
@@ -114,7 +129,7 @@ void HoldPoint(Vector12& f, const Member& m, double x, const double (&force)[3],
     f(9) -= moment[0] * t;
     for (int i = 0; i < 2; ++i) {
         const Shape shape = m.truss ? TrussShape(x, m.length) : BeamShape(x, m.length, i == 0 ? m.shear2 : m.shear3);
-        HoldAcross(f, planes[i], shape, force[1 + i], moment[2 - i]);
+        HoldAcross(f, bendingPlanes[i], shape, force[1 + i], moment[2 - i]);
     }
 }
 
@@ -162,11 +177,12 @@ Vector12 Member::ToGlobal(const Vector12& local) const {
     return global;
 }
 
+StrainStiffness StiffnessOfStrains(const Member& member) {
+    return StrainsOf(member, member.released);
+}
+
 Matrix12 Stiffness(const Member& member) {
-    Matrix12 k = WholeStiffness(member);
-    if (member.released)
-        Condense(member, k, nullptr, [](int, double) {});
-    return k;
+    return Assembled(StiffnessOfStrains(member), member.length);
 }
 
 Vector12 FixedEndForces(const Member& member, const CTraveRisultati& loads, const ThermalStrain& thermal) {
@@ -194,8 +210,8 @@ Vector12 FixedEndForces(const Member& member, const CTraveRisultati& loads, cons
         lost(9, f(9));
         f(3) = f(9) = 0;
     } else if (member.released) {
-        Matrix12 k = WholeStiffness(member);
-        Condense(member, k, &f, lost);
+        Matrix12 k = Assembled(StrainsOf(member, 0), member.length);
+        Condense(member, k, f, lost);
     }
     return f;
 }

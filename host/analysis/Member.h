@@ -10,6 +10,7 @@
 
 namespace host {
 
+using Vector6 = Eigen::Matrix<double, 6, 1>;
 using Vector12 = Eigen::Matrix<double, 12, 1>;
 using Matrix12 = Eigen::Matrix<double, 12, 12>;
 
@@ -35,6 +36,26 @@ struct ThermalStrain {
     double axial = 0;                      // elongation per length
     double curvature2 = 0, curvature3 = 0; // growth of the elongation along axes 2 and 3, per length
 };
+
+// What resists the six ways in which a member strains; a motion as a rigid body is none of them. What is released
+// resists nothing, exactly.
+struct StrainStiffness {
+    // Of a plane of bending: moments at both ends under turns of the ends against the chord.
+    struct Bending {
+        double first = 0, coupled = 0, second = 0;
+    };
+    double axial = 0, torsion = 0; // of the growth of the length, of the turn of one end against the other
+    Bending bending[2];            // with displacements along 2, along 3
+};
+StrainStiffness StiffnessOfStrains(const Member& member);
+
+// The components of a plane of bending: displacement and rotation of the first end, then of the second. Along axis 3
+// a positive rotation is the falling slope, hence the sign.
+struct BendingPlane {
+    int v1, r1, v2, r2;
+    double sign;
+};
+inline constexpr BendingPlane bendingPlanes[2] = {{1, 5, 7, 11, 1.0}, {2, 4, 8, 10, -1.0}}; // along 2, along 3
 
 // The stiffness with the releases condensed out: what the nodes feel. Released components have rows of zeros.
 Matrix12 Stiffness(const Member& member);
