@@ -10,8 +10,8 @@ namespace host {
 namespace {
 
 constexpr int mostRows = 10'000'000;
-constexpr double farthest = 1e12;          // beyond it, neighbouring nodes would merge
-constexpr int mostLoadCases = 30;          // the format's own limit
+constexpr double farthest = 1e12; // beyond it, neighbouring nodes would merge
+constexpr int mostLoadCases = 10'000;
 constexpr std::size_t longestTitle = 4096; // bytes; beyond it the file is no text
 
 // Reads the tables in the order of the format.
@@ -107,6 +107,7 @@ class Parser {
         element.area = Positive("attesa l'area della sezione");
         element.shearY = NotNegative("attesa l'area a taglio y");
         element.shearZ = NotNegative("attesa l'area a taglio z");
+        m_model.someRigidInShear = m_model.someRigidInShear || element.shearY == 0 || element.shearZ == 0;
         element.torsion = Positive("atteso il momento d'inerzia torsionale");
         element.inertiaY = Positive("atteso il momento d'inerzia y");
         element.inertiaZ = Positive("atteso il momento d'inerzia z");
@@ -159,17 +160,17 @@ class Parser {
     void ReadLoadCase() {
         Frame3ddLoadCase loads;
         Reals(loads.gravity, "attesa l'accelerazione di gravità"_utf8);
-        ReadNodal(loads.nodal, "atteso il numero dei nodi caricati", "atteso il carico del nodo",
-                  static_cast<int>(m_model.nodes.size()));
+        ReadNodal(loads.nodal, "atteso il numero dei nodi caricati", "atteso il carico del nodo");
         ReadElementLoads(loads);
         ReadTemperatures(loads);
         ReadNodal(loads.displacement, "atteso il numero dei nodi con spostamenti impressi",
-                  "atteso lo spostamento impresso", static_cast<int>(m_model.restraints.size()));
+                  "atteso lo spostamento impresso");
         m_model.loadCases.push_back(std::move(loads));
     }
 
-    void ReadNodal(std::vector<Frame3ddNodal>& rows, const char* count, const char* what, int most) {
-        rows.resize(static_cast<std::size_t>(m_reader.Count(count, 7, most)));
+    // Rows of one node add up.
+    void ReadNodal(std::vector<Frame3ddNodal>& rows, const char* count, const char* what) {
+        rows.resize(Rows(count, 7));
         for (Frame3ddNodal& row : rows) {
             row.node = Node();
             Reals(row.values, what);

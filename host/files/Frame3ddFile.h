@@ -74,6 +74,7 @@ struct Frame3ddModel {
     };
     std::vector<Restraint> restraints;
     std::vector<Frame3ddElement> elements; // element n at n - 1
+    bool someRigidInShear = false;         // an element has a shear area of 0
     bool shear = false;                    // the shear areas count
     bool geometric = false;                // the author asks for the geometric stiffness
     std::vector<Frame3ddLoadCase> loadCases;

@@ -9,6 +9,7 @@
 #include "model/load/Carico.h"
 
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <tuple>
@@ -239,12 +240,16 @@ DocumentData ImportFrame3ddText(std::string_view text, std::vector<CString>* not
     const Frame3ddModel model = ParseFrame3dd(text);
     if (notes && model.someRadius)
         notes->push_back("I raggi dei nodi non sono considerati.");
+    if (notes && model.shear && model.someRigidInShear)
+        notes->push_back("Gli elementi con area a taglio nulla sono rigidi a taglio.");
     if (notes && model.geometric)
         notes->push_back("La rigidezza geometrica non è considerata."_t);
     return Builder(model).Build();
 }
 
 DocumentData ImportFrame3dd(const std::string& path, std::vector<CString>* notes) {
+    if (std::filesystem::is_directory(path))
+        throw FileError("È una cartella, non un file."_utf8);
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     const std::streamoff size = file ? static_cast<std::streamoff>(file.tellg()) : -1;
     if (size < 0)

@@ -3,6 +3,7 @@
 #include "host/files/FileError.h"
 #include "platform/core/String.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -12,7 +13,11 @@ namespace {
 
 bool IsSeparator(char character) {
     return character == ' ' || character == '\t' || character == ',' || character == '\r' || character == '\n' ||
-           character == '\v' || character == '\f';
+           character == '\v' || character == '\f' || character == ';' || character == '"';
+}
+
+bool BeginsComment(char character) {
+    return character == '#' || character == '%' || character == '?';
 }
 
 // What was found, short enough for a message box and free of bytes that no text has.
@@ -30,11 +35,28 @@ std::string_view WithoutPlus(std::string_view token) {
     return token;
 }
 
-template <class Number>
-bool Convert(std::string_view token, Number& number) {
+bool Convert(std::string_view token, int& number) {
     token = WithoutPlus(token);
     const auto [end, error] = std::from_chars(token.data(), token.data() + token.size(), number);
     return error == std::errc() && end == token.data() + token.size();
+}
+
+// Also with the exponents of Fortran, "1.5D+03". What is too small for a number is 0.
+bool Convert(std::string_view given, double& number) {
+    std::string token(WithoutPlus(given));
+    if (const std::size_t exponent = token.find_first_of("dD"); exponent != std::string::npos) {
+        token[exponent] = 'e';
+        if (token.compare(exponent + 1, 1, "+") == 0)
+            token.erase(exponent + 1, 1);
+    }
+    const char* const last = token.data() + token.size();
+    const auto [end, error] = std::from_chars(token.data(), last, number);
+    const bool small = token.find("e-") != std::string::npos || token.find("E-") != std::string::npos;
+    if (error == std::errc::result_out_of_range && small)
+        number = 0;
+    else if (error != std::errc())
+        return false;
+    return end == last;
 }
 
 std::string Expected(const char* what, std::string_view token) {
@@ -52,33 +74,36 @@ void NumberReader::Fail(const std::string& message) const {
 }
 
 std::string_view NumberReader::Line() {
-    const std::size_t end = m_text.find('\n', m_position);
-    std::string_view line = m_text.substr(m_position, end == std::string_view::npos ? end : end - m_position);
-    m_position = end == std::string_view::npos ? m_text.size() : end + 1;
-    ++m_line;
-    if (!line.empty() && line.back() == '\r')
-        line.remove_suffix(1);
+    const std::size_t end = std::min(m_text.find_first_of("\r\n", m_position), m_text.size());
+    const std::string_view line = m_text.substr(m_position, end - m_position);
+    m_position = end;
+    if (!AtEnd())
+        Step();
     return line;
 }
 
+// Over one character, or over a line end: "\n", "\r\n" or "\r".
+void NumberReader::Step() {
+    const bool pair = m_text.compare(m_position, 2, "\r\n") == 0;
+    m_line += m_text[m_position] == '\n' || m_text[m_position] == '\r';
+    m_position += pair ? 2 : 1;
+}
+
 std::string_view NumberReader::Token(const char* what) {
-    while (m_position < m_text.size()) {
+    while (!AtEnd()) {
         const char character = m_text[m_position];
-        if (character == '#') {
-            const std::size_t end = m_text.find('\n', m_position);
-            m_position = end == std::string_view::npos ? m_text.size() : end;
-        } else if (IsSeparator(character)) {
-            m_line += character == '\n';
-            ++m_position;
-        } else {
+        if (BeginsComment(character))
+            m_position = std::min(m_text.find_first_of("\r\n", m_position), m_text.size());
+        else if (IsSeparator(character))
+            Step();
+        else
             break;
-        }
     }
     m_tokenLine = m_line;
-    if (m_position == m_text.size())
+    if (AtEnd())
         FailAt(m_line, std::string(what) + ", ma il file finisce prima.");
     const std::size_t start = m_position;
-    while (m_position < m_text.size() && !IsSeparator(m_text[m_position]) && m_text[m_position] != '#')
+    while (!AtEnd() && !IsSeparator(m_text[m_position]) && !BeginsComment(m_text[m_position]))
         ++m_position;
     return m_text.substr(start, m_position - start);
 }

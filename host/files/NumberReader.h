@@ -1,4 +1,5 @@
-// Numbers of a text, one after the other: separated by blanks, tabs, commas and line ends; "#" begins a comment.
+// Numbers of a text, one after the other: separated by blanks, tabs, commas, semicolons, quotes and line ends of any
+// system; "#", "%" or "?" begins a comment.
 #pragma once
 
 #include <cstddef>
@@ -27,6 +28,8 @@ class NumberReader {
     [[noreturn]] void Fail(const std::string& message) const;
 
   private:
+    bool AtEnd() const { return m_position == m_text.size(); }
+    void Step();
     std::string_view Token(const char* what);
     [[noreturn]] void FailAt(int line, const std::string& message) const;
 

@@ -10,6 +10,7 @@ IMPLEMENT_DYNAMIC(CLinea, CElementoSpecifiche)
 namespace {
 
 constexpr double shortest = 1e-6;     // length units: what is shorter has no direction
+constexpr double upright = 1e-4;      // lean against the length
 constexpr double parallel = 0.999999; // cosine of two directions that count as one
 
 // Another line on the same two nodes; null when there is none. The node with fewer elements is searched.
@@ -104,13 +105,11 @@ int CLinea::_GetLocalAxes(CFPoint da, CFPoint a, double betaGradi, CFPoint& asse
     CFPoint along = a - da;
     if (along.GetMod() < shortest || !along.Normalize())
         return 0;
-    // Horizontal components at the level of rounding mean "vertical": without this a column whose ends differ in the
-    // last bit would turn its section by any angle.
+    // What leans by no more than nodes are off their places by is vertical: the direction of such a lean would turn the
+    // section of a column by any angle.
     CFPoint across(-along.y, along.x, 0);
-    if (std::hypot(along.x, along.y) < 1e-9) {
-        along = CFPoint(0, 0, along.z > 0 ? 1 : -1);
-        across = CFPoint(0, 1, 0);
-    }
+    if (std::hypot(along.x, along.y) < upright)
+        across = CFPoint(0, 1, 0) - along * along.y;
     across.Normalize();
     const CFPoint upwards = Cross(along, across);
     const double beta = betaGradi * std::numbers::pi / 180;

@@ -116,9 +116,27 @@ TEST(Import, ShearAreasAndUnitsFollowTheFile) {
     }
 }
 
+// As other programs write the same: comments, separators, line ends, exponents, and loads of a node in several rows.
+TEST(Import, TextsOfOtherHandsSayTheSame) {
+    const auto all = [](std::string text, std::string_view from, std::string_view to) {
+        for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size())
+            text.replace(at, from.size(), to);
+        return text;
+    };
+    std::string other = all(all(model, "\r\n", "\n"), "\n", "\r");
+    other = Replaced(Replaced(all(other, "# ", "% \"?"), ",4.0,0", ";4.0;\"0\""), "3e0", "+3.0D+00");
+    other = Replaced(other, "0 0 -9.81", "1e-400 -0.1D-500 -981d-2");
+    EXPECT_EQ(Dump(ImportFrame3ddText(other)), Dump(ImportFrame3ddText(model)));
+    const std::string twice =
+        Replaced(model, "1 \n 2 0.01 0 0", "3 \n 2 0.004 0 0 0 0 0 \n 2 0 0 0 0 0 0 \n 2 0.006 0 0");
+    DocumentData data = ImportFrame3ddText(twice);
+    EXPECT_EQ(data.FindNode(2)->GetSizeCarichi(), 3) << "more rows than supports";
+    EXPECT_EQ(RefusalOf(all(other, "+3.0D+00", "1e400")), "Riga 6: attesa una coordinata del nodo, trovato \"1e400\".");
+}
+
 // The message names the line and what should have been there.
 TEST(Import, MalformedTextIsRefusedWithItsLine) {
-    EXPECT_EQ(RefusalOf(""), "Riga 2: atteso il numero dei nodi, ma il file finisce prima.");
+    EXPECT_EQ(RefusalOf(""), "Riga 1: atteso il numero dei nodi, ma il file finisce prima.");
     EXPECT_EQ(RefusalOf(Replaced(model, "Un portale", std::string(5000, 'x'))), "Riga 1: il titolo è troppo lungo.");
     const struct {
         const char *from, *to, *refusal;
@@ -139,7 +157,7 @@ TEST(Import, MalformedTextIsRefusedWithItsLine) {
     for (const auto& [from, to, refusal] : damages)
         EXPECT_EQ(RefusalOf(Replaced(model, from, to)), refusal);
     for (const auto& [from, to] : {std::pair("4 # numero", "-4 # numero"), std::pair("4 # numero", "99999999999 #"),
-                                   std::pair("2 # casi", "31 # casi"), std::pair("1 1 1 1 1 1 1", "1 1 1 2 1 1 1")})
+                                   std::pair("2 # casi", "9 # casi"), std::pair("1 1 1 1 1 1 1", "1 1 1 2 1 1 1")})
         EXPECT_NE(RefusalOf(Replaced(model, from, to)), "") << to;
 }
 
