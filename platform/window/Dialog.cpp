@@ -54,8 +54,13 @@ CDialog::~CDialog() {
     CDialog::DestroyWindow();
 }
 
+const platform::DialogTemplate* CDialog::FindTemplate(UINT templateId) const {
+    const int id = static_cast<int>(templateId);
+    return m_hTemplateModule ? platform::FindDialogTemplate(m_hTemplateModule, id) : platform::FindDialogTemplate(id);
+}
+
 int CDialog::DoModal() {
-    if (m_hWnd || !platform::FindDialogTemplate(static_cast<int>(m_template)))
+    if (m_hWnd || !FindTemplate(m_template))
         return -1;
     WindowPeer* owner = OwnerOf(m_pParentWnd);
     const ParentLock lock(owner ? owner->TopLevel() : nullptr);
@@ -84,11 +89,8 @@ void CDialog::EndDialog(int result) {
     m_ended = true;
     if (m_loop)
         static_cast<QEventLoop*>(m_loop)->quit();
-    if (!m_hWnd)
-        return;
-    m_hWnd->ended = true;
-    m_hWnd->activeAtEnd = m_hWnd->activeAtEnd || m_hWnd->active; // hidden, it is not any more
-    m_hWnd->widget->hide();
+    if (m_hWnd)
+        m_hWnd->End();
 }
 
 BOOL CDialog::DestroyWindow() {
@@ -98,7 +100,7 @@ BOOL CDialog::DestroyWindow() {
 }
 
 BOOL CDialog::Build(UINT templateId, CWnd* parent, bool modal) {
-    const platform::DialogTemplate* source = platform::FindDialogTemplate(static_cast<int>(templateId));
+    const platform::DialogTemplate* source = FindTemplate(templateId);
     if (!source)
         return FALSE;
     SuspendNotifications(false);

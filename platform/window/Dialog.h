@@ -3,6 +3,10 @@
 
 #include "platform/window/Window.h"
 
+namespace platform {
+struct DialogTemplate;
+}
+
 class CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
   public:
@@ -41,8 +45,10 @@ class CDialog : public CWnd {
   protected:
     DECLARE_MESSAGE_MAP()
     CWnd* m_pParentWnd = nullptr;
+    HINSTANCE m_hTemplateModule = nullptr; // the module that holds the template; null for the first along the chain
 
   private:
+    const platform::DialogTemplate* FindTemplate(UINT templateId) const;
     BOOL Build(UINT templateId, CWnd* parent, bool modal);
     UINT m_template = 0;
     int m_result = -1;

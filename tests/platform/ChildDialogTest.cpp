@@ -159,3 +159,30 @@ TEST(ChildDialog, KeepsTheFocusOfItsControls) {
     EXPECT_EQ(CWnd::GetFocus(), dialog.GetDlgItem(100));
     EXPECT_EQ(ground.log, Log{});
 }
+
+// Faults: keys that go to another legend, or nowhere, after one ended, perhaps while a tool window had the activation;
+// a view that takes the focus from whoever has it.
+TEST(ChildDialog, GivesTheFocusBackToItsView) {
+    Ground ground;
+    Legend other(ground, ControlRows().Edit(100));
+    const auto expectBack = [&](Legend& dialog, const std::function<void()>& end) {
+        DialogDriver(dialog).SetFocus(100);
+        end();
+        DialogDriver(ground).Activate();
+        EXPECT_EQ(CWnd::GetFocus(), &ground);
+        ground.Key(Qt::Key_F5);
+        EXPECT_EQ(ground.log, Log{"key"});
+        ground.log.clear();
+    };
+    Legend destroyed(ground, ControlRows().Edit(100)), ended(ground, ControlRows().Edit(100)),
+        behind(ground, ControlRows().Edit(100));
+    expectBack(destroyed, [&] { destroyed.DestroyWindow(); });
+    expectBack(ended, [&] { ended.EndDialog(IDOK); });
+    expectBack(behind, [&] {
+        const Opened<> tool;
+        behind.DestroyWindow();
+    });
+    Legend last(ground, ControlRows().Edit(100));
+    other.EndDialog(IDOK);
+    EXPECT_TRUE(last.HasFocus());
+}

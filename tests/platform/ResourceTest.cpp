@@ -1,6 +1,7 @@
 // The resource chain, the start of modules and the compiler of resource scripts.
 #include "platform/resource/Resource.h"
 #include "platform/resource/Module.h"
+#include "platform/window/Dialog.h"
 #include "platform/window/Styles.h"
 
 #include <gtest/gtest.h>
@@ -108,6 +109,24 @@ TEST_F(ResourceChain, HandlesNameTheModuleThatHoldsTheResource) {
     EXPECT_EQ(GetModuleHandle("/opt/lib/libFirst.so"), first);
     EXPECT_EQ(GetModuleHandle(nullptr), host);
     EXPECT_EQ(GetModuleHandle("third"), nullptr);
+}
+
+// Catches a dialog that takes the host's template of the same number.
+TEST_F(ResourceChain, ADialogTakesItsTemplateFromTheModuleThatItNames) {
+    struct Colours : CDialog {
+        explicit Colours(HINSTANCE module) : CDialog(60002) { m_hTemplateModule = module; }
+        CString Caption() {
+            Create(60002);
+            CString text;
+            GetWindowText(text);
+            return text;
+        }
+    };
+    const HINSTANCE first = AfxAttachLinkedModule(firstEntry);
+    EXPECT_EQ(Colours(first).Caption(), "first");
+    EXPECT_EQ(Colours(nullptr).Caption(), "host");
+    AfxDetachLinkedModule(firstEntry);
+    EXPECT_EQ(Colours(first).DoModal(), -1);
 }
 
 // Catches a module that stays in the chain after its end or takes a neighbour's resources along, and a second start of

@@ -36,9 +36,45 @@ TEST(Window, DestroyingAnInactiveOneLeavesTheFocusAlone) {
     EXPECT_EQ(CWnd::GetActiveWindow(), &typed);
     EXPECT_EQ(user.Focus(), 100);
     EXPECT_EQ(typed.log, Log{});
-    typed.DestroyWindow();
-    CWinApp::PumpMessages();
-    EXPECT_EQ(CWnd::GetActiveWindow(), &main) << "the active one hands on";
+}
+
+// Faults: a command run as soon as a dialog had ended found no active window, or one that lost its field a moment
+// later.
+TEST(Window, TheActiveOneHandsOnBeforeItsEndReturns) {
+    Opened<> main;
+    const TestTemplate source(TwoEdits());
+    const auto expectBack = [&](const char* how) {
+        EXPECT_EQ(CWnd::GetActiveWindow(), &main) << how;
+        EXPECT_EQ(CWnd::GetFocus(), main.GetDlgItem(101)) << how;
+        EXPECT_EQ(main.log, Log{"active"}) << how;
+        CWinApp::PumpMessages();
+        DialogDriver::Wait(50);
+        EXPECT_EQ(main.log, Log{"active"}) << how << ", later";
+    };
+    const auto open = [&](LoggedDialog& dialog) {
+        main.user.SetFocus(101);
+        DialogDriver(dialog).SetFocus(100);
+        EXPECT_EQ(CWnd::GetActiveWindow(), &dialog);
+        main.log.clear();
+    };
+    LoggedDialog tool(&main), ended(&main), modal(&main), inner(&tool);
+    open((tool.Open(), tool));
+    tool.DestroyWindow();
+    expectBack("destroyed");
+    open((ended.Open(), ended));
+    ended.EndDialog(IDOK);
+    expectBack("ended");
+    modal.Run([&](DialogDriver& user) {
+        main.log.clear();
+        user.Click(IDCANCEL);
+    });
+    expectBack("modal");
+    // The owner has gone out of sight before: its own owner is next.
+    tool.Open();
+    open((inner.Open(), inner));
+    tool.ShowWindow(SW_HIDE);
+    inner.EndDialog(IDOK);
+    expectBack("owner hidden");
 }
 
 // A handler that follows the activation touched controls which the handler of the end had given up.

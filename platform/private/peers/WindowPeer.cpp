@@ -184,26 +184,50 @@ bool WindowPeer::SendDestroy(const std::vector<QPointer<QWidget>>& all) {
     return self && !destroyed;
 }
 
-// Only a window that the user was in hands the activation, or as a child the focus, on to the one that it belongs to.
+bool WindowPeer::HoldsActivation() const {
+    return QApplication::activeWindow() && HoldsActive(*widget);
+}
+
+// Also while the application itself is not active: the window then gives the focus back with the activation.
+bool WindowPeer::HoldsFocus() const {
+    const QWidget* focused = widget->window()->focusWidget();
+    return focused && (focused == widget || widget->isAncestorOf(focused));
+}
+
+// At once: what the caller does next must find the owner active and its control focused, and no window in between may
+// hear of an activation that is not to last.
 void WindowPeer::HandOver(bool wasActive, bool hadFocus) {
-    if (!parent || parent->destroyed || !parent->widget->isVisible())
+    WindowPeer* owner = parent;
+    while (owner && (owner->destroyed || !owner->widget->isVisible()))
+        owner = owner->parent;
+    if (!owner)
         return;
-    if (widget->isWindow() && wasActive)
-        parent->widget->window()->activateWindow();
-    else if (isDialog && hadFocus && !widget->isWindow())
-        parent->widget->setFocus();
+    if (widget->isWindow() && wasActive) {
+        QWidget* next = owner->widget->window();
+        next->activateWindow();
+        QApplication::setActiveWindow(next);
+    } else if (isDialog && hadFocus && !widget->isWindow()) {
+        owner->widget->setFocus();
+    }
+}
+
+void WindowPeer::End() {
+    const QPointer<QWidget> self = widget;
+    const bool wasActive = HoldsActivation(), hadFocus = HoldsFocus();
+    ended = true;
+    widget->hide();
+    if (self && !destroyed)
+        HandOver(wasActive, hadFocus);
 }
 
 void WindowPeer::Destroy() {
     if (destroyed)
         return;
     const QPointer<QWidget> self = widget;
-    const bool wasActive = QApplication::activeWindow() ? HoldsActive(*widget) : activeAtEnd;
+    const bool wasActive = HoldsActivation(), hadFocus = HoldsFocus();
     // The focus leaves while everybody still stands, so that an edit can report it.
-    QWidget* focused = QApplication::focusWidget();
-    const bool hadFocus = focused && (focused == widget || widget->isAncestorOf(focused));
     if (hadFocus)
-        focused->clearFocus();
+        widget->window()->focusWidget()->clearFocus();
     if (!self || destroyed)
         return;
 

@@ -70,7 +70,6 @@ class WindowPeer {
     WrittenNumber written;
     bool active = false; // what WM_ACTIVATE told last
     bool ended = false;  // by EndDialog: hidden, and without keys and commands until it is shown again
-    bool activeAtEnd = false;
 
     // What differs from control to control.
     virtual CString Text() const;
@@ -103,6 +102,7 @@ class WindowPeer {
     CWnd* Window(); // the object, made on demand
     void Attach(CWnd* newObject);
     void Detach();
+    void End();     // hides the window; it hands on what it holds
     void Destroy(); // messages, then detachment, then the widget's deletion when control is back in the loop
 
     void InvalidateArea(const QRect& area, bool erase); // to be painted at the next chance
@@ -128,6 +128,10 @@ class WindowPeer {
     void DropOwned();
     void Release();
     bool SendDestroy(const std::vector<QPointer<QWidget>>& all); // false when a handler has ended the window
+    bool HoldsActivation() const;
+    bool HoldsFocus() const;
+    // Activation of a window that the user was in, focus of one that lies inside another: to the one that it belongs
+    // to.
     void HandOver(bool wasActive, bool hadFocus);
 
     std::unique_ptr<CWnd> m_owned;                // the object made on demand
