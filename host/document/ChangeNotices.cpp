@@ -3,6 +3,7 @@
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "host/document/HostAnalysis.h"
 #include "host/document/HostSelection.h"
+#include "host/document/HostUndo.h"
 
 #include <algorithm>
 #include <utility>
@@ -59,12 +60,23 @@ void ChangeNotices::Send() {
         Tell(nullptr, MODIFICA_STRUTTURA);
     if (groups)
         Tell(nullptr, MODIFICA_GRUPPI);
+    SendNews(std::exchange(m_pending.news, 0u));
     if (std::exchange(m_pending.results, false))
         Tell(nullptr, MODIFICA_RISULTATI_ELIMINATI);
     if (std::exchange(m_announcedCase, m_data.CurrentCase()) != m_data.CurrentCase())
         ShowCurrentCase();
     if (kinds != 0)
         SendSelection(kinds);
+}
+
+void ChangeNotices::SendNews(unsigned news) {
+    static constexpr std::pair<unsigned, long> codes[] = {{newsLengths, MODIFICA_LUNGHEZZE},
+                                                          {newsUnits, MODIFICA_UNITA},
+                                                          {newsBeamDesign, MODIFICA_PROGETTO | PROGETTO_TRAVI},
+                                                          {newsWallDesign, MODIFICA_PROGETTO | PROGETTO_SETTI}};
+    for (const auto& [bit, code] : codes)
+        if (news & bit)
+            Tell(nullptr, code);
 }
 
 void ChangeNotices::SendSelection(unsigned kinds) {

@@ -34,6 +34,7 @@ class ChangeNotices {
     void SelectionChanged(unsigned kinds) { m_pending.kinds |= kinds; } // bits 1 << Kind
     void ModelChanged() { m_pending.structure = true; }
     void GroupsChanged() { m_pending.groups = true; }
+    void NewsCame(unsigned news) { m_pending.news |= news; } // bits of News
     void ResultsGone() { m_pending.results = true; }
     void ResultsCame() { m_pending.results = false; }
     void Deliver(); // as soon as control is back in the event loop
@@ -45,6 +46,7 @@ class ChangeNotices {
     void AnnounceCase(int id) { m_announcedCase = id; }
 
   private:
+    void SendNews(unsigned news);
     void SendSelection(unsigned kinds);
 
     // What happened since the observers were told, in the order in which they are: who reads the model again must find
@@ -52,6 +54,7 @@ class ChangeNotices {
     struct Pending {
         bool structure = false;
         bool groups = false;  // some came, went or have another name
+        unsigned news = 0;    // bits of News
         bool results = false; // valid ones went
         unsigned kinds = 0;   // whose selection changed
     };

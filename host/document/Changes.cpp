@@ -51,8 +51,47 @@ void Movement::Swap() {
     }
 }
 
-Attributes::Attributes(DocumentData& data, CElemento& object)
-    : m_data(data), m_object(object), m_other(CopyOf(object)) {
+Former::Former(DocumentData& data, CElemento& object)
+    : m_data(data), m_object(object), m_id(object.GetID()), m_next(data.NextId(object)) {
+}
+
+void Former::Settle() {
+    if (m_object.GetID() != m_id && !m_data.Renumber(m_object, m_id))
+        m_object.SetID(m_id);
+}
+
+void Former::Exchange() {
+    const int here = m_object.GetID();
+    Swap();
+    if (here == m_id)
+        return;
+    const int next = m_data.NextId(m_object);
+    m_object.SetID(m_id);
+    m_data.Renumber(m_object, here, m_next);
+    m_id = here;
+    m_next = next;
+}
+
+Attributes::Attributes(DocumentData& data, CElemento& object) : Former(data, object), m_other(CopyOf(object)) {
+    if (const CElementoProgetto* design = object.GetProgetto())
+        m_design = std::make_unique<CElementoProgetto>(*design);
+}
+
+bool Attributes::Differs() const {
+    return HasOtherDesign() || !IsAsCopied(m_object, *m_other);
+}
+
+// A design that was made anew since has nothing to do with the values that are kept.
+bool Attributes::HasOtherDesign() const {
+    const CElementoProgetto* design = m_object.GetProgetto();
+    return design && m_design && design->IsOfSameDesign(*m_design) && !design->HasSameValues(*m_design);
+}
+
+unsigned Attributes::GetNews() const {
+    Kind kind;
+    if (HasOtherDesign() && KindOf(m_object, kind))
+        return kind == Kind::Wall ? newsWallDesign : newsBeamDesign;
+    return HasNodesOf(m_object, *m_other) ? newsNone : newsLengths;
 }
 
 void Attributes::Swap() {
@@ -61,36 +100,23 @@ void Attributes::Swap() {
     // The copy may have been made while the object was selected; the selection itself is restored after the step.
     m_object.SetSelect(0);
     m_other = std::move(here);
+    if (HasOtherDesign())
+        m_object.GetProgetto()->SwapValues(*m_design);
 }
 
 void EntityName::Swap() {
-    const CString name = m_entity.GetNome();
-    const CString type = m_entity.GetTipo();
-    m_entity.SetNome(m_name);
-    m_entity.SetTipo(m_type);
+    const CString name = Entity().GetNome();
+    const CString type = Entity().GetTipo();
+    Entity().SetNome(m_name);
+    Entity().SetTipo(m_type);
     m_name = name;
     m_type = type;
 }
 
-Carrying::Carrying(CCasoCarico& loadCase, const std::vector<CElementoCarico*>& carriers) : m_case(loadCase) {
-    for (CElementoCarico* element : carriers) {
-        std::vector<int> loads;
-        for (int i = 0; i < element->GetSizeCarichi(); ++i)
-            if (element->GetIndexIDCasoCarico(i) == loadCase.GetID())
-                loads.push_back(element->GetIndexIDCarico(i));
-        m_carriers.push_back({element, std::move(loads)});
-    }
-}
-
-void Carrying::Undo() {
-    for (const Carrier& carrier : m_carriers)
-        carrier.element->RemoveLoadsOfCase(m_case.GetID());
-}
-
-void Carrying::Redo() {
-    for (const Carrier& carrier : m_carriers)
-        for (const int id : carrier.loads)
-            carrier.element->AddCarico(m_case.GetCarico(id, nullptr), 0);
+std::unique_ptr<Former> KeepState(DocumentData& data, CElemento& object) {
+    if (auto* loadCase = DYNAMIC_DOWNCAST(CCasoCarico, &object))
+        return std::make_unique<EntityName>(data, *loadCase);
+    return std::make_unique<Attributes>(data, object);
 }
 
 void Grouping::Undo() {

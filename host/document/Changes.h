@@ -3,6 +3,7 @@
 
 #include "host/document/DocumentData.h"
 #include "host/document/HostUndo.h"
+#include "model/design/ElementoProgetto.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Gruppo.h"
 
@@ -56,6 +57,7 @@ class Movement : public Change {
 
     void Undo() override { Swap(); }
     void Redo() override { Swap(); }
+    unsigned GetNews() const override { return newsLengths; }
 
   private:
     void Swap();
@@ -64,59 +66,69 @@ class Movement : public Change {
     std::vector<std::pair<CNodo*, CFPoint>> m_places; // where the nodes are not
 };
 
-// The attributes of one object. Made before they change. Not for load cases, whose loads others refer to.
-class Attributes : public Change {
+// What one object was. Made before it changes.
+class Former : public Change {
   public:
-    Attributes(DocumentData& data, CElemento& object);
-
     CElemento& Object() const { return m_object; }
-    void Undo() override { Swap(); }
-    void Redo() override { Swap(); }
+    // A command is going to change it; of what is only kept in case, a difference counts.
+    void Confirm() { m_confirmed = true; }
 
-  private:
-    void Swap();
+    void Undo() override { Exchange(); }
+    void Redo() override { Exchange(); }
+    const CElemento* Keeps() const override { return &m_object; }
+    bool HasEffect() const override { return m_confirmed || m_object.GetID() != m_id || Differs(); }
+    // The document finds the object under the number that it was given; one that is taken is put back.
+    void Settle() override;
+
+  protected:
+    Former(DocumentData& data, CElemento& object);
+
+    virtual bool Differs() const = 0;
+    virtual void Swap() = 0; // everything but the number
 
     DocumentData& m_data;
     CElemento& m_object;
+
+  private:
+    void Exchange();
+
+    int m_id;   // the number that it does not have
+    int m_next; // the document's next one with it
+    bool m_confirmed = false;
+};
+
+// The attributes of one object, with its design. Not for load cases, whose loads others refer to.
+class Attributes : public Former {
+  public:
+    Attributes(DocumentData& data, CElemento& object);
+
+    unsigned GetNews() const override;
+
+  private:
+    bool Differs() const override;
+    void Swap() override;
+    bool HasOtherDesign() const;
+
     std::unique_ptr<CElemento> m_other;
+    std::unique_ptr<CElementoProgetto> m_design; // null for none
 };
 
 // Name and type of a named entity.
-class EntityName : public Change {
+class EntityName : public Former {
   public:
-    // Made before they change.
-    explicit EntityName(CElementoStrutturale& entity) : EntityName(entity, entity.GetNome()) {}
-    // Made when the name has changed.
-    EntityName(CElementoStrutturale& entity, CString former)
-        : m_entity(entity), m_name(std::move(former)), m_type(entity.GetTipo()) {}
-
-    void Undo() override { Swap(); }
-    void Redo() override { Swap(); }
+    EntityName(DocumentData& data, CElementoStrutturale& entity)
+        : Former(data, entity), m_name(entity.GetNome()), m_type(entity.GetTipo()) {}
 
   private:
-    void Swap();
+    CElementoStrutturale& Entity() const { return static_cast<CElementoStrutturale&>(m_object); }
+    bool Differs() const override { return Entity().GetNome() != m_name || Entity().GetTipo() != m_type; }
+    void Swap() override;
 
-    CElementoStrutturale& m_entity;
     CString m_name, m_type;
 };
 
-// Elements that were made to carry loads of a case, each at the end of its list, when none carried any before.
-class Carrying : public Change {
-  public:
-    // Made when they carry them.
-    Carrying(CCasoCarico& loadCase, const std::vector<CElementoCarico*>& carriers);
-
-    void Undo() override;
-    void Redo() override;
-
-  private:
-    struct Carrier {
-        CElementoCarico* element;
-        std::vector<int> loads;
-    };
-    CCasoCarico& m_case;
-    std::vector<Carrier> m_carriers;
-};
+// The one that fits the object.
+std::unique_ptr<Former> KeepState(DocumentData& data, CElemento& object);
 
 // The members of a new group, which learn of it.
 class Grouping : public Change {

@@ -1,10 +1,9 @@
-// What dialogs change on load cases and combinations by themselves. They say so with MODIFICA_CASI_CARICO; the document
-// then finds out what it was and records it, so that it can be undone like everything else.
+// What the steps are called that dialogs make by writing directly into the model and sending a code, and whether groups
+// changed with a step.
 #pragma once
 
 #include "platform/core/String.h"
 
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -18,25 +17,18 @@ class DirectChanges {
     // Both outlive it.
     DirectChanges(DocumentData& data, HostUndo& undo) : m_data(data), m_undo(undo) {}
 
-    // Notes the names as they are after a step. True when groups came, went or were renamed.
+    // Notes the groups as they are after a step. True when some came, went or were renamed.
     bool Remember();
-    // A load case has just been made: what a dialog fills it with belongs to it.
-    void CaseMade(int id);
-    // Records what differs from what is known. What a command inside a bracket changes, it records itself.
-    void Record();
+    // A load case has just been made: when the code comes next, a dialog has filled it with another's loads.
+    void CaseMade() { m_caseMade = true; }
+    // A code was sent.
+    void CodeSent(long hint);
 
   private:
-    void RecordNewNames();
-    void RecordFilledCase();
-
     DocumentData& m_data;
     HostUndo& m_undo;
-    std::unordered_map<int, CString> m_names;      // of load cases and combinations, which share their numbers
     std::vector<std::pair<int, CString>> m_groups; // in document order
-    struct {
-        int id = 0; // of the load case made last
-        std::size_t records = 0;
-    } m_newCase;
+    bool m_caseMade = false;
 };
 
 } // namespace host

@@ -125,6 +125,11 @@ int DocumentData::NextId(Kind kind) const {
     return ListOf(Counter(kind)).next;
 }
 
+int DocumentData::NextId(CElemento& object) const {
+    Kind kind;
+    return KindOf(object, kind) ? NextId(kind) : 0;
+}
+
 void DocumentData::Enter(Kind kind, CElemento& object) {
     List& its = ListOf(kind);
     its.ids.Insert(object.GetID(), &object);
@@ -150,14 +155,29 @@ void DocumentData::Leave(Kind kind, CElemento& object) {
         static_cast<CPoligono&>(object).StaccaNodi();
 }
 
+bool DocumentData::IsFree(Kind kind, int id) const {
+    if (id <= 0 || Find(kind, id))
+        return false;
+    return Counter(kind) != Kind::LoadCase || !Find(kind == Kind::LoadCase ? Kind::Combination : Kind::LoadCase, id);
+}
+
+bool DocumentData::Renumber(CElemento& object, int former, int next) {
+    Kind kind;
+    if (!KindOf(object, kind) || !IsFree(kind, object.GetID()))
+        return false;
+    ListOf(kind).ids.Remove(former);
+    ListOf(kind).ids.Insert(object.GetID(), &object);
+    if (next != 0)
+        ListOf(Counter(kind)).next = next;
+    Count(kind, object.GetID());
+    return true;
+}
+
 bool DocumentData::Append(std::unique_ptr<CElemento>& object) {
     Kind kind;
     if (!object || !KindOf(*object, kind))
         return false;
-    const int id = object->GetID();
-    if (id <= 0 || Find(kind, id))
-        return false;
-    if (Counter(kind) == Kind::LoadCase && Find(kind == Kind::LoadCase ? Kind::Combination : Kind::LoadCase, id))
+    if (!IsFree(kind, object->GetID()))
         return false;
     Add(kind, std::move(object));
     return true;
@@ -171,11 +191,14 @@ void DocumentData::Return(std::unique_ptr<CElemento> object) {
 
 void DocumentData::Add(Kind kind, std::unique_ptr<CElemento> object) {
     Enter(kind, *object);
-    const int id = object->GetID();
+    Count(kind, object->GetID());
+    ListOf(kind).objects.push_back(std::move(object));
+}
+
+void DocumentData::Count(Kind kind, int id) {
     int& next = ListOf(Counter(kind)).next;
     if (next != 0 && id >= next)
         next = id < 0x7fffffff ? id + 1 : 0;
-    ListOf(kind).objects.push_back(std::move(object));
 }
 
 std::unique_ptr<CElemento> DocumentData::TakeLast(Kind kind) {

@@ -64,6 +64,8 @@ struct ProjectInfo {
     CString author;
     CString date; // "2024-05-31"; of the first save when the user gives none
     CString notes;
+
+    bool operator==(const ProjectInfo&) const = default;
 };
 
 class DocumentData : public ModelLookup {
@@ -95,8 +97,13 @@ class DocumentData : public ModelLookup {
     bool Contains(CElemento& object) const;
     int IndexOf(Kind kind, int id) const; // a walk along the list; -1 when there is none
 
+    // The object is found under its number from now on instead of the one it had; the next new one is `next`, or above
+    // all when that is 0. False when its number is not free.
+    bool Renumber(CElemento& object, int former, int next = 0);
+
     // Above all numbers in use; load cases and combinations share theirs. 0 when the numbers are used up.
     int NextId(Kind kind) const;
+    int NextId(CElemento& object) const; // of the object's kind
 
     // Takes the object, as the last of its list, under the number that it has. The nodes of an element must be in, and
     // the element in their lists. False, and not taken, for null, a number that is taken or not positive, or an object
@@ -149,6 +156,8 @@ class DocumentData : public ModelLookup {
     const List& ListOf(Kind kind) const { return m_lists[static_cast<std::size_t>(kind)]; }
     // The list whose counter numbers the kind.
     static Kind Counter(Kind kind) { return kind == Kind::Combination ? Kind::LoadCase : kind; }
+    bool IsFree(Kind kind, int id) const;
+    void Count(Kind kind, int id); // the number is in use
     void Add(Kind kind, std::unique_ptr<CElemento> object);
     std::size_t PlaceOf(Kind kind, const CElemento& object) const;
     void Enter(Kind kind, CElemento& object);

@@ -119,7 +119,7 @@ CCasoCarico* HostCases::CreaCasoCarico(const CString& name) {
     loadCase->SetNome(free);
     CCasoCarico* added = AddNew(std::move(loadCase));
     if (added)
-        Direct().CaseMade(added->GetID());
+        Direct().CaseMade();
     return added;
 }
 

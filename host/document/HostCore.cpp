@@ -9,6 +9,10 @@ HostCore::HostCore(HostSelection& selection) : m_selection(selection) {
     m_pAnalisi = &m_analysis;
     m_pProgetto = &m_design;
     m_pUndo = &m_undo;
+    m_undo.Watch(m_data.Info());
+    for (int* analysis : {&m_analysis.m_bAnalisiStatica, &m_analysis.m_bAnalisiModale, &m_analysis.m_bAnalisiSpettro,
+                          &m_analysis.m_bAnalisiInstabilita})
+        m_undo.Watch(*analysis);
 }
 
 HostCore::~HostCore() = default;
@@ -16,14 +20,15 @@ HostCore::~HostCore() = default;
 // ---- News
 
 void HostCore::UpdateAllViews(CView* pSender, long lHint, CObject* pHint) {
-    if (lHint == MODIFICA_CASI_CARICO)
-        m_direct.Record();
+    m_undo.CodeSent(lHint);
     m_notices.Tell(pSender, lHint, pHint);
+    m_direct.CodeSent(lHint);
 }
 
 void HostCore::Idle() {
     m_notices.BeginIdle();
     m_undo.CloseImplicit();
+    RefreshModified(); // what was written directly may wait for its code
     m_notices.Send();
 }
 
@@ -32,7 +37,7 @@ void HostCore::NotifySelection(unsigned kinds) {
     m_notices.Deliver();
 }
 
-void HostCore::NotifyChange(bool model) {
+void HostCore::NotifyChange(bool model, unsigned news, const std::vector<long>& codes) {
     RefreshModified();
     if (model) {
         if (m_analysis.Clear())
@@ -41,7 +46,10 @@ void HostCore::NotifyChange(bool model) {
             m_notices.GroupsChanged();
         m_notices.ModelChanged();
     }
+    m_notices.NewsCame(news);
     KeepCurrentCase();
+    for (const long hint : codes)
+        m_notices.Tell(nullptr, hint);
     m_notices.Deliver();
 }
 
@@ -63,7 +71,8 @@ void HostCore::Replace(DocumentData data) {
     m_undo.Clear(); // before the objects that its steps refer to
     m_data = std::move(data);
     m_savedState = m_undo.State();
-    NotifyChange(true);
+    m_flagged = false;
+    NotifyChange(true, newsNone, {});
     NotifySelection(0);
 }
 
@@ -77,11 +86,17 @@ void HostCore::SetPathName(LPCTSTR path) {
 void HostCore::MarkSaved() {
     m_undo.Close();
     m_savedState = m_undo.State();
+    m_flagged = false;
     RefreshModified();
 }
 
+void HostCore::SetModifiedFlag(BOOL modified) {
+    m_flagged = modified;
+    CQuovarDoc::SetModifiedFlag(modified);
+}
+
 void HostCore::RefreshModified() {
-    SetModifiedFlag(m_undo.State() != m_savedState);
+    CQuovarDoc::SetModifiedFlag(m_flagged || m_undo.State() != m_savedState);
 }
 
 // ---- The analysis

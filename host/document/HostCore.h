@@ -26,7 +26,7 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     Forza GetForza() const { return m_data.Units().force; }
 
     // For drawing, filing and analysis.
-    DocumentData& Data() { return m_data; }
+    DocumentData& Data() override { return m_data; }
     const DocumentData& Data() const { return m_data; }
     HostSelection& Selection() override { return m_selection; }
     HostUndo& Undo() { return m_undo; }
@@ -57,6 +57,8 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     void Replace(DocumentData data);
     // The path names the document: the title is the file's name.
     void SetPathName(LPCTSTR path) override;
+    // By a dialog: the document stays modified, whatever is undone, until it is saved.
+    void SetModifiedFlag(BOOL modified = TRUE) override;
     // After a successful save.
     void MarkSaved();
 
@@ -75,7 +77,8 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     DirectChanges& Direct() { return m_direct; }
 
   private:
-    void NotifyChange(bool model) override;
+    void NotifyChange(bool model, unsigned news, const std::vector<long>& codes) override;
+    void Announce(long hint) override { m_notices.Tell(nullptr, hint); }
     bool ScheduleIdle() override { return m_notices.ScheduleIdle(); }
     void KeepCurrentCase();
     void RefreshModified();
@@ -89,6 +92,7 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     DirectChanges m_direct{m_data, m_undo};
     RefusalTeller m_refusalTeller;
     std::size_t m_savedState = 0;
+    bool m_flagged = false; // modified, says a dialog
 };
 
 } // namespace host

@@ -1,6 +1,5 @@
 #include "host/document/HostEditing.h"
 
-#include "dialogs/frame/host/QuovarGlobal.h"
 #include "host/document/Changes.h"
 #include "host/document/ObjectRemoval.h"
 #include "host/document/UnitChange.h"
@@ -14,12 +13,11 @@ namespace {
 
 // Changes of one object in a row are one record: the first has what it was.
 void RecordBefore(DocumentData& data, HostUndo& undo, CElemento& object) {
-    if (auto* last = dynamic_cast<Attributes*>(undo.Last()); last && &last->Object() == &object)
-        return;
-    if (auto* loadCase = DYNAMIC_DOWNCAST(CCasoCarico, &object))
-        undo.Record(std::make_unique<EntityName>(*loadCase), "Modifica");
-    else
-        undo.Record(std::make_unique<Attributes>(data, object), "Modifica");
+    if (auto* last = dynamic_cast<Former*>(undo.Last()); last && &last->Object() == &object)
+        return last->Confirm();
+    auto former = KeepState(data, object);
+    former->Confirm();
+    undo.Record(std::move(former), "Modifica");
 }
 
 } // namespace
@@ -65,8 +63,6 @@ void HostEditing::ChangeUnits(Lunghezza length, Forza force) {
     if (length == Data().Units().length && force == Data().Units().force)
         return;
     Undo().Record(std::make_unique<UnitChange>(Data(), DocumentUnits{length, force}), "Cambia unità di misura"_utf8);
-    UpdateAllViews(nullptr, MODIFICA_LUNGHEZZE, nullptr);
-    UpdateAllViews(nullptr, MODIFICA_UNITA, nullptr);
 }
 
 void HostEditing::AssegnaBetaSelezione(double beta, int, int) {

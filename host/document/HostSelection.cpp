@@ -116,11 +116,16 @@ HostSelection::Snapshot HostSelection::TakeSnapshot() {
     return m_snapshot;
 }
 
+void HostSelection::PrepareRestore(const Snapshot& snapshot) {
+    if (m_all != *snapshot)
+        Clear();
+}
+
 void HostSelection::Restore(const Snapshot& snapshot) {
-    if (snapshot == m_snapshot)
-        return;
-    Clear();
-    Add(*snapshot);
+    if (m_all.empty())
+        Add(*snapshot);
+    for (CElemento* element : m_all)
+        element->SetSelect(1); // an object that was given its former state bears that one's flag
     m_snapshot = snapshot;
 }
 

@@ -61,6 +61,9 @@ class HostSelection : public CQuovarSelection {
     CObList* List();
 
     Snapshot TakeSnapshot();
+    // In two halves: what is selected is let go while objects leave and come, unless it is the same before and after,
+    // which is no news.
+    void PrepareRestore(const Snapshot& snapshot);
     void Restore(const Snapshot& snapshot);
     // Forgets without touching the elements, which may be gone.
     void Forget();

@@ -1,9 +1,12 @@
 #include "host/document/HostUndo.h"
 
+#include "host/document/Changes.h"
 #include "host/document/HostSelection.h"
 #include "host/document/UndoOwner.h"
 
 #include <algorithm>
+#include <array>
+#include <limits>
 
 namespace host {
 
@@ -12,15 +15,40 @@ struct HostUndo::Step {
     std::vector<std::unique_ptr<Change>> changes;
     HostSelection::Snapshot before, after;
     std::size_t stateBefore = 0, stateAfter = 0;
+    bool direct = false;                   // opened by a direct write outside every bracket
+    std::vector<long> announced, told;     // codes sent before its first change and after it
+    std::array<int, kindCount> firstNew{}; // objects from that number on were made in this step
 
     bool ChangesModel() const {
         return std::any_of(changes.begin(), changes.end(), [](const auto& change) { return change->ChangesModel(); });
+    }
+    unsigned GetNews() const {
+        unsigned news = newsNone;
+        for (const auto& change : changes)
+            news |= change->GetNews();
+        return news;
+    }
+    bool HasEffect() const {
+        return std::any_of(changes.begin(), changes.end(), [](const auto& change) { return change->HasEffect(); });
     }
 };
 
 namespace {
 
+// What happens meanwhile is not recorded.
+class Unrecorded {
+  public:
+    explicit Unrecorded(bool& running) : m_running(running) { m_running = true; }
+    ~Unrecorded() { m_running = false; }
+    Unrecorded(const Unrecorded&) = delete;
+    Unrecorded& operator=(const Unrecorded&) = delete;
+
+  private:
+    bool& m_running;
+};
+
 constexpr unsigned int ownBracket = 0;
+constexpr char defaultName[] = "Modifica";
 
 const char* NameOfKind(unsigned int kind) {
     switch (kind) {
@@ -33,7 +61,7 @@ const char* NameOfKind(unsigned int kind) {
     case UNDO_DIVIDI:
         return "Suddivisione linea";
     default:
-        return "Modifica";
+        return defaultName;
     }
 }
 
@@ -84,7 +112,7 @@ void HostUndo::End() {
 }
 
 void HostUndo::BeginShared(const char* name) {
-    if (!IsInBracket() && m_open && m_open->name != name)
+    if (!IsInBracket() && (!m_open || m_open->name != name))
         Close();
     m_brackets.push_back(ownBracket);
     if (!m_open)
@@ -111,6 +139,16 @@ void HostUndo::Rename(const char* name) {
 void HostUndo::Close() {
     m_brackets.clear();
     CloseStep();
+    TakeRecords(defaultName);
+}
+
+void HostUndo::CloseImplicit() {
+    if (IsInBracket() || !m_open)
+        return;
+    if (!m_open->direct)
+        CloseStep();
+    else if (!m_open->HasEffect())
+        m_open.reset(); // what was handed out for writing was only read
 }
 
 void HostUndo::Open(const char* name) {
@@ -118,12 +156,78 @@ void HostUndo::Open(const char* name) {
     m_open->name = name;
     m_open->before = m_owner.Selection().TakeSnapshot();
     m_open->stateBefore = State();
+    m_kept.clear();
+    for (const Kind kind : allKinds) {
+        const int next = m_owner.Data().NextId(kind);
+        m_open->firstNew[static_cast<std::size_t>(kind)] = next > 0 ? next : std::numeric_limits<int>::max();
+    }
+}
+
+// What the document keeps of itself beside its objects. Outside brackets it is a step of its own.
+void HostUndo::TakeRecords(const char* name) {
+    for (const auto& record : m_records) {
+        if (!record->Differs())
+            continue;
+        if (!m_open)
+            Open(name);
+        m_open->changes.push_back(record->Take());
+        ++m_recorded;
+    }
+    if (m_open && !IsInBracket())
+        CloseStep();
+}
+
+bool HostUndo::IsKept(const CElemento& object) const {
+    return m_open && m_kept.contains(&object);
+}
+
+void HostUndo::BeforeWrite(CElemento& elemento) {
+    Kind kind;
+    if (m_running || elemento.GetID() == 0 || IsKept(elemento) || !KindOf(elemento, kind))
+        return;
+    if (m_open && elemento.GetID() >= m_open->firstNew[static_cast<std::size_t>(kind)])
+        return; // comes and goes with the step, as it is
+    DocumentData& data = m_owner.Data();
+    if (data.Find(kind, elemento.GetID()) != &elemento)
+        return;
+    if (!m_open) {
+        Open(defaultName);
+        m_open->direct = !IsInBracket();
+    }
+    const Unrecorded copying(m_running);
+    m_open->changes.push_back(KeepState(data, elemento));
+    m_kept.insert(&elemento);
+    ++m_recorded;
+    if (m_open->direct)
+        m_owner.ScheduleIdle();
+}
+
+void HostUndo::CodeSent(long hint) {
+    if (!m_running && m_open)
+        (HasOpenChanges() ? m_open->told : m_open->announced).push_back(hint);
+}
+
+void HostUndo::EndDirect(const char* name) {
+    if (m_running || IsInBracket())
+        return;
+    if (m_open && m_open->direct) {
+        if (name)
+            m_open->name = name;
+        CloseStep();
+    }
+    TakeRecords(name ? name : defaultName);
 }
 
 void HostUndo::CloseStep() {
     if (!m_open)
         return;
+    for (const auto& record : m_records)
+        if (record->Differs())
+            m_open->changes.push_back(record->Take());
     std::unique_ptr<Step> step = std::move(m_open);
+    for (const auto& change : step->changes)
+        change->Settle();
+    std::erase_if(step->changes, [](const auto& change) { return !change->HasEffect(); });
     if (step->changes.empty())
         return;
     step->after = m_owner.Selection().TakeSnapshot();
@@ -131,16 +235,25 @@ void HostUndo::CloseStep() {
     while (m_steps.size() > m_position) // what had been undone cannot come back after a new command
         m_steps.pop_back();
     const bool model = step->ChangesModel();
+    const unsigned news = step->GetNews();
     m_steps.push_back(std::move(step));
     ++m_position;
-    m_owner.NotifyChange(model);
+    m_owner.NotifyChange(model, news, {}); // the codes have been sent
 }
 
 void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {
     if (m_running)
         return;
-    if (!m_open)
+    if (!IsInBracket() && m_open && m_open->direct)
+        CloseStep();
+    if (!m_open) {
+        TakeRecords(defaultName);
         Open(name);
+    }
+    if (const CElemento* object = change->Keeps())
+        m_kept.insert(object);
+    else
+        m_kept.clear(); // what was kept before this change may not fit after it
     m_open->changes.push_back(std::move(change));
     ++m_recorded;
     if (!IsInBracket())
@@ -152,22 +265,32 @@ Change* HostUndo::Last() {
 }
 
 bool HostUndo::HasOpenChanges() const {
-    return m_open && !m_open->changes.empty();
+    return (m_open && m_open->HasEffect()) || RecordsDiffer();
+}
+
+bool HostUndo::RecordsDiffer() const {
+    return std::any_of(m_records.begin(), m_records.end(), [](const auto& record) { return record->Differs(); });
 }
 
 void HostUndo::Run(Step& step, bool forward) {
-    m_running = true;
-    m_owner.Selection().Clear(); // before its objects leave
-    if (forward) {
-        for (auto& change : step.changes)
-            change->Redo();
-    } else {
-        for (std::size_t i = step.changes.size(); i-- > 0;)
-            step.changes[i]->Undo();
+    for (const long hint : step.announced)
+        m_owner.Announce(hint);
+    {
+        const Unrecorded running(m_running);
+        const HostSelection::Snapshot& selection = forward ? step.after : step.before;
+        m_owner.Selection().PrepareRestore(selection);
+        if (forward) {
+            for (auto& change : step.changes)
+                change->Redo();
+        } else {
+            for (std::size_t i = step.changes.size(); i-- > 0;)
+                step.changes[i]->Undo();
+        }
+        m_owner.Selection().Restore(selection);
+        for (const auto& record : m_records)
+            record->Remember();
     }
-    m_owner.Selection().Restore(forward ? step.after : step.before);
-    m_running = false;
-    m_owner.NotifyChange(step.ChangesModel());
+    m_owner.NotifyChange(step.ChangesModel(), step.GetNews(), step.told);
 }
 
 bool HostUndo::Undo() {
@@ -190,7 +313,7 @@ bool HostUndo::Redo() {
 
 CString HostUndo::UndoName() const {
     if (HasOpenChanges())
-        return CString::FromUtf8(m_open->name);
+        return CString::FromUtf8(m_open ? m_open->name : defaultName);
     return m_position > 0 ? CString::FromUtf8(m_steps[m_position - 1]->name) : CString();
 }
 
@@ -202,6 +325,8 @@ void HostUndo::Clear() {
     m_brackets.clear();
     m_open.reset();
     m_steps.clear();
+    for (const auto& record : m_records)
+        record->Remember();
     m_position = 0;
     ++m_lastState;
 }

@@ -3,14 +3,26 @@
 #pragma once
 
 #include "dialogs/frame/host/QuovarUndo.h"
+#include "model/element/WriteWatch.h"
 #include "platform/core/String.h"
 
 #include <memory>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace host {
 
 class UndoOwner;
+
+// What open windows must hear of besides the change itself; bits.
+enum News : unsigned {
+    newsNone = 0,
+    newsLengths = 1, // of lines
+    newsUnits = 2,
+    newsBeamDesign = 4,
+    newsWallDesign = 8
+};
 
 // One reversible change of a document. It has happened when it is recorded.
 class Change {
@@ -20,6 +32,24 @@ class Change {
     virtual void Redo() = 0;
     // False for what only says how the model is looked at: its results stay valid.
     virtual bool ChangesModel() const { return true; }
+    virtual unsigned GetNews() const { return newsNone; }
+    // The object whose state it keeps, if it keeps one's: what else is written into that object until another kind of
+    // change comes is kept with it.
+    virtual const CElemento* Keeps() const { return nullptr; }
+    // False when it turned out, at the end of its step, that nothing is different.
+    virtual bool HasEffect() const { return true; }
+    // The step ends.
+    virtual void Settle() {}
+};
+
+// A record of the document that dialogs write directly and that tells nobody: it is compared.
+class WatchedRecord {
+  public:
+    virtual ~WatchedRecord() = default;
+    virtual void Remember() = 0;
+    virtual bool Differs() const = 0;
+    // The change from what is remembered to what is; remembers that.
+    virtual std::unique_ptr<Change> Take() = 0;
 };
 
 // The ways to open a step. They nest: inside another's bracket each only adds to the step that is open.
@@ -29,10 +59,12 @@ class Change {
 //   UndoStep                   a command of the application     with the guard
 //   SharedStep                 a piece of a dialog's command    in the event loop, or before a step of another name
 //   Record, Add ...            one change outside brackets      in the event loop
+//   a direct write             what a dialog writes into the    with the next code that is sent, or before the next
+//                              model outside brackets           step
 //
-// Where there is no event loop to come back to, the last two end at once. Whatever is open outside a bracket ends
-// before a bracket begins, and before undo, redo and saving.
-class HostUndo : public CQuovarUndo {
+// Inside a bracket direct writes belong to it. Where there is no event loop to come back to, the third and the fourth
+// end at once. Whatever is open outside a bracket ends before a bracket begins, and before undo, redo and saving.
+class HostUndo : public CQuovarUndo, private WriteWatch {
   public:
     explicit HostUndo(UndoOwner& owner);
     ~HostUndo() override;
@@ -59,11 +91,18 @@ class HostUndo : public CQuovarUndo {
     // A better name for the open step: the kind 4 of a bracket does not tell a mirror from a copy.
     void Rename(const char* name);
     void Close();
-    // Ends a step that was opened by a change outside every bracket.
-    void CloseImplicit() {
-        if (m_brackets.empty())
-            CloseStep();
-    }
+    // Ends a step that was opened by a change outside every bracket. What was written directly goes on waiting for its
+    // code.
+    void CloseImplicit();
+
+    // A record that dialogs write directly: a value of the document, or of an object that lives as long, that can be
+    // copied and compared. That its type enters here is all that it takes.
+    template <class T>
+    void Watch(T& record);
+    // The code of a change was sent by somebody: undo and redo of the open step send it again. A step of direct writes
+    // ends with it and has that name; null leaves it.
+    void CodeSent(long hint);
+    void EndDirect(const char* name);
     bool IsOpen() const { return !m_brackets.empty() || m_open; }
 
     // Takes a change that has just been made. Outside every bracket it opens a step of that name by itself, closed at
@@ -91,7 +130,11 @@ class HostUndo : public CQuovarUndo {
   private:
     struct Step;
 
+    void BeforeWrite(CElemento& elemento) override;
+    bool IsKept(const CElemento& object) const;
+    void TakeRecords(const char* name);
     bool HasOpenChanges() const;
+    bool RecordsDiffer() const;
     void Open(const char* name);
     void EndBracket(unsigned int tipo);
     void Settle(); // closes the step, now or when control is back in the event loop
@@ -100,13 +143,48 @@ class HostUndo : public CQuovarUndo {
 
     UndoOwner& m_owner;
     std::vector<std::unique_ptr<Step>> m_steps;
-    std::size_t m_position = 0;           // steps before it are done, those from it on undone
-    std::unique_ptr<Step> m_open;         // being recorded
-    std::vector<unsigned int> m_brackets; // kinds; 0 for the host's own
+    std::size_t m_position = 0;                  // steps before it are done, those from it on undone
+    std::unique_ptr<Step> m_open;                // being recorded
+    std::vector<unsigned int> m_brackets;        // kinds; 0 for the host's own
+    std::unordered_set<const CElemento*> m_kept; // whose state the open step has kept since its last other change
+    std::vector<std::unique_ptr<WatchedRecord>> m_records;
     std::size_t m_lastState = 0;
     std::size_t m_recorded = 0;
     bool m_running = false; // what undo and redo change is not recorded
 };
+
+// A change of a watched record.
+template <class T>
+class RecordChange : public Change {
+  public:
+    RecordChange(T& where, T former) : m_where(where), m_other(std::move(former)) {}
+
+    void Undo() override { std::swap(m_where, m_other); }
+    void Redo() override { std::swap(m_where, m_other); }
+    bool ChangesModel() const override { return false; }
+
+  private:
+    T& m_where;
+    T m_other;
+};
+
+template <class T>
+void HostUndo::Watch(T& record) {
+    class Watched final : public WatchedRecord {
+      public:
+        explicit Watched(T& where) : m_where(where), m_known(where) {}
+        void Remember() override { m_known = m_where; }
+        bool Differs() const override { return !(m_where == m_known); }
+        std::unique_ptr<Change> Take() override {
+            return std::make_unique<RecordChange<T>>(m_where, std::exchange(m_known, m_where));
+        }
+
+      private:
+        T& m_where;
+        T m_known;
+    };
+    m_records.push_back(std::make_unique<Watched>(record));
+}
 
 // Brackets a command of the host.
 class UndoStep {

@@ -1,15 +1,22 @@
 // What the undo recorder needs of the document whose changes it records.
 #pragma once
 
+#include <vector>
+
 namespace host {
 
+class DocumentData;
 class HostSelection;
 
 class UndoOwner {
   public:
     virtual HostSelection& Selection() = 0; // a step holds it as it was before and after
-    // A step was made, undone or redone; false when the model itself is as it was.
-    virtual void NotifyChange(bool model) = 0;
+    virtual DocumentData& Data() = 0;
+    // A step was made, undone or redone; false when the model itself is as it was. The news are bits of News; the codes
+    // are to be sent again.
+    virtual void NotifyChange(bool model, unsigned news, const std::vector<long>& codes) = 0;
+    // A code to be sent again before what it announced.
+    virtual void Announce(long hint) = 0;
     // Asks for CloseImplicit when control is back in the event loop; false when there is no loop to come back to.
     virtual bool ScheduleIdle() = 0;
 

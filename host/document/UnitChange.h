@@ -14,6 +14,7 @@ class UnitChange : public Change {
 
     void Undo() override { Swap(); }
     void Redo() override { Swap(); }
+    unsigned GetNews() const override { return newsLengths | newsUnits; }
 
   private:
     void Swap();

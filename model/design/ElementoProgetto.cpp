@@ -1,5 +1,7 @@
 #include "model/design/ElementoProgetto.h"
 
+#include "model/element/Elemento.h"
+
 #include <algorithm>
 
 IMPLEMENT_DYNCREATE(CNodoProgetto, CObject)
@@ -14,7 +16,29 @@ CGrandezza& CNodoProgetto::GetArm(int index) {
     return m_reinforcement[at];
 }
 
+bool CNodoProgetto::operator==(const CNodoProgetto& other) const {
+    return std::equal(m_reinforcement.begin(), m_reinforcement.end(), other.m_reinforcement.begin(),
+                      other.m_reinforcement.end(),
+                      [](const CGrandezza& a, const CGrandezza& b) { return a.GetValue() == b.GetValue(); });
+}
+
+CElementoProgetto::CElementoProgetto() {
+    static unsigned last = 0;
+    m_design = ++last;
+}
+
+CElementoProgetto::CElementoProgetto(const CElementoProgetto& other)
+    : CObject(other), m_design(other.m_design), m_nodi(other.m_nodi) {
+}
+
+CElementoProgetto::~CElementoProgetto() {
+    if (m_owner)
+        m_owner->SetProgetto(nullptr);
+}
+
 CNodoProgetto* CElementoProgetto::GetNodoProgetto(int index) {
+    if (m_owner)
+        m_owner->BeforeWrite();
     return index >= 0 && index < static_cast<int>(m_nodi.size()) ? &m_nodi[static_cast<std::size_t>(index)] : nullptr;
 }
 

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+class CElemento;
+
 // The design quantities of one section or corner, by index.
 class CNodoProgetto : public CObject {
     DECLARE_DYNCREATE(CNodoProgetto)
@@ -13,6 +15,7 @@ class CNodoProgetto : public CObject {
     // The quantity with that index, made with value 0 when it is new. A negative index reads as index 0.
     CGrandezza& GetArm(int index);
     int GetSizeArm() const { return static_cast<int>(m_reinforcement.size()); }
+    bool operator==(const CNodoProgetto& other) const;
 
   private:
     std::vector<CGrandezza> m_reinforcement;
@@ -21,11 +24,25 @@ class CNodoProgetto : public CObject {
 class CElementoProgetto : public CObject {
     DECLARE_DYNCREATE(CElementoProgetto)
 
-    // The design node of a section or corner; null for an index outside. Owned by this object.
+    CElementoProgetto();
+    // The copy belongs to no element; it is of the same design.
+    CElementoProgetto(const CElementoProgetto& other);
+    CElementoProgetto& operator=(const CElementoProgetto&) = delete;
+    ~CElementoProgetto() override; // the element lets it go
+
+    // The design node of a section or corner, for writing too; null for an index outside. Owned by this object.
     virtual CNodoProgetto* GetNodoProgetto(int index);
     void SetSizeNodiProgetto(int size);
 
+    // Whether both come from one design of the element: then their values may take each other's place.
+    bool IsOfSameDesign(const CElementoProgetto& other) const { return m_design == other.m_design; }
+    bool HasSameValues(const CElementoProgetto& other) const { return m_nodi == other.m_nodi; }
+    void SwapValues(CElementoProgetto& other) { m_nodi.swap(other.m_nodi); }
+
   private:
+    friend class CElemento;
+    CElemento* m_owner = nullptr; // whose record this is; null for none
+    unsigned m_design;            // tells the designs of the process apart
     std::vector<CNodoProgetto> m_nodi;
 };
 

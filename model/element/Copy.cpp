@@ -5,6 +5,7 @@
 #include "model/element/Nodo.h"
 #include "model/element/Poligono.h"
 #include "model/element/PoligonoFisico.h"
+#include "model/entity/ElementoStrutturale.h"
 
 namespace {
 
@@ -92,6 +93,52 @@ std::unique_ptr<CElemento> CopyOf(CElemento& elemento) {
     Unlink(*copy);
     CopyNodeIds(elemento, *copy);
     return copy;
+}
+
+namespace {
+
+bool SameLoads(CElementoCarico& a, CElementoCarico& b) {
+    if (a.GetSizeCarichi() != b.GetSizeCarichi())
+        return false;
+    for (int i = 0; i < a.GetSizeCarichi(); ++i)
+        if (a.GetIndexIDCasoCarico(i) != b.GetIndexIDCasoCarico(i) || a.GetIndexIDCarico(i) != b.GetIndexIDCarico(i))
+            return false;
+    return true;
+}
+
+bool SameLine(CLineaFisica& a, CLineaFisica& b) {
+    return HasNodesOf(a, b) && a.GetIDMateriale() == b.GetIDMateriale() && a.GetIDSezione() == b.GetIDSezione() &&
+           a.GetBeta() == b.GetBeta();
+}
+
+bool SamePolygon(CPoligonoFisico& a, CPoligonoFisico& b) {
+    return a.GetIDMateriale() == b.GetIDMateriale() && a.GetIDSpessore() == b.GetIDSpessore();
+}
+
+} // namespace
+
+bool HasNodesOf(CElemento& elemento, CElemento& copia) {
+    auto* line = DYNAMIC_DOWNCAST(CLinea, static_cast<CObject*>(&elemento));
+    auto* copy = DYNAMIC_DOWNCAST(CLinea, static_cast<CObject*>(&copia));
+    return !line || !copy ||
+           (line->GetIDNodoIniziale() == copy->GetIDNodoIniziale() &&
+            line->GetIDNodoFinale() == copy->GetIDNodoFinale());
+}
+
+bool IsAsCopied(CElemento& elemento, CElemento& copia) {
+    CObject* const a = &elemento;
+    CObject* const b = &copia;
+    if (elemento.GetID() != copia.GetID() || elemento.GetIDRck() != copia.GetIDRck())
+        return false;
+    if (auto* entity = DYNAMIC_DOWNCAST(CElementoStrutturale, a))
+        return *entity == static_cast<CElementoStrutturale&>(*b);
+    auto* carrier = DYNAMIC_DOWNCAST(CElementoCarico, a);
+    if (carrier && !SameLoads(*carrier, static_cast<CElementoCarico&>(*b)))
+        return false;
+    if (auto* line = DYNAMIC_DOWNCAST(CLineaFisica, a))
+        return SameLine(*line, static_cast<CLineaFisica&>(*b));
+    auto* polygon = DYNAMIC_DOWNCAST(CPoligonoFisico, a);
+    return !polygon || SamePolygon(*polygon, static_cast<CPoligonoFisico&>(*b));
 }
 
 int Relink(CElemento& elemento, ModelLookup& modello) {

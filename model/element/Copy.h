@@ -26,6 +26,13 @@ class ModelLookup {
 // section and thickness by identifier. Null for a class that cannot be made by name.
 std::unique_ptr<CElemento> CopyOf(CElemento& elemento);
 
+// Whether the copy still tells what a dialog may have written directly: number, concrete class, nodes, loads, material,
+// section, thickness, beta, name and type text.
+bool IsAsCopied(CElemento& elemento, CElemento& copia);
+
+// Whether a line has the nodes that its copy names; true for what is no line.
+bool HasNodesOf(CElemento& elemento, CElemento& copia);
+
 // Turns identifiers into pointers: nodes (which list the element from then on), loads, material, section, thickness.
 // Returns 0 when something is missing; what was found is linked all the same.
 int Relink(CElemento& elemento, ModelLookup& modello);

@@ -1,5 +1,6 @@
 #include "model/element/Elemento.h"
 
+#include "model/design/ElementoProgetto.h"
 #include "model/element/ElementExtras.h"
 #include "model/view/Adv3d.h"
 #include "model/view/Adv3dRect.h"
@@ -16,7 +17,14 @@ CElemento::CElemento(const CElemento& altro)
     : CObject(altro), m_nTipo(altro.m_nTipo), m_nLunghezza(altro.m_nLunghezza), m_nForza(altro.m_nForza) {
 }
 
-CElemento::~CElemento() = default;
+CElemento::~CElemento() {
+    SetDesignOwner(nullptr);
+}
+
+void CElemento::SetDesignOwner(CElemento* owner) {
+    if (m_pExtras && m_pExtras->design)
+        m_pExtras->design->m_owner = owner;
+}
 
 ElementExtras& CElemento::MakeData() {
     if (!m_pExtras)
@@ -245,6 +253,7 @@ int CElemento::IsVisible() {
 }
 
 void CElemento::SetID(int id) {
+    BeforeWrite();
     m_nID = id;
 }
 
@@ -274,8 +283,12 @@ CElementoProgetto* CElemento::GetProgetto() {
 }
 
 void CElemento::SetProgetto(CElementoProgetto* pProgetto) {
+    SetDesignOwner(nullptr);
+    if (pProgetto && pProgetto->m_owner)
+        pProgetto->m_owner->SetProgetto(nullptr);
     if (pProgetto || m_pExtras)
         MakeData().design = pProgetto;
+    SetDesignOwner(this);
 }
 
 CElementoVerifica* CElemento::GetVerifica() {
@@ -305,6 +318,7 @@ unsigned int CElemento::GetIDRck() {
 }
 
 void CElemento::SetIDRck(unsigned int id) {
+    BeforeWrite();
     if (id || m_pExtras)
         MakeData().concreteId = id;
 }

@@ -3,6 +3,7 @@
 // demand.
 #pragma once
 
+#include "model/element/WriteWatch.h"
 #include "model/values/FPoint.h"
 #include "model/values/Units.h"
 #include "platform/core/Collections.h"
@@ -104,6 +105,12 @@ class CElemento : public CObject {
     virtual unsigned int GetTipoElemento(); // a code of TipoElemento
     virtual void SetTipoElemento(unsigned int tipo);
 
+    // To be called before anything that a dialog may write changes, here or in a record that hangs on the object.
+    void BeforeWrite() {
+        if (WriteWatch::Listening())
+            WriteWatch::Tell(*this);
+    }
+
     // Empties the array; with a non-zero flag its objects are deleted first.
     static void _DestroyArray(CObArray& array, int bElimina);
 
@@ -132,6 +139,8 @@ class CElemento : public CObject {
     void SetLinked(bool linked) { m_bLinked = linked; }
 
   private:
+    void SetDesignOwner(CElemento* owner);
+
     int m_nID = 0;
     unsigned m_nTipo : 8;
     unsigned m_nLunghezza : 4;

@@ -17,8 +17,11 @@ ElementExtras::Load* LoadAt(ElementExtras* data, int i) {
 }
 
 template <typename Predicate>
-int EraseLoads(ElementExtras* data, Predicate goes) {
-    return data ? static_cast<int>(std::erase_if(data->loads, goes)) : 0;
+int EraseLoads(CElemento& element, ElementExtras* data, Predicate goes) {
+    if (!data || data->loads.empty())
+        return 0;
+    element.BeforeWrite();
+    return static_cast<int>(std::erase_if(data->loads, goes));
 }
 
 } // namespace
@@ -38,34 +41,36 @@ int CElementoCarico::AggiornaIndexCarico(int i, CCarico* pCarico) {
 int CElementoCarico::AddCarico(CCarico* pCarico, int bUnico) {
     if (!pCarico || (bUnico && IsCarico(pCarico->GetIDCasoCarico(), pCarico->GetID(), nullptr)))
         return 0;
+    BeforeWrite();
     MakeData().loads.push_back({pCarico, pCarico->GetIDCasoCarico(), pCarico->GetID()});
     return 1;
 }
 
 int CElementoCarico::EliminaCarichi() {
-    return EraseLoads(Data(), [](const ElementExtras::Load&) { return true; });
+    return EraseLoads(*this, Data(), [](const ElementExtras::Load&) { return true; });
 }
 
 int CElementoCarico::EliminaCarico(int idCasoCarico, int idCarico) {
-    return EraseLoads(Data(),
+    return EraseLoads(*this, Data(),
                       [&](const ElementExtras::Load& l) { return l.caseId == idCasoCarico && l.loadId == idCarico; });
 }
 
 int CElementoCarico::EliminaCarico(int i) {
     if (!LoadAt(Data(), i))
         return 0;
+    BeforeWrite();
     Data()->loads.erase(Data()->loads.begin() + i);
     return 1;
 }
 
 int CElementoCarico::EliminaCaricoInsieme(int idCasoCarico, int idInsieme) {
-    return EraseLoads(Data(), [&](const ElementExtras::Load& l) {
+    return EraseLoads(*this, Data(), [&](const ElementExtras::Load& l) {
         return l.caseId == idCasoCarico && l.load && l.load->GetSetId() == idInsieme;
     });
 }
 
 int CElementoCarico::RemoveLoadsOfCase(int idCasoCarico) {
-    return EraseLoads(Data(), [&](const ElementExtras::Load& l) { return l.caseId == idCasoCarico; });
+    return EraseLoads(*this, Data(), [&](const ElementExtras::Load& l) { return l.caseId == idCasoCarico; });
 }
 
 int CElementoCarico::GetSizeCarichi() {

@@ -55,6 +55,7 @@ int CLinea::GetIDNodoFinale() {
 }
 
 int CLinea::SetNodi(CNodo* nodo1, CNodo* nodo2) {
+    BeforeWrite();
     CLinea::StaccaNodi();
     m_pNodi[0] = nodo1;
     m_pNodi[1] = nodo2;

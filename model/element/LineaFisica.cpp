@@ -9,13 +9,20 @@
 IMPLEMENT_DYNAMIC(CLineaFisica, CLinea)
 
 void CLineaFisica::SetMateriale(int id, CMateriale* pMateriale) {
+    BeforeWrite();
     m_nIDMateriale = id;
     m_pMateriale = pMateriale;
 }
 
 void CLineaFisica::SetSezione(int id, CSezione* pSezione) {
+    BeforeWrite();
     m_nIDSezione = id;
     m_pSezione = pSezione;
+}
+
+void CLineaFisica::SetBeta(double gradi) {
+    BeforeWrite();
+    m_dBeta = gradi;
 }
 
 CElemento& CLineaFisica::operator=(CElemento& altro) {

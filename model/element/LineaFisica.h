@@ -17,7 +17,7 @@ class CLineaFisica : public CLinea {
     int GetIDSezione() const { return m_nIDSezione; }
     void SetSezione(int id, CSezione* pSezione);
     double GetBeta() const { return m_dBeta; } // degrees
-    void SetBeta(double gradi) { m_dBeta = gradi; }
+    void SetBeta(double gradi);
 
     CElemento& operator=(CElemento& altro) override;
     CLineaFisica& operator=(CLineaFisica& altro) {

@@ -41,11 +41,13 @@ void CheckTwin(CPoligono& polygon, CStringArray& messaggi) {
 } // namespace
 
 void CPoligonoFisico::SetMateriale(int id, CMateriale* pMateriale) {
+    BeforeWrite();
     m_nIDMateriale = id;
     m_pMateriale = pMateriale;
 }
 
 void CPoligonoFisico::SetThickness(int id, CSpessore* pSpessore) {
+    BeforeWrite();
     m_nIDSpessore = id;
     m_pSpessore = pSpessore;
 }

@@ -68,6 +68,7 @@ CElementoStrutturale& CElementoStrutturale::operator=(CElementoStrutturale& altr
 CElemento& CElementoStrutturale::operator=(CElemento& altro) {
     if (this == &altro)
         return *this;
+    BeforeWrite();
     CElemento::operator=(altro);
     if (const auto* entity = DYNAMIC_DOWNCAST(CElementoStrutturale, &altro)) {
         m_strNome = entity->m_strNome;
@@ -86,6 +87,7 @@ CString CElementoStrutturale::GetTipo() {
 }
 
 void CElementoStrutturale::SetTipo(CString tipo) {
+    BeforeWrite();
     m_strTipo = std::move(tipo);
 }
 
@@ -99,6 +101,7 @@ void CElementoStrutturale::GetNome(CString** ppNome) {
 }
 
 void CElementoStrutturale::SetNome(CString nome) {
+    BeforeWrite();
     m_strNome = std::move(nome);
 }
 

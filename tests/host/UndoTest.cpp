@@ -1,5 +1,8 @@
 // Undo and redo: exact, one step per command, whatever the bracketing.
 #include "host/document/HostDocument.h"
+#include "model/design/ElementoProgetto.h"
+#include "model/element/Asta.h"
+#include "model/element/Setto.h"
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Combinazione.h"
@@ -161,6 +164,205 @@ TEST_F(UndoTest, ModifiedFollowsTheSavedState) {
     // Another change in the place of the saved one is not the saved one.
     m_document.GenNodi2Punti({70, 0, 0}, {80, 0, 0}, 6);
     EXPECT_TRUE(m_document.IsModified());
+}
+
+class CodesTest : public UndoTest, public DocumentObserver {
+  protected:
+    ~CodesTest() override { m_document.RemoveObserver(this); }
+    void OnDocumentUpdate(CView*, long hint, CObject*) override { m_codes.push_back(hint); }
+    std::vector<long> CodesOf(const std::function<void()>& command) {
+        m_codes.clear();
+        command();
+        return m_codes;
+    }
+    // The command sends these, and so do its undo and its redo.
+    void Expect(const char* what, const std::function<void()>& command, const std::vector<long>& codes) {
+        EXPECT_EQ(CodesOf(command), codes) << what;
+        for (int round = 0; round < 2; ++round) {
+            EXPECT_EQ(CodesOf([this] { m_document.Undo().Undo(); }), codes) << what << ", undone";
+            EXPECT_EQ(CodesOf([this] { m_document.Undo().Redo(); }), codes) << what << ", redone";
+        }
+    }
+
+    std::vector<long> m_codes;
+};
+
+// As a dialog divides a line: everything but the nodes and the new elements is written directly.
+void Divide(HostDocument& document, CTrave& line, int parts) {
+    CNodo* const last = line.GetNodoFinale();
+    CNodo* before = line.GetNodoIniziale();
+    CFPoint axis;
+    line.GetDir(axis, 0);
+    const double step = line.GetLunghezzaLinea() / parts;
+    const CFPoint from = *before->GetPunto();
+    document.m_pUndo->BeginUndo(UNDO_DIVIDI, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
+    document.UpdateAllViews(nullptr, MODIFICA_ELEMENTI_INIZIO);
+    for (int i = 1; i <= parts; ++i) {
+        CFPoint place = from + axis * (step * i);
+        CNodo* node = i < parts ? document.AddNodo(place, nullptr, 1) : last;
+        if (i == 1) {
+            line.SetNodi(before, node);
+        } else {
+            CTrave* part = document.AddTrave(before->GetID(), node->GetID(), nullptr);
+            part->SetMateriale(line.GetIDMateriale(), line.GetMateriale());
+            part->SetSezione(line.GetIDSezione(), line.GetSezione());
+            for (int k = 0; k < line.GetSizeCarichi(); ++k)
+                part->AddCarico(line.GetIndexCarico(k), 1);
+        }
+        before = node;
+    }
+    document.UpdateAllViews(nullptr, MODIFICA_ELEMENTI_VISTE);
+    document.UpdateAllViews(nullptr, MODIFICA_STRUTTURA);
+    document.m_pUndo->EndUndo(UNDO_DIVIDI);
+}
+
+// Catches windows that go on showing what was undone.
+TEST_F(CodesTest, UndoAndRedoSendWhatTheChangeSent) {
+    HostSelection& selection = m_document.Selection();
+    m_document.AddObserver(this);
+    const long model = MODIFICA_STRUTTURA, lengths = MODIFICA_LUNGHEZZE;
+    Expect("nodes", [&] { m_document.GenNodiLineare({0, 0, 20}, {1, 0, 20}, 0.5, 10); }, {model});
+    Expect("beam", [&] { m_document.AddTrave(1, 18, nullptr); }, {model});
+    m_document.SelectAll();
+    Expect("move", [&] { selection.TraslaSelezione(0.1, 0.2, 0.3, 0, 0); }, {model, lengths});
+    Expect("rotate", [&] { selection.RuotaSelezione(0, 0, 0, 1, 1, 1, 37, 0, 0); }, {model, lengths});
+    Expect("group", [&] { m_document.CreateGroup("Tutto"); }, {model, MODIFICA_GRUPPI});
+    Expect("no group", [&] { m_document.EliminaGruppo(0); }, {model, MODIFICA_GRUPPI});
+    Expect("units", [&] { m_document.ChangeUnits(Lunghezza::Inches, Forza::Kips); }, {model, lengths, MODIFICA_UNITA});
+    Expect("divided", [&] { Divide(m_document, *m_document.GetIndexTrave(3), 4); },
+           {MODIFICA_ELEMENTI_INIZIO, MODIFICA_ELEMENTI_VISTE, model, model, lengths});
+    CCasoCarico* loadCase = m_document.GetIndexCasoCarico(1);
+    Expect("rename",
+           [&] {
+               loadCase->SetNome("Altro");
+               m_document.UpdateAllViews(nullptr, MODIFICA_CASI_CARICO);
+           },
+           {MODIFICA_CASI_CARICO, model});
+    Expect("current case", [&] { m_document.EliminaCasoCarico(m_document.Data().CurrentCase()); },
+           {model, MODIFICA_RISULTATI_CASO});
+    CElementoProgetto design;
+    design.SetSizeNodiProgetto(15);
+    m_document.GetIndexTrave(0)->SetProgetto(&design);
+    unsigned long beam = MODIFICA_PROGETTO_TRAVE;
+    CQuovarGlobal::_SetInformazioniAggiuntive(beam, 1);
+    Expect("reinforcement",
+           [&] {
+               design.GetNodoProgetto(0)->GetArm(0).SetValue(3);
+               m_document.UpdateAllViews(nullptr, static_cast<long>(beam));
+           },
+           {static_cast<long>(beam), model, MODIFICA_PROGETTO | PROGETTO_TRAVI});
+}
+
+// Catches what a dialog writes that no step knows: a divided line would end at a node that is gone.
+TEST_F(UndoTest, DirectWritesBelongToTheirBracket) {
+    CTrave& line = *m_document.GetIndexTrave(3); // with loads
+    ExpectExact("division", [&] { Divide(m_document, line, 3); });
+    ExpectExact("written before what it is written with", [&] {
+        const UndoStep step(m_document.Undo(), "Prova");
+        line.SetSezione(0, nullptr);
+        CFPoint place(1, 2, 77);
+        line.SetNodi(line.GetNodoIniziale(), m_document.AddNodo(place, nullptr, 1));
+        m_document.GetIndexSetto(0)->SetMateriale(0, nullptr);
+        m_document.MoveNodes({{line.GetNodoFinale(), {1, 2, 78}}});
+        line.SetBeta(12);
+        m_document.Remove({m_document.GetIndexAsta(0)});
+    });
+    ExpectExact("an exception on the way", [&] {
+        try {
+            const UndoStep step(m_document.Undo(), "Prova");
+            line.EliminaCarichi();
+            throw 1;
+        } catch (int) {
+        }
+    });
+    const std::size_t steps = m_document.Undo().UndoCount();
+    m_document.Undo().Begin("Niente");
+    line.SetBeta(line.GetBeta());
+    m_document.Undo().End();
+    EXPECT_EQ(m_document.Undo().UndoCount(), steps) << "the same value is no change";
+}
+
+// Outside brackets the code ends the step, however many turns of the loop the typing takes.
+TEST_F(UndoTest, DirectWritesWaitForTheirCode) {
+    m_document.SetIdleScheduler([] {});
+    m_document.MarkSaved();
+    CElementoProgetto design;
+    design.SetSizeNodiProgetto(15);
+    CTrave& beam = *m_document.GetIndexTrave(0);
+    beam.SetProgetto(&design);
+    const auto arm = [&]() -> CGrandezza& { return beam.GetProgetto()->GetNodoProgetto(3)->GetArm(1); };
+    const auto send = [&] { m_document.UpdateAllViews(nullptr, MODIFICA_PROGETTO_TRAVE); };
+    arm();
+    send();
+    EXPECT_FALSE(m_document.Undo().CanUndo()) << "read only";
+    for (const double typed : {1.0, 12.0, 12.5}) {
+        arm().SetValue(typed);
+        m_document.Idle();
+        EXPECT_TRUE(m_document.IsModified());
+    }
+    send();
+    EXPECT_EQ(m_document.Undo().UndoCount(), 1u);
+    EXPECT_EQ(m_document.Undo().UndoName(), "Modifica armatura");
+    arm().SetValue(7);
+    m_document.SetTolerance(0.5); // another step, before its code
+    EXPECT_EQ(m_document.Undo().UndoCount(), 2u);
+    m_document.Undo().Undo();
+    m_document.Undo().Undo();
+    EXPECT_EQ(arm().GetValue(), 12.5);
+    m_document.Undo().Undo();
+    EXPECT_EQ(arm().GetValue(), 0);
+    EXPECT_FALSE(m_document.IsModified());
+    m_document.Undo().Redo();
+    EXPECT_EQ(arm().GetValue(), 12.5);
+    CElementoProgetto anew; // values of the former design have no place in it
+    anew.SetSizeNodiProgetto(15);
+    beam.SetProgetto(&anew);
+    m_document.Undo().Undo();
+    EXPECT_EQ(arm().GetValue(), 0);
+    EXPECT_FALSE(design.GetNodoProgetto(3)->GetArm(1).GetValue() != 12.5);
+    beam.SetProgetto(nullptr);
+    m_document.Undo().Redo();
+}
+
+TEST_F(UndoTest, NumbersAndRecordsComeBack) {
+    CCasoCarico* loadCase = m_document.GetIndexCasoCarico(2);
+    const int id = loadCase->GetID();
+    ExpectExact("number", [&] {
+        const UndoStep step(m_document.Undo(), "Prova");
+        loadCase->SetID(id + 70);
+        EXPECT_NE(m_document.CreaCasoCarico()->GetID(), id + 70);
+    });
+    EXPECT_EQ(m_document.Find(Kind::LoadCase, id + 70), loadCase);
+    loadCase->SetID(m_document.GetIndexCasoCarico(0)->GetID());
+    m_document.UpdateAllViews(nullptr, MODIFICA_CASI_CARICO);
+    EXPECT_EQ(loadCase->GetID(), id + 70) << "a number that is taken";
+
+    m_document.MarkSaved();
+    const std::size_t steps = m_document.Undo().UndoCount();
+    {
+        const UndoStep step(m_document.Undo(), "Opzioni analisi");
+        m_document.m_pAnalisi->m_bAnalisiModale = 1;
+        m_document.Data().Info().notes = "Nota";
+    }
+    EXPECT_EQ(m_document.Undo().UndoCount(), steps + 1);
+    EXPECT_TRUE(m_document.IsModified());
+    m_document.Data().Info().author = "Io"; // without a bracket or a code
+    EXPECT_TRUE(m_document.Undo().Undo());
+    EXPECT_TRUE(m_document.Data().Info().author.IsEmpty());
+    EXPECT_EQ(m_document.Data().Info().notes, "Nota");
+    EXPECT_TRUE(m_document.Undo().Undo());
+    EXPECT_EQ(m_document.m_pAnalisi->m_bAnalisiModale, 0);
+    EXPECT_FALSE(m_document.IsModified());
+    m_document.Undo().Redo();
+    EXPECT_EQ(m_document.m_pAnalisi->m_bAnalisiModale, 1);
+
+    m_document.MarkSaved();
+    m_document.SetModifiedFlag(); // by a dialog
+    m_document.Undo().Undo();
+    m_document.Undo().Redo();
+    EXPECT_TRUE(m_document.IsModified());
+    m_document.MarkSaved();
+    EXPECT_FALSE(m_document.IsModified());
 }
 
 // With a scheduler, what happens before control is back in the loop is one step and one notification.
