@@ -59,6 +59,7 @@ void CDialogDiagrammi::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CDialogDiagrammi::OnInitDialog() {
     CDialogDocument::OnInitDialog();
+    m_wndDiagramma.SetWindowText(""); // the template's word would show wherever nothing is drawn over it
     RiposizionaDiagramma();
     Update(nullptr, 0, nullptr);
     return TRUE;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <future>
 
 namespace host {
@@ -92,6 +93,7 @@ class CaseAnalysis {
             m_loads.lines[i].SetEndForces(ends);
         }
         results.lines = LineResults(m_loads.lines, former.empty() ? nullptr : &former.front().lines);
+        results.scale = ScaleOf(m_loads.lines);
         results.displacements.resize(m_model.nodes.size());
         for (std::size_t i = 0; i < m_model.nodes.size(); ++i)
             std::copy_n(displacements.data() + 6 * i, 6, results.displacements[i].begin());
@@ -277,9 +279,17 @@ CaseResults EmptySum(const CaseResults& alike, std::vector<CTraveRisultati>& lin
 
 } // namespace
 
+CTraveRisultati::Scale ScaleOf(const std::vector<CTraveRisultati>& lines) {
+    CTraveRisultati::Scale scale;
+    for (const CTraveRisultati& line : lines)
+        scale.Widen(line.GetScale());
+    return scale;
+}
+
 CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& cases) {
     CaseResults sum;
     std::vector<CTraveRisultati> lines;
+    CTraveRisultati record;
     if (!cases.empty())
         sum = EmptySum(cases.front(), lines);
     sum.id = combination.GetID();
@@ -287,11 +297,14 @@ CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& 
         double factor = 0;
         if (!combination.GetFattoreCDC(combination.GetIndexCDC(each.id), factor))
             continue;
+        sum.scale.Widen(each.scale, std::abs(factor));
         for (std::size_t i = 0; i < sum.displacements.size(); ++i)
             for (std::size_t j = 0; j < 6; ++j)
                 sum.displacements[i][j] += factor * each.displacements[i][j];
-        for (std::size_t i = 0; i < lines.size(); ++i)
-            lines[i].Sum(each.lines[i], factor);
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            each.lines.Read(i, record);
+            lines[i].Sum(record, factor);
+        }
         for (std::size_t i = 0; i < sum.reactions.size(); ++i)
             for (std::size_t j = 0; j < 6; ++j)
                 sum.reactions[i].values[j] += factor * each.reactions[i].values[j];

@@ -28,6 +28,7 @@ struct CaseResults {
     std::vector<std::array<double, 6>> displacements; // by node, in document order; radians for the last three
     LineResults lines;                                // beams, then truss members, in document order
     std::vector<Reaction> reactions;                  // of the nodes with a restraint or a spring
+    CTraveRisultati::Scale scale;                     // by the largest force of the case; of a sum, of its summands
 };
 
 struct AnalysisOutcome {
@@ -38,6 +39,9 @@ struct AnalysisOutcome {
 
 // Analyses every load case, under the host's wait bar; changes nothing in the document. Throws std::bad_alloc.
 AnalysisOutcome Analyse(DocumentData& data);
+
+// By the largest force of all lines.
+CTraveRisultati::Scale ScaleOf(const std::vector<CTraveRisultati>& lines);
 
 // The sum of the combination's cases times their factors. A case without results counts as 0.
 CaseResults Combine(CCombinazione& combination, const std::vector<CaseResults>& cases);

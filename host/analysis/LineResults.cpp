@@ -31,6 +31,12 @@ class Numbers {
     std::unordered_map<std::string, std::uint32_t> m_numbers;
 };
 
+// The other one instead, when it says the same.
+template <class T>
+std::shared_ptr<const T> Share(T mine, const std::shared_ptr<const T>& other) {
+    return other && *other == mine ? other : std::make_shared<const T>(std::move(mine));
+}
+
 } // namespace
 
 LineResults::LineResults(const std::vector<CTraveRisultati>& lines, const LineResults* alike) {
@@ -39,6 +45,7 @@ LineResults::LineResults(const std::vector<CTraveRisultati>& lines, const LineRe
     m_ends.resize(lines.size());
     Numbers distributed(m_distributed);
     Numbers points(m_points);
+    Loads onStretches, onPoints;
     const auto enter = [&lines](Loads& its, std::size_t i, std::uint32_t number) {
         its.first.resize(lines.size() + 1);
         its.numbers.push_back(number);
@@ -52,23 +59,30 @@ LineResults::LineResults(const std::vector<CTraveRisultati>& lines, const LineRe
         for (CTraveRisultati::Distributed load : line.GetDistributed()) {
             if (load.a == line.GetLunghezzaLinea())
                 load.a = wholeLine;
-            enter(m_onStretches, i, distributed.Of(load));
+            enter(onStretches, i, distributed.Of(load));
         }
         for (const CTraveRisultati::PointForce& load : line.GetPointForces())
-            enter(m_onPoints, i, points.Of(load));
+            enter(onPoints, i, points.Of(load));
     }
-    for (Loads* its : {&m_onStretches, &m_onPoints}) {
+    for (Loads* its : {&onStretches, &onPoints}) {
         for (std::size_t i = 1; i < its->first.size(); ++i) // lines without loads end where the one before does
             its->first[i] = std::max(its->first[i], its->first[i - 1]);
         its->numbers.shrink_to_fit();
     }
-    const bool same = alike && alike->m_lines && *alike->m_lines == known;
-    m_lines = same ? alike->m_lines : std::make_shared<const std::vector<Line>>(std::move(known));
+    m_lines = Share(std::move(known), alike ? alike->m_lines : nullptr);
+    m_onStretches = Share(std::move(onStretches), alike ? alike->m_onStretches : nullptr);
+    m_onPoints = Share(std::move(onPoints), alike ? alike->m_onPoints : nullptr);
 }
 
 CTraveRisultati LineResults::operator[](std::size_t index) const {
-    const Line& line = (*m_lines)[index];
     CTraveRisultati record;
+    Read(index, record);
+    return record;
+}
+
+void LineResults::Read(std::size_t index, CTraveRisultati& record) const {
+    const Line& line = (*m_lines)[index];
+    record.RemoveCarichi();
     record.SetID(line.id);
     record.SetLineLength(line.length);
     for (std::size_t k = 0; k < 12; ++k)
@@ -78,14 +92,13 @@ CTraveRisultati LineResults::operator[](std::size_t index) const {
             for (std::uint32_t at = its.first[index]; at < its.first[index + 1]; ++at)
                 action(its.numbers[at]);
     };
-    each(m_onStretches, [&](std::uint32_t number) {
+    each(*m_onStretches, [&](std::uint32_t number) {
         CTraveRisultati::Distributed load = m_distributed[number];
         if (load.a == wholeLine)
             load.a = line.length;
         record.AddCarico(load);
     });
-    each(m_onPoints, [&](std::uint32_t number) { record.AddCarico(m_points[number]); });
-    return record;
+    each(*m_onPoints, [&](std::uint32_t number) { record.AddCarico(m_points[number]); });
 }
 
 std::vector<CTraveRisultati> LineResults::All() const {

@@ -21,6 +21,8 @@ class LineResults {
     std::size_t size() const { return m_ends.size(); }
     bool empty() const { return m_ends.empty(); }
     CTraveRisultati operator[](std::size_t index) const;
+    // The same in a record that is there already: for many lines, one after the other.
+    void Read(std::size_t index, CTraveRisultati& record) const;
     std::vector<CTraveRisultati> All() const;
 
   private:
@@ -33,11 +35,12 @@ class LineResults {
     // any.
     struct Loads {
         std::vector<std::uint32_t> first, numbers;
+        bool operator==(const Loads&) const = default;
     };
 
     std::shared_ptr<const std::vector<Line>> m_lines;
     std::vector<std::array<double, 12>> m_ends; // both records of internal forces
-    Loads m_onStretches, m_onPoints;
+    std::shared_ptr<const Loads> m_onStretches, m_onPoints;
     std::vector<CTraveRisultati::Distributed> m_distributed; // what acts on a whole line ends at infinity
     std::vector<CTraveRisultati::PointForce> m_points;
 };

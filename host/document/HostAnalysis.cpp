@@ -90,6 +90,8 @@ int HostAnalysis::LeggiRisultati(int idCaso, CObArray& out, int) {
     if (!results)
         return 0;
     for (std::size_t i = 0; i < results->lines.size(); ++i)
+    for (CTraveRisultati& record : records)
+        record.SetCaseScale(results->scale);
         out.Add(new CTraveRisultati(results->lines[i]));
     return 1;
 }
@@ -132,3 +134,4 @@ int HostAnalysis::RipristinaRisultati() {
 }
 
 } // namespace host
+    results->scale = ScaleOf(records);

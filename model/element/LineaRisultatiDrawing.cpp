@@ -57,10 +57,9 @@ std::vector<DiagramStretch> JoinRecords(CLineaRisultati& line, const Quantity& q
     return pieces;
 }
 
-// A moment counts as a force at the length of the line.
-double LargestForce(CLineaRisultati& line) {
+CTraveRisultati::Scale ScaleOf(CLineaRisultati& line) {
     if (const CTraveRisultati* results = line.GetLineResults())
-        return results->GetLargestForce();
+        return results->GetScale();
     const CElementoRisultati& records = *line.GetRisultati();
     double force = 0, moment = 0;
     for (int i = 0; i < records.GetNodeResultCount(); ++i) {
@@ -70,11 +69,12 @@ double LargestForce(CLineaRisultati& line) {
             moment = std::max(moment, std::abs(record.GetIndex(k + 3)));
         }
     }
-    return std::max(force, moment / line.GetLunghezzaLinea());
+    const double length = line.GetLunghezzaLinea();
+    return {std::max(force, moment / length), std::max(moment, force * length)};
 }
 
 // Empty when the section lacks what the force is divided by.
-DiagramCurve CurveOf(CLineaRisultati& line, const Quantity& quantity, double force) {
+DiagramCurve CurveOf(CLineaRisultati& line, const Quantity& quantity, const CTraveRisultati::Scale& scale) {
     const double divisor = DivisorOf(line, quantity), length = line.GetLunghezzaLinea();
     std::vector<DiagramStretch> pieces;
     if (divisor == 0)
@@ -84,20 +84,21 @@ DiagramCurve CurveOf(CLineaRisultati& line, const Quantity& quantity, double for
     else
         pieces = JoinRecords(line, quantity, divisor);
     DiagramCurve curve(std::move(pieces));
-    // What the solution of the equations leaves of a force that is not there would fill its panel like any other.
-    constexpr double noise = 1e-10;
-    const double smallest = noise * force * (quantity.record < 3 ? 1 : length) / divisor;
+    // What the solution of the equations leaves of a force that is not there would fill its panel like any other: below
+    // a billionth of the largest one of the case it is none.
+    constexpr double noise = 1e-9;
+    const double smallest = noise * (quantity.record < 3 ? scale.force : scale.moment) / divisor;
     return curve.Largest() > smallest ? curve : DiagramCurve({{0, length, {}}});
 }
 
 std::vector<Diagram> DiagramsOf(CLineaRisultati& line, const int (&wanted)[9]) {
     std::vector<Diagram> diagrams;
-    const double force = LargestForce(line);
+    const CTraveRisultati::Scale scale = ScaleOf(line);
     for (int i = 0; i < 9; ++i)
         if (wanted[i]) {
             const Quantity& each = quantities[i];
             const CGrandezza unit(0, each.lengthPower, 1, line.GetLunghezza(), line.GetForza());
-            diagrams.push_back({each.kind, unit.GetUnitText(), CurveOf(line, each, force)});
+            diagrams.push_back({each.kind, unit.GetUnitText(), CurveOf(line, each, scale)});
         }
     return diagrams;
 }

@@ -53,7 +53,8 @@ double Shown(double value, double largest) {
     return std::abs(value) <= 1e-9 * largest ? 0 : value;
 }
 
-CString LabelText(double value) {
+CString ValueText(double value, double largest) {
+    value = Shown(value, largest);
     const double size = std::abs(value);
     CString text;
     if (size >= 1e6 || (size < 1e-3 && size > 0))
@@ -62,12 +63,6 @@ CString LabelText(double value) {
         text.Format("%.1f", value);
     else
         text.Format("%.4g", value);
-    return text;
-}
-
-CString ReadingText(double value, double largest) {
-    CString text;
-    text.Format("%.5g", Shown(value, largest));
     return text;
 }
 
@@ -274,7 +269,8 @@ bool DiagramSheet::DrawLabel(const Panel& panel, const DiagramCurve::Point& peak
     return false;
 }
 
-// The largest value first, then the others by size: where there is no room left, the smallest go without.
+// The largest value first, wherever it must stand, then the others by size until one finds no room: those that are left
+// out are smaller than all that are shown.
 void DiagramSheet::DrawLabels(const Panel& panel) {
     std::vector<DiagramCurve::Point> peaks = panel.diagram->curve.Peaks();
     const auto larger = [](const auto& a, const auto& b) { return std::abs(a.value) > std::abs(b.value); };
@@ -286,12 +282,10 @@ void DiagramSheet::DrawLabels(const Panel& panel) {
     }
     m_firstLabel = static_cast<std::ptrdiff_t>(m_labels.size()) - 1; // the panel's title
     m_dc.SetTextColor(panel.color);
-    for (DiagramCurve::Point& peak : peaks) {
-        peak.value = Shown(peak.value, panel.diagram->curve.Largest());
-        const CString text = LabelText(peak.value);
-        const bool free = DrawLabel(panel, peak, text, false);
-        if (!free && &peak == peaks.data())
-            DrawLabel(panel, peak, text, true);
+    for (const DiagramCurve::Point& peak : peaks) {
+        const CString text = ValueText(peak.value, panel.diagram->curve.Largest());
+        if (!DrawLabel(panel, peak, text, false) && (&peak != peaks.data() || !DrawLabel(panel, peak, text, true)))
+            return;
     }
 }
 
@@ -346,13 +340,13 @@ void DiagramSheet::DrawValue(const Panel& panel, double x) {
     const DiagramCurve& curve = panel.diagram->curve;
     const double largest = curve.Largest(), halfPixel = m_line.length / (panel.right - panel.left) / 2;
     double values[2] = {curve.Value(x), 0};
-    CString text = ReadingText(values[0], largest);
+    CString text = ValueText(values[0], largest);
     int count = 1;
     double jump;
     if (curve.FindJump(x - halfPixel, x + halfPixel, jump)) {
         values[0] = curve.Value(jump, -1);
         values[1] = curve.Value(jump, 1);
-        text = ReadingText(values[0], largest) + " / " + ReadingText(values[1], largest);
+        text = ValueText(values[0], largest) + " / " + ValueText(values[1], largest);
         count = 2;
     }
     const int hair = PixelX(panel, x);

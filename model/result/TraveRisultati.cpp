@@ -33,6 +33,28 @@ void Resultant(const CTraveRisultati::Distributed& load, int axis, double x, dou
     moment += s * s * (q / 2 + slope * s / 6) + sum * (x - load.da - s);
 }
 
+void AddUp(CTraveRisultati::Distributed& sum, const CTraveRisultati::Distributed& load) {
+    for (int i = 0; i < 3; ++i) {
+        sum.inizio[i] += load.inizio[i];
+        sum.fine[i] += load.fine[i];
+    }
+}
+
+void AddUp(CTraveRisultati::PointForce& sum, const CTraveRisultati::PointForce& load) {
+    for (int i = 0; i < 3; ++i) {
+        sum.force[i] += load.force[i];
+        sum.moment[i] += load.moment[i];
+    }
+}
+
+bool AtOnePlace(const CTraveRisultati::Distributed& a, const CTraveRisultati::Distributed& b) {
+    return a.da == b.da && a.a == b.a;
+}
+
+bool AtOnePlace(const CTraveRisultati::PointForce& a, const CTraveRisultati::PointForce& b) {
+    return a.x == b.x;
+}
+
 template <class Loads>
 void AppendScaled(Loads& to, const Loads& from, double factor) {
     for (auto load : from) {
@@ -47,7 +69,14 @@ void AppendScaled(Loads& to, const Loads& from, double factor) {
                 load.moment[i] *= factor;
             }
         }
-        to.push_back(load);
+        // Looked for among a few only: it saves room where lines carry the same loads in every case, as most do.
+        constexpr std::ptrdiff_t few = 16;
+        const auto last = to.begin() + std::min<std::ptrdiff_t>(few, std::distance(to.begin(), to.end()));
+        const auto there = std::find_if(to.begin(), last, [&load](const auto& each) { return AtOnePlace(each, load); });
+        if (there == last)
+            to.push_back(load);
+        else
+            AddUp(*there, load);
     }
 }
 
@@ -87,6 +116,11 @@ void CTraveRisultati::SetEndForces(const double (&forze)[12]) {
     }
 }
 
+void CTraveRisultati::RemoveCarichi() {
+    m_distributed.clear();
+    m_pointForces.clear();
+}
+
 double CTraveRisultati::GetLargestForce() const {
     double largest = 0;
     if (!(m_dLunghezza > 0))
@@ -109,6 +143,18 @@ double CTraveRisultati::GetLargestForce() const {
     return largest;
 }
 
+void CTraveRisultati::Scale::Widen(const Scale& other, double factor) {
+    force = std::max(force, factor * other.force);
+    moment = std::max(moment, factor * other.moment);
+}
+
+CTraveRisultati::Scale CTraveRisultati::GetScale() const {
+    const double largest = GetLargestForce();
+    Scale scale{largest, largest * m_dLunghezza};
+    scale.Widen(m_caseScale);
+    return scale;
+}
+
 void CTraveRisultati::Sum(const CTraveRisultati& altro, double fattore) {
     for (int end = 0; end < 2; ++end)
         for (int i = 0; i < 6; ++i)
@@ -122,8 +168,21 @@ void CTraveRisultati::Sum(const CTraveRisultati& altro, double fattore) {
 
 double CTraveRisultati::GetInternalForce(int tipo, double x, Side lato) const {
     const int which = Component(tipo);
-    if (which < 0)
+    return which < 0 ? 0 : GetBalancedForce(which, x, lato) + x * GetGrowth(which);
+}
+
+// What equilibrium lacks at the second end, per length; what rounding leaves is nothing.
+double CTraveRisultati::GetGrowth(int which) const {
+    constexpr double rounding = 1e-6;
+    if (!(m_dLunghezza > 0))
         return 0;
+    const double missing = GetNodeResults(1)->GetIndex(which) - GetBalancedForce(which, m_dLunghezza, After);
+    const double largest = GetLargestForce() * (which < 3 ? 1 : m_dLunghezza);
+    return std::abs(missing) > rounding * largest ? missing / m_dLunghezza : 0;
+}
+
+// From the first end on, by equilibrium.
+double CTraveRisultati::GetBalancedForce(int which, double x, Side lato) const {
     const CNodoRisultati& first = *GetNodeResults(0);
     const bool bending = which > 3;
     const int axis = bending ? BendingAxis(which) : which;
@@ -233,7 +292,11 @@ std::vector<DiagramStretch> CTraveRisultati::GetDiagram(int tipo) const {
     places.erase(std::unique(places.begin(), places.end()), places.end());
     pieces.reserve(places.size() - 1);
     DiagramWalk walk(*this, which);
-    for (std::size_t i = 0; i + 1 < places.size(); ++i)
-        pieces.push_back(walk.Next(places[i], places[i + 1]));
+    const double growth = GetGrowth(which);
+    for (std::size_t i = 0; i + 1 < places.size(); ++i) {
+        DiagramStretch& piece = pieces.emplace_back(walk.Next(places[i], places[i + 1]));
+        piece.c[0] += growth * piece.da;
+        piece.c[1] += growth;
+    }
     return pieces;
 }

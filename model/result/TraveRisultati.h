@@ -1,4 +1,6 @@
-// Results of one line: internal forces that are exact at every place, not only where the analysis stored them.
+// Results of one line: internal forces that are exact at every place, not only where the analysis stored them. Both
+// ends are as stored: where equilibrium leads elsewhere from the first to the second, as with results of a dynamic case
+// whose sign was changed at one end, what is missing grows evenly along the line.
 //
 // Signs, in the line's local axes: N is tension; V2, V3 and T are what the part beyond the place acts with on the part
 // before it, along axes 2, 3 and 1; M2 and M3 are positive when they stretch the side that axis 3, or 2, points away
@@ -46,14 +48,25 @@ class CTraveRisultati : public CElementoRisultati {
 
     void AddCarico(const Distributed& carico) { m_distributed.push_back(carico); }
     void AddCarico(const PointForce& carico) { m_pointForces.push_back(carico); }
+    void RemoveCarichi();
     const std::vector<Distributed>& GetDistributed() const { return m_distributed; }
     const std::vector<PointForce>& GetPointForces() const { return m_pointForces; }
 
-    // What the sizes of the forces are to be judged by: the largest on the ends or between them, a moment counting as a
-    // force at the length of the line. 0 for a line without length.
-    double GetLargestForce() const;
+    // What the sizes of forces and moments are judged by. A moment counts as a force at the length of its line, and
+    // the other way round.
+    struct Scale {
+        double force = 0;
+        double moment = 0;
 
-    // Adds another case's results of the same line, times a factor: that is how combinations are made.
+        void Widen(const Scale& other, double factor = 1);
+    };
+    // Of the case, when that was told, otherwise of this line alone: the largest on the ends or between them. 0 for a
+    // line without length.
+    Scale GetScale() const;
+    void SetCaseScale(const Scale& scale) { m_caseScale = scale; }
+
+    // Adds another case's results of the same line, times a factor: that is how combinations are made. Loads at one
+    // place become one.
     void Sum(const CTraveRisultati& altro, double fattore);
 
     // N, V2, V3, T, M2 or M3 (kinds of CElementoSettings) at a length x from the first node; 0 for any other kind.
@@ -63,7 +76,12 @@ class CTraveRisultati : public CElementoRisultati {
     std::vector<DiagramStretch> GetDiagram(int tipo) const;
 
   private:
+    double GetLargestForce() const;
+    double GetBalancedForce(int which, double x, Side lato) const;
+    double GetGrowth(int which) const;
+
     double m_dLunghezza = 0;
+    Scale m_caseScale;
     std::vector<Distributed> m_distributed;
     std::vector<PointForce> m_pointForces;
 };

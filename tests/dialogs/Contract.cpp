@@ -105,6 +105,53 @@ void ContractFields::ClickOtherChoices(DialogDriver& driver) const {
             driver.Click(control.id);
 }
 
+void ContractFields::ClickEverything(DialogDriver& driver) const {
+    for (const Control& control : m_controls) {
+        if (control.kind == Control::Kind::ListBox)
+            for (int row = 0; row < static_cast<int>(driver.Rows(control.id).size()); ++row)
+                driver.ClickRow(control.id, row);
+        if (control.kind == Control::Kind::Custom && std::string_view(control.className) == WC_TREEVIEW) {
+            driver.SetFocus(control.id);
+            driver.Press({VK_DOWN, VK_SPACE});
+            DialogDriver::Wait(150); // what the key did is read later
+        }
+    }
+    for (const Control& control : m_controls)
+        if (control.kind == Control::Kind::Button && control.id > IDCANCEL && driver.Enabled(control.id))
+            driver.Click(control.id);
+}
+
+void ContractFields::ExpectNoPlaceholder(const DialogDriver& driver) const {
+    for (const Control& control : m_controls) {
+        if (control.kind == Control::Kind::Static && control.image == 0 && control.id > 0) {
+            EXPECT_NE(driver.Text(control.id), "Static") << control.id;
+        }
+    }
+}
+
+void HoldNothing(RecordingHost& host) {
+    const auto hold = [](auto& list) {
+        list.push_back(nullptr);
+        list.push_back(std::make_unique<typename std::decay_t<decltype(list)>::value_type::element_type>());
+        list.back()->SetID(1);
+        list.push_back(nullptr);
+        return list[1].get();
+    };
+    RecordingDoc& doc = host.doc;
+    for (CElemento* element : std::initializer_list<CElemento*>{hold(doc.nodi), hold(doc.travi), hold(doc.aste),
+                                                                hold(doc.setti), hold(doc.solai)})
+        doc.selected.AddTail(element);
+    hold(doc.casi);
+    hold(doc.combinazioni);
+    hold(doc.gruppi);
+    hold(doc.materiali);
+    hold(doc.sezioni);
+    hold(doc.spessori);
+    doc.analisi.m_bRisultatiValidi = 1;
+    doc.view = nullptr;
+    host.hasFrame = host.createsCases = false;
+}
+
 void ContractFields::RefusesTexts(DialogDriver& driver, UserScript& user, const std::set<int>& whole,
                                   const std::set<int>& texts, const std::function<void()>& refused) const {
     for (const Control& control : m_controls) {

@@ -32,6 +32,10 @@ class ContractFields {
     void SetTexts(DialogDriver& driver, const std::string& text) const;
     void SpoilTexts(DialogDriver& driver) const;        // none is a number any more
     void ClickOtherChoices(DialogDriver& driver) const; // radio buttons and check boxes that are not checked
+    // Every row of the lists, every button but OK and Cancel.
+    void ClickEverything(DialogDriver& driver) const;
+    // The text that a template has where the dialog writes its own must have gone.
+    void ExpectNoPlaceholder(const DialogDriver& driver) const;
 
     // Calls `refused` after each edit that got a text which is no number, with its message declared; the edit must have
     // kept the text and have the focus. `whole` holds whole numbers, `texts` takes any text.

@@ -187,6 +187,7 @@ TEST_P(EveryModalDialog, CancelChangesNothing) {
         m_user.WhenDialogOpens([&](DialogDriver& driver) {
             EXPECT_EQ(driver.Caption(), GetParam().caption);
             EXPECT_EQ(m_fields.Shown(driver), GetParam().fields);
+            m_fields.ExpectNoPlaceholder(driver);
             if (!GetParam().endsByOkOnly) {
                 m_fields.ClickOtherChoices(driver);
                 m_fields.SpoilTexts(driver); // no field is read, so no message

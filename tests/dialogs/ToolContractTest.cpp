@@ -205,6 +205,7 @@ TEST_P(EveryToolDialog, OpensFromItsTemplateWithItsDefaults) {
         EXPECT_EQ(driver.Caption(), GetParam().caption);
         EXPECT_TRUE(m_dialog->IsWindowVisible());
         EXPECT_EQ(m_fields.Shown(driver), GetParam().fields);
+        m_fields.ExpectNoPlaceholder(driver);
         EXPECT_TRUE(m_dialog->UpdateData(TRUE)) << "the defaults must be valid";
         m_fields.SetTexts(driver, "7");
         m_fields.ClickOtherChoices(driver);

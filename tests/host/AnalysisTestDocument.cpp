@@ -384,6 +384,8 @@ TEST(AnalysisBatch, PrintsTablesAndReportsByStatus) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write((std::string("Mensola (kN,m)\n2\n1 0 0 0 0\n2 3 0 0 0\n1\n1 ") + restrained +
                     "\n1\n1 1 2 0.1 0 0 0.001 0.002 0.003 3e7 1.2e7 0 2.5\n0\n0\n10\n1\n-1\n"
+    EXPECT_NEAR(m.Force(m.beam, CElementoSettings::N, 4), -7, 1e-9) << "the diagram shows it";
+    EXPECT_NEAR(m.Force(m.beam, CElementoSettings::N, 0), 7, 1e-9);
                     "1\n0 0 0\n1\n2 0 0 -10 0 0 0\n0\n0\n0\n0\n0\n")
                        .c_str());
     };

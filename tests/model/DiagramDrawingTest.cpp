@@ -144,7 +144,7 @@ TEST_F(Diagrams, BendingLiesOnTheStretchedSide) {
     // The first end stretches below, the other one above.
     m_results = CTraveRisultati();
     m_results.SetLineLength(4);
-    Ends({0, 0, -2.5, 0, 5});
+    Ends({0, 0, -2.5, 0, 5, 0, 0, 0, 2.5, 0, 5});
     Draw(Only(M2));
     EXPECT_LT(Fill(0.05), -40);
     EXPECT_GT(Fill(0.95), 40);
@@ -197,6 +197,26 @@ TEST_F(Diagrams, JumpsAndNoise) {
     EXPECT_NEAR(-Fill(0.1) / 3.0, Fill(0.9), 2);
     Draw(Only(N));
     EXPECT_EQ(Fill(0.5), 0);
+    // A line without load in a loaded structure: its own forces are all noise.
+    m_results = CTraveRisultati();
+    m_results.SetLineLength(4);
+    Ends({-1e-9, 0, 1e-9, 0, 0, 0, 1e-9, 0, -1e-9, 0, 4e-9});
+    m_results.SetCaseScale({10, 40});
+    for (const int flag : {N, V3, M2}) {
+        Draw(Only(flag));
+        EXPECT_EQ(Fill(0.5), 0) << flag;
+    }
+}
+
+// Fault: results that were changed at the second end drawn as if they were not.
+TEST_F(Diagrams, BothEndsAreAsStored) {
+    Ends({-10, 0, 0, 0, 0, 0, 10});
+    m_results.GetNodeResults(1)->GetV1() *= -1;
+    Draw(Only(N));
+    EXPECT_GT(Fill(0.02), 60);
+    EXPECT_NEAR(Fill(0.02), -Fill(0.98), 2);
+    EXPECT_LE(std::abs(Fill(0.5)), 1);
+    EXPECT_EQ(m_results.GetInternalForce(CElementoSettings::N, 4), -10);
 }
 
 // Faults: nothing drawn without complaint, or something drawn without results; labels over each other.
@@ -262,6 +282,23 @@ TEST_F(Diagrams, LabelsKeepClear) {
                 }
             }
     }
+}
+
+// Fault: a value far from the others labelled, though larger ones beside each other found no room.
+TEST_F(Diagrams, NoSmallerLabelThanThoseLeftOut) {
+    std::vector<DiagramStretch> pieces{{0, 2, {3}}};
+    for (int i = 0; i < 8; ++i)
+        pieces.push_back({2 + i * 0.001, 2 + (i + 1) * 0.001, {100.0 - i}});
+    pieces.push_back({2.008, 4, {3}});
+    const std::vector<Diagram> diagrams{{CElementoSettings::N, "kN", DiagramCurve(pieces)}};
+    const DiagramLine line{4, "m", 1, 2};
+    CClientDC dc(&m_window);
+    DiagramSheet sheet(dc, CRect(0, 0, 320, 194), diagrams, line);
+    sheet.Draw();
+    const CPoint middle = sheet.PointOf(0, 2, 0);
+    ASSERT_GE(sheet.Labels().size(), 2u);
+    for (std::size_t i = 1; i < sheet.Labels().size(); ++i)
+        EXPECT_LT(std::abs(sheet.Labels()[i].CenterPoint().x - middle.x), 60) << "the far ones say 3";
 }
 
 // Faults: the hair line beside the pointer, one that stays behind, the mark off the curve between two stations.
