@@ -63,7 +63,8 @@ void ChangeNotices::Send() {
     SendNews(std::exchange(m_pending.news, 0u));
     if (std::exchange(m_pending.results, false))
         Tell(nullptr, MODIFICA_RISULTATI_ELIMINATI);
-    if (std::exchange(m_announcedCase, m_data.CurrentCase()) != m_data.CurrentCase())
+    const bool sum = std::exchange(m_pending.sum, false);
+    if (std::exchange(m_announcedCase, m_data.CurrentCase()) != m_data.CurrentCase() || sum)
         ShowCurrentCase();
     if (kinds != 0)
         SendSelection(kinds);

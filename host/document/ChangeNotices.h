@@ -37,8 +37,9 @@ class ChangeNotices {
     void NewsCame(unsigned news) { m_pending.news |= news; } // bits of News
     void ResultsGone() { m_pending.results = true; }
     void ResultsCame() { m_pending.results = false; }
-    void Deliver(); // as soon as control is back in the event loop
-    void Send();    // now
+    void SumChanged() { m_pending.sum = true; } // the current combination sums its cases in another way
+    void Deliver();                             // as soon as control is back in the event loop
+    void Send();                                // now
 
     // Makes the current case the one that the elements show, and tells; Send does it when the current case is another
     // than the one announced last.
@@ -56,7 +57,8 @@ class ChangeNotices {
         bool groups = false;  // some came, went or have another name
         unsigned news = 0;    // bits of News
         bool results = false; // valid ones went
-        unsigned kinds = 0;   // whose selection changed
+        bool sum = false;
+        unsigned kinds = 0; // whose selection changed
     };
 
     const DocumentData& m_data;

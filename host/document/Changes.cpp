@@ -24,6 +24,13 @@ void Creation::Redo() {
     }
 }
 
+Reach Creation::GetReach() const {
+    Reach farthest = Reach::Model;
+    for (const Run& run : m_runs)
+        farthest = std::max(farthest, ReachOf(run.kind));
+    return farthest;
+}
+
 Removal::Removal(DocumentData& data, Kind kind, std::vector<CElemento*> objects)
     : m_data(data), m_kind(kind), m_objects(std::move(objects)) {
     Redo();
@@ -51,8 +58,8 @@ void Movement::Swap() {
     }
 }
 
-Former::Former(DocumentData& data, CElemento& object)
-    : m_data(data), m_object(object), m_id(object.GetID()), m_next(data.NextId(object)) {
+Former::Former(DocumentData& data, CElemento& object, Reach reach)
+    : m_data(data), m_object(object), m_reach(reach), m_id(object.GetID()), m_next(data.NextId(object)) {
 }
 
 void Former::Settle() {
@@ -72,7 +79,8 @@ void Former::Exchange() {
     m_next = next;
 }
 
-Attributes::Attributes(DocumentData& data, CElemento& object) : Former(data, object), m_other(CopyOf(object)) {
+Attributes::Attributes(DocumentData& data, CElemento& object, Reach reach)
+    : Former(data, object, reach), m_other(CopyOf(object)) {
     if (const CElementoProgetto* design = object.GetProgetto())
         m_design = std::make_unique<CElementoProgetto>(*design);
 }
@@ -113,10 +121,13 @@ void EntityName::Swap() {
     m_type = type;
 }
 
-std::unique_ptr<Former> KeepState(DocumentData& data, CElemento& object) {
+std::unique_ptr<Former> KeepState(DocumentData& data, CElemento& object, Reach reach) {
     if (auto* loadCase = DYNAMIC_DOWNCAST(CCasoCarico, &object))
         return std::make_unique<EntityName>(data, *loadCase);
-    return std::make_unique<Attributes>(data, object);
+    Kind kind;
+    if (KindOf(object, kind) && (kind == Kind::Combination || kind == Kind::Group))
+        reach = Reach::Model;
+    return std::make_unique<Attributes>(data, object, reach);
 }
 
 void Grouping::Undo() {

@@ -7,10 +7,17 @@
 #include "model/entity/CasoCarico.h"
 #include "model/entity/Gruppo.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
 namespace host {
+
+// How far it reaches when objects of a kind come or go. Results follow the load cases by themselves, and depend on
+// the other named entities only through who refers to them.
+constexpr Reach ReachOf(Kind kind) {
+    return IsSelectableKind(kind) ? Reach::Results : Reach::Model;
+}
 
 // Objects appended to their lists, in any mixture of kinds. While undone, it owns them.
 class Creation : public Change {
@@ -20,6 +27,7 @@ class Creation : public Change {
     void Add(Kind kind); // one more object has just been appended
     void Undo() override;
     void Redo() override;
+    Reach GetReach() const override;
 
   private:
     struct Run {
@@ -41,6 +49,7 @@ class Removal : public Change {
 
     void Undo() override;
     void Redo() override;
+    Reach GetReach() const override { return ReachOf(m_kind); }
 
   private:
     DocumentData& m_data;
@@ -70,8 +79,12 @@ class Movement : public Change {
 class Former : public Change {
   public:
     CElemento& Object() const { return m_object; }
-    // A command is going to change it; of what is only kept in case, a difference counts.
-    void Confirm() { m_confirmed = true; }
+    // A command is going to change it, so far; of what is only kept in case, a difference counts.
+    void Confirm(Reach reach) {
+        m_confirmed = true;
+        m_reach = std::max(m_reach, reach);
+    }
+    Reach GetReach() const override { return m_reach; }
 
     void Undo() override { Exchange(); }
     void Redo() override { Exchange(); }
@@ -81,7 +94,7 @@ class Former : public Change {
     void Settle() override;
 
   protected:
-    Former(DocumentData& data, CElemento& object);
+    Former(DocumentData& data, CElemento& object, Reach reach);
 
     virtual bool Differs() const = 0;
     virtual void Swap() = 0; // everything but the number
@@ -92,6 +105,7 @@ class Former : public Change {
   private:
     void Exchange();
 
+    Reach m_reach;
     int m_id;   // the number that it does not have
     int m_next; // the document's next one with it
     bool m_confirmed = false;
@@ -100,7 +114,7 @@ class Former : public Change {
 // The attributes of one object, with its design. Not for load cases, whose loads others refer to.
 class Attributes : public Former {
   public:
-    Attributes(DocumentData& data, CElemento& object);
+    Attributes(DocumentData& data, CElemento& object, Reach reach);
 
     unsigned GetNews() const override;
 
@@ -117,7 +131,7 @@ class Attributes : public Former {
 class EntityName : public Former {
   public:
     EntityName(DocumentData& data, CElementoStrutturale& entity)
-        : Former(data, entity), m_name(entity.GetNome()), m_type(entity.GetTipo()) {}
+        : Former(data, entity, Reach::Model), m_name(entity.GetNome()), m_type(entity.GetTipo()) {}
 
   private:
     CElementoStrutturale& Entity() const { return static_cast<CElementoStrutturale&>(m_object); }
@@ -127,8 +141,8 @@ class EntityName : public Former {
     CString m_name, m_type;
 };
 
-// The one that fits the object.
-std::unique_ptr<Former> KeepState(DocumentData& data, CElemento& object);
+// The one that fits the object; of combinations, groups and names no result depends on any.
+std::unique_ptr<Former> KeepState(DocumentData& data, CElemento& object, Reach reach = Reach::Results);
 
 // The members of a new group, which learn of it.
 class Grouping : public Change {
@@ -138,6 +152,7 @@ class Grouping : public Change {
 
     void Undo() override;
     void Redo() override;
+    Reach GetReach() const override { return Reach::Model; }
 
   private:
     DocumentData& m_data;
@@ -151,6 +166,7 @@ class Disbanding : public Change {
 
     void Undo() override;
     void Redo() override;
+    Reach GetReach() const override { return Reach::Model; }
 
   private:
     DocumentData& m_data;
@@ -166,6 +182,7 @@ class Leaving : public Change {
 
     void Undo() override;
     void Redo() override;
+    Reach GetReach() const override { return Reach::Model; }
 
   private:
     struct Member {
@@ -197,7 +214,7 @@ class LoadMembership : public Change {
     std::unique_ptr<CCarico> m_load; // while it is out
 };
 
-// A plain value of the document.
+// A plain value of the document that no result depends on.
 template <class T>
 class Value : public Change {
   public:
@@ -206,6 +223,7 @@ class Value : public Change {
 
     void Undo() override { std::swap(m_where, m_other); }
     void Redo() override { std::swap(m_where, m_other); }
+    Reach GetReach() const override { return Reach::Model; }
 
   private:
     T& m_where;
@@ -216,7 +234,7 @@ class Value : public Change {
 class CurrentCase : public Value<int> {
   public:
     using Value::Value;
-    bool ChangesModel() const override { return false; }
+    Reach GetReach() const override { return Reach::Look; }
 };
 
 } // namespace host

@@ -30,6 +30,11 @@ bool HostAnalysis::Clear() {
     return valid;
 }
 
+bool HostAnalysis::FollowCases() {
+    std::erase_if(m_cases, [this](const CaseResults& each) { return !m_data.Find(Kind::LoadCase, each.id); });
+    return m_cases.size() == static_cast<std::size_t>(m_data.Size(Kind::LoadCase));
+}
+
 CaseResults* HostAnalysis::Find(int caseId) {
     for (CaseResults& each : m_cases)
         if (each.id == caseId)
@@ -51,7 +56,23 @@ CLineaRisultati* HostAnalysis::Line(std::size_t index) const {
                          : m_data.As<CLineaRisultati>(Kind::Truss, static_cast<int>(index - beams));
 }
 
+HostAnalysis::Factors HostAnalysis::FactorsOf(int caseId) const {
+    Factors factors;
+    auto* combination = m_data.FindAs<CCombinazione>(Kind::Combination, caseId);
+    for (int i = 0; combination && i < combination->GetSizeCDC(); ++i) {
+        double factor = 0;
+        combination->GetFattoreCDC(i, factor);
+        factors.emplace_back(combination->GetIDCDC(i), factor);
+    }
+    return factors;
+}
+
+bool HostAnalysis::IsShown(int caseId) const {
+    return m_shown == caseId && m_shownFactors == FactorsOf(caseId);
+}
+
 void HostAnalysis::Show(int caseId) {
+    m_shownFactors = FactorsOf(caseId);
     auto* combination = m_data.FindAs<CCombinazione>(Kind::Combination, caseId);
     if (combination && !m_cases.empty()) {
         const CaseResults sum = Combine(*combination, m_cases);
@@ -69,6 +90,8 @@ void HostAnalysis::ShowRecords(const CaseResults* results) {
     std::vector<CTraveRisultati> records; // the former ones live until the lines have let them go
     if (results)
         records = results->lines.All();
+    for (CTraveRisultati& record : records)
+        record.SetCaseScale(results->scale);
     for (std::size_t i = 0, count = LineCount(); i < count; ++i)
         Line(i)->SetRisultati(i < records.size() && records[i].GetID() == Line(i)->GetID() ? &records[i] : nullptr);
     m_records = std::move(records);
@@ -90,8 +113,6 @@ int HostAnalysis::LeggiRisultati(int idCaso, CObArray& out, int) {
     if (!results)
         return 0;
     for (std::size_t i = 0; i < results->lines.size(); ++i)
-    for (CTraveRisultati& record : records)
-        record.SetCaseScale(results->scale);
         out.Add(new CTraveRisultati(results->lines[i]));
     return 1;
 }
@@ -123,6 +144,7 @@ int HostAnalysis::CreaRisultati(int idCaso, CObArray& risultati, int) {
     for (CObject* record : risultati)
         records.push_back(*static_cast<CTraveRisultati*>(record));
     results->lines = LineResults(records, &m_cases.front().lines);
+    results->scale = ScaleOf(records);
     if (idCaso == m_shown) // in place: the lines point at them
         std::copy(records.begin(), records.end(), m_records.begin());
     return 1;
@@ -134,4 +156,3 @@ int HostAnalysis::RipristinaRisultati() {
 }
 
 } // namespace host
-    results->scale = ScaleOf(records);

@@ -37,11 +37,10 @@ void HostCore::NotifySelection(unsigned kinds) {
     m_notices.Deliver();
 }
 
-void HostCore::NotifyChange(bool model, unsigned news, const std::vector<long>& codes) {
+void HostCore::NotifyChange(Reach reach, unsigned news, const std::vector<long>& codes) {
     RefreshModified();
-    if (model) {
-        if (m_analysis.Clear())
-            m_notices.ResultsGone();
+    if (reach != Reach::Look) {
+        FollowResults(reach);
         if (m_direct.Remember())
             m_notices.GroupsChanged();
         m_notices.ModelChanged();
@@ -51,6 +50,17 @@ void HostCore::NotifyChange(bool model, unsigned news, const std::vector<long>& 
     for (const long hint : codes)
         m_notices.Tell(nullptr, hint);
     m_notices.Deliver();
+}
+
+void HostCore::FollowResults(Reach reach) {
+    if (!m_analysis.m_bRisultatiValidi)
+        return;
+    if (reach == Reach::Results || !m_analysis.FollowCases()) {
+        m_analysis.Clear();
+        m_notices.ResultsGone();
+    } else if (!m_analysis.IsShown(m_data.CurrentCase())) {
+        m_notices.SumChanged();
+    }
 }
 
 // Undo may have taken away the case that is shown.
@@ -72,7 +82,7 @@ void HostCore::Replace(DocumentData data) {
     m_data = std::move(data);
     m_savedState = m_undo.State();
     m_flagged = false;
-    NotifyChange(true, newsNone, {});
+    NotifyChange(Reach::Results, newsNone, {});
     NotifySelection(0);
 }
 

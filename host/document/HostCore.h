@@ -77,8 +77,9 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     DirectChanges& Direct() { return m_direct; }
 
   private:
-    void NotifyChange(bool model, unsigned news, const std::vector<long>& codes) override;
+    void NotifyChange(Reach reach, unsigned news, const std::vector<long>& codes) override;
     void Announce(long hint) override { m_notices.Tell(nullptr, hint); }
+    void FollowResults(Reach reach);
     bool ScheduleIdle() override { return m_notices.ScheduleIdle(); }
     void KeepCurrentCase();
     void RefreshModified();

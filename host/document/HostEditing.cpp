@@ -12,11 +12,11 @@ namespace host {
 namespace {
 
 // Changes of one object in a row are one record: the first has what it was.
-void RecordBefore(DocumentData& data, HostUndo& undo, CElemento& object) {
+void RecordBefore(DocumentData& data, HostUndo& undo, CElemento& object, Reach reach) {
     if (auto* last = dynamic_cast<Former*>(undo.Last()); last && &last->Object() == &object)
-        return last->Confirm();
-    auto former = KeepState(data, object);
-    former->Confirm();
+        return last->Confirm(reach);
+    auto former = KeepState(data, object, reach);
+    former->Confirm(former->GetReach());
     undo.Record(std::move(former), "Modifica");
 }
 
@@ -43,9 +43,9 @@ CElemento* HostEditing::Add(std::unique_ptr<CElemento> object, const char* stepN
     return added;
 }
 
-void HostEditing::Modify(CElemento& object, const std::function<void()>& change) {
+void HostEditing::Modify(CElemento& object, const std::function<void()>& change, Reach reach) {
     UndoStep step(Undo(), "Modifica");
-    RecordBefore(Data(), Undo(), object);
+    RecordBefore(Data(), Undo(), object, reach);
     change();
 }
 

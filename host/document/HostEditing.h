@@ -20,8 +20,9 @@ class HostEditing : public HostLists {
     T* AddNew(std::unique_ptr<T> object, const char* stepName = "Aggiungi") {
         return static_cast<T*>(Add(std::move(object), stepName));
     }
-    // Changes attributes of an object of the document (not its nodes, nor a node's place) so that undo knows.
-    void Modify(CElemento& object, const std::function<void()>& change);
+    // Changes attributes of an object of the document (not its nodes, nor a node's place) so that undo knows. Of
+    // combinations and groups no result depends on any.
+    void Modify(CElemento& object, const std::function<void()>& change, Reach reach = Reach::Results);
     void MoveNodes(const std::vector<std::pair<CNodo*, CFPoint>>& places);
     // Removes objects with what hangs on them: nodes take their elements with them, load cases their loads.
     void Remove(std::vector<CElemento*> objects);

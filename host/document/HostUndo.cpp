@@ -19,8 +19,11 @@ struct HostUndo::Step {
     std::vector<long> announced, told;     // codes sent before its first change and after it
     std::array<int, kindCount> firstNew{}; // objects from that number on were made in this step
 
-    bool ChangesModel() const {
-        return std::any_of(changes.begin(), changes.end(), [](const auto& change) { return change->ChangesModel(); });
+    Reach GetReach() const {
+        Reach farthest = Reach::Look;
+        for (const auto& change : changes)
+            farthest = std::max(farthest, change->GetReach());
+        return farthest;
     }
     unsigned GetNews() const {
         unsigned news = newsNone;
@@ -234,11 +237,11 @@ void HostUndo::CloseStep() {
     step->stateAfter = ++m_lastState;
     while (m_steps.size() > m_position) // what had been undone cannot come back after a new command
         m_steps.pop_back();
-    const bool model = step->ChangesModel();
+    const Reach reach = step->GetReach();
     const unsigned news = step->GetNews();
     m_steps.push_back(std::move(step));
     ++m_position;
-    m_owner.NotifyChange(model, news, {}); // the codes have been sent
+    m_owner.NotifyChange(reach, news, {}); // the codes have been sent
 }
 
 void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {
@@ -290,7 +293,7 @@ void HostUndo::Run(Step& step, bool forward) {
         for (const auto& record : m_records)
             record->Remember();
     }
-    m_owner.NotifyChange(step.ChangesModel(), step.GetNews(), step.told);
+    m_owner.NotifyChange(step.GetReach(), step.GetNews(), step.told);
 }
 
 bool HostUndo::Undo() {

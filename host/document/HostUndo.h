@@ -24,14 +24,17 @@ enum News : unsigned {
     newsWallDesign = 8
 };
 
+// What a change touches, each more than the one before: only how the model is looked at; the model, but nothing that
+// results depend on; anything.
+enum class Reach { Look, Model, Results };
+
 // One reversible change of a document. It has happened when it is recorded.
 class Change {
   public:
     virtual ~Change() = default;
     virtual void Undo() = 0;
     virtual void Redo() = 0;
-    // False for what only says how the model is looked at: its results stay valid.
-    virtual bool ChangesModel() const { return true; }
+    virtual Reach GetReach() const { return Reach::Results; }
     virtual unsigned GetNews() const { return newsNone; }
     // The object whose state it keeps, if it keeps one's: what else is written into that object until another kind of
     // change comes is kept with it.
@@ -161,7 +164,7 @@ class RecordChange : public Change {
 
     void Undo() override { std::swap(m_where, m_other); }
     void Redo() override { std::swap(m_where, m_other); }
-    bool ChangesModel() const override { return false; }
+    Reach GetReach() const override { return Reach::Look; }
 
   private:
     T& m_where;

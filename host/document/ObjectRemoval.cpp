@@ -50,10 +50,12 @@ void LeaveGroups(HostEditing& document, const std::vector<CElemento*>& objects) 
             document.Undo().Record(std::make_unique<Leaving>(*group, members), stepName);
 }
 
+// The other cases keep their results.
 void LetGoCase(HostEditing& document, int id) {
     ForEachCarrier(document.Data(), [&](CElementoCarico& carrier) {
         if (CarriesLoadOf(carrier, id))
-            document.Modify(carrier, [&] { carrier.RemoveLoadsOfCase(id); });
+            document.Modify(
+                carrier, [&] { carrier.RemoveLoadsOfCase(id); }, Reach::Model);
     });
     for (int i = 0; i < document.GetSizeCombinazioni(); ++i) {
         CCombinazione* combination = document.GetIndexCombinazione(i);
@@ -122,7 +124,7 @@ void RemoveFromLists(HostEditing& document, const std::vector<CElemento*>& objec
 void LeaveCurrentCase(HostEditing& document, Kind kind, int id) {
     int& current = document.Data().CurrentCase();
     if (id == current && (kind == Kind::LoadCase || kind == Kind::Combination))
-        document.Undo().Record(std::make_unique<Value<int>>(current, 0), stepName);
+        document.Undo().Record(std::make_unique<CurrentCase>(current, 0), stepName);
 }
 
 } // namespace

@@ -7,14 +7,14 @@ namespace host {
 
 class DocumentData;
 class HostSelection;
+enum class Reach;
 
 class UndoOwner {
   public:
     virtual HostSelection& Selection() = 0; // a step holds it as it was before and after
     virtual DocumentData& Data() = 0;
-    // A step was made, undone or redone; false when the model itself is as it was. The news are bits of News; the codes
-    // are to be sent again.
-    virtual void NotifyChange(bool model, unsigned news, const std::vector<long>& codes) = 0;
+    // A step was made, undone or redone. The news are bits of News; the codes are to be sent again.
+    virtual void NotifyChange(Reach reach, unsigned news, const std::vector<long>& codes) = 0;
     // A code to be sent again before what it announced.
     virtual void Announce(long hint) = 0;
     // Asks for CloseImplicit when control is back in the event loop; false when there is no loop to come back to.

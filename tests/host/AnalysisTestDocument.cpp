@@ -296,6 +296,49 @@ TEST(AnalysisOutcomes, ResultsLastUntilTheNextChange) {
     EXPECT_FALSE(m.document.m_pAnalisi->m_bRisultatiValidi) << "undo brings the model back, not its results";
 }
 
+// Only sums, names and sets change: the results stay, and the combination shows what it is now. A case takes its
+// results along; brought back, or new, it has none, and then no others count as the model's either. Catches the sum of
+// before, one that counts a case without results as nothing, and results that a new case inherits with its number.
+TEST(AnalysisOutcomes, WhatNoResultDependsOnKeepsThem) {
+    Cantilever m;
+    CCasoCarico* second = m.document.CreaCasoCarico();
+    m.On(m.tip, CCaricoNodale({0, 0, -30}, {}), second);
+    m.Run();
+    const int first = m.firstCase->GetID(), other = second->GetID();
+    CCombinazione sum;
+    sum.SetNome("Somma");
+    sum.AddCDC(first, 1);
+    sum.AddCDC(other, 2);
+    auto* taken = new CCombinazione;
+    *taken = sum;
+    ASSERT_TRUE(m.document.AddCombinazione(taken, nullptr));
+    m.document.SelectCasoCarico(taken->GetID());
+    const auto moment = [&m] { return m.Force(m.beam, CElementoSettings::M2, 0); };
+    EXPECT_NEAR(moment(), -40 - 240, 1e-9);
+    sum.SetFattoreCDC(sum.GetIndexCDC(other), -1);
+    m.document.ModificaCombinazione(taken->GetID(), sum);
+    EXPECT_NEAR(moment(), -40 + 120, 1e-9);
+    m.document.Undo().Undo();
+    EXPECT_NEAR(moment(), -40 - 240, 1e-9);
+    second->SetNome("Vento");
+    m.document.UpdateAllViews(nullptr, MODIFICA_CASI_CARICO, nullptr);
+    m.document.Selection().Add(m.beam);
+    m.document.CreateGroup("A");
+    m.document.SetTolerance(0.01);
+    m.document.EliminaGruppo(0);
+    EXPECT_NEAR(moment(), -40 - 240, 1e-9);
+    m.document.EliminaCasoCarico(other);
+    EXPECT_TRUE(m.document.m_pAnalisi->m_bRisultatiValidi);
+    EXPECT_EQ(m.document.Analysis().Results(other), nullptr);
+    EXPECT_NEAR(moment(), -40, 1e-9) << "the combination has lost the case too";
+    m.document.Undo().Undo();
+    EXPECT_FALSE(m.document.m_pAnalisi->m_bRisultatiValidi);
+    EXPECT_EQ(m.beam->GetRisultati(), nullptr);
+    m.Run();
+    m.document.CreaCasoCarico();
+    EXPECT_FALSE(m.document.m_pAnalisi->m_bRisultatiValidi);
+}
+
 // The elements follow the current case, undo of the choice included; choosing a case keeps the results.
 TEST(AnalysisOutcomes, ElementsShowTheCurrentCase) {
     Cantilever m;
@@ -341,6 +384,8 @@ TEST(AnalysisOutcomes, RecordsAreReadChangedAndStored) {
     analysis.RipristinaRisultati();
     CElemento::_DestroyArray(records, 1);
     EXPECT_NEAR(m.beam->GetRisultati()->GetNodeResults(1)->GetV1(), -7, 1e-9);
+    EXPECT_NEAR(m.Force(m.beam, CElementoSettings::N, 4), -7, 1e-9) << "the diagram shows it";
+    EXPECT_NEAR(m.Force(m.beam, CElementoSettings::N, 0), 7, 1e-9);
     EXPECT_FALSE(analysis.AggiornaRiferimentiRisultati(records)) << "not one for each line";
 }
 
@@ -384,8 +429,6 @@ TEST(AnalysisBatch, PrintsTablesAndReportsByStatus) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write((std::string("Mensola (kN,m)\n2\n1 0 0 0 0\n2 3 0 0 0\n1\n1 ") + restrained +
                     "\n1\n1 1 2 0.1 0 0 0.001 0.002 0.003 3e7 1.2e7 0 2.5\n0\n0\n10\n1\n-1\n"
-    EXPECT_NEAR(m.Force(m.beam, CElementoSettings::N, 4), -7, 1e-9) << "the diagram shows it";
-    EXPECT_NEAR(m.Force(m.beam, CElementoSettings::N, 0), 7, 1e-9);
                     "1\n0 0 0\n1\n2 0 0 -10 0 0 0\n0\n0\n0\n0\n0\n")
                        .c_str());
     };
