@@ -129,6 +129,9 @@ class DocumentData : public ModelLookup {
     // What counts as exactly the same place in a model of this size.
     double ExactTolerance() const;
 
+    // What the model's size is measured by goes into another length unit.
+    void ScaleExtent(double factor) { m_extent *= factor; }
+
     // How near two nodes may lie before they count as one.
     double Tolerance() const { return m_tolerance; }
     double& Tolerance() { return m_tolerance; }

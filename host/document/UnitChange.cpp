@@ -13,6 +13,24 @@ void SetUnits(CElemento& object, DocumentUnits units) {
 
 } // namespace
 
+void ConvertUnits(DocumentData& data, DocumentUnits units) {
+    for (const Kind kind : allKinds) {
+        for (int i = 0; i < data.Size(kind); ++i) {
+            data.At(kind, i)->ChangeLunghezza(units.length);
+            data.At(kind, i)->ChangeForza(units.force);
+        }
+    }
+    const double factor = CGrandezza::_LengthFactor(data.Units().length, units.length);
+    data.Tolerance() *= factor;
+    data.ScaleExtent(factor);
+    data.Units() = units;
+}
+
+void UseOfferedUnits(DocumentData& data) {
+    if (data.Units().length == Lunghezza::Feet)
+        ConvertUnits(data, {Lunghezza::Inches, data.Units().force});
+}
+
 UnitChange::UnitChange(DocumentData& data, DocumentUnits units)
     : m_data(data), m_units(data.Units()), m_tolerance(data.Tolerance()) {
     for (const Kind kind : allKinds) {
@@ -26,15 +44,13 @@ UnitChange::UnitChange(DocumentData& data, DocumentUnits units)
                 for (int j = 0; j < loadCase.GetSizeCarichi(); ++j)
                     m_others.emplace_back(loadCase.GetIndexCarico(j), CopyOf(*loadCase.GetIndexCarico(j)));
             }
-            object.ChangeLunghezza(units.length);
-            object.ChangeForza(units.force);
         }
     }
-    data.Tolerance() *= CGrandezza::_LengthFactor(data.Units().length, units.length);
-    data.Units() = units;
+    ConvertUnits(data, units);
 }
 
 void UnitChange::Swap() {
+    m_data.ScaleExtent(CGrandezza::_LengthFactor(m_data.Units().length, m_units.length));
     std::swap(m_units, m_data.Units());
     std::swap(m_tolerance, m_data.Tolerance());
     for (int i = 0; i < m_data.Size(Kind::LoadCase); ++i)

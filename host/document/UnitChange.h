@@ -7,6 +7,11 @@
 
 namespace host {
 
+// Converts every stored value, for good.
+void ConvertUnits(DocumentData& data, DocumentUnits units);
+// A file may be in feet; the user is offered inches instead.
+void UseOfferedUnits(DocumentData& data);
+
 class UnitChange : public Change {
   public:
     // Converts everything.

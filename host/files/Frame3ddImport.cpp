@@ -1,5 +1,6 @@
 #include "host/files/Frame3ddImport.h"
 
+#include "host/document/UnitChange.h"
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddFile.h"
 #include "model/element/Trave.h"
@@ -244,7 +245,9 @@ DocumentData ImportFrame3ddText(std::string_view text, std::vector<CString>* not
         notes->push_back("Gli elementi con area a taglio nulla sono rigidi a taglio.");
     if (notes && model.geometric)
         notes->push_back("La rigidezza geometrica non è considerata."_t);
-    return Builder(model).Build();
+    DocumentData data = Builder(model).Build();
+    UseOfferedUnits(data);
+    return data;
 }
 
 DocumentData ImportFrame3dd(const std::string& path, std::vector<CString>* notes) {

@@ -9,7 +9,7 @@ IMPLEMENT_DYNAMIC(CLinea, CElementoSpecifiche)
 
 namespace {
 
-constexpr double shortest = 1e-6;     // length units: what is shorter has no direction
+constexpr double shortest = 1e-6;     // metres: what is shorter counts as no line
 constexpr double upright = 1e-4;      // lean against the length
 constexpr double parallel = 0.999999; // cosine of two directions that count as one
 
@@ -104,7 +104,7 @@ void CLinea::SetNode(int i, CNodo* nodo) {
 
 int CLinea::_GetLocalAxes(CFPoint da, CFPoint a, double betaGradi, CFPoint& asse1, CFPoint& asse2, CFPoint& asse3) {
     CFPoint along = a - da;
-    if (along.GetMod() < shortest || !along.Normalize())
+    if (!along.Normalize())
         return 0;
     // What leans by no more than nodes are off their places by is vertical: the direction of such a lean would turn the
     // section of a column by any angle.
@@ -135,7 +135,7 @@ int CLinea::CheckElemento(CStringArray& messaggi) {
     CString text;
     if (!m_pNodi[0] || !m_pNodi[1])
         messaggi.Add("L'elemento non ha due nodi.");
-    else if (!(GetLunghezzaLinea() >= shortest))
+    else if (!(GetLunghezzaLinea() >= shortest * CGrandezza::_LengthFactor(Lunghezza::Metres, GetLunghezza())))
         messaggi.Add("L'elemento ha lunghezza nulla.");
     else if (CLinea* other = Twin(*this, *m_pNodi[0], *m_pNodi[1])) {
         text.Format("L'elemento ha gli stessi nodi dell'elemento %s n.ro %d.",

@@ -115,7 +115,8 @@ int CNodo::CheckElemento(CStringArray& messaggi) {
         messaggi.Add("Le coordinate del nodo non sono valide.");
     if (GetSizeElementi() == 0)
         messaggi.Add("Il nodo non appartiene a nessun elemento.");
-    if (CNodo* other = GetCoincident(coincidenceTolerance)) {
+    const double metre = CGrandezza::_LengthFactor(Lunghezza::Metres, GetLunghezza());
+    if (CNodo* other = GetCoincident(coincidenceTolerance * metre)) {
         text.Format("Il nodo coincide con il nodo n.ro %d.", other->GetID());
         messaggi.Add(text);
     }

@@ -52,7 +52,7 @@ class CNodo : public CElementoCarico {
 
     // Some other node at the same place, give or take `tolleranza`; null when there is none or no grid holds the node.
     CNodo* GetCoincident(double tolleranza);
-    static constexpr double coincidenceTolerance = 1e-5; // length units
+    static constexpr double coincidenceTolerance = 1e-5; // metres
 
     int CanDraw(Adv3d* pVista) override;
     void Draw(Adv3d* pVista) override;

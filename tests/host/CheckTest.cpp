@@ -175,6 +175,27 @@ TEST_F(CheckTest, PrintedRowsAndExitStatus) {
     EXPECT_EQ(PrintCheck(*m_workspace, m_folder.filePath("manca.asg"), stderr), 2);
 }
 
+// A model has the same faults in whatever unit it is shown. Catches a length of the host's own that is counted in the
+// document's unit: nodes near each other, a line of next to no length, a wall that is hardly warped.
+TEST_F(CheckTest, TheUnitChangesNoRow) {
+    CheckBuilder model(Document());
+    for (const double apart : {5e-6, 2e-5, 5e-4}) // metres
+        model.Beam(1, model.Node(3 + apart, 0, 0)->GetID());
+    model.Beam(1, model.Node(4e-7, 0, 0)->GetID());
+    model.Beam(1, model.Node(4e-6, 0, 0)->GetID());
+    int corners[4];
+    for (int i = 0; i < 4; ++i)
+        corners[i] = model.Node(i == 1 || i == 2 ? 8 : 5, 0, i < 2 ? 0 : 2)->GetID();
+    Document().AddSetto({corners[0], corners[1], corners[2], corners[3]});
+    const Rows metres = Printed(Saved("metri.asg")).second;
+    EXPECT_GT(metres.size(), sound.size());
+    for (const Lunghezza unit : {Lunghezza::Millimetres, Lunghezza::Centimetres, Lunghezza::Inches}) {
+        m_workspace->ViewActivated(*m_workspace->Views().front());
+        Document().ChangeUnits(unit, Forza::Newton);
+        EXPECT_EQ(Printed(Saved("altra.asg")).second, metres) << static_cast<int>(unit);
+    }
+}
+
 // What other people's models are told. They are all one structure whose supports hold it, and their elements are sound.
 TEST_F(CheckTest, ModelsOfAPeer) {
     const std::filesystem::path folder = std::filesystem::path(QUOVAR_SHARED_DIR) / "data" / "frame3dd";

@@ -105,6 +105,7 @@ TEST(Import, ShearAreasAndUnitsFollowTheFile) {
     const std::pair<const char*, DocumentUnits> titles[] = {
         {"Esempio (kips,in) ", {Lunghezza::Inches, Forza::Kips}},
         {"Esempio (units: kip, in)", {Lunghezza::Inches, Forza::Kips}},
+        {"Esempio (kip,ft)", {Lunghezza::Inches, Forza::Kips}}, // feet are not offered
         {"Esempio (N,mm,ton)", {Lunghezza::Millimetres, Forza::Newton}},
         {"Esempio (m)", {Lunghezza::Millimetres, Forza::Newton}},
         {"Esempio", {Lunghezza::Millimetres, Forza::Newton}},
@@ -114,6 +115,10 @@ TEST(Import, ShearAreasAndUnitsFollowTheFile) {
         EXPECT_EQ(named.Units().length, units.length) << title;
         EXPECT_EQ(named.Units().force, units.force) << title;
     }
+    DocumentData inches = ImportFrame3ddText(Replaced(model, "Un portale (kN,m,t)", "Esempio (kip,ft)"));
+    EXPECT_DOUBLE_EQ(inches.FindNode(4)->GetPunto()->x, 48);
+    EXPECT_DOUBLE_EQ(inches.As<CSezione>(Kind::Section, 0)->GetI2(), 0.0007 * 12 * 12 * 12 * 12);
+    EXPECT_DOUBLE_EQ(inches.Tolerance(), 0.001 / 0.0254);
 }
 
 // As other programs write the same: comments, separators, line ends, exponents, and loads of a node in several rows.
