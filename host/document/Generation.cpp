@@ -150,14 +150,25 @@ Places PlacesOnCircle(int plane, double tilt, const CFPoint& centre, double radi
     return Around(centre, axes, radius, 0, 2 * std::numbers::pi, count, tolerance);
 }
 
-Places PlacesInQuadrilateral(const CFPoint (&corners)[4], int first, int second, double tolerance) {
+Places PlacesInQuadrilateral(const CFPoint (&given)[4], int first, int second, double tolerance) {
     if (first < 1 || second < 1 || first > mostGeneratedNodes || second > mostGeneratedNodes ||
         (first + 1LL) * (second + 1LL) > mostGeneratedNodes)
         return {};
-    for (int i = 0; i < 4; ++i)
-        for (int j = 0; j < i; ++j)
-            if (!corners[i].IsFinite() || !(CFPoint::GetMod(corners[j], corners[i]) > tolerance))
-                return {};
+    if (!std::all_of(std::begin(given), std::end(given), [](const CFPoint& corner) { return corner.IsFinite(); }))
+        return {};
+    // Two neighbours may be one: a triangle. Its point is a single place, to the last bit.
+    CFPoint corners[4] = {given[0], given[1], given[2], given[3]};
+    int equal = 0;
+    for (int i = 0; i < 4; ++i) {
+        if (CFPoint::GetMod(given[i], given[(i + 2) % 4]) <= tolerance)
+            return {};
+        if (CFPoint::GetMod(given[i], given[(i + 1) % 4]) > tolerance)
+            continue;
+        corners[(i + 1) % 4] = corners[i];
+        ++equal;
+    }
+    if (equal > 1)
+        return {};
     Places places;
     places.reserve(static_cast<std::size_t>((first + 1) * (second + 1)));
     for (int j = 0; j <= second; ++j) {

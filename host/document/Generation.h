@@ -25,7 +25,8 @@ Places PlacesOnArc(int plane, const CFPoint& from, const CFPoint& through, const
 Places PlacesOnArc(int plane, double tilt, const CFPoint& centre, const CFPoint& start, double angle, int count,
                    double tolerance);
 Places PlacesOnCircle(int plane, double tilt, const CFPoint& centre, double radius, int count, double tolerance);
-// (first + 1) * (second + 1) places, the first side running fastest, between the corners in their order around.
+// (first + 1) * (second + 1) places, the first side running fastest, between the corners in their order around. Where
+// two neighbouring corners are one, all places of that side are.
 Places PlacesInQuadrilateral(const CFPoint (&corners)[4], int first, int second, double tolerance);
 
 } // namespace host

@@ -70,6 +70,14 @@ T* AddPolygon(HostEditing& document, const std::vector<int>& idNodi, const char*
     return document.AddNew(std::move(polygon), stepName);
 }
 
+// Without neighbours of one number, around: where two sides meet, a quadrilateral is a triangle.
+std::vector<int> Distinct(std::vector<int> ids) {
+    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+    if (ids.size() > 1 && ids.front() == ids.back())
+        ids.pop_back();
+    return ids;
+}
+
 } // namespace
 
 int HostGeneration::GenerateNodes(const std::vector<CFPoint>& places) {
@@ -118,8 +126,8 @@ int HostGeneration::Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, i
     const auto row = static_cast<std::size_t>(nSuddivisioni1) + 1;
     for (std::size_t corner = 0; corner + row < ids.size(); ++corner)
         if (corner % row + 1 < row) // the last place of a row begins no element
-            AddPolygon<CSolaio>(*this, {ids[corner], ids[corner + 1], ids[corner + row + 1], ids[corner + row]},
-                                "Mesh");
+            AddPolygon<CSolaio>(
+                *this, Distinct({ids[corner], ids[corner + 1], ids[corner + row + 1], ids[corner + row]}), "Mesh");
     return 1;
 }
 

@@ -215,6 +215,18 @@ void HostSelection::SelezionaElementiPiano(CPoligono* pPoligono) {
 }
 
 void HostSelection::SelezionaElementiRange(CFPoint da, CFPoint a, int nodi, int aste, int travi, int solai, int setti) {
+    const int axis = m_rangeAxis ? m_rangeAxis() : -1;
+    const double tolerance = m_document.GetTolerance();
+    const auto bound = [&](int which, double& from, double& to) {
+        constexpr double anywhere = std::numeric_limits<double>::infinity();
+        const bool limited = axis < 0 || axis > 2 || axis == which;
+        const auto [low, high] = std::minmax({from, to});
+        from = limited ? low - tolerance : -anywhere;
+        to = limited ? high + tolerance : anywhere;
+    };
+    bound(0, da.x, a.x);
+    bound(1, da.y, a.y);
+    bound(2, da.z, a.z);
     const std::pair<Kind, int> wanted[] = {
         {Kind::Node, nodi}, {Kind::Truss, aste}, {Kind::Beam, travi}, {Kind::Slab, solai}, {Kind::Wall, setti}};
     std::vector<CElemento*> found;

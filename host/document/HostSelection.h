@@ -8,6 +8,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class CElemento;
@@ -45,6 +46,10 @@ class HostSelection : public CQuovarSelection {
     void IntersezioneLineePiano(CPoligono* pPoligono) override;
     void SelezionaElementiPiano(CPoligono* pPoligono) override;
     void SelezionaElementiRange(CFPoint da, CFPoint a, int nodi, int aste, int travi, int solai, int setti) override;
+
+    // Tells along which axis, 0 X to 2 Z, the dialog limits that asks for a range: its points say 0 on the other two,
+    // and on all three for the ground floor. Without one, or for another number, the points are corners of a box.
+    void SetRangeAxis(std::function<int()> axis) { m_rangeAxis = std::move(axis); }
 
     // ---- What the application uses. Only nodes and elements of the document can be selected; the flag on the element
     // answers whether it is. All four tell the observers.
@@ -88,6 +93,7 @@ class HostSelection : public CQuovarSelection {
     CObList m_list;
     bool m_listValid = false;
     std::unique_ptr<CopyCycle> m_cycle; // between the start and the end of a copy cycle
+    std::function<int()> m_rangeAxis;
 };
 
 } // namespace host

@@ -83,6 +83,18 @@ bool ToolDialogs::IsOpen(const CDialog* dialog, const HostView& view) const {
            FindLast([&](const Tool& each) { return each.view == &view && each.dialog.get() == dialog; }) != nullptr;
 }
 
+int ToolDialogs::RangeAxis(const HostDocument& document) const {
+    const QWidget* active = QApplication::activeWindow();
+    std::shared_ptr<Tool> found;
+    for (const auto& each : m_tools)
+        if (each->document == &document && each->dialog && each->command->rangeAxis >= 0) {
+            found = each;
+            if (active && platform::WidgetOf(*each->dialog) == active)
+                break;
+        }
+    return found ? found->command->rangeAxis : -1;
+}
+
 CDialog* ToolDialogs::Open(const Command& command, HostView& view, CWnd& frame) {
     EndClosed();
     if (const auto former = OpenAt(view, command.dialog)) {

@@ -39,6 +39,10 @@ class ToolDialogs {
     CDialogDocument* Latest(const HostView& view) const; // opened last or picking since; null when there is none
     bool IsOpen(const CDialog* dialog, const HostView& view) const; // for any address
 
+    // The axis of the active dialog that selects by range in the document, otherwise of the one opened last; -1 for
+    // none.
+    int RangeAxis(const HostDocument& document) const;
+
     // Destroys the dialog's window now and the object when its handlers have returned. Any other address is ignored.
     void End(const CDialog* dialog);
     void EndAll();

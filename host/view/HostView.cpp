@@ -25,6 +25,7 @@ namespace host {
 IMPLEMENT_DYNAMIC(HostView, CView)
 
 BEGIN_MESSAGE_MAP(HostView, CView)
+    ON_WM_PAINT()
     ON_MESSAGE(WM_FINEDIALOGO, OnFineDialogo)
 END_MESSAGE_MAP()
 
@@ -314,6 +315,11 @@ CString HostView::Prompt() const {
 void HostView::Redraw() {
     if (!m_closed)
         m_widget->Outdate();
+}
+
+// The window was invalidated: the kept picture does not count.
+void HostView::OnPaint() {
+    Redraw();
 }
 
 // Sent from inside the dialog's OK or Cancel: its window goes now, the object when those handlers have returned.

@@ -56,7 +56,7 @@ class HostView final : public CQuovarView, public DocumentObserver {
     int IsSelectAste() override { return m_filter.trusses; }
     int IsSelectSetti() override { return m_filter.walls; }
     int IsSelectSolai() override { return m_filter.slabs; }
-    int IsSelectElementi() override { return m_filter.AnyElement(); }
+    int IsSelectElementi() override { return m_filter.AllElements(); }
     CElementoSettings& GetNodoSettings() override;
     CElementoSettings& GetTraveSettings() override;
     CElementoSettings& GetSettoSettings() override;
@@ -110,6 +110,7 @@ class HostView final : public CQuovarView, public DocumentObserver {
     QPixmap CapturedPicture() const;
     bool Pick(CPoint at);
     void Redraw(); // the picture is out of date
+    void OnPaint();
     LRESULT OnFineDialogo(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()

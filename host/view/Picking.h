@@ -21,7 +21,7 @@ struct KindFilter {
     bool walls = true;
     bool slabs = true;
 
-    bool AnyElement() const { return beams || trusses || walls || slabs; }
+    bool AllElements() const { return beams && trusses && walls && slabs; }
 };
 
 // Points are pixels of the view. Objects that the view does not show are never hit.

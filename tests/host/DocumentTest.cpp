@@ -84,7 +84,8 @@ TEST(DocumentGeneration, NonsenseIsRejected) {
     EXPECT_EQ(document.GenNodiCerchio(1, 0, 5, o, 0), 0);
     EXPECT_EQ(document.GenNodiCerchio(1, 0, 5, o, infinity), 0);
     EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 0, 3), 0);
-    EXPECT_EQ(document.Mesh4Punti(o, x, x, y, 3, 3), 0);
+    EXPECT_EQ(document.Mesh4Punti(o, x, o, y, 3, 3), 0);
+    EXPECT_EQ(document.Mesh4Punti(o, o, x, x, 3, 3), 0);
     EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 100'000, 100'000), 0);
     EXPECT_EQ(document.GetSizeNodi(), 0);
     EXPECT_EQ(document.Undo().UndoCount(), 0u);
@@ -123,6 +124,23 @@ TEST(DocumentGeneration, MeshMeetsItsNeighbour) {
     CGrandezza area;
     document.GetIndexSolaio(3)->GetArea(area);
     EXPECT_NEAR(area.GetValue(), 1, 1e-12);
+}
+
+// Two corners in one place make a triangle. Catches elements with a node twice, and nodes in one place.
+TEST(DocumentGeneration, MeshOfThreePoints) {
+    HostDocument document;
+    ASSERT_NE(document.Mesh4Punti({0.1, 0.2, 0}, {4, 0, 0}, {4, 3, 0}, {0.1, 0.2, 0}, 2, 3), 0);
+    EXPECT_EQ(document.GetSizeNodi(), 1 + 2 * 4);
+    ASSERT_EQ(document.GetSizeSolai(), 6);
+    double area = 0;
+    for (int i = 0; i < 6; ++i) {
+        CSolaio* slab = document.GetIndexSolaio(i);
+        EXPECT_EQ(slab->GetSize(), i % 2 == 0 ? 3 : 4) << i;
+        CGrandezza part;
+        EXPECT_TRUE(slab->GetArea(part)) << i;
+        area += part.GetValue();
+    }
+    EXPECT_NEAR(area, 3 * 3.9 / 2, 1e-12);
 }
 
 TEST(Document, AddingRefusesWhatCannotBe) {

@@ -317,6 +317,16 @@ TEST_F(DocumentTransformTest, SelectionByPlaneAndRange) {
     EXPECT_EQ(Selection().Size(Kind::Truss), 1);
     EXPECT_EQ(Selection().Size(Kind::Node), 0);
     Selection().Clear();
+    // The ground floor: the points are all 0, only the dialog's kind tells the axis. Bounds may be reversed.
+    Selection().SetRangeAxis([] { return 2; });
+    Selection().SelezionaElementiRange({}, {}, 1, 0, 0, 0, 0);
+    EXPECT_EQ(Selection().Size(Kind::Node), 3);
+    Selection().SelezionaElementiRange({0, 0, 5.0005}, {0, 0, 4.9}, 1, 0, 1, 0, 0);
+    EXPECT_EQ(Selection().Size(Kind::Node), 4);
+    EXPECT_EQ(Selection().Size(Kind::Beam), 0);
+    Selection().SelezionaElementiRange({0, 0, 6}, {0, 0, 5.0005}, 0, 0, 1, 0, 0);
+    EXPECT_EQ(Selection().Size(Kind::Beam), 0);
+    Selection().Clear();
     CPoligono ground;
     for (int i = 0; i < 3; ++i)
         ground.AggiungiVertice(m_document.GetIndexNodo(i));

@@ -188,7 +188,7 @@ TEST_F(ViewTest, FiltersAndHiddenKindsAreNotHit) {
     View().SetFilter(filter);
     EXPECT_FALSE(View().IsSelectTravi());
     EXPECT_FALSE(View().IsSelectNodi());
-    EXPECT_TRUE(View().IsSelectElementi());
+    EXPECT_FALSE(View().IsSelectElementi()) << "not all kinds of elements";
     Click(PixelOf(CFPoint(2, 0, 0)));
     Click(PixelOf(*document.GetIndexNodo(1)), Qt::ControlModifier);
     EXPECT_TRUE(Selected(document).empty());
@@ -200,6 +200,7 @@ TEST_F(ViewTest, FiltersAndHiddenKindsAreNotHit) {
     EXPECT_EQ(Selected(document).size(), 1u) << "an empty filter selects nothing";
 
     View().SetFilter({});
+    EXPECT_TRUE(View().IsSelectElementi());
     View().SetShown(TipoElemento::Trave, CElementoSettings::Object, false);
     Click(PixelOf(CFPoint(2, 0, 0)));
     EXPECT_TRUE(Selected(document).empty());
@@ -219,6 +220,10 @@ TEST_F(ViewTest, DrawsTheModelOnlyWhenItChanged) {
     CWinApp::PumpMessages();
     EXPECT_NE(widget.grab().toImage(), before);
     EXPECT_GT(widget.DrawCount(), drawn);
+    const unsigned changed = widget.DrawCount();
+    View().Invalidate(TRUE);
+    widget.grab();
+    EXPECT_GT(widget.DrawCount(), changed) << "what a dialog changed on the settings must be seen";
 }
 
 // Catches an orbit that tilts columns, and a zoom that loses the point under the pointer.
