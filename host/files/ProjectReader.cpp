@@ -1,3 +1,4 @@
+#include "host/document/UnitChange.h"
 #include "host/files/FileError.h"
 #include "host/files/LoadValues.h"
 #include "host/files/ProjectFile.h"
@@ -13,6 +14,7 @@
 #include "model/entity/Spessore.h"
 
 #include <limits>
+#include <span>
 #include <unordered_set>
 
 namespace host {
@@ -24,18 +26,11 @@ constexpr int mostVertices = 1000;
 // More than the two that any line needs; a bound for the same reason.
 constexpr int mostReleases = 1000;
 
-// Refuses everything but the tables of this format exactly: no trigger, view, index or column that could do or hide
+// Refuses everything but the tables of the format exactly: no trigger, view, index or column that could do or hide
 // something. The pages behind them are checked while their rows are read.
-void CheckSchema(Database& database) {
-    if (database.Pragma("application_id") != projectApplicationId)
-        throw FileError("Il file non è un progetto."_utf8);
-    const std::int64_t format = database.Pragma("user_version");
-    if (format > projectFormat)
-        throw FileError("Il progetto è stato salvato da una versione più recente del programma."_utf8);
-    if (format != projectFormat)
-        throw FileError("Il formato del progetto non è valido."_utf8);
+void CheckSchema(Database& database, std::span<const Table* const> tables) {
     Statement statement(database, "SELECT type, sql FROM sqlite_schema ORDER BY rowid");
-    for (const Table* table : tables::all)
+    for (const Table* table : tables)
         if (!statement.Step() || statement.Text(0) != "table" || statement.Text(1) != CreationSql(*table))
             throw FileError(std::string("Le tabelle del progetto non sono quelle attese (") + table->name + ").");
     if (statement.Step())
@@ -342,10 +337,40 @@ class Reader {
 
 } // namespace
 
+namespace {
+
+struct Format {
+    int version;
+    std::span<const Table* const> tables;
+    DocumentData (*read)(Database& database);
+};
+
+// Every format that ever was, the one that is written last.
+const Format formats[] = {
+    {1, tables::format1, [](Database& database) { return Reader(database).Read(); }},
+};
+
+const Format& FormatOf(Database& database) {
+    if (database.Pragma("application_id") != projectApplicationId)
+        throw FileError("Il file non è un progetto."_utf8);
+    const std::int64_t version = database.Pragma("user_version");
+    if (version > projectFormat)
+        throw FileError("Il progetto è stato salvato da una versione più recente del programma."_utf8);
+    for (const Format& each : formats)
+        if (each.version == version)
+            return each;
+    throw FileError("Il formato del progetto non è valido."_utf8);
+}
+
+} // namespace
+
 DocumentData LoadProject(const std::string& path) {
     Database database(path, Database::Mode::ReadUntrusted);
-    CheckSchema(database);
-    return Reader(database).Read();
+    const Format& format = FormatOf(database);
+    CheckSchema(database, format.tables);
+    DocumentData data = format.read(database);
+    UseOfferedUnits(data);
+    return data;
 }
 
 } // namespace host

@@ -4,13 +4,14 @@
 #include "host/files/Sqlite.h"
 #include "platform/core/String.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace host {
 
 inline constexpr int projectApplicationId = 0x51564152;
-inline constexpr int projectFormat = 1; // raised with every change of the tables
+inline constexpr int projectFormat = 1; // what is written; raised with every change of the tables
 
 // A table: its name and its columns, "I" integer, "R" real, "T" text. Every table also has the place of the row, `pos`,
 // in front.
@@ -43,10 +44,12 @@ inline constexpr Table loads{"carichi", "caso I, id I, genere I, riferimento I, 
 inline constexpr Table loaded{"carichi_elementi", "genere I, elemento I, caso I, carico I"};
 inline constexpr Table members{"gruppi_elementi", "gruppo I, genere I, elemento I"};
 
-// In the order in which they are made; a file has exactly these.
-inline constexpr const Table* all[] = {
+// In the order in which they are made; a file of the format has exactly these. Tables of a format that was released
+// never change: see docs/project-format.md.
+inline constexpr const Table* format1[] = {
     &project, &materials, &sections, &thicknesses, &loadCases, &combinations, &factors, &groups, &nodes,  &springs,
     &beams,   &trusses,   &releases, &walls,       &slabs,     &vertices,     &loads,   &loaded, &members};
+inline constexpr std::span<const Table* const> current = format1; // of projectFormat
 } // namespace tables
 
 std::string CreationSql(const Table& table);

@@ -30,7 +30,7 @@ class Writer {
         m_database.Execute(("PRAGMA application_id = " + std::to_string(projectApplicationId)).c_str());
         m_database.Execute(("PRAGMA user_version = " + std::to_string(projectFormat)).c_str());
         m_database.Execute("BEGIN");
-        for (const Table* table : tables::all)
+        for (const Table* table : tables::current)
             m_database.Execute(CreationSql(*table).c_str());
         WriteProperties();
         WriteCases();

@@ -2,6 +2,7 @@
 #include "host/files/ProjectFile.h"
 #include "host/document/HostDocument.h"
 #include "host/files/FileError.h"
+#include "host/files/ProjectSchema.h"
 #include "host/files/Sqlite.h"
 #include "model/entity/Materiale.h"
 #include "tests/host/Dump.h"
@@ -87,6 +88,35 @@ TEST_F(ProjectFileTest, RoundTripIsExact) {
     HostDocument empty;
     SaveProject(empty.Data(), m_file.string(), "1.2.3");
     EXPECT_EQ(Loaded(), Dump(empty.Data()));
+}
+
+// Every format that ever was opens, with what its file says, and the next save keeps it. Catches a format that was
+// raised without a reader for the files of the one before, or without keeping one.
+TEST_F(ProjectFileTest, EveryFormatOpens) {
+    const char* const contents[] = {
+        "Edificio a due piani: 18 26 4 2 4 2 1 1 2 3 1, 28 carichi, nodo 7 a (0, 0, 3.2)",
+    };
+    static_assert(std::size(contents) == projectFormat, "a format lacks its file");
+    for (int format = 1; format <= projectFormat; ++format) {
+        const fs::path kept =
+            fs::path(QUOVAR_SOURCE_DIR) / "tests/host/files" / ("formato-" + std::to_string(format) + ".asg");
+        ASSERT_EQ(host::Database(kept.string(), host::Database::Mode::ReadUntrusted).Pragma("user_version"), format);
+        const DocumentData data = LoadProject(kept.string());
+        std::string found = data.Info().title.ToUtf8() + ":";
+        int loads = 0;
+        for (const Kind kind : allKinds) {
+            found += " " + std::to_string(data.Size(kind));
+            for (int i = 0; i < data.Size(kind); ++i)
+                if (auto* carrier = dynamic_cast<CElementoCarico*>(data.At(kind, i)))
+                    loads += carrier->GetSizeCarichi();
+        }
+        CString rest;
+        const CFPoint& place = *data.FindAs<CNodo>(Kind::Node, 7)->GetPunto();
+        rest.Format(", %d carichi, nodo 7 a (%g, %g, %g)", loads, place.x, place.y, place.z);
+        EXPECT_EQ(found + rest.ToUtf8(), contents[format - 1]);
+        SaveProject(data, m_file.string(), "1.2.3");
+        EXPECT_EQ(Loaded(), Dump(data)) << format;
+    }
 }
 
 // Catches limits of the reader that a model passes by being shown in another unit, or by its own settings.
