@@ -10,16 +10,16 @@
 
 namespace host {
 
-int WriteExample(const std::string& path) {
+BatchStatus WriteExample(const std::string& path) {
     HostDocument document;
     BuildExample(document);
     try {
         SaveProject(document.Data(), path, applicationVersion);
     } catch (const FileError& error) {
         std::fprintf(stderr, "quovar: %s\n", error.what());
-        return 1;
+        return notDone;
     }
-    return 0;
+    return nothingFound;
 }
 
 } // namespace host

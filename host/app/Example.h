@@ -1,11 +1,13 @@
 // The example project as a file.
 #pragma once
 
+#include "host/commands/BatchStatus.h"
+
 #include <string>
 
 namespace host {
 
-// The path is as the system spells it. 0 on success; otherwise 1 and a message on the error stream.
-int WriteExample(const std::string& path);
+// The path is as the system spells it. When it cannot be written, a message goes to the error stream.
+BatchStatus WriteExample(const std::string& path);
 
 } // namespace host

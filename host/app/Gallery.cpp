@@ -53,9 +53,9 @@ std::vector<Page> Pages() {
     return all;
 }
 
-int Fail(const QString& message) {
+BatchStatus Fail(const QString& message) {
     std::fprintf(stderr, "quovar: %s\n", qPrintable(message));
-    return 1;
+    return notDone;
 }
 
 class Camera {
@@ -67,7 +67,7 @@ class Camera {
             CWinApp::PumpMessages();
         const int percent = static_cast<int>(std::lround(widget.devicePixelRatioF() * 100));
         const QString path = QStringLiteral("%1/%2-%3.png").arg(m_folder, file).arg(percent);
-        return widget.grab().save(path) || Fail("impossibile scrivere " + path) == 0;
+        return widget.grab().save(path) || Fail("impossibile scrivere " + path) == nothingFound;
     }
 
   private:
@@ -184,7 +184,7 @@ void ShowResults(HostView& view) {
 
 } // namespace
 
-int WriteGallery(const std::string& program, const std::string& folder, const std::string& model) {
+BatchStatus WriteGallery(const std::string& program, const std::string& folder, const std::string& model) {
     const QString path = QString::fromLocal8Bit(folder.c_str());
     if (!QDir().mkpath(path))
         return Fail("impossibile creare la cartella " + path);
@@ -194,10 +194,10 @@ int WriteGallery(const std::string& program, const std::string& folder, const st
     if (!WriteIndex(path))
         return Fail("impossibile scrivere " + path + "/index.html");
     std::printf("%s/index.html\n", folder.c_str());
-    return 0;
+    return nothingFound;
 }
 
-int WriteGalleryPictures(Workspace& workspace, const QString& folder, const QString& model) {
+BatchStatus WriteGalleryPictures(Workspace& workspace, const QString& folder, const QString& model) {
     if (!QDir().mkpath(folder))
         return Fail("impossibile creare la cartella " + folder);
     Camera camera(folder);
@@ -206,8 +206,8 @@ int WriteGalleryPictures(Workspace& workspace, const QString& folder, const QStr
     // From a file, because dialogs show its name in their captions.
     const QTemporaryDir scratch;
     const QString shown = model.isEmpty() ? scratch.filePath("edificio.asg") : model;
-    if (model.isEmpty() && WriteExample(QFile::encodeName(shown).toStdString()) != 0)
-        return 1;
+    if (model.isEmpty() && WriteExample(QFile::encodeName(shown).toStdString()) != nothingFound)
+        return notDone;
     if (!workspace.Open(shown))
         return Fail("il progetto non si apre: " + shown);
     HostView& view = *workspace.ActiveView();
@@ -220,7 +220,7 @@ int WriteGalleryPictures(Workspace& workspace, const QString& folder, const QStr
     workspace.NewView(view.Document());
     window.Command("finestra.affianca")->trigger();
     ok = camera.Take(window, "finestra-due-viste") && ok;
-    return ok ? 0 : 1;
+    return ok ? nothingFound : notDone;
 }
 
 } // namespace host

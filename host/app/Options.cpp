@@ -18,7 +18,11 @@ const char* const usageText =
     "  --check FILE           controlla il modello e stampa i messaggi, senza finestre\n"
     "  --write-example FILE   scrive il progetto d'esempio\n"
     "  --help                 mostra questo testo\n"
-    "  --version              mostra la versione\n";
+    "  --version              mostra la versione\n"
+    "\n"
+    "Esito: 0 fatto, senza nulla da segnalare; 1 il modello ha difetti, che sono stampati; 2 il file non si legge, "
+    "oppure\n"
+    "il comando non si esegue o non si scrive.\n";
 
 namespace {
 

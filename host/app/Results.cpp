@@ -16,8 +16,6 @@ namespace host {
 
 namespace {
 
-enum ExitStatus { success = 0, refused = 1, unreadable = 2 };
-
 void Tell(const CString& text) {
     std::fprintf(stderr, "quovar: %s\n", text.ToUtf8().c_str());
 }
@@ -26,11 +24,11 @@ bool IsTextModel(const std::string& path) {
     return CString(std::filesystem::path(path).extension().string()).CompareNoCase(".3dd") == 0;
 }
 
-int PrintAll(HostDocument& document) {
+BatchStatus PrintAll(HostDocument& document) {
     const AnalysisOutcome outcome = document.RunAnalysis();
     if (outcome.refusal) {
         Tell(outcome.refusal->message);
-        return refused;
+        return found;
     }
     for (const CString& each : outcome.notes)
         Tell(each);
@@ -45,14 +43,14 @@ int PrintAll(HostDocument& document) {
     WriteResults(document.Data(), all, stdout);
     if (std::fflush(stdout) != 0 || std::ferror(stdout)) {
         Tell("i risultati non si possono scrivere.");
-        return refused;
+        return notDone;
     }
-    return success;
+    return nothingFound;
 }
 
 } // namespace
 
-int PrintResults(const std::string& path) {
+BatchStatus PrintResults(const std::string& path) {
     try {
         HostDocument document;
         std::vector<CString> notes;
@@ -62,10 +60,10 @@ int PrintResults(const std::string& path) {
         return PrintAll(document);
     } catch (const FileError& error) {
         std::fprintf(stderr, "quovar: %s\n", error.what());
-        return unreadable;
+        return notDone;
     } catch (const std::bad_alloc&) {
         Tell("memoria insufficiente.");
-        return refused;
+        return notDone;
     }
 }
 

@@ -15,8 +15,6 @@ using namespace host;
 
 namespace {
 
-enum ExitStatus { success = 0, failure = 1, badUsage = 2, noModule = 3 };
-
 // The dialogs' module, from before the first dialog until after the last.
 class DialogModule {
   public:
@@ -38,7 +36,7 @@ int RunApplication(const Options& options, int argc, char** argv) {
     const DialogModule module;
     if (!module.IsStarted()) {
         std::fprintf(stderr, "quovar: il modulo dei dialoghi non si avvia.\n");
-        return noModule;
+        return notDone;
     }
     if (options.action == Options::Action::Gallery) // names its pages after the dialogs, which it leaves to others
         return WriteGallery(argv[0], options.argument, options.model);
@@ -52,13 +50,13 @@ int main(int argc, char** argv) {
     switch (options.action) {
     case Options::Action::Help:
         std::fputs(usageText, stdout);
-        return success;
+        return nothingFound;
     case Options::Action::Version:
         std::printf("quovar %s\n", applicationVersion);
-        return success;
+        return nothingFound;
     case Options::Action::Invalid:
         std::fprintf(stderr, "quovar: %s\n\n%s", options.error.c_str(), usageText);
-        return badUsage;
+        return notDone;
     case Options::Action::WriteExample:
         return WriteExample(options.argument);
     case Options::Action::Results:

@@ -15,17 +15,21 @@ namespace host {
 
 namespace {
 
-enum ExitStatus { success = 0, faulty = 1, unreadable = 2 };
+// Empty rows and headings say nothing about the model.
+bool IsFinding(const CString& row) {
+    return !row.IsEmpty() && row.Left(3) != "---";
+}
 
-const char* const closingRow = "--- Fine Messaggi ---";
-
-// False when the rows cannot be written. The last row is left in `row`.
-bool PrintRows(const CListBox& list, std::FILE* out, CString& row) {
+BatchStatus PrintRows(const CListBox& list, std::FILE* out) {
+    BatchStatus status = nothingFound;
+    CString row;
     for (int i = 0; i < list.GetCount(); ++i) {
         list.GetText(i, row);
         std::fprintf(out, "%s\n", row.ToUtf8().c_str());
+        if (IsFinding(row))
+            status = found;
     }
-    return std::fflush(out) == 0 && !std::ferror(out);
+    return std::fflush(out) == 0 && !std::ferror(out) ? status : notDone;
 }
 
 // The check window does not check on its own: this asks every open one of the document to.
@@ -49,17 +53,16 @@ std::span<const Command> CheckCommands() {
     return rows;
 }
 
-int PrintCheck(Workspace& workspace, const QString& path, std::FILE* out) {
+BatchStatus PrintCheck(Workspace& workspace, const QString& path, std::FILE* out) {
     if (!workspace.Open(path))
-        return unreadable;
+        return notDone;
     CDialog* dialog = workspace.Run(*FindCommand(CDialogCheck::IDD));
     if (!dialog)
-        return faulty;
-    CString last;
-    const bool printed =
-        PrintRows(dynamic_cast<CListBox&>(*dialog->GetDlgItem(CDialogCheck::IDC_LIST_ERRORS)), out, last);
+        return notDone;
+    const BatchStatus status =
+        PrintRows(dynamic_cast<CListBox&>(*dialog->GetDlgItem(CDialogCheck::IDC_LIST_ERRORS)), out);
     workspace.Tools().End(dialog);
-    return printed && last == closingRow ? success : faulty;
+    return status;
 }
 
 } // namespace host

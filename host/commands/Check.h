@@ -1,6 +1,8 @@
 // The model check from the command line.
 #pragma once
 
+#include "host/commands/BatchStatus.h"
+
 #include <cstdio>
 
 class QString;
@@ -10,9 +12,8 @@ namespace host {
 class Workspace;
 
 // Opens a project or a text model, checks it through the check window and prints that window's rows, one a line, UTF-8.
-// Returns the process's exit status: 0 when the model is free of faults of its own nodes and elements (the list ends
-// with the closing row), 1 when it is not or the check cannot be carried out, 2, after a message, when the file cannot
-// be read.
-int PrintCheck(Workspace& workspace, const QString& path, std::FILE* out = stdout);
+// Returns the process's exit status: whatever the list says beyond its headings was found. A file that cannot be read
+// is told in a message.
+BatchStatus PrintCheck(Workspace& workspace, const QString& path, std::FILE* out = stdout);
 
 } // namespace host
