@@ -113,7 +113,7 @@ void CDialogCheck::CheckStructures(CQuovarDoc& doc) {
         StructureRestraint restraint;
         int nodes = 0;
         for (CObject* object : structure) {
-            if (!current.Has(object))
+            if (!IsCurrent(object, current))
                 continue;
             restraint.Add(*static_cast<CNodo*>(object));
             ++nodes;

@@ -99,12 +99,12 @@ void CDialogStrutture::SelezionaStruttura(CObArray* pStruttura, const CurrentNod
     for (CObject* object : *pStruttura) {
         if (!IsNode(object))
             return;
-        if (!current.Has(object))
+        if (!IsCurrent(object, current))
             continue; // removed since the search
         const auto* node = static_cast<const CNodo*>(object);
         for (int i = 0; i < node->GetSizeElementi(); ++i) {
-            CElemento& element = *node->GetIndexElemento(i);
-            SelectByKind(*pDoc, KindOf(element), element.GetID(), &rect);
+            if (CElemento* element = node->GetIndexElemento(i))
+                SelectByKind(*pDoc, KindOf(*element), element->GetID(), &rect);
         }
     }
     pDoc->UpdateAllViews(nullptr, MODIFICA_SELEZIONE_VISTE);

@@ -14,7 +14,7 @@ void NodeIndex::Reserve(std::size_t nodes) {
             m_slots[Locate(slot.node)] = slot;
 }
 
-void NodeIndex::Add(const CObject* node, int structure) {
+void NodeIndex::Add(const CObject* node, int structure, int id) {
     if (!node)
         return;
     if (2 * (m_used + 1) > m_slots.size())
@@ -22,12 +22,16 @@ void NodeIndex::Add(const CObject* node, int structure) {
     Slot& slot = m_slots[Locate(node)];
     if (slot.node)
         return;
-    slot = {node, structure};
+    slot = {node, structure, id};
     ++m_used;
 }
 
 int NodeIndex::Find(const CObject* node) const {
     return node && m_used ? m_slots[Locate(node)].structure : none;
+}
+
+int NodeIndex::IdOf(const CObject* node) const {
+    return node && m_used ? m_slots[Locate(node)].id : none;
 }
 
 void NodeIndex::Clear() {

@@ -21,7 +21,7 @@ bool RotationsFixed(const CVincolo* restraint) {
 bool HoldsRotations(CNodo& node) {
     for (int i = 0; i < node.GetSizeElementi(); ++i) {
         const CElemento* element = node.GetIndexElemento(i);
-        if (element->IsKindOf(RUNTIME_CLASS(CTrave)) || element->IsKindOf(RUNTIME_CLASS(CSetto)))
+        if (element && (element->IsKindOf(RUNTIME_CLASS(CTrave)) || element->IsKindOf(RUNTIME_CLASS(CSetto))))
             return true;
     }
     return RotationsFixed(node.GetVincolo());
@@ -31,7 +31,8 @@ bool HoldsRotations(CNodo& node) {
 
 void StructureRestraint::Add(CNodo& node) {
     for (int i = 0; i < node.GetSizeMolle(); ++i)
-        AddSpring(*node.GetIndexMolla(i));
+        if (const CMolla* spring = node.GetIndexMolla(i))
+            AddSpring(*spring);
     if (const CVincolo* restraint = node.GetVincolo())
         AddRestraint(*restraint);
     else

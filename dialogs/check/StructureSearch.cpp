@@ -38,9 +38,9 @@ void StructureSearch::AddStructure(CQuovarDoc& doc, CNodo* seed) {
         return;
     doc.m_pSelezione->SelezionaStruttura(seed, structure);
     const int number = GetSizeStructures() - 1;
-    for (const CObject* node : *structure)
-        if (node && node->IsKindOf(RUNTIME_CLASS(CNodo)))
-            m_index.Add(node, number);
+    for (CObject* entry : *structure)
+        if (auto* node = DYNAMIC_DOWNCAST(CNodo, entry))
+            m_index.Add(node, number, node->GetID());
 }
 
 void StructureSearch::FindStructures(CQuovarDoc* pDoc) {
@@ -49,7 +49,8 @@ void StructureSearch::FindStructures(CQuovarDoc* pDoc) {
     if (nodes == 0)
         return;
     platform::Allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
-    AddStructure(*pDoc, pDoc->GetIndexNodo(0));
+    if (CNodo* first = pDoc->GetIndexNodo(0))
+        AddStructure(*pDoc, first);
     const WaitBar wait("Attendere...Ricerca delle strutture", static_cast<unsigned int>(nodes));
     for (int i = 0; i < nodes; ++i) {
         CMainFrame::_StepBar();
@@ -79,9 +80,14 @@ void StructureSearch::RemoveAllStructures() {
     m_index.Clear();
 }
 
+bool StructureSearch::IsCurrent(const CObject* entry, const CurrentNodes& current) const {
+    return current.Has(entry, m_index.IdOf(entry));
+}
+
 CurrentNodes::CurrentNodes(DocumentLists& lists) {
     const int nodes = lists.GetSizeNodi();
     platform::Allocating([&] { m_index.Reserve(static_cast<std::size_t>(nodes)); });
     for (int i = 0; i < nodes; ++i)
-        m_index.Add(lists.GetIndexNodo(i), 0);
+        if (CNodo* node = lists.GetIndexNodo(i))
+            m_index.Add(node, 0, node->GetID());
 }

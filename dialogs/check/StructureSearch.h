@@ -8,6 +8,17 @@ class CNodo;
 class CQuovarDoc;
 class DocumentLists;
 
+// The nodes that the document has now. Structures are kept from the time of their search, and a node that was removed
+// since must not be touched.
+class CurrentNodes {
+  public:
+    explicit CurrentNodes(DocumentLists& lists);
+    bool Has(const CObject* node, int id) const { return id != NodeIndex::none && m_index.IdOf(node) == id; }
+
+  private:
+    NodeIndex m_index;
+};
+
 class StructureSearch {
   public:
     virtual ~StructureSearch();
@@ -31,6 +42,8 @@ class StructureSearch {
 
     // The entry of a structure was a node when the structure was found; asks the index, as the object may be gone.
     bool IsNode(const CObject* entry) const { return m_index.Find(entry) != NodeIndex::none; }
+    // It is a node of the document still, and the same one.
+    bool IsCurrent(const CObject* entry, const CurrentNodes& current) const;
 
     CObArray m_aStrutture; // arrays of CNodo; the arrays are owned, the nodes are the document's
 
@@ -38,15 +51,4 @@ class StructureSearch {
     void AddStructure(CQuovarDoc& doc, CNodo* seed);
 
     NodeIndex m_index; // of every node in the arrays: looking through them once a node would be quadratic
-};
-
-// The nodes that the document has now. Structures are kept from the time of their search, and a node that was removed
-// since must not be touched.
-class CurrentNodes {
-  public:
-    explicit CurrentNodes(DocumentLists& lists);
-    bool Has(const CObject* node) const { return m_index.Find(node) != NodeIndex::none; }
-
-  private:
-    NodeIndex m_index;
 };

@@ -102,7 +102,7 @@ void CDialogCreaCombinazione::AggiornaCDCDisponibili() {
     CQuovarDoc* pDoc = CQuovarGlobal::_GetActiveDoc();
     for (int i = 0; pDoc && i < pDoc->GetSizeCasiCarico(); ++i) {
         CCasoCarico* loadCase = pDoc->GetIndexCasoCarico(i);
-        if (!m_combinazione.IsCDC(loadCase->GetID()))
+        if (loadCase && !m_combinazione.IsCDC(loadCase->GetID()))
             AddRow(m_listCDCDisponibili, loadCase->GetDescrizione(1, 1, 1), loadCase->GetID());
     }
 }

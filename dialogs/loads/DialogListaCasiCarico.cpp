@@ -41,7 +41,8 @@ void CarryCopies(CQuovarDoc& doc, CCasoCarico& source, CCasoCarico& copy) {
 
 void SwapAxialSigns(CQuovarDoc& doc) {
     for (int i = 0; i < doc.GetSizeTravi(); ++i) {
-        CElementoRisultati* results = doc.GetIndexTrave(i)->GetRisultati();
+        CTrave* beam = doc.GetIndexTrave(i);
+        CElementoRisultati* results = beam ? beam->GetRisultati() : nullptr;
         if (CNodoRisultati* node = results ? results->GetNodeResults(farNode) : nullptr)
             node->GetV1() = -node->GetV1();
     }
@@ -87,9 +88,12 @@ void CDialogListaCasiCarico::UpdateListBox() {
     m_listCasiCarico.ResetContent();
     CString text;
     for (int i = 0; i < m_pDoc->GetSizeCasiCarico(); ++i) {
-        CCasoCarico* loadCase = m_pDoc->GetIndexCasoCarico(i);
-        text.Format("%d : ", loadCase->GetID());
-        m_listCasiCarico.AddString(text + loadCase->GetNome());
+        text.Empty(); // rows are the document's indexes
+        if (CCasoCarico* loadCase = m_pDoc->GetIndexCasoCarico(i)) {
+            text.Format("%d : ", loadCase->GetID());
+            text += loadCase->GetNome();
+        }
+        m_listCasiCarico.AddString(text);
     }
 }
 

@@ -46,8 +46,10 @@ void CDialogListaGruppi::AggiornaListBox() {
         return;
     const RedrawLock lock(m_listGruppi);
     m_listGruppi.ResetContent();
-    for (int i = 0; i < pDoc->GetSizeGruppi(); ++i)
-        m_listGruppi.AddString(pDoc->GetIndexGruppo(i)->GetNome());
+    for (int i = 0; i < pDoc->GetSizeGruppi(); ++i) {
+        CGruppo* group = pDoc->GetIndexGruppo(i);
+        m_listGruppi.AddString(group ? group->GetNome() : CString()); // rows are the document's indexes
+    }
 }
 
 void CDialogListaGruppi::AggiornaBottoni() {

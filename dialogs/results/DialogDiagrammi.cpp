@@ -113,7 +113,7 @@ void CDialogDiagrammi::AggiornaDiagramma() {
     // The control paints itself first: later it would cover what is drawn here.
     m_wndDiagramma.Invalidate();
     m_wndDiagramma.UpdateWindow();
-    CTrave* pTrave = GetTrave();
+    CTrave* pTrave = HeldTrave();
     const bool valid = pTrave && pDoc->m_pAnalisi && pDoc->m_pAnalisi->m_bRisultatiValidi;
     CString title = "Diagramma - (Nessuna trave selezionata)";
     if (valid)
@@ -124,6 +124,14 @@ void CDialogDiagrammi::AggiornaDiagramma() {
     dc.FillSolidRect(client, RGB(255, 255, 255));
     if (valid)
         DrawBeam(0, CPoint(0, 0));
+}
+
+// The news that the beam is gone, with its document too, may still be on its way: only the selection tells.
+CTrave* CDialogDiagrammi::HeldTrave() {
+    CQuovarDoc* pDoc = GetDoc();
+    POSITION pos = nullptr;
+    CTrave* pFirst = pDoc ? pDoc->GetFirstTraveSelect(pos) : nullptr;
+    return pFirst == GetTrave() ? pFirst : nullptr;
 }
 
 void CDialogDiagrammi::DrawBeam(int bLettura, CPoint punto) {
@@ -167,8 +175,7 @@ void CDialogDiagrammi::OnMouseMove(UINT nFlags, CPoint point) {
         _bStaticCursor = 1;
         SetCursor(StandardCursor::Cross);
     }
-    // Without a document the beam may be gone with it.
-    if (IsRisultati() && GetDoc() && GetTrave())
+    if (IsRisultati() && HeldTrave())
         DrawBeam(1, point);
     CDialogDocument::OnMouseMove(nFlags, point);
 }

@@ -92,6 +92,7 @@ class CDialogDiagrammi : public CDialogDocument {
     struct Switch;
     static const Switch switches[9];
 
+    CTrave* HeldTrave(); // the beam held, while it is the first selected one still
     void DrawBeam(int bLettura, CPoint punto);
     void Toggle(int& flag);
 

@@ -46,6 +46,9 @@ class ContractFields {
     std::span<const platform::ControlTemplate> m_controls;
 };
 
+// The host has nothing to give: lists of nulls, with one object among them that lacks all its parts and is selected.
+void HoldNothing(RecordingHost& host);
+
 // A handler for a control that the template lacks is never called, and nothing else would tell. `commands` come without
 // a control.
 void ExpectHandledNumbersExist(const CWnd& dialog, int templateId, const std::set<int>& commands = {});

@@ -252,6 +252,18 @@ TEST_P(EveryModalDialog, WhatIsTypedReachesItsPlace) {
     }
 }
 
+// Null from a getter is "none", whatever the user does then; in the end there is no document either.
+TEST_P(EveryModalDialog, TakesNullForNone) {
+    HoldNothing(m_host);
+    Run(*m_dialog, [&](DialogDriver& driver) {
+        m_fields.ClickEverything(driver);
+        m_host.hasDoc = false;
+        m_fields.ClickEverything(driver);
+        if (GetParam().endsByOkOnly)
+            Confirm(driver);
+    });
+}
+
 TEST_P(EveryModalDialog, EveryHandledNumberIsInTheTemplate) {
     ExpectHandledNumbersExist(*m_dialog, GetParam().templateId, GetParam().commands);
 }

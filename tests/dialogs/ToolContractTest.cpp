@@ -276,6 +276,19 @@ TEST_P(EveryToolDialog, CancelChangesNothing) {
     EXPECT_FALSE(m_host.View().IsDefinisciVettore()) << "the view stays in picking mode";
 }
 
+// Null from a getter is "none", whatever the user does then.
+TEST_P(EveryToolDialog, TakesNullForNone) {
+    HoldNothing(m_host);
+    DialogDriver driver = Open();
+    for (int code = 0; code <= 100; ++code)
+        m_dialog->Update(nullptr, code, nullptr);
+    m_fields.ClickEverything(driver);
+    driver.MoveTo(40, 40);
+    CWinApp::PumpMessages();
+    if (driver.IsOpen())
+        driver.Press(VK_RETURN);
+}
+
 TEST_P(EveryToolDialog, SurvivesItsView) {
     m_host.Open(*m_dialog);
     RecordingView& second = m_host.AddView();

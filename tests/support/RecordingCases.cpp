@@ -58,7 +58,7 @@ CElemento* RecordingCases::IsCasoCaricoNome(CString nome) {
 }
 int RecordingCases::EliminaCasoCarico(int id) {
     m_journal.Add("EliminaCasoCarico", id);
-    return static_cast<int>(std::erase_if(casi, [id](const auto& entity) { return entity->GetID() == id; }));
+    return static_cast<int>(std::erase_if(casi, [id](const auto& entity) { return entity && entity->GetID() == id; }));
 }
 int RecordingCases::SelectIndexCasoCarico(int index) {
     m_journal.Add("SelectIndexCasoCarico", index);

@@ -43,7 +43,7 @@ class RecordingCases : public RecordingGeneration {
     template <class T>
     static T* ByName(const List<T>& list, const CString& name) {
         for (const auto& entity : list)
-            if (entity->GetNome() == name)
+            if (entity && entity->GetNome() == name)
                 return entity.get();
         return nullptr;
     }

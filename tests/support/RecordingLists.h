@@ -25,7 +25,7 @@ class RecordingLists : public CQuovarDoc {
   public:
     explicit RecordingLists(Journal& journal) : m_journal(journal) {}
 
-    // Contents, set by tests.
+    // Contents, set by tests. A null is handed out as it is.
     std::vector<std::unique_ptr<CNodo>> nodi;
     std::vector<std::unique_ptr<CTrave>> travi;
     std::vector<std::unique_ptr<CAsta>> aste;
@@ -104,7 +104,7 @@ class RecordingLists : public CQuovarDoc {
     template <class T>
     static T* ById(const List<T>& list, int id, int* pIndex = nullptr) {
         const auto found =
-            std::find_if(list.begin(), list.end(), [id](const auto& each) { return each->GetID() == id; });
+            std::find_if(list.begin(), list.end(), [id](const auto& each) { return each && each->GetID() == id; });
         if (found != list.end() && pIndex)
             *pIndex = static_cast<int>(found - list.begin());
         return found == list.end() ? nullptr : found->get();
