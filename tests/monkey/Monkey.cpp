@@ -48,15 +48,23 @@ std::string NameOf(const QWidget& widget) {
     return widget.metaObject()->className() + number + " of \"" + widget.window()->windowTitle().toStdString() + "\"";
 }
 
+// Texts, frames and gaps.
+bool IsInert(const QWidget& widget) {
+    const CWnd* window = platform::WindowOf(&widget);
+    return (window && window->GetDlgCtrlID() == -1) || widget.inherits("QLabel") || widget.inherits("QSizeGrip") ||
+           widget.inherits("QToolBarSeparator") || widget.inherits("QMenuBar");
+}
+
 // What takes the pointer: visible, and nothing over it.
-std::vector<QWidget*> Leaves(QWidget& window) {
+std::vector<QWidget*> Leaves(QWidget& window, bool inert) {
     std::vector<QWidget*> leaves;
     const auto isShown = [&window](const QWidget* each) {
         return !each->isWindow() && each->isVisibleTo(&window) && each->window() == &window;
     };
     for (QWidget* each : window.findChildren<QWidget*>()) {
         const QObjectList& inside = each->children();
-        if (isShown(each) && each->isEnabled() && std::none_of(inside.begin(), inside.end(), [&](const QObject* child) {
+        if (isShown(each) && each->isEnabled() && (inert || !IsInert(*each)) &&
+            std::none_of(inside.begin(), inside.end(), [&](const QObject* child) {
                 return child->isWidgetType() && isShown(static_cast<const QWidget*>(child));
             }))
             leaves.push_back(each);
@@ -104,12 +112,16 @@ Monkey::~Monkey() {
 
 void Monkey::Run(int events) {
     const int last = eventlog::Count() + events;
+    int nextWhole = eventlog::Count() + wholeCheckEvery;
     while (eventlog::Count() < last) {
         if (!m_workspace || !m_workspace->Window().isVisible() || HasEnded() || IsTooLarge())
             Start();
         Act();
         Settle();
-        Check();
+        const bool whole = eventlog::Count() >= nextWhole;
+        Check(whole);
+        if (whole)
+            nextWhole = eventlog::Count() + wholeCheckEvery;
     }
     m_ending = true;
     while (QApplication::activePopupWidget()) {
@@ -124,12 +136,13 @@ void Monkey::Start() {
     Event("start");
     m_workspace = std::make_unique<Workspace>();
     m_workspace->Window().show();
-    if (!m_random.Chance(70) || !m_workspace->Open(QString::fromStdString(m_random.Of(m_models))))
+    if (!m_random.Chance(90) || !m_workspace->Open(QString::fromStdString(m_random.Of(m_models))))
         m_workspace->NewDocument();
     Settle();
 }
 
 void Monkey::Stop() {
+    Check(true);
     m_workspace.reset();
     QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
     QCoreApplication::exec();
@@ -169,7 +182,7 @@ void Monkey::Settle() {
             return QTest::qWait(300);
 }
 
-void Monkey::Check() {
+void Monkey::Check(bool whole) {
     std::set<HostDocument*> seen;
     for (std::size_t i = 0; m_workspace && i < m_workspace->Views().size(); ++i) {
         HostDocument& document = m_workspace->Views()[i]->Document();
@@ -178,12 +191,18 @@ void Monkey::Check() {
         eventlog::Expect(DocumentFault(document));
         if (document.Undo().IsInBracket())
             eventlog::Fail("a step of undo was left open");
-        if (eventlog::Count() % wholeCheckEvery == 0) {
+        if (whole) {
             eventlog::Expect(FileFault(document.Data(), m_folder));
+            m_steps += document.Undo().UndoCount() + document.Undo().RedoCount();
             eventlog::Expect(UndoFault(document));
             Settle();
         }
     }
+}
+
+bool Monkey::HasModel() const {
+    HostView* view = m_workspace->ActiveView();
+    return view && view->Document().GetSizeNodi() > 0;
 }
 
 bool Monkey::IsTooLarge() const {
@@ -205,13 +224,16 @@ void Monkey::Act() {
     if (modal && m_random.Chance(95))
         return ActIn(*modal);
     const int choice = m_random.Below(100);
-    if (choice < 30 && !modal)
-        return Trigger();
-    if (choice < 55)
-        return ActOnView();
-    const std::vector<QWidget*> windows = Windows();
-    if (!windows.empty())
-        ActIn(*m_random.Of(windows));
+    if (choice < 25 && !modal && !HasModel()) {
+        Event("open a model");
+        m_workspace->Open(QString::fromStdString(m_random.Of(m_models)));
+    } else if (choice < 35 && !modal) {
+        Trigger();
+    } else if (choice < 55) {
+        ActOnView();
+    } else if (const std::vector<QWidget*> windows = Windows(); !windows.empty()) {
+        ActIn(m_random.Chance(60) ? *windows.back() : *m_random.Of(windows));
+    }
 }
 
 void Monkey::ActOnPopup(QWidget& popup) {
@@ -246,15 +268,17 @@ void Monkey::ActIn(QWidget& window) {
     if (auto* files = qobject_cast<QFileDialog*>(&window))
         return AnswerFile(*files);
     const int choice = m_random.Below(100);
-    const std::vector<QWidget*> leaves = Leaves(window);
-    if (choice < 65 && !leaves.empty())
+    const std::vector<QWidget*> leaves = Leaves(window, m_random.Chance(5));
+    if (choice < 60 && !leaves.empty())
         return ActOn(*m_random.Of(leaves));
-    if (choice < 95)
+    if (choice < 75 && &window != &m_workspace->Window())
+        return Key(window, choice < 70 ? Qt::Key_Return : Qt::Key_Escape, Qt::NoModifier);
+    if (choice < 96)
         return Press(window);
     if (choice < 98) {
         Event("resize " + NameOf(window));
         window.resize(window.size() + QSize(m_random.Below(200) - 100, m_random.Below(200) - 100));
-    } else if (m_workspace && (&window != &m_workspace->Window() || m_random.Chance(20))) {
+    } else if (&window != &m_workspace->Window() || m_random.Chance(20)) {
         Event("close " + NameOf(window));
         window.close();
     }
@@ -274,14 +298,24 @@ void Monkey::ActOn(QWidget& control) {
         Type(*window);
 }
 
-// A command of the table, or any of the menus.
+// What makes others possible, a command of the table, or any of the menus.
 void Monkey::Trigger() {
-    m_workspace->Window().Refresh();
+    static const char* const frequent[] = {"modifica.seleziona_tutto",
+                                           "modifica.seleziona_tutto",
+                                           "modifica.annulla",
+                                           "modifica.ripristina",
+                                           "analisi.esegui",
+                                           "file.salva",
+                                           "file.apri"};
+    MainWindow& window = m_workspace->Window();
+    window.Refresh();
     const Command& command = *m_random.Of(Commands());
-    QAction* action = m_workspace->Window().Command(ActionName(command.dialog, command.kind));
-    if (m_random.Chance(60)) {
+    const int choice = m_random.Below(100);
+    QAction* action =
+        window.Command(choice < 30 ? QString(m_random.Of(frequent)) : ActionName(command.dialog, command.kind));
+    if (choice >= 75) {
         std::vector<QAction*> leaves;
-        CollectActions(m_workspace->Window().menuBar()->actions(), leaves);
+        CollectActions(window.menuBar()->actions(), leaves);
         action = m_random.Of(leaves);
     }
     if (action && action->isEnabled()) {
@@ -294,7 +328,7 @@ void Monkey::Trigger() {
 }
 
 std::string Monkey::FileToOpen() {
-    if (m_random.Chance(40))
+    if (m_random.Chance(25))
         return WriteMutated(m_random, m_random.Of(m_models));
     return m_random.Chance(50) ? m_random.Of(m_models)
                                : m_folder + "/salvato" + std::to_string(m_random.Below(3)) + ".asg";
@@ -310,7 +344,7 @@ void Monkey::AnswerFile(QFileDialog& dialog) {
     }
     Event("file " + path);
     dialog.selectFile(QString::fromStdString(path));
-    QMetaObject::invokeMethod(&dialog, "accept");
+    dialog.QDialog::done(QDialog::Accepted); // its own asks what a thread has found of the folder so far
 }
 
 // The user is leaving: Escape ends every dialog and every menu.
@@ -441,11 +475,13 @@ void Monkey::Key(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, cons
 
 // No digits: a number that grows key by key asks for a million copies.
 void Monkey::Press(QWidget& window) {
-    static const int keys[] = {Qt::Key_Tab,    Qt::Key_Tab,    Qt::Key_Return,  Qt::Key_Escape, Qt::Key_Space,
-                               Qt::Key_Up,     Qt::Key_Down,   Qt::Key_Left,    Qt::Key_Right,  Qt::Key_Home,
-                               Qt::Key_End,    Qt::Key_PageUp, Qt::Key_Delete,  Qt::Key_F2,     Qt::Key_F5,
-                               Qt::Key_Insert, Qt::Key_Plus,   Qt::Key_PageDown};
+    static const int keys[] = {Qt::Key_Tab,  Qt::Key_Tab,     Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space,
+                               Qt::Key_Up,   Qt::Key_Down,    Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Home,
+                               Qt::Key_End,  Qt::Key_PageUp,  Qt::Key_F2,     Qt::Key_F5,     Qt::Key_Insert,
+                               Qt::Key_Plus, Qt::Key_PageDown};
     const int choice = m_random.Below(10);
+    if (m_random.Chance(3))
+        return Key(window, Qt::Key_Delete, Qt::NoModifier);
     if (choice < 7)
         return Key(window, m_random.Of(keys), m_random.Chance(15) ? Qt::ShiftModifier : Qt::NoModifier);
     const int letter = Qt::Key_A + m_random.Below(26);
@@ -458,14 +494,13 @@ void Monkey::Press(QWidget& window) {
 
 // Over what an edit holds.
 void Monkey::Type(QWidget& window) {
-    static const char* const texts[] = {"0",    "1",  "2",     "3",      "-1",     "5",   "0.5",
-                                        "-2.5", "90", "1e308", "-1e-30", "",       "abc", "nan",
-                                        "1,5",  "4",  "12",    "Neve 1", "perché", "360", "1e5000"};
+    static const char* const sound[] = {"0", "1", "2", "3", "4", "-1", "5", "0.5", "-2.5", "90", "12", "Neve 1"};
+    static const char* const others[] = {"1e308", "-1e-30", "", "abc", "nan", "1,5", "perché", "360", "1e5000", "-0"};
     const QPointer<QWidget> alive(&window);
     Key(window, Qt::Key_Home, Qt::NoModifier);
     if (alive)
         Key(window, Qt::Key_End, Qt::ShiftModifier);
-    const QString text = QString::fromUtf8(m_random.Of(texts));
+    const QString text = QString::fromUtf8(m_random.Chance(80) ? m_random.Of(sound) : m_random.Of(others));
     if (!alive || !Activate(window))
         return;
     Event("type \"" + text.toStdString() + "\"");

@@ -31,6 +31,7 @@ class Monkey : public QObject {
     ~Monkey() override;
 
     void Run(int events);
+    std::size_t StepsChecked() const { return m_steps; }
     // What the user answers to a message box.
     int Answer(const CString& text, LPCTSTR caption, UINT type);
 
@@ -41,7 +42,8 @@ class Monkey : public QObject {
     void Beat();
     void Turn();
     void Settle();
-    void Check();
+    void Check(bool whole); // with the history and the file
+    bool HasModel() const;
     bool IsTooLarge() const;
 
     // ---- Choosing
@@ -77,7 +79,8 @@ class Monkey : public QObject {
     int m_level = 0;    // of the loop that is being fed
     bool m_due = false; // a turn is queued
     bool m_ending = false;
-    int m_attempts = 0; // to close what is open
+    int m_attempts = 0;      // to close what is open
+    std::size_t m_steps = 0; // of undo, walked through
 };
 
 class MonkeyApp : public CWinApp {

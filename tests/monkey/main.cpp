@@ -16,7 +16,10 @@ namespace {
 
 void RunEvents(std::uint64_t seed, int count, const std::string& folder) {
     eventlog::Start("events", seed);
-    Monkey(seed, folder).Run(count);
+    Monkey monkey(seed, folder);
+    monkey.Run(count);
+    std::printf("seed %llu: %d events so far, %zu steps of undo walked through\n",
+                static_cast<unsigned long long>(seed), eventlog::Count(), monkey.StepsChecked());
 }
 
 // What the offscreen platform cannot do is no news.
@@ -62,6 +65,5 @@ int main(int argc, char** argv) {
         RunEvents(seed, count ? count : 1500, folder);
     for (std::uint64_t each = 1; !*mode && each <= 3; ++each)
         RunEvents(each, 400, folder);
-    std::printf("%s: %d events\n", *mode ? mode : "all", eventlog::Count());
     return 0;
 }
