@@ -68,7 +68,9 @@ class Checker {
     }
 
     void Node(CNodo& node) {
-        Require(IsUsablePlace(*node.GetPunto()), "place");
+        // The limit is a length; a model shown in smaller units has larger numbers, and rounds.
+        const double metres = CGrandezza::_LengthFactor(m_data.Units().length, Lunghezza::Metres) / (1 + 1e-9);
+        Require(IsUsablePlace(*node.GetPunto() * metres), "place");
         Require(m_data.NodeAt(*node.GetPunto(), 0, [&node](CNodo& found) { return &found == &node; }) == &node,
                 "search by place");
         std::unordered_set<CElemento*> met;

@@ -80,13 +80,6 @@ void CollectActions(const QList<QAction*>& actions, std::vector<QAction*>& leave
             leaves.push_back(each);
 }
 
-// The application's end is remembered until its loop runs again; until then no dialog stays open.
-bool HasEnded() {
-    QEventLoop probe;
-    QTimer::singleShot(0, &probe, [&probe] { probe.exit(0); });
-    return probe.exec() != 0;
-}
-
 bool IsText(const QWidget& control) {
     return control.inherits("QLineEdit") || (control.parent() && control.parent()->inherits("QPlainTextEdit"));
 }
@@ -152,9 +145,21 @@ void Monkey::Stop() {
             eventlog::Fail("a window is left over: " + NameOf(*each));
 }
 
-// A loop that an event has started and that waits for the user.
+// The application's end is remembered until its loop runs again; until then no dialog stays open.
+bool Monkey::HasEnded() {
+    const QScopedValueRollback<int> ours(m_level, 1);
+    QEventLoop probe;
+    QTimer::singleShot(0, &probe, [&probe] { probe.exit(0); });
+    return probe.exec() != 0;
+}
+
+// A loop that an event has started waits for the user; a command at work lets nobody in but to its messages.
+bool Monkey::IsAwaited() const {
+    return m_workspace && LoopLevel() > m_level && (!m_workspace->IsWaiting() || QApplication::activeModalWidget());
+}
+
 void Monkey::Beat() {
-    if (m_due || !m_workspace || LoopLevel() <= m_level || m_workspace->IsWaiting())
+    if (m_due || !IsAwaited())
         return;
     m_due = true; // not from the timer itself, which rests while it is served
     QMetaObject::invokeMethod(
@@ -163,7 +168,7 @@ void Monkey::Beat() {
 
 void Monkey::Turn() {
     m_due = false;
-    if (LoopLevel() <= m_level || m_workspace->IsWaiting())
+    if (!IsAwaited())
         return;
     const QScopedValueRollback<int> feeding(m_level, LoopLevel());
     if (m_ending || m_level > 8)

@@ -39,6 +39,8 @@ class Monkey : public QObject {
     // ---- Time. Each event is over when its queues are empty; a loop inside it (a modal dialog, a menu) is fed too.
     void Start(); // the application anew
     void Stop();
+    bool HasEnded();
+    bool IsAwaited() const;
     void Beat();
     void Turn();
     void Settle();
