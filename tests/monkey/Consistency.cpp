@@ -196,12 +196,14 @@ std::string Difference(const std::string& before, const std::string& after) {
     return "\n  before " + a + "\n  after  " + b;
 }
 
-// A file does not keep the next numbers, but those that are in use.
-std::string WithoutCounters(const std::string& dump) {
+// A file keeps neither the next numbers, but those that are in use, nor the sign of a zero.
+std::string AsFiled(const std::string& dump) {
     std::istringstream lines(dump);
     std::string kept;
     for (std::string line; std::getline(lines, line);)
         kept += (line.starts_with("==") ? "==" : line) + "\n";
+    for (std::size_t at = 0; (at = kept.find("-0x0p+0", at)) != std::string::npos;)
+        kept.erase(at, 1);
     return kept;
 }
 
@@ -256,7 +258,7 @@ std::string FileFault(const DocumentData& data, const std::string& folder) {
     try {
         SaveProject(data, path, "prova");
         const DocumentData again = LoadProject(path);
-        const std::string before = WithoutCounters(Dump(data)), after = WithoutCounters(Dump(again));
+        const std::string before = AsFiled(Dump(data)), after = AsFiled(Dump(again));
         return before == after ? ModelFault(again) : "the file gives another model:" + Difference(before, after);
     } catch (const FileError& error) {
         return std::string("a model cannot be filed: ") + error.what();

@@ -36,7 +36,7 @@ using eventlog::Event;
 
 namespace {
 
-constexpr int wholeCheckEvery = 60; // events between two walks through the whole history
+constexpr int wholeCheckEvery = 40; // events between two walks through the whole history
 
 int LoopLevel() {
     return QThread::currentThread()->loopLevel();
@@ -274,6 +274,8 @@ void Monkey::ActIn(QWidget& window) {
         return AnswerFile(*files);
     const int choice = m_random.Below(100);
     const std::vector<QWidget*> leaves = Leaves(window, m_random.Chance(5));
+    if (choice < 6 && &window != &m_workspace->Window())
+        return FillIn(window);
     if (choice < 60 && !leaves.empty())
         return ActOn(*m_random.Of(leaves));
     if (choice < 75 && &window != &m_workspace->Window())
@@ -287,6 +289,23 @@ void Monkey::ActIn(QWidget& window) {
         Event("close " + NameOf(window));
         window.close();
     }
+}
+
+// As one who knows what the dialog is for.
+void Monkey::FillIn(QWidget& window) {
+    const QPointer<QWidget> alive(&window);
+    std::vector<QPointer<QWidget>> edits;
+    for (QWidget* each : Leaves(window, false))
+        if (IsText(*each))
+            edits.push_back(each);
+    for (const QPointer<QWidget>& each : edits)
+        if (alive && each && each->isVisible() && m_random.Chance(70)) {
+            Click(*each, each->rect().center());
+            if (alive)
+                Type(*alive);
+        }
+    if (alive)
+        Key(*alive, Qt::Key_Return, Qt::NoModifier);
 }
 
 void Monkey::ActOn(QWidget& control) {

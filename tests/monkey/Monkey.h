@@ -53,6 +53,7 @@ class Monkey : public QObject {
     void ActOnPopup(QWidget& popup);
     void ActOnView();
     void ActIn(QWidget& window);
+    void FillIn(QWidget& window);
     void ActOn(QWidget& control);
     void Trigger();
     void AnswerFile(QFileDialog& dialog);
