@@ -22,13 +22,13 @@ class Building {
     Building(int alongX, int alongY, int storeys) : m_alongX(alongX), m_alongY(alongY), m_storeys(storeys) {}
 
     DocumentData Build() {
-        m_material = Append(Kind::Material, std::make_unique<CMateriale>());
+        m_material = m_data.AppendNew(Kind::Material, std::make_unique<CMateriale>());
         m_material->SetE(3e7);
         m_material->SetG(1.2e7);
         m_material->SetDensity(2.5);
-        m_section = Append(Kind::Section, std::make_unique<CSezione>());
+        m_section = m_data.AppendNew(Kind::Section, std::make_unique<CSezione>());
         m_section->SetRectangle(0.3, 0.5);
-        CCasoCarico* loads = Append(Kind::LoadCase, std::make_unique<CCasoCarico>());
+        CCasoCarico* loads = m_data.AppendNew(Kind::LoadCase, std::make_unique<CCasoCarico>());
         loads->AddCarico(new CCaricoPesoProprio({0, 0, -9.81}));
         auto* floor = new CCaricoUniforme({0, 0, -12}, CCarico::Global);
         loads->AddCarico(floor);
@@ -44,18 +44,10 @@ class Building {
     }
 
   private:
-    template <class T>
-    T* Append(Kind kind, std::unique_ptr<T> object) {
-        T* added = object.get();
-        added->SetID(m_data.NextId(kind));
-        std::unique_ptr<CElemento> element = std::move(object);
-        m_data.Append(element);
-        return added;
-    }
     CNodo* At(int x, int y, int z) { return m_data.Node((z * m_alongY + y) * m_alongX + x); }
     void Place(int x, int y, int z) {
         const CVincolo fixed(CVincolo::All);
-        CNodo* node = Append(Kind::Node, std::make_unique<CNodo>(CFPoint(5.0 * x, 5.0 * y, 3.0 * z)));
+        CNodo* node = m_data.AppendNew(Kind::Node, std::make_unique<CNodo>(CFPoint(5.0 * x, 5.0 * y, 3.0 * z)));
         if (z == 0)
             node->SetRestraint(&fixed);
     }
@@ -66,7 +58,7 @@ class Building {
         beam->SetSezione(m_section->GetID(), m_section);
         if (load)
             beam->AddCarico(load, 0);
-        Append(Kind::Beam, std::move(beam));
+        m_data.AppendNew(Kind::Beam, std::move(beam));
     }
     void Connect(int x, int y, int z, CCarico* floor) {
         Join(At(x, y, z - 1), At(x, y, z), nullptr);

@@ -25,15 +25,6 @@ using namespace host;
 
 namespace {
 
-template <class T>
-T* Append(DocumentData& data, Kind kind, std::unique_ptr<T> object) {
-    T* raw = object.get();
-    raw->SetID(data.NextId(kind));
-    std::unique_ptr<CElemento> owned = std::move(object);
-    data.Append(owned);
-    return raw;
-}
-
 class FrameBuilder {
   public:
     // A cube of nodes, each joined to its neighbours along the three axes: nearly three beams a node. The lowest layer
@@ -67,11 +58,11 @@ class FrameBuilder {
 
   private:
     explicit FrameBuilder(bool material)
-        : m_material(material ? Append(m_data, Kind::Material, std::make_unique<CMateriale>()) : nullptr),
-          m_section(Append(m_data, Kind::Section, std::make_unique<CSezione>())) {}
+        : m_material(material ? m_data.AppendNew(Kind::Material, std::make_unique<CMateriale>()) : nullptr),
+          m_section(m_data.AppendNew(Kind::Section, std::make_unique<CSezione>())) {}
 
     CNodo* Node(const CFPoint& place, bool fixed) {
-        CNodo* node = Append(m_data, Kind::Node, std::make_unique<CNodo>(place));
+        CNodo* node = m_data.AppendNew(Kind::Node, std::make_unique<CNodo>(place));
         const CVincolo all(CVincolo::All);
         if (fixed)
             node->SetRestraint(&all);
@@ -83,7 +74,7 @@ class FrameBuilder {
         if (m_material)
             beam->SetMateriale(m_material->GetID(), m_material);
         beam->SetSezione(m_section->GetID(), m_section);
-        Append(m_data, Kind::Beam, std::move(beam));
+        m_data.AppendNew(Kind::Beam, std::move(beam));
     }
 
     DocumentData m_data;

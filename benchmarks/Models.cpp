@@ -12,35 +12,22 @@ using namespace host;
 
 namespace bench {
 
-namespace {
-
-template <class T>
-T* Append(DocumentData& data, Kind kind, std::unique_ptr<T> object) {
-    T* raw = object.get();
-    raw->SetID(data.NextId(kind));
-    std::unique_ptr<CElemento> owned = std::move(object);
-    data.Append(owned);
-    return raw;
-}
-
-} // namespace
-
 DocumentData MakeGrid(int nodes) {
     DocumentData data;
-    CMateriale* material = Append(data, Kind::Material, std::make_unique<CMateriale>());
-    CSezione* section = Append(data, Kind::Section, std::make_unique<CSezione>());
+    CMateriale* material = data.AppendNew(Kind::Material, std::make_unique<CMateriale>());
+    CSezione* section = data.AppendNew(Kind::Section, std::make_unique<CSezione>());
     const int side = static_cast<int>(std::ceil(std::cbrt(nodes)));
     CNodo* previous = nullptr;
     for (int i = 0; i < nodes; ++i) {
         auto node = std::make_unique<CNodo>();
         *node->GetPunto() = CFPoint(i % side, i / side % side, i / side / side);
-        CNodo* made = Append(data, Kind::Node, std::move(node));
+        CNodo* made = data.AppendNew(Kind::Node, std::move(node));
         if (i % side != 0) {
             auto beam = std::make_unique<CTrave>();
             beam->SetNodi(previous, made);
             beam->SetMateriale(material->GetID(), material);
             beam->SetSezione(section->GetID(), section);
-            Append(data, Kind::Beam, std::move(beam));
+            data.AppendNew(Kind::Beam, std::move(beam));
         }
         previous = made;
     }

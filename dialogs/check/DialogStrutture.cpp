@@ -47,7 +47,7 @@ void CDialogStrutture::AggiornaListCtrl() {
     CString text;
     for (int i = 0; i < GetSizeStructures(); ++i) {
         text.Format("Struttura n.ro %d", i + 1);
-        const HTREEITEM item = m_treeStrutture.InsertItem(text, TVI_ROOT, TVI_LAST);
+        const HTREEITEM item = m_treeStrutture.InsertItem(text);
         m_treeStrutture.SetItemData(item, static_cast<DWORD_PTR>(i));
     }
 }

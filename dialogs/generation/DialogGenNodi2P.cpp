@@ -23,7 +23,7 @@ void CDialogGenNodi2P::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CDialogGenNodi2P::OnInitDialog() {
     TwoPointDialog::OnInitDialog();
-    SetTitle("Generazione Nodi 2 Punti");
+    SetTitle(GetWindowText());
     ResetPoints();
     m_nNodi = 1;
     InitSpin(m_spinNodi, nullptr, minSpinNodes, maxSpinNodes, m_nNodi);

@@ -37,7 +37,7 @@ void CDialogGenNodiLineare::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CDialogGenNodiLineare::OnInitDialog() {
     TwoPointDialog::OnInitDialog();
-    SetTitle("Generazione Nodi Lineare");
+    SetTitle(GetWindowText());
     ResetFields();
     AbilitaVettore(0);
     InitSpin(m_spinNodi, GetDlgItem(IDC_NODI), minSpinNodes, maxSpinNodes, m_nNodi);

@@ -27,7 +27,7 @@ void CDialogNodoReazioniVincolari::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CDialogNodoReazioniVincolari::OnInitDialog() {
     CDialogDocument::OnInitDialog();
-    SetTitle("Nodo Reazioni Vincolari");
+    SetTitle(GetWindowText());
     AggiornaDialog();
     return TRUE;
 }

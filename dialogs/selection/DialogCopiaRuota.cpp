@@ -26,7 +26,7 @@ void CDialogCopiaRuota::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CDialogCopiaRuota::OnInitDialog() {
     TwoPointDialog::OnInitDialog();
-    SetTitle("Copia Ruota");
+    SetTitle(GetWindowText());
     ResetPoints();
     m_nUnione = joinNothing;
     m_nCopie = 1;

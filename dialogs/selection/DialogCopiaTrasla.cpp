@@ -86,7 +86,7 @@ void CDialogCopiaTrasla::DoDataExchange(CDataExchange* pDX) {
 }
 
 BOOL CDialogCopiaTrasla::OnInitDialog() {
-    SetTitle("Copia Trasla");
+    SetTitle(GetWindowText());
     ResetFields();
     TwoPointDialog::OnInitDialog();
     InitSpin(m_spinCopie, &m_editCopie, 0, GetMaxPass(), m_nCopie);

@@ -17,7 +17,7 @@ void CDialogMuovi::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CDialogMuovi::OnInitDialog() {
     TwoPointDialog::OnInitDialog();
-    SetTitle("Muovi");
+    SetTitle(GetWindowText());
     ResetPoints();
     UpdateData(FALSE);
     StartPicking();

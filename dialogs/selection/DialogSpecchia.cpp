@@ -29,7 +29,7 @@ void CDialogSpecchia::DoDataExchange(CDataExchange* pDX) {
 
 BOOL CDialogSpecchia::OnInitDialog() {
     ConfirmedDialog::OnInitDialog();
-    SetTitle("Specchia");
+    SetTitle(GetWindowText());
     m_nPiano = planeXY;
     m_dX = m_dY = m_dZ = 0;
     EnableVettore(m_nPiano != origin);

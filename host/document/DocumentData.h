@@ -109,6 +109,15 @@ class DocumentData : public ModelLookup {
     // the element in their lists. False, and not taken, for null, a number that is taken or not positive, or an object
     // that belongs to no list.
     bool Append(std::unique_ptr<CElemento>& object);
+    // The same under the next free number of its kind.
+    template <class T>
+    T* AppendNew(Kind kind, std::unique_ptr<T> object) {
+        T* added = object.get();
+        added->SetID(NextId(kind));
+        std::unique_ptr<CElemento> element = std::move(object);
+        Append(element);
+        return added;
+    }
     // The last object of a list; its element leaves the lists of its nodes, which it goes on knowing.
     std::unique_ptr<CElemento> TakeLast(Kind kind);
     // Takes an object back that TakeLast or Take gave.

@@ -39,17 +39,8 @@ class Example {
 
   private:
     template <class T>
-    T* Append(std::unique_ptr<T> object, Kind kind) {
-        T* added = object.get();
-        added->SetID(m_data.NextId(kind));
-        std::unique_ptr<CElemento> element = std::move(object);
-        m_data.Append(element);
-        return added;
-    }
-
-    template <class T>
     T* Named(Kind kind, const CString& name) {
-        T* entity = Append(std::make_unique<T>(), kind);
+        T* entity = m_data.AppendNew(kind, std::make_unique<T>());
         entity->SetNome(name);
         return entity;
     }
@@ -96,8 +87,8 @@ class Example {
         for (int level = 0; level < levels; ++level)
             for (int y = 0; y < placesY; ++y)
                 for (int x = 0; x < placesX; ++x) {
-                    CNodo* node =
-                        Append(std::make_unique<CNodo>(CFPoint(x * bay, y * bay, level * storey)), Kind::Node);
+                    CNodo* node = m_data.AppendNew(Kind::Node,
+                                                   std::make_unique<CNodo>(CFPoint(x * bay, y * bay, level * storey)));
                     if (level == 0)
                         node->SetRestraint(&fixed);
                 }
@@ -111,7 +102,7 @@ class Example {
         line->SetNodi(from, to);
         line->SetMateriale(material->GetID(), material);
         line->SetSezione(section->GetID(), section);
-        return Append(std::move(line), kind);
+        return m_data.AppendNew(kind, std::move(line));
     }
 
     template <class T>
@@ -121,7 +112,7 @@ class Example {
             panel->AggiungiVertice(corner);
         panel->SetMateriale(m_concrete->GetID(), m_concrete);
         panel->SetThickness(m_thickness->GetID(), m_thickness);
-        return Append(std::move(panel), kind);
+        return m_data.AppendNew(kind, std::move(panel));
     }
 
     void JoinRoof(Kind kind, CElementoGruppo& element, int level) {

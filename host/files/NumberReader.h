@@ -24,7 +24,6 @@ class NumberReader {
     // before memory is taken for them.
     int Count(const char* what, int numbersPerRow, int highest);
 
-    int LineNumber() const { return m_tokenLine; } // of the number read last, from 1
     [[noreturn]] void Fail(const std::string& message) const;
 
   private:

@@ -14,7 +14,6 @@ class CNodoProgetto : public CObject {
 
     // The quantity with that index, made with value 0 when it is new. A negative index reads as index 0.
     CGrandezza& GetArm(int index);
-    int GetSizeArm() const { return static_cast<int>(m_reinforcement.size()); }
     bool operator==(const CNodoProgetto& other) const;
 
   private:

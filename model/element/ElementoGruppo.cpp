@@ -85,10 +85,6 @@ int CElementoVista::IsVista(int id) {
     return Data() && Position(Data()->views, id) >= 0;
 }
 
-int CElementoVista::GetViewCount() {
-    return Data() ? static_cast<int>(Data()->views.size()) : 0;
-}
-
 CElemento& CElementoVista::operator=(CElemento& altro) {
     if (this == &altro)
         return *this;

@@ -31,7 +31,6 @@ class CElementoVista : public CElementoGruppo {
     virtual int EliminaVista(int id);
     virtual int GetIndexVista(int i); // named view at a position, 0 outside
     virtual int IsVista(int id);
-    int GetViewCount();
 
     CElemento& operator=(CElemento& altro) override;
     CElementoVista& operator=(CElementoVista& altro) {

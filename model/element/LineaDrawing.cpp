@@ -20,10 +20,9 @@ void CLinea::Draw(Adv3d* pVista) {
         return;
     const CElementoSettings& shown = Settings(*pVista);
     if (IsSelect())
-        pVista->Segment(*m_pNodi[0]->GetPunto(), *m_pNodi[1]->GetPunto(), pVista->GetSelectionColor(),
-                        shown.GetLineWidth() + 1);
+        pVista->Segment(*m_pNodi[0]->GetPunto(), *m_pNodi[1]->GetPunto(), Adv3d::selectionColor, 2);
     else
-        pVista->Segment(*m_pNodi[0]->GetPunto(), *m_pNodi[1]->GetPunto(), shown.GetColor(), shown.GetLineWidth());
+        pVista->Segment(*m_pNodi[0]->GetPunto(), *m_pNodi[1]->GetPunto(), shown.GetColor());
 }
 
 int CLinea::IsInRect(CPoint a, CPoint b, Adv3d* pVista) {

@@ -84,13 +84,6 @@ int CNodo::AddSpring(const CMolla& molla) {
     return GetSizeMolle() - 1;
 }
 
-int CNodo::RemoveSpring(int i) {
-    if (!GetIndexMolla(i))
-        return 0;
-    m_support->springs.erase(m_support->springs.begin() + i);
-    return 1;
-}
-
 void CNodo::RemoveSprings() {
     if (m_support)
         m_support->springs.clear();

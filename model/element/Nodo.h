@@ -44,7 +44,6 @@ class CNodo : public CElementoCarico {
     CMolla*
     GetIndexMolla(int i); // null for an index outside; owned by the node, good until springs are added or removed
     int AddSpring(const CMolla& molla); // copied; its index
-    int RemoveSpring(int i);
     void RemoveSprings();
     // Null without valid results or restraint; owned by the node.
     CNodoReazioniVincolari* GetReazioniVincolari();

@@ -83,7 +83,7 @@ void CNodo::Draw(Adv3d* pVista) {
     if (!p.visible)
         return;
     if (IsSelect())
-        pVista->ScreenSquare(p.Pixel(), nodeHalf + 1, pVista->GetSelectionColor(), 2);
+        pVista->ScreenSquare(p.Pixel(), nodeHalf + 1, Adv3d::selectionColor, 2);
     else
         pVista->ScreenSquare(p.Pixel(), nodeHalf, Settings(*pVista).GetColor(), 1);
 }

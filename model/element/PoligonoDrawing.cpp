@@ -94,8 +94,8 @@ void CPoligono::Draw(Adv3d* pVista) {
     if (!CanDraw(pVista))
         return;
     const CElementoSettings& shown = Settings(*pVista);
-    const COLORREF color = IsSelect() ? pVista->GetSelectionColor() : shown.GetColor();
-    const int width = shown.GetLineWidth() + (IsSelect() ? 1 : 0);
+    const COLORREF color = IsSelect() ? Adv3d::selectionColor : shown.GetColor();
+    const int width = IsSelect() ? 2 : 1;
     for (int i = 0; i < GetSize(); ++i)
         pVista->Segment(*GetVertice(i)->GetPunto(), *GetVertice((i + 1) % GetSize())->GetPunto(), color, width);
 }
@@ -148,7 +148,7 @@ int CPoligono::SetFacesArray(FaceElemento** ppFaccia, Adv3d* pVista, Adv3dRect* 
     if (face.corners.empty())
         return 0;
     face.depth = GetProfonditaVista(pVista);
-    face.edge = IsSelect() ? pVista->GetSelectionColor() : Settings(*pVista).GetColor();
+    face.edge = IsSelect() ? Adv3d::selectionColor : Settings(*pVista).GetColor();
     face.fill = Pale(face.edge);
     ++*ppFaccia;
     UpdateInvalideRect(pRect, 0);

@@ -27,8 +27,7 @@ class CSpecificheSvincoliTrave : public CSpecifiche {
     CSpecificheSvincoliTrave(int estremo, int n, int t, int m2, int m3)
         : m_bSecond(estremo != 0), m_b{n != 0, t != 0, m2 != 0, m3 != 0} {}
 
-    int GetEnd() const { return m_bSecond; } // 0 the first end, non-zero the second
-    void SetEnd(int estremo) { m_bSecond = estremo != 0; }
+    int GetEnd() const { return m_bSecond; }                          // 0 the first end, non-zero the second
     int GetRelease(int i) const { return i >= 0 && i < 4 && m_b[i]; } // non-zero when released
     void SetRelease(int i, int svincolato) {
         if (i >= 0 && i < 4)

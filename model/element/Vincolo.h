@@ -16,9 +16,6 @@ class CVincolo : public CObject {
                    (rz ? Rz : 0u)) {}
 
     // Non-zero when fixed.
-    int GetTranslationX() const { return IsFixed(0); }
-    int GetTranslationY() const { return IsFixed(1); }
-    int GetTranslationZ() const { return IsFixed(2); }
     int GetRotationX() const { return IsFixed(3); }
     int GetRotationY() const { return IsFixed(4); }
     int GetRotationZ() const { return IsFixed(5); }

@@ -27,8 +27,6 @@ class CMateriale : public CElementoStrutturale {
     double GetAlpha() const { return m_dAlpha; } // thermal expansion, 1/degree
     void SetAlpha(double alfa) { m_dAlpha = alfa; }
     // Unit weight, force/length^3: the density under standard gravity.
-    double GetUnitWeight() { return m_dDensity * CGrandezza::_Gravity(GetLunghezza()); }
-    void SetUnitWeight(double peso) { m_dDensity = peso / CGrandezza::_Gravity(GetLunghezza()); }
 
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void ChangeForza(Forza force) override;

@@ -37,16 +37,6 @@ CCaricoTemperatura::CCaricoTemperatura() : CCarico(TipoElemento::CaricoTemperatu
 CCaricoPesoProprio::CCaricoPesoProprio() : CCarico(TipoElemento::CaricoPesoProprio) {
 }
 
-namespace {
-
-CString VectorText(const char* what, const CFPoint& v) {
-    CString text;
-    text.Format("%s (%g, %g, %g)", what, v.x, v.y, v.z);
-    return text;
-}
-
-} // namespace
-
 CElemento& CCarico::operator=(CElemento& altro) {
     CElemento::operator=(altro);
     if (const auto* load = DYNAMIC_DOWNCAST(CCarico, &altro)) {
@@ -55,10 +45,6 @@ CElemento& CCarico::operator=(CElemento& altro) {
         m_nReference = load->m_nReference;
     }
     return *this;
-}
-
-CString CCarico::GetLoadDescription() {
-    return "Carico";
 }
 
 CFPoint CCarico::GlobalVector(CElemento& elemento, const CFPoint& vettore) const {
@@ -97,10 +83,6 @@ void CCaricoNodale::ChangeForza(Forza force) {
     CCarico::ChangeForza(force);
 }
 
-CString CCaricoNodale::GetLoadDescription() {
-    return VectorText("Forza nodale", m_force) + VectorText(", momento", m_moment);
-}
-
 CElemento& CCaricoSpostamento::operator=(CElemento& altro) {
     CCarico::operator=(altro);
     if (const auto* load = DYNAMIC_DOWNCAST(CCaricoSpostamento, &altro)) {
@@ -113,10 +95,6 @@ CElemento& CCaricoSpostamento::operator=(CElemento& altro) {
 void CCaricoSpostamento::ChangeLunghezza(Lunghezza lunghezza) {
     m_displacement *= LengthFactor(lunghezza, 1);
     CCarico::ChangeLunghezza(lunghezza);
-}
-
-CString CCaricoSpostamento::GetLoadDescription() {
-    return VectorText("Spostamento imposto", m_displacement) + VectorText(", rotazione", m_rotation);
 }
 
 CElemento& CCaricoUniforme::operator=(CElemento& altro) {
@@ -134,10 +112,6 @@ void CCaricoUniforme::ChangeLunghezza(Lunghezza lunghezza) {
 void CCaricoUniforme::ChangeForza(Forza force) {
     m_load *= ForceFactor(force);
     CCarico::ChangeForza(force);
-}
-
-CString CCaricoUniforme::GetLoadDescription() {
-    return VectorText("Carico uniforme", m_load);
 }
 
 CElemento& CCaricoTrapezoidale::operator=(CElemento& altro) {
@@ -163,15 +137,6 @@ void CCaricoTrapezoidale::ChangeForza(Forza force) {
     CCarico::ChangeForza(force);
 }
 
-CString CCaricoTrapezoidale::GetLoadDescription() {
-    CString text = "Carico trapezoidale";
-    for (int i = 0; i < 3; ++i)
-        if (m_stretches[i].inizio != 0 || m_stretches[i].fine != 0)
-            text.AppendFormat(", asse %d: da %g a %g fra %g e %g", i + 1, m_stretches[i].inizio, m_stretches[i].fine,
-                              m_stretches[i].da, m_stretches[i].a);
-    return text;
-}
-
 CElemento& CCaricoConcentrato::operator=(CElemento& altro) {
     CCarico::operator=(altro);
     if (const auto* load = DYNAMIC_DOWNCAST(CCaricoConcentrato, &altro)) {
@@ -194,12 +159,6 @@ void CCaricoConcentrato::ChangeForza(Forza force) {
     CCarico::ChangeForza(force);
 }
 
-CString CCaricoConcentrato::GetLoadDescription() {
-    CString text = VectorText("Carico concentrato", m_force) + VectorText(", momento", m_moment);
-    text.AppendFormat(" a %g", m_dDistanza);
-    return text;
-}
-
 CElemento& CCaricoTemperatura::operator=(CElemento& altro) {
     CCarico::operator=(altro);
     if (const auto* load = DYNAMIC_DOWNCAST(CCaricoTemperatura, &altro)) {
@@ -217,12 +176,6 @@ void CCaricoTemperatura::ChangeLunghezza(Lunghezza lunghezza) {
     CCarico::ChangeLunghezza(lunghezza);
 }
 
-CString CCaricoTemperatura::GetLoadDescription() {
-    CString text;
-    text.Format("Temperatura %g, gradienti %g e %g", m_dUniforme, m_dGradient2, m_dGradient3);
-    return text;
-}
-
 CElemento& CCaricoPesoProprio::operator=(CElemento& altro) {
     CCarico::operator=(altro);
     if (const auto* load = DYNAMIC_DOWNCAST(CCaricoPesoProprio, &altro))
@@ -233,8 +186,4 @@ CElemento& CCaricoPesoProprio::operator=(CElemento& altro) {
 void CCaricoPesoProprio::ChangeLunghezza(Lunghezza lunghezza) {
     m_acceleration *= LengthFactor(lunghezza, 1);
     CCarico::ChangeLunghezza(lunghezza);
-}
-
-CString CCaricoPesoProprio::GetLoadDescription() {
-    return VectorText("Peso proprio, accelerazione", m_acceleration);
 }

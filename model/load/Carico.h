@@ -24,7 +24,6 @@ class CCarico : public CElemento {
 
     // Draws the load on the object that refers to it. Neutral for loads without a place.
     virtual void DrawOn(CElemento& elemento, Adv3d& vista, int valori);
-    virtual CString GetLoadDescription(); // "Carico uniforme (0, 0, -5)"
 
   protected:
     explicit CCarico(unsigned tipo) : CElemento(tipo) {}
@@ -58,7 +57,6 @@ class CCaricoNodale : public CCarico {
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void ChangeForza(Forza force) override;
     void DrawOn(CElemento& elemento, Adv3d& vista, int valori) override;
-    CString GetLoadDescription() override;
 
   private:
     CFPoint m_force;
@@ -80,7 +78,6 @@ class CCaricoSpostamento : public CCarico {
     CElemento& operator=(CElemento& altro) override;
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void DrawOn(CElemento& elemento, Adv3d& vista, int valori) override;
-    CString GetLoadDescription() override;
 
   private:
     CFPoint m_displacement;
@@ -102,7 +99,6 @@ class CCaricoUniforme : public CCarico {
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void ChangeForza(Forza force) override;
     void DrawOn(CElemento& elemento, Adv3d& vista, int valori) override;
-    CString GetLoadDescription() override;
 
   private:
     CFPoint m_load;
@@ -126,7 +122,6 @@ class CCaricoTrapezoidale : public CCarico {
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void ChangeForza(Forza force) override;
     void DrawOn(CElemento& elemento, Adv3d& vista, int valori) override;
-    CString GetLoadDescription() override;
 
   private:
     Stretch m_stretches[3];
@@ -150,7 +145,6 @@ class CCaricoConcentrato : public CCarico {
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void ChangeForza(Forza force) override;
     void DrawOn(CElemento& elemento, Adv3d& vista, int valori) override;
-    CString GetLoadDescription() override;
 
   private:
     CFPoint m_force;
@@ -172,7 +166,6 @@ class CCaricoTemperatura : public CCarico {
     CElemento& operator=(CElemento& altro) override;
     void ChangeLunghezza(Lunghezza lunghezza) override;
     void DrawOn(CElemento& elemento, Adv3d& vista, int valori) override;
-    CString GetLoadDescription() override;
 
   private:
     double m_dUniforme = 0;
@@ -191,7 +184,6 @@ class CCaricoPesoProprio : public CCarico {
 
     CElemento& operator=(CElemento& altro) override;
     void ChangeLunghezza(Lunghezza lunghezza) override;
-    CString GetLoadDescription() override;
 
   private:
     CFPoint m_acceleration;

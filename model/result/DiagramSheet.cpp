@@ -360,7 +360,8 @@ void DiagramSheet::DrawValue(const Panel& panel, double x) {
 
 // Moved into the bounds where it would leave them.
 void DiagramSheet::DrawBoxed(const CString& text, CPoint at, const CRect& bounds, COLORREF color) {
-    const CSize size = m_dc.GetTextExtent(text) + CSize(4, 0);
+    CSize size = m_dc.GetTextExtent(text);
+    size.cx += 4;
     at.x = std::clamp<int>(at.x, bounds.left, std::max<int>(bounds.left, bounds.right - size.cx));
     at.y = std::clamp<int>(at.y, bounds.top, std::max<int>(bounds.top, bounds.bottom - size.cy));
     const CRect box(at, size);

@@ -53,12 +53,6 @@ class CNodoReazioniVincolari : public CObject {
     CNodoReazioniVincolari(double fx, double fy, double fz, double mx, double my, double mz)
         : m_d{fx, fy, fz, mx, my, mz} {}
 
-    double& GetFx() { return m_d[0]; }
-    double& GetFy() { return m_d[1]; }
-    double& GetFz() { return m_d[2]; }
-    double& GetMx() { return m_d[3]; }
-    double& GetMy() { return m_d[4]; }
-    double& GetMz() { return m_d[5]; }
     double& GetReaction(int i) { return m_d[i]; } // 0..5
 
   private:

@@ -21,8 +21,6 @@ class CGrandezza {
     double GetValue() const { return m_dValue; }
     double& GetValue() { return m_dValue; }
     void SetValue(double valore) { m_dValue = valore; }
-    int GetLengthExponent() const { return m_nLengthExponent; }
-    int GetForceExponent() const { return m_nForceExponent; }
     Lunghezza GetLunghezza() const { return static_cast<Lunghezza>(m_nLunghezza); }
     Forza GetForza() const { return static_cast<Forza>(m_nForza); }
 

@@ -10,6 +10,7 @@ namespace {
 
 // Of the eye's distance: what comes nearer is cut off, or it would be torn to infinity.
 constexpr double nearLimit = 0.98;
+constexpr double eyeMultiple = 2.5;  // of the eye's distance from the target's plane, in larger sides of the viewport
 constexpr double defaultSide = 1000; // pixels, while there is no viewport
 
 struct Standard {
@@ -131,11 +132,6 @@ void Adv3d::SetScale(double pixelPerUnita) {
         m_scale = pixelPerUnita;
 }
 
-void Adv3d::SetEyeDistance(double multiplo) {
-    if (multiplo > 0 && std::isfinite(multiplo))
-        m_eyeMultiple = multiplo;
-}
-
 void Adv3d::Place() {
     m_originX = (m_viewport.left + m_viewport.right) / 2.0 + m_panX;
     m_originY = (m_viewport.top + m_viewport.bottom) / 2.0 + m_panY;
@@ -171,7 +167,7 @@ void Adv3d::FitToBounds(CFPoint minimo, CFPoint massimo, int margine) {
         return;
     // The near corners are drawn larger; the eye's distance in length units grows as the scale shrinks.
     const double side = m_viewport.IsRectEmpty() ? defaultSide : std::max(m_viewport.Width(), m_viewport.Height());
-    const double eye = m_eyeMultiple * side;
+    const double eye = eyeMultiple * side;
     SetScale(eye / (eye * largest + deep));
 }
 
@@ -182,7 +178,7 @@ Adv3d::Punto Adv3d::Project(const CFPoint& punto) const {
     double scale = m_scale;
     if (m_perspective) {
         const double side = m_viewport.IsRectEmpty() ? defaultSide : std::max(m_viewport.Width(), m_viewport.Height());
-        const double eye = m_eyeMultiple * side / m_scale;
+        const double eye = eyeMultiple * side / m_scale;
         if (!(depth <= eye * nearLimit))
             return {0, 0, depth, false};
         scale *= eye / (eye - depth);
@@ -218,7 +214,7 @@ double Adv3d::GetUnitsPerPixel(const CFPoint& punto) const {
     if (!m_perspective)
         return 1 / m_scale;
     const double side = m_viewport.IsRectEmpty() ? defaultSide : std::max(m_viewport.Width(), m_viewport.Height());
-    const double eye = m_eyeMultiple * side / m_scale;
+    const double eye = eyeMultiple * side / m_scale;
     const double depth = std::min(GetDepth(punto), eye * nearLimit);
     return (eye - depth) / eye / m_scale;
 }

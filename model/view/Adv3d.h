@@ -32,6 +32,7 @@ class Adv3d {
     };
 
     static constexpr double touchPixels = 4; // how far from a line a click still means it
+    static constexpr COLORREF selectionColor = RGB(220, 30, 30);
 
     Adv3d();
 
@@ -64,8 +65,6 @@ class Adv3d {
 
     void SetPerspective(int prospettiva) { m_perspective = prospettiva != 0; }
     int IsPerspective() const { return m_perspective; }
-    // Of the eye from the target's plane, as a multiple of the viewport's larger side; 2.5 at first.
-    void SetEyeDistance(double multiplo);
 
     Punto Project(const CFPoint& punto) const;
     // The ends of what can be seen of a line, of which a perspective may leave a part behind the eye; false for
@@ -85,8 +84,6 @@ class Adv3d {
     // Text and helper lines; white on a dark background. Loads, supports and selection have colours of their own.
     void SetTextColor(COLORREF colore) { m_textColor = colore; }
     COLORREF GetTextColor() const { return m_textColor; }
-    void SetSelectionColor(COLORREF colore) { m_selectionColor = colore; }
-    COLORREF GetSelectionColor() const { return m_selectionColor; }
 
     // The context is not owned; with null nothing is drawn. What is gathered is flushed before the context changes.
     void SetDC(CDC* pDC);
@@ -125,13 +122,11 @@ class Adv3d {
     double m_scale = 50;
     double m_originX = 0; // pixel of the target
     double m_originY = 0;
-    double m_eyeMultiple = 2.5;
     bool m_perspective = false;
 
     std::array<CElementoSettings, 6> m_settings;
     int m_loadCase = 0;
     COLORREF m_textColor = RGB(40, 40, 40);
-    COLORREF m_selectionColor = RGB(220, 30, 30);
 
     CDC* m_dc = nullptr;
     std::vector<Batch> m_batches;

@@ -33,8 +33,6 @@ class CElementoSettings : public CObject {
 
     COLORREF GetColor() const { return m_color; }
     void SetColor(COLORREF colore) { m_color = colore; }
-    int GetLineWidth() const { return m_nLineWidth; } // pixels
-    void SetLineWidth(int pixel) { m_nLineWidth = pixel < 1 ? 1 : pixel; }
 
     int IsRisultato(int tipo) const; // non-zero when that result kind is displayed
     void SetRisultato(int tipo, int mostra);
@@ -61,7 +59,6 @@ class CElementoSettings : public CObject {
 
     unsigned m_nItems = Object | Carichi | Restraints | Springs | Specifiche | Faces;
     COLORREF m_color = RGB(40, 70, 140);
-    int m_nLineWidth = 1;
     std::vector<Shown> m_results;
     double m_dMinDesign = 0;
     double m_dMaxDesign = 0;

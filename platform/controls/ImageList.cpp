@@ -1,11 +1,9 @@
 #include "platform/controls/ImageList.h"
-#include "platform/drawing/DeviceContext.h"
 #include "platform/private/paint/GdiData.h"
 #include "platform/private/paint/ImageListData.h"
-#include "platform/private/paint/Surface.h"
 
 #include <algorithm>
-#include <utility>
+#include <memory>
 
 IMPLEMENT_DYNAMIC(CImageList, CObject)
 
@@ -48,35 +46,12 @@ BOOL CImageList::Create(int width, int height, UINT, int, int) {
     return TRUE;
 }
 
-BOOL CImageList::Create(UINT bitmapId, int width, int grow, COLORREF mask) {
-    CBitmap bitmap;
-    return bitmap.LoadBitmap(bitmapId) && Create(width, bitmap.Data()->size().height(), ILC_COLOR32, 0, grow) &&
-           Add(&bitmap, mask) >= 0;
-}
-
-BOOL CImageList::DeleteImageList() {
-    m_data = std::make_shared<ImageListData>();
-    return TRUE;
-}
-
 int CImageList::Add(CBitmap* bitmap, COLORREF mask) {
     if (!bitmap || !bitmap->Data())
         return -1;
     QImage strip = bitmap->Data()->image.copy();
     if (mask != CLR_NONE)
         MakeTransparent(strip, platform::Opaque(mask));
-    return AddStrip(*m_data, strip);
-}
-
-int CImageList::Add(CBitmap* bitmap, CBitmap* mask) {
-    if (!bitmap || !bitmap->Data() || !mask || !mask->Data())
-        return -1;
-    QImage strip = bitmap->Data()->image.copy();
-    const QImage holes = mask->Data()->image.scaled(strip.size());
-    for (int y = 0; y < strip.height(); ++y)
-        for (int x = 0; x < strip.width(); ++x)
-            if (qGray(holes.pixel(x, y)) > 127)
-                strip.setPixel(x, y, 0);
     return AddStrip(*m_data, strip);
 }
 
@@ -91,42 +66,6 @@ int CImageList::Add(HICON icon) {
     return AddStrip(*m_data, image);
 }
 
-BOOL CImageList::Remove(int index) {
-    if (index == -1) {
-        m_data->images.clear();
-        return TRUE;
-    }
-    if (index < 0 || index >= GetImageCount())
-        return FALSE;
-    m_data->images.erase(m_data->images.begin() + index);
-    return TRUE;
-}
-
 int CImageList::GetImageCount() const {
     return static_cast<int>(m_data->images.size());
-}
-
-CSize CImageList::GetImageSize() const {
-    return m_data->size.isEmpty() ? CSize() : CSize(m_data->size.width(), m_data->size.height());
-}
-
-COLORREF CImageList::SetBkColor(COLORREF color) {
-    return std::exchange(m_data->background, color);
-}
-
-COLORREF CImageList::GetBkColor() const {
-    return m_data->background;
-}
-
-BOOL CImageList::Draw(CDC* dc, int index, CPoint point, UINT style) {
-    if (!dc || index < 0 || index >= GetImageCount())
-        return FALSE;
-    const CRect place(point, GetImageSize());
-    if (m_data->background != CLR_NONE && !(style & ILD_TRANSPARENT))
-        dc->m_surface->Fill(place, m_data->background);
-    QPainter* painter = dc->m_surface->Plain();
-    if (!painter)
-        return FALSE;
-    painter->drawImage(dc->m_surface->Target(place), m_data->images[static_cast<std::size_t>(index)]);
-    return TRUE;
 }

@@ -5,12 +5,9 @@
 
 #include <memory>
 
-class CDC;
-
 using HICON = HGDIOBJ; // the handle of a CBitmap that was loaded as an icon
 
 enum ImageListFlag : UINT { ILC_COLOR = 0, ILC_MASK = 1, ILC_COLOR8 = 8, ILC_COLOR24 = 24, ILC_COLOR32 = 32 };
-enum ImageListDraw : UINT { ILD_NORMAL = 0, ILD_TRANSPARENT = 1 };
 inline constexpr COLORREF CLR_NONE = 0xFFFFFFFF;
 
 namespace platform {
@@ -27,24 +24,12 @@ class CImageList : public CObject {
 
     // The size of a picture in device-independent pixels; the other arguments are accepted and not used.
     BOOL Create(int width, int height, UINT flags, int initial, int grow);
-    // A bitmap resource cut into pictures `width` wide; the mask colour is transparent.
-    BOOL Create(UINT bitmapId, int width, int grow, COLORREF mask);
-    BOOL DeleteImageList();
 
     // The index of the first new picture, -1 when there is none. A wide bitmap holds several, side by side; pixels of
     // the mask colour become transparent. The bitmap stays the caller's.
     int Add(CBitmap* bitmap, COLORREF mask);
-    int Add(CBitmap* bitmap, CBitmap* mask); // where the mask is white, the picture is transparent
     int Add(HICON icon);
-    BOOL Remove(int index); // -1 removes all
     int GetImageCount() const;
-    // Both 0 before Create.
-    CSize GetImageSize() const;
-
-    // Drawn under each picture; CLR_NONE is nothing. Returns the colour before.
-    COLORREF SetBkColor(COLORREF color);
-    COLORREF GetBkColor() const;
-    BOOL Draw(CDC* dc, int index, CPoint point, UINT style);
 
     // The pictures for the window layer; they stay while either side has them.
     const std::shared_ptr<platform::ImageListData>& Data() const { return m_data; }

@@ -16,25 +16,15 @@ using NM_UPDOWN = NMUPDOWN;
 class CSpinButtonCtrl : public CScrollBar {
     DECLARE_DYNAMIC(CSpinButtonCtrl)
   public:
-    BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id);
-
     // The up arrow steps towards `upper`, also when that is the smaller one. The range without a call is 100 to 0: up
     // takes one away.
-    void SetRange(int lower, int upper) { SetRange32(lower, upper); }
-    void SetRange32(int lower, int upper);
-    DWORD GetRange() const; // upper in the low word, lower in the high one
-    void GetRange(int& lower, int& upper) const;
-    void GetRange32(int& lower, int& upper) const { GetRange(lower, upper); }
+    void SetRange(int lower, int upper);
 
     // A position outside the range becomes the nearest one inside; with UDS_SETBUDDYINT the buddy shows it. Returns the
     // old position. A number typed into the buddy counts in GetPos, but stays as typed even outside the range.
     int SetPos(int position);
     int GetPos() const;
-    int SetPos32(int position) { return SetPos(position); }
-    int GetPos32() const { return GetPos(); }
 
     CWnd* SetBuddy(CWnd* buddy); // null takes it away; returns the old one
     CWnd* GetBuddy() const;
-    int SetBase(int base); // 10 or 16; returns the old one
-    UINT GetBase() const;
 };

@@ -37,7 +37,6 @@ class CArray : public CObject {
 
     int GetSize() const { return static_cast<int>(m_items.size()); }
     int GetCount() const { return GetSize(); }
-    int GetUpperBound() const { return GetSize() - 1; }
     BOOL IsEmpty() const { return m_items.empty(); }
     // New elements are zero, or whatever the type's default constructor makes. `growBy` is accepted and not used.
     void SetSize(int size, int /*growBy*/ = -1) {
@@ -50,31 +49,11 @@ class CArray : public CObject {
     const TYPE& GetAt(int index) const { return m_items[Checked(index)]; }
     const TYPE& operator[](int index) const { return m_items[Checked(index)]; }
     TYPE& operator[](int index) { return m_items[Checked(index)]; }
-    void SetAt(int index, ARG_TYPE value) { m_items[Checked(index)] = value; }
 
     // The index of the new element.
     int Add(ARG_TYPE value) {
         platform::Allocating([&] { m_items.push_back(value); });
-        return GetUpperBound();
-    }
-    // The index of the first new element.
-    int Append(const CArray& source) {
-        const int first = GetSize();
-        platform::Allocating([&] {
-            const std::vector<TYPE> copy = source.m_items; // the source may be this array
-            m_items.insert(m_items.end(), copy.begin(), copy.end());
-        });
-        return first;
-    }
-    void Copy(const CArray& source) {
-        if (this != &source)
-            platform::Allocating([&] { m_items = source.m_items; });
-    }
-
-    void RemoveAt(int index, int count = 1) {
-        if (index < 0 || count < 0 || index > GetSize() || count > GetSize() - index)
-            AfxThrowInvalidArgException();
-        m_items.erase(m_items.begin() + index, m_items.begin() + index + count);
+        return GetSize() - 1;
     }
 
     auto begin() { return m_items.begin(); }
@@ -92,7 +71,7 @@ class CArray : public CObject {
     std::vector<TYPE> m_items;
 };
 
-// A doubly linked list. A POSITION stays good until its own element is removed.
+// A linked list. A POSITION stays good until the list is emptied.
 template <typename TYPE, typename ARG_TYPE = const TYPE&>
 class CList : public CObject {
   public:
@@ -106,17 +85,21 @@ class CList : public CObject {
     int GetSize() const { return m_count; }
     BOOL IsEmpty() const { return m_count == 0; }
 
-    POSITION AddHead(ARG_TYPE value) { return Insert(value, nullptr, m_head); }
-    POSITION AddTail(ARG_TYPE value) { return Insert(value, m_tail, nullptr); }
-
-    void RemoveAt(POSITION position) { Unlink(NodeOf(position)); }
+    POSITION AddTail(ARG_TYPE value) {
+        Node* added = platform::Allocating([&] { return new Node{nullptr, value}; });
+        (m_tail ? m_tail->next : m_head) = added;
+        m_tail = added;
+        ++m_count;
+        return Place(added);
+    }
     void RemoveAll() {
         while (m_head)
-            Unlink(m_head);
+            delete std::exchange(m_head, m_head->next);
+        m_tail = nullptr;
+        m_count = 0;
     }
 
     POSITION GetHeadPosition() const { return Place(m_head); }
-    POSITION GetTailPosition() const { return Place(m_tail); }
     // The element at the position, which moves on and is null after the last one.
     TYPE& GetNext(POSITION& position) {
         Node* current = NodeOf(position);
@@ -124,12 +107,6 @@ class CList : public CObject {
         return current->value;
     }
     const TYPE& GetNext(POSITION& position) const { return const_cast<CList*>(this)->GetNext(position); }
-    TYPE& GetPrev(POSITION& position) {
-        Node* current = NodeOf(position);
-        position = Place(current->previous);
-        return current->value;
-    }
-    const TYPE& GetPrev(POSITION& position) const { return const_cast<CList*>(this)->GetPrev(position); }
     TYPE& GetAt(POSITION position) { return NodeOf(position)->value; }
     const TYPE& GetAt(POSITION position) const { return NodeOf(position)->value; }
 
@@ -143,7 +120,6 @@ class CList : public CObject {
 
   private:
     struct Node {
-        Node* previous;
         Node* next;
         TYPE value;
     };
@@ -153,20 +129,6 @@ class CList : public CObject {
         if (!position)
             AfxThrowInvalidArgException();
         return reinterpret_cast<Node*>(position);
-    }
-
-    POSITION Insert(ARG_TYPE value, Node* previous, Node* next) {
-        Node* added = platform::Allocating([&] { return new Node{previous, next, value}; });
-        (previous ? previous->next : m_head) = added;
-        (next ? next->previous : m_tail) = added;
-        ++m_count;
-        return Place(added);
-    }
-    void Unlink(Node* gone) {
-        (gone->previous ? gone->previous->next : m_head) = gone->next;
-        (gone->next ? gone->next->previous : m_tail) = gone->previous;
-        --m_count;
-        delete gone;
     }
 
     Node* m_head = nullptr;

@@ -13,16 +13,7 @@ struct CSize {
     constexpr CSize() = default;
     constexpr CSize(int width, int height) : cx(width), cy(height) {}
 
-    constexpr void SetSize(int width, int height) {
-        cx = width;
-        cy = height;
-    }
     constexpr bool operator==(const CSize&) const = default;
-    constexpr CSize operator+(CSize size) const { return {cx + size.cx, cy + size.cy}; }
-    constexpr CSize operator-(CSize size) const { return {cx - size.cx, cy - size.cy}; }
-    constexpr CSize operator-() const { return {-cx, -cy}; }
-    constexpr CSize& operator+=(CSize size) { return *this = *this + size; }
-    constexpr CSize& operator-=(CSize size) { return *this = *this - size; }
 };
 
 struct CPoint {
@@ -31,32 +22,16 @@ struct CPoint {
 
     constexpr CPoint() = default;
     constexpr CPoint(int left, int top) : x(left), y(top) {}
-    constexpr explicit CPoint(CSize size) : x(size.cx), y(size.cy) {}
     // The point packed in a mouse message; the halves are signed, since a captured mouse goes left of its window.
     constexpr explicit CPoint(LPARAM packed)
         : x(static_cast<std::int16_t>(LOWORD(static_cast<std::uintptr_t>(packed)))),
           y(static_cast<std::int16_t>(HIWORD(static_cast<std::uintptr_t>(packed)))) {}
 
-    constexpr void SetPoint(int left, int top) {
-        x = left;
-        y = top;
-    }
-    constexpr void Offset(int dx, int dy) {
-        x += dx;
-        y += dy;
-    }
-    constexpr void Offset(CSize size) { Offset(size.cx, size.cy); }
-    constexpr void Offset(CPoint point) { Offset(point.x, point.y); }
     constexpr bool operator==(const CPoint&) const = default;
     constexpr CPoint operator+(CSize size) const { return {x + size.cx, y + size.cy}; }
     constexpr CPoint operator-(CSize size) const { return {x - size.cx, y - size.cy}; }
     constexpr CPoint operator+(CPoint point) const { return {x + point.x, y + point.y}; }
     constexpr CSize operator-(CPoint point) const { return {x - point.x, y - point.y}; }
-    constexpr CPoint operator-() const { return {-x, -y}; }
-    constexpr CPoint& operator+=(CSize size) { return *this = *this + size; }
-    constexpr CPoint& operator-=(CSize size) { return *this = *this - size; }
-    constexpr CPoint& operator+=(CPoint point) { return *this = *this + point; }
-    constexpr CPoint& operator-=(CPoint point) { return *this = CPoint(*this - point); }
 };
 
 // A point between pixels, for curves: whole pixels leave kinks in them.
@@ -96,7 +71,6 @@ struct CRect {
     constexpr void SetRectEmpty() { *this = CRect(); }
 
     constexpr void InflateRect(int dx, int dy) { InflateRect(dx, dy, dx, dy); }
-    constexpr void InflateRect(CSize size) { InflateRect(size.cx, size.cy); }
     constexpr void InflateRect(int l, int t, int r, int b) {
         left -= l;
         top -= t;
@@ -104,13 +78,8 @@ struct CRect {
         bottom += b;
     }
     constexpr void DeflateRect(int dx, int dy) { InflateRect(-dx, -dy); }
-    constexpr void DeflateRect(CSize size) { InflateRect(-size.cx, -size.cy); }
     constexpr void DeflateRect(int l, int t, int r, int b) { InflateRect(-l, -t, -r, -b); }
     constexpr void OffsetRect(int dx, int dy) { InflateRect(-dx, -dy, dx, dy); }
-    constexpr void OffsetRect(CSize size) { OffsetRect(size.cx, size.cy); }
-    constexpr void OffsetRect(CPoint point) { OffsetRect(point.x, point.y); }
-    constexpr void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
-    constexpr void MoveToXY(CPoint point) { MoveToXY(point.x, point.y); }
 
     // Rectangles made from two picked corners may have them in any order; PtInRect and the unions need this first.
     constexpr void NormalizeRect() {
@@ -139,14 +108,6 @@ struct CRect {
     }
 
     constexpr bool operator==(const CRect&) const = default;
-    constexpr CRect operator+(CPoint point) const { return Moved(point.x, point.y); }
-    constexpr CRect operator-(CPoint point) const { return Moved(-point.x, -point.y); }
-    constexpr CRect operator+(CSize size) const { return Moved(size.cx, size.cy); }
-    constexpr CRect operator-(CSize size) const { return Moved(-size.cx, -size.cy); }
-    constexpr CRect& operator+=(CPoint point) { return *this = *this + point; }
-    constexpr CRect& operator-=(CPoint point) { return *this = *this - point; }
-    constexpr CRect& operator+=(CSize size) { return *this = *this + size; }
-    constexpr CRect& operator-=(CSize size) { return *this = *this - size; }
     constexpr CRect operator&(const CRect& other) const {
         CRect result;
         result.IntersectRect(this, &other);
@@ -157,11 +118,7 @@ struct CRect {
         result.UnionRect(this, &other);
         return result;
     }
-    constexpr CRect& operator&=(const CRect& other) { return *this = *this & other; }
     constexpr CRect& operator|=(const CRect& other) { return *this = *this | other; }
-
-  private:
-    constexpr CRect Moved(int dx, int dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
 };
 
 using POINT = CPoint;

@@ -3,24 +3,10 @@
 #include <algorithm>
 #include <ostream>
 
-CString::CString(const char* bytes, int length)
-    : m_bytes(bytes ? bytes : "", bytes && length > 0 ? static_cast<std::size_t>(length) : 0) {
-}
-
-void CString::SetAt(int index, char byte) {
-    if (Inside(index))
-        m_bytes[static_cast<std::size_t>(index)] = byte;
-}
-
 CString CString::Mid(int first, int count) const {
     first = std::clamp(first, 0, GetLength());
     count = std::clamp(count, 0, GetLength() - first);
     return CString(View().substr(static_cast<std::size_t>(first), static_cast<std::size_t>(count)));
-}
-
-CString CString::Right(int count) const {
-    count = std::clamp(count, 0, GetLength());
-    return Mid(GetLength() - count, count);
 }
 
 namespace {
@@ -75,29 +61,6 @@ int CString::Replace(const char* from, const char* to) {
     return count;
 }
 
-int CString::Replace(char from, char to) {
-    const auto count = std::count(m_bytes.begin(), m_bytes.end(), from);
-    std::replace(m_bytes.begin(), m_bytes.end(), from, to);
-    return static_cast<int>(count);
-}
-
-int CString::Remove(char byte) {
-    return static_cast<int>(std::erase(m_bytes, byte));
-}
-
-int CString::Insert(int index, const char* part) {
-    if (part)
-        m_bytes.insert(static_cast<std::size_t>(std::clamp(index, 0, GetLength())), std::string(part));
-    return GetLength();
-}
-
-int CString::Delete(int index, int count) {
-    index = std::max(index, 0);
-    if (index < GetLength() && count > 0)
-        m_bytes.erase(static_cast<std::size_t>(index), static_cast<std::size_t>(count));
-    return GetLength();
-}
-
 CString& CString::MakeUpper() {
     std::transform(m_bytes.begin(), m_bytes.end(), m_bytes.begin(), platform::Upper);
     return *this;
@@ -124,11 +87,6 @@ CString& CString::Trim(const char* set) {
 
 CString& CString::operator=(const char* bytes) {
     m_bytes = std::string(bytes ? bytes : ""); // through a copy: the bytes may be our own
-    return *this;
-}
-
-CString& CString::operator=(char byte) {
-    m_bytes.assign(1, byte);
     return *this;
 }
 

@@ -59,7 +59,6 @@ class CString {
   public:
     CString() = default;
     CString(const char* bytes) : m_bytes(bytes ? bytes : "") {}
-    CString(const char* bytes, int length);
     explicit CString(char byte, int count = 1) : m_bytes(count > 0 ? static_cast<std::size_t>(count) : 0, byte) {}
     explicit CString(std::string_view bytes) : m_bytes(bytes) {}
 
@@ -72,9 +71,8 @@ class CString {
     BOOL IsEmpty() const { return m_bytes.empty(); }
     void Empty() { m_bytes.clear(); }
 
-    // A position outside the text reads as the closing 0 and is not written.
+    // A position outside the text reads as the closing 0.
     char GetAt(int index) const { return Inside(index) ? m_bytes[static_cast<std::size_t>(index)] : '\0'; }
-    void SetAt(int index, char byte);
     template <std::integral Index>
     char operator[](Index index) const {
         return GetAt(static_cast<int>(index));
@@ -84,7 +82,6 @@ class CString {
     CString Left(int count) const { return Mid(0, count); }
     CString Mid(int first) const { return Mid(first, GetLength()); }
     CString Mid(int first, int count) const;
-    CString Right(int count) const;
 
     // Positions, or -1.
     int Find(const char* part, int start = 0) const;
@@ -94,13 +91,7 @@ class CString {
     // The next piece between any of the separators from `start`, which moves past it; an empty text and -1 at the end.
     CString Tokenize(const char* separators, int& start) const;
 
-    // The counts that they return: replacements, removed bytes, and for the last two the new length.
-    int Replace(const char* from, const char* to);
-    int Replace(char from, char to);
-    int Remove(char byte);
-    int Insert(int index, const char* part);
-    int Insert(int index, char byte) { return Insert(index, CString(byte)); }
-    int Delete(int index, int count = 1);
+    int Replace(const char* from, const char* to); // the number of replacements
 
     CString& MakeUpper();
     CString& MakeLower();
@@ -108,8 +99,6 @@ class CString {
     CString& TrimLeft(const char* set = blanks);
     CString& TrimRight(const char* set = blanks);
     CString& Trim(const char* set = blanks);
-    CString& TrimLeft(char byte) { return TrimLeft(CString(byte)); }
-    CString& TrimRight(char byte) { return TrimRight(CString(byte)); }
 
     // By bytes; CompareNoCase by the code page's letters.
     int Compare(const char* other) const { return m_bytes.compare(other ? other : ""); }
@@ -125,7 +114,6 @@ class CString {
     }
 
     CString& operator=(const char* bytes);
-    CString& operator=(char byte);
     CString& operator+=(const CString& other);
     CString& operator+=(const char* bytes);
     CString& operator+=(char byte);

@@ -115,9 +115,6 @@ class CDC : public CObject {
     explicit CDC(std::unique_ptr<platform::Surface> surface);
 
     std::unique_ptr<platform::Surface> m_surface; // never null
-
-  private:
-    friend class CImageList;
 };
 
 // Draws into a window's own picture, at any time; what is drawn stays until the window is erased. A null or closed

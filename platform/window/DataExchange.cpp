@@ -131,18 +131,6 @@ void DDX_Text(CDataExchange* pDX, int id, int& value) {
     ExchangeNumber(*pDX, id, value, "%d", notAnInteger);
 }
 
-void DDX_Text(CDataExchange* pDX, int id, UINT& value) {
-    ExchangeNumber(*pDX, id, value, "%u", notAnInteger);
-}
-
-void DDX_Text(CDataExchange* pDX, int id, long& value) {
-    ExchangeNumber(*pDX, id, value, "%ld", notAnInteger);
-}
-
-void DDX_Text(CDataExchange* pDX, int id, float& value) {
-    ExchangeNumber(*pDX, id, value, "%.7g", notANumber);
-}
-
 void DDX_Text(CDataExchange* pDX, int id, double& value) {
     ExchangeNumber(*pDX, id, value, "%.15g", notANumber);
 }
@@ -183,34 +171,6 @@ void DDX_Radio(CDataExchange* pDX, int id, int& value) {
     }
 }
 
-void DDX_LBIndex(CDataExchange* pDX, int id, int& index) {
-    auto& list = dynamic_cast<CListBox&>(*pDX->PrepareCtrl(id));
-    if (pDX->m_bSaveAndValidate)
-        index = list.GetCurSel();
-    else
-        list.SetCurSel(index);
-}
-
-void DDX_LBString(CDataExchange* pDX, int id, CString& value) {
-    auto& list = dynamic_cast<CListBox&>(*pDX->PrepareCtrl(id));
-    if (!pDX->m_bSaveAndValidate) {
-        list.SelectString(-1, value);
-        return;
-    }
-    const int selected = list.GetCurSel();
-    value.Empty();
-    if (selected >= 0)
-        list.GetText(selected, value);
-}
-
-void DDX_CBIndex(CDataExchange* pDX, int id, int& index) {
-    auto& combo = dynamic_cast<CComboBox&>(*pDX->PrepareCtrl(id));
-    if (pDX->m_bSaveAndValidate)
-        index = combo.GetCurSel();
-    else
-        combo.SetCurSel(index);
-}
-
 void DDX_CBString(CDataExchange* pDX, int id, CString& value) {
     auto& combo = dynamic_cast<CComboBox&>(*pDX->PrepareCtrl(id));
     if (pDX->m_bSaveAndValidate)
@@ -223,22 +183,6 @@ void DDV_MinMaxInt(CDataExchange* pDX, int value, int minimum, int maximum) {
     CheckRange(*pDX, value, minimum, maximum, "%d");
 }
 
-void DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minimum, UINT maximum) {
-    CheckRange(*pDX, value, minimum, maximum, "%u");
-}
-
-void DDV_MinMaxLong(CDataExchange* pDX, long value, long minimum, long maximum) {
-    CheckRange(*pDX, value, minimum, maximum, "%ld");
-}
-
 void DDV_MinMaxDouble(CDataExchange* pDX, double value, double minimum, double maximum) {
     CheckRange(*pDX, value, minimum, maximum, "%.15g");
-}
-
-void DDV_MaxChars(CDataExchange* pDX, const CString& value, int maximum) {
-    if (!pDX->m_bSaveAndValidate || value.GetLength() <= maximum)
-        return;
-    CString message;
-    message.Format("Immettere al massimo %d caratteri.", maximum);
-    FailWith(*pDX, message);
 }

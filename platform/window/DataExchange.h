@@ -28,9 +28,6 @@ class CExchangeFailure final {};
 // text that is still the one written from the same field gives back the very number, with all its bits.
 void DDX_Text(CDataExchange* pDX, int id, CString& value);
 void DDX_Text(CDataExchange* pDX, int id, int& value);
-void DDX_Text(CDataExchange* pDX, int id, UINT& value);
-void DDX_Text(CDataExchange* pDX, int id, long& value);
-void DDX_Text(CDataExchange* pDX, int id, float& value);
 void DDX_Text(CDataExchange* pDX, int id, double& value);
 
 // Attaches the member the first time the exchange reaches it.
@@ -39,14 +36,8 @@ void DDX_Control(CDataExchange* pDX, int id, CWnd& control);
 void DDX_Check(CDataExchange* pDX, int id, int& value); // 0, 1, 2 undetermined
 // The group from the button `id`, which has the group flag, to the next control with it; -1 is none.
 void DDX_Radio(CDataExchange* pDX, int id, int& value);
-void DDX_LBIndex(CDataExchange* pDX, int id, int& index); // -1 is none
-void DDX_LBString(CDataExchange* pDX, int id, CString& value);
-void DDX_CBIndex(CDataExchange* pDX, int id, int& index);
 void DDX_CBString(CDataExchange* pDX, int id, CString& value);
 
 // Limits, checked on reading only.
 void DDV_MinMaxInt(CDataExchange* pDX, int value, int minimum, int maximum);
-void DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minimum, UINT maximum);
-void DDV_MinMaxLong(CDataExchange* pDX, long value, long minimum, long maximum);
 void DDV_MinMaxDouble(CDataExchange* pDX, double value, double minimum, double maximum);
-void DDV_MaxChars(CDataExchange* pDX, const CString& value, int maximum);

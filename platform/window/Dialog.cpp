@@ -130,41 +130,6 @@ BOOL CDialog::Build(UINT templateId, CWnd* parent, bool modal) {
     return TRUE;
 }
 
-void CDialog::NextDlgCtrl() {
-    if (m_hWnd)
-        static_cast<DialogPeer*>(m_hWnd)->FocusNext(platform::NearestPeer(m_hWnd->widget->focusWidget()), false);
-}
-
-void CDialog::PrevDlgCtrl() {
-    if (m_hWnd)
-        static_cast<DialogPeer*>(m_hWnd)->FocusNext(platform::NearestPeer(m_hWnd->widget->focusWidget()), true);
-}
-
-void CDialog::GotoDlgCtrl(CWnd* control) {
-    if (control && control->m_hWnd)
-        control->m_hWnd->FocusByKeyboard();
-}
-
-CWnd* CWnd::GetNextDlgTabItem(CWnd* control, BOOL previous) const {
-    auto* peer = dynamic_cast<DialogPeer*>(m_hWnd);
-    return peer ? FromHandle(peer->NextTabStop(control ? control->m_hWnd : nullptr, previous)) : nullptr;
-}
-
-void CDialog::SetDefID(UINT id) {
-    if (m_hWnd)
-        static_cast<DialogPeer*>(m_hWnd)->SetDefaultButton(id);
-}
-
-UINT CDialog::GetDefID() const {
-    const WindowPeer* button = m_hWnd ? static_cast<DialogPeer*>(m_hWnd)->DefaultButton() : nullptr;
-    return button ? button->id : 0;
-}
-
-void CDialog::MapDialogRect(CRect& rect) const {
-    rect = CRect(platform::UnitsToX(rect.left), platform::UnitsToY(rect.top), platform::UnitsToX(rect.right),
-                 platform::UnitsToY(rect.bottom));
-}
-
 BOOL CDialog::OnInitDialog() {
     UpdateData(FALSE);
     return TRUE;

@@ -22,13 +22,6 @@ class CDialog : public CWnd {
     // DoModal.
     void EndDialog(int result);
 
-    void NextDlgCtrl();
-    void PrevDlgCtrl();
-    void GotoDlgCtrl(CWnd* control);
-    void SetDefID(UINT id);
-    UINT GetDefID() const;                 // 0 when no button is the default
-    void MapDialogRect(CRect& rect) const; // dialog units to pixels
-
     virtual BOOL OnInitDialog(); // 0 says that the focus has been set already
     virtual void OnOK();
     virtual void OnCancel();

@@ -6,7 +6,6 @@
 
 #include <QMenu>
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -95,15 +94,10 @@ void Fill(QMenu& shown, const MenuData& menu) {
     }
 }
 
-UINT ShowPopup(const MenuData& menu, UINT flags, int x, int y, QWidget* parent) {
+UINT ShowPopup(const MenuData& menu, int x, int y, QWidget* parent) {
     QMenu shown(parent);
     Fill(shown, menu);
-    QPoint at(x, y);
-    if (flags & TPM_RIGHTALIGN)
-        at.rx() -= shown.sizeHint().width();
-    else if (flags & TPM_CENTERALIGN)
-        at.rx() -= shown.sizeHint().width() / 2;
-    const QAction* chosen = shown.exec(at);
+    const QAction* chosen = shown.exec(QPoint(x, y));
     return chosen ? chosen->data().toUInt() : 0;
 }
 
@@ -119,77 +113,8 @@ BOOL CMenu::Attach(HMENU menu) {
     return TRUE;
 }
 
-HMENU CMenu::Detach() {
-    return m_menu.release();
-}
-
-BOOL CMenu::CreateMenu() {
-    if (m_menu)
-        return FALSE;
-    m_menu = std::make_unique<MenuData>();
-    return TRUE;
-}
-
-BOOL CMenu::DestroyMenu() {
-    const bool had = m_menu != nullptr;
-    m_menu.reset();
-    return had;
-}
-
 BOOL CMenu::LoadMenu(UINT id) {
     return Attach(Load(m_menu ? nullptr : platform::FindMenu(static_cast<int>(id))));
-}
-
-BOOL CMenu::LoadMenu(HINSTANCE module, UINT id) {
-    return Attach(m_menu ? nullptr : ::LoadMenu(module, id));
-}
-
-BOOL CMenu::AppendMenu(UINT flags, UINT_PTR id, LPCTSTR text) {
-    return m_menu && InsertMenu(GetMenuItemCount(), flags | MF_BYPOSITION, id, text);
-}
-
-BOOL CMenu::InsertMenu(UINT position, UINT flags, UINT_PTR id, LPCTSTR text) {
-    if (!m_menu || (flags & MF_POPUP))
-        return FALSE;
-    std::vector<MenuData::Item>& items = m_menu->items;
-    const auto place = (flags & MF_BYPOSITION)
-                           ? items.begin() + std::min<std::ptrdiff_t>(position, std::ssize(items))
-                           : std::find_if(items.begin(), items.end(), [position](const MenuData::Item& item) {
-                                 return !item.popup && item.id == position;
-                             });
-    MenuData::Item added;
-    added.id = static_cast<UINT>(id);
-    added.text = text;
-    added.flags = flags & (MF_SEPARATOR | MF_GRAYED | MF_DISABLED | MF_CHECKED);
-    items.insert(place, std::move(added));
-    return TRUE;
-}
-
-BOOL CMenu::AppendPopup(CMenu& popup, LPCTSTR text) {
-    if (!m_menu || !popup.m_menu || &popup == this)
-        return FALSE;
-    MenuData::Item item;
-    item.text = text;
-    item.flags = MF_POPUP;
-    item.popup = std::make_unique<CMenu>();
-    item.popup->m_menu = std::move(popup.m_menu);
-    m_menu->items.push_back(std::move(item));
-    return TRUE;
-}
-
-BOOL CMenu::DeleteMenu(UINT position, UINT flags) {
-    const MenuData::Item* gone = FindItem(m_menu.get(), position, flags);
-    if (!gone)
-        return FALSE;
-    const auto erasedFrom = [gone](MenuData& menu) {
-        return std::erase_if(menu.items, [gone](const MenuData::Item& item) { return &item == gone; }) > 0;
-    };
-    if (erasedFrom(*m_menu))
-        return TRUE;
-    for (const MenuData::Item& item : m_menu->items) // a command inside one of the pop-ups
-        if (item.popup && item.popup->DeleteMenu(position, flags))
-            return TRUE;
-    return FALSE;
 }
 
 CMenu* CMenu::GetSubMenu(int position) const {
@@ -236,39 +161,21 @@ int CMenu::GetMenuString(UINT item, CString& text, UINT flags) const {
     return text.GetLength();
 }
 
-BOOL CMenu::ModifyMenu(UINT item, UINT flags, UINT_PTR id, LPCTSTR text) {
-    MenuData::Item* found = FindItem(m_menu.get(), item, flags);
-    if (!found || found->popup)
-        return FALSE;
-    found->id = static_cast<UINT>(id);
-    found->text = text;
-    found->flags = flags & (MF_SEPARATOR | MF_GRAYED | MF_DISABLED | MF_CHECKED);
-    return TRUE;
-}
-
-BOOL CMenu::TrackPopupMenu(UINT flags, int x, int y, CWnd* window, const CRect*) {
+BOOL CMenu::TrackPopupMenu(UINT, int x, int y, CWnd* window, const CRect*) {
     if (!m_menu)
         return FALSE;
     // The window, and its object with it, may go while the menu is up.
     const QPointer<QWidget> widget = window && window->m_hWnd ? window->m_hWnd->widget : nullptr;
-    UINT chosen =
-        platform::popupMenuHook ? platform::popupMenuHook(*this, window) : ShowPopup(*m_menu, flags, x, y, widget);
+    UINT chosen = platform::popupMenuHook ? platform::popupMenuHook(*this, window) : ShowPopup(*m_menu, x, y, widget);
     const MenuData::Item* item = chosen && m_menu ? FindCommand(*m_menu, chosen) : nullptr;
     if (!item || IsDisabled(*item))
         chosen = 0;
-    if (flags & TPM_RETURNCMD)
-        return static_cast<BOOL>(chosen);
     platform::WindowPeer* target = platform::PeerOf(widget);
-    if (chosen && target && !target->destroyed && !(flags & TPM_NONOTIFY))
+    if (chosen && target && !target->destroyed)
         target->Send(WM_COMMAND, MAKEWPARAM(chosen, 0));
     return chosen != 0;
 }
 
 HMENU LoadMenu(HINSTANCE module, UINT id) {
     return Load(platform::FindMenu(module, static_cast<int>(id)));
-}
-
-BOOL DestroyMenu(HMENU menu) {
-    const std::unique_ptr<MenuData> owned(menu);
-    return owned != nullptr;
 }

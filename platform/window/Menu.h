@@ -1,4 +1,4 @@
-// Menus, loaded from the resources or built item by item, and tracked as pop-ups.
+// Menus, loaded from the resources and tracked as pop-ups.
 #pragma once
 
 #include "platform/core/String.h"
@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-// A loaded menu on its way into a CMenu; who loads it owns it until it is attached or destroyed.
+// A loaded menu on its way into a CMenu, which takes it over; who loads it attaches it.
 using HMENU = platform::MenuData*;
 
 enum : UINT {
@@ -26,10 +26,6 @@ enum : UINT {
     TPM_LEFTBUTTON = 0,
     TPM_RIGHTBUTTON = 2,
     TPM_LEFTALIGN = 0,
-    TPM_CENTERALIGN = 4,
-    TPM_RIGHTALIGN = 8,
-    TPM_NONOTIFY = 0x80,
-    TPM_RETURNCMD = 0x100,
 };
 
 class CMenu : public CObject {
@@ -42,19 +38,8 @@ class CMenu : public CObject {
 
     HMENU GetSafeHmenu() const { return m_menu.get(); } // null while there is no menu
     BOOL Attach(HMENU menu);                            // takes it over
-    HMENU Detach();                                     // hands it to the caller
-    BOOL CreateMenu();
-    BOOL CreatePopupMenu() { return CreateMenu(); }
-    BOOL DestroyMenu();
 
-    BOOL LoadMenu(UINT id); // along the resource chain; 0 when no module has it
-    BOOL LoadMenu(HINSTANCE module, UINT id);
-
-    BOOL AppendMenu(UINT flags, UINT_PTR id = 0, LPCTSTR text = nullptr);
-    BOOL InsertMenu(UINT position, UINT flags, UINT_PTR id = 0, LPCTSTR text = nullptr);
-    BOOL AppendPopup(CMenu& popup, LPCTSTR text); // takes over what the other menu holds
-    BOOL DeleteMenu(UINT position, UINT flags);
-    BOOL RemoveMenu(UINT position, UINT flags) { return DeleteMenu(position, flags); }
+    BOOL LoadMenu(UINT id);                // along the resource chain; 0 when no module has it
     CMenu* GetSubMenu(int position) const; // owned by this menu; null for an item that opens none
 
     // Items by position with MF_BYPOSITION, else by command, in the pop-ups as well. Missing items give -1.
@@ -64,10 +49,9 @@ class CMenu : public CObject {
     UINT GetMenuItemCount() const;
     UINT GetMenuItemID(int position) const; // 0 for separators, -1 for pop-ups
     int GetMenuString(UINT item, CString& text, UINT flags) const;
-    BOOL ModifyMenu(UINT item, UINT flags, UINT_PTR id = 0, LPCTSTR text = nullptr);
 
-    // Shows the menu at a screen point and waits for the user. The window gets the WM_COMMAND once the menu is gone;
-    // with TPM_RETURNCMD it gets none and the command is the result. 0 when the user chose nothing.
+    // Shows the menu at a screen point and waits for the user. The window gets the WM_COMMAND once the menu is gone; 0
+    // when the user chose nothing.
     BOOL TrackPopupMenu(UINT flags, int x, int y, CWnd* window, const CRect* rect = nullptr);
 
   private:
@@ -76,7 +60,6 @@ class CMenu : public CObject {
 
 // Null when the module has no such menu; the caller owns the result.
 HMENU LoadMenu(HINSTANCE module, UINT id);
-BOOL DestroyMenu(HMENU menu);
 
 namespace platform {
 

@@ -67,10 +67,6 @@ CWnd* CWnd::GetActiveWindow() {
     return FromHandle(platform::NearestPeer(QApplication::activeWindow()));
 }
 
-CWnd* CWnd::GetCapture() {
-    return FromHandle(platform::NearestPeer(QWidget::mouseGrabber()));
-}
-
 BOOL CWnd::Attach(HWND handle) {
     if (!handle || handle->destroyed || m_hWnd)
         return FALSE;
@@ -145,11 +141,6 @@ BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return FALSE;
     QCoreApplication::postEvent(m_hWnd->widget, new platform::PostedMessage(message, wParam, lParam));
     return TRUE;
-}
-
-LRESULT CWnd::SendDlgItemMessage(int id, UINT message, WPARAM wParam, LPARAM lParam) {
-    CWnd* control = GetDlgItem(id);
-    return control ? control->SendMessage(message, wParam, lParam) : 0;
 }
 
 BOOL CWnd::PreTranslateMessage(MSG*) {
@@ -231,33 +222,8 @@ int CWnd::GetDlgCtrlID() const {
     return m_hWnd ? static_cast<int>(m_hWnd->id) : 0;
 }
 
-void CWnd::SetDlgCtrlID(int id) {
-    if (m_hWnd)
-        m_hWnd->id = static_cast<UINT>(id);
-}
-
 CWnd* CWnd::GetParent() const {
     return m_hWnd ? FromHandle(m_hWnd->parent) : nullptr;
-}
-
-CWnd* CWnd::GetTopLevelParent() const {
-    return m_hWnd ? FromHandle(m_hWnd->TopLevel()) : nullptr;
-}
-
-CWnd* CWnd::GetWindow(UINT command) const {
-    if (!m_hWnd)
-        return nullptr;
-    if (command == GW_CHILD)
-        return m_hWnd->children.empty() ? nullptr : FromHandle(m_hWnd->children.front());
-    if (!m_hWnd->parent)
-        return nullptr;
-    const auto& siblings = m_hWnd->parent->children;
-    const auto self = std::find(siblings.begin(), siblings.end(), m_hWnd);
-    if (self == siblings.end())
-        return nullptr;
-    if (command == GW_HWNDNEXT)
-        return self + 1 == siblings.end() ? nullptr : FromHandle(*(self + 1));
-    return self == siblings.begin() ? nullptr : FromHandle(*(self - 1));
 }
 
 BOOL CWnd::IsChild(const CWnd* window) const {

@@ -31,7 +31,6 @@ class CWnd : public CObject {
     FromHandle(HWND handle); // the object of a window; made on demand and owned by the window; null for null
     static CWnd* GetFocus();
     static CWnd* GetActiveWindow();
-    static CWnd* GetCapture();
 
     // Links this object to an existing window that has no object of its own yet; 0 when there is no such window.
     BOOL Attach(HWND handle);
@@ -47,32 +46,23 @@ class CWnd : public CObject {
     // Messages. SendMessage returns when the handler has; both the receiver and the caller may be gone by then.
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    LRESULT SendDlgItemMessage(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     virtual BOOL PreTranslateMessage(MSG* pMsg); // key messages, before the dialog's own keys; non-zero consumes
 
     // Relations.
     CWnd* GetDlgItem(int id) const; // null when there is none
     int GetDlgCtrlID() const;
-    void SetDlgCtrlID(int id);
     CWnd* GetParent() const;
-    CWnd* GetTopLevelParent() const;
-    CWnd* GetWindow(UINT command) const; // GW_CHILD, GW_HWNDNEXT, GW_HWNDPREV
-    CWnd* GetNextDlgTabItem(CWnd* control, BOOL previous = FALSE) const;
     BOOL IsChild(const CWnd* window) const;
 
-    // Text. GetDlgItemInt stores 0 through `translated` when the text is no whole number.
+    // Text.
     void SetWindowText(LPCTSTR text);
     void GetWindowText(CString& text) const;
     CString GetWindowText() const;
     int GetWindowTextLength() const;
     void SetDlgItemText(int id, LPCTSTR text);
-    int GetDlgItemText(int id, CString& text) const;
-    void SetDlgItemInt(int id, int value, BOOL isSigned = TRUE);
-    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const;
     void CheckDlgButton(int id, UINT check);
     UINT IsDlgButtonChecked(int id) const;
     void CheckRadioButton(int first, int last, int checked);
-    int GetCheckedRadioButton(int first, int last) const; // 0 when none
 
     // State.
     BOOL EnableWindow(BOOL enable = TRUE); // returns non-zero when the window was disabled before
@@ -81,9 +71,7 @@ class CWnd : public CObject {
     BOOL IsWindowVisible() const;
     CWnd* SetFocus();
     CWnd* SetActiveWindow();
-    CWnd* SetCapture();
     DWORD GetStyle() const;
-    DWORD GetExStyle() const;
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
 
     // Place, in device-independent pixels; of a top-level window in screen coordinates, of a child in its parent's.
@@ -98,7 +86,6 @@ class CWnd : public CObject {
     void ScreenToClient(CRect& rect) const;
     static const CWnd wndTop;
     static const CWnd wndBottom;
-    static const CWnd wndTopMost;
 
     // Painting. What a dialog draws stays until it is erased.
     void Invalidate(BOOL erase = TRUE);
@@ -106,8 +93,6 @@ class CWnd : public CObject {
     void UpdateWindow();
     void RedrawWindow();
     void SetRedraw(BOOL redraw = TRUE); // off: the window keeps its look until it is on again
-    CDC* GetDC();                       // release with ReleaseDC
-    int ReleaseDC(CDC* dc);
     void SetFont(CFont* font, BOOL redraw = TRUE);
     CFont* GetFont() const; // owned by the window
 
@@ -178,7 +163,6 @@ inline bool IsWindow(HWND handle) {
 
 // The key is down, as GetKeyState's sign bit tells: negative when pressed.
 short GetKeyState(int virtualKey);
-void GetCursorPos(CPoint* point);
 
 enum class StandardCursor { Arrow, Cross, Wait, SizeAll };
 void SetCursor(StandardCursor cursor); // of the window under the pointer

@@ -7,10 +7,7 @@
 #include "platform/window/Window.h"
 
 #include <QApplication>
-#include <QCursor>
 
-#include <cerrno>
-#include <cstdlib>
 #include <memory>
 
 // The font of a window that was given none is its dialog's: 8 points.
@@ -29,7 +26,6 @@ void platform::WindowPeer::KeepFont(const LOGFONT& description) {
 
 const CWnd CWnd::wndTop;
 const CWnd CWnd::wndBottom;
-const CWnd CWnd::wndTopMost;
 
 void CWnd::SetWindowText(LPCTSTR text) {
     if (m_hWnd)
@@ -53,37 +49,6 @@ void CWnd::SetDlgItemText(int id, LPCTSTR text) {
         control->SetWindowText(text);
 }
 
-int CWnd::GetDlgItemText(int id, CString& text) const {
-    const CWnd* control = GetDlgItem(id);
-    text = control ? control->GetWindowText() : CString();
-    return text.GetLength();
-}
-
-void CWnd::SetDlgItemInt(int id, int value, BOOL isSigned) {
-    CString text;
-    if (isSigned)
-        text.Format("%d", value);
-    else
-        text.Format("%u", static_cast<UINT>(value));
-    SetDlgItemText(id, text);
-}
-
-UINT CWnd::GetDlgItemInt(int id, BOOL* translated, BOOL isSigned) const {
-    CString text;
-    GetDlgItemText(id, text);
-    const char* begin = text;
-    char* end = nullptr;
-    errno = 0;
-    const long long value = std::strtoll(begin, &end, 10);
-    while (*end == ' ')
-        ++end;
-    const bool fits = isSigned ? value >= INT32_MIN && value <= INT32_MAX : value >= 0 && value <= UINT32_MAX;
-    const bool good = end != begin && *end == '\0' && errno == 0 && fits;
-    if (translated)
-        *translated = good;
-    return good ? static_cast<UINT>(value) : 0;
-}
-
 void CWnd::CheckDlgButton(int id, UINT check) {
     if (CWnd* control = GetDlgItem(id))
         control->m_hWnd->SetCheck(static_cast<int>(check));
@@ -97,13 +62,6 @@ UINT CWnd::IsDlgButtonChecked(int id) const {
 void CWnd::CheckRadioButton(int first, int last, int checked) {
     for (int id = first; id <= last; ++id)
         CheckDlgButton(id, id == checked);
-}
-
-int CWnd::GetCheckedRadioButton(int first, int last) const {
-    for (int id = first; id <= last; ++id)
-        if (IsDlgButtonChecked(id))
-            return id;
-    return 0;
 }
 
 BOOL CWnd::EnableWindow(BOOL enable) {
@@ -168,22 +126,11 @@ CWnd* CWnd::SetActiveWindow() {
     return former;
 }
 
-CWnd* CWnd::SetCapture() {
-    CWnd* former = GetCapture();
-    if (m_hWnd)
-        m_hWnd->Surface()->grabMouse();
-    return former;
-}
-
 DWORD CWnd::GetStyle() const {
     if (!m_hWnd)
         return 0;
     const DWORD state = (m_hWnd->widget->isHidden() ? 0u : WS_VISIBLE) | (IsWindowEnabled() ? 0u : WS_DISABLED);
     return (m_hWnd->style & ~DWORD{WS_VISIBLE | WS_DISABLED}) | state;
-}
-
-DWORD CWnd::GetExStyle() const {
-    return m_hWnd ? m_hWnd->exStyle : 0;
 }
 
 BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT) {
@@ -241,7 +188,7 @@ BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int cx, int cy, UINT fl
     if (!(flags & SWP_NOZORDER) && after) {
         if (after == &wndBottom)
             widget->lower();
-        else if (after == &wndTop || after == &wndTopMost)
+        else if (after == &wndTop)
             widget->raise();
         else if (after->m_hWnd)
             widget->stackUnder(after->m_hWnd->widget);
@@ -309,15 +256,6 @@ void CWnd::SetRedraw(BOOL redraw) {
         m_hWnd->SetRedraw(redraw);
 }
 
-CDC* CWnd::GetDC() {
-    return new CClientDC(this);
-}
-
-int CWnd::ReleaseDC(CDC* dc) {
-    delete dc;
-    return 1;
-}
-
 void CWnd::SetFont(CFont* font, BOOL) {
     if (!m_hWnd || !font || !font->Data())
         return;
@@ -371,8 +309,4 @@ short GetKeyState(int key) {
         break;
     }
     return down ? static_cast<short>(-32768) : static_cast<short>(0);
-}
-
-void GetCursorPos(CPoint* point) {
-    *point = CPoint(QCursor::pos().x(), QCursor::pos().y());
 }

@@ -6,31 +6,26 @@
 #include "model/element/Setto.h"
 #include "model/element/Solaio.h"
 #include "model/element/Trave.h"
-#include "model/entity/Materiale.h"
-#include "model/entity/Sezione.h"
-#include "model/entity/Spessore.h"
 #include "tests/support/RecordingDoc.h"
+#include "tests/support/SoundParts.h"
 
 #include <initializer_list>
 #include <utility>
 
-class CheckModel {
+class CheckModel : public SoundParts {
   public:
     explicit CheckModel(RecordingDoc& doc) : m_doc(doc) {}
 
     static inline const CVincolo fixed{CVincolo::All};
     static inline const CVincolo pinned{1, 1, 1, 0, 0, 0};
-    CMateriale material;
-    CSezione section;
-    CSpessore thickness;
 
     // Nodes stand on a parabola, so that no three of them are in line.
     CNodo* Node() {
         const double x = static_cast<double>(m_doc.nodi.size());
         return m_doc.NewNodo(x, x * x, 0);
     }
-    CTrave& Beam(CNodo& a, CNodo& b) { return Physical(*m_doc.NewTrave(a.GetID(), b.GetID())); }
-    CAsta& Truss(CNodo& a, CNodo& b) { return Physical(*m_doc.NewAsta(a.GetID(), b.GetID())); }
+    CTrave& Beam(CNodo& a, CNodo& b) { return Sound(*m_doc.NewTrave(a.GetID(), b.GetID())); }
+    CAsta& Truss(CNodo& a, CNodo& b) { return Sound(*m_doc.NewAsta(a.GetID(), b.GetID())); }
     CSolaio& Slab(std::initializer_list<CNodo*> nodes) { return Polygon(m_doc.solai, nodes); }
     CSetto& Wall(std::initializer_list<CNodo*> nodes) { return Polygon(m_doc.setti, nodes); }
     // A beam that is fixed at its first node: a structure of its own without faults.
@@ -43,22 +38,11 @@ class CheckModel {
     }
 
   private:
-    template <class Line>
-    Line& Physical(Line& line) {
-        line.SetMateriale(1, &material);
-        line.SetSezione(1, &section);
-        return line;
-    }
     template <class T>
     T& Polygon(std::vector<std::unique_ptr<T>>& list, std::initializer_list<CNodo*> nodes) {
         list.push_back(std::make_unique<T>());
-        T& polygon = *list.back();
-        polygon.SetID(static_cast<int>(list.size()));
-        for (CNodo* node : nodes)
-            polygon.AggiungiVertice(node);
-        polygon.SetMateriale(1, &material);
-        polygon.SetThickness(1, &thickness);
-        return polygon;
+        list.back()->SetID(static_cast<int>(list.size()));
+        return Sound(*list.back(), nodes);
     }
 
     RecordingDoc& m_doc;

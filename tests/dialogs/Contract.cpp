@@ -1,7 +1,9 @@
 #include "tests/dialogs/Contract.h"
 
+#include "dialogs/results/DialogDiagrammi.h"
 #include "platform/window/Dialog.h"
 #include "platform/window/Styles.h"
+#include "tests/dialogs/TemplateInventory.h"
 
 #include <algorithm>
 
@@ -15,7 +17,7 @@ namespace {
 using Control = platform::ControlTemplate;
 
 // Of the pop-up menus that dialogs track.
-const int menus[] = {106, 351, 376};
+const int menus[] = {inventory::scaleMenu, CDialogDiagrammi::IDR_MENU_DIAGRAMMI, inventory::fileMenu};
 
 bool IsVisibleEdit(const Control& control) {
     return control.kind == Control::Kind::Edit && (control.style & WS_VISIBLE);

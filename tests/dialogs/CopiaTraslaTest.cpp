@@ -44,19 +44,13 @@ class CopiaTrasla : public ToolTest<CDialogCopiaTrasla> {
     }
 };
 
-TEST_F(CopiaTrasla, DefaultsMakeOneCopyAlongZ) {
+TEST_F(CopiaTrasla, StepsTypedByKeyboardAlone) {
     // The wait bar counts copies times objects: one of the two alone would end early.
     m_host.doc.selected.AddTail(m_host.doc.NewNodo(0, 0, 0));
     m_host.doc.selected.AddTail(m_host.doc.NewNodo(1, 0, 0));
     m_dialog.GetIndexPass(0) = 5;
     m_driver = Reopen(); // the step that the opening before has left is gone
     EXPECT_EQ(m_driver.Rows(list), Lines{Row(1, "3")});
-    m_driver.Press(VK_RETURN);
-    EXPECT_EQ(m_host.Take(), Command({"0 0 3 0"}, 2, 2));
-}
-
-TEST_F(CopiaTrasla, StepsTypedByKeyboardAlone) {
-    m_host.doc.selected.AddTail(m_host.doc.NewNodo(0, 0, 0));
     m_driver.Press('C', AltKey);
     m_driver.TypeKeys("3");
     m_driver.Click(radioX);
@@ -72,12 +66,12 @@ TEST_F(CopiaTrasla, StepsTypedByKeyboardAlone) {
     }
     EXPECT_EQ(m_driver.Rows(list), (Lines{Row(1, "1"), Row(2, "2"), Row(3, "3")}));
     m_driver.Press(VK_RETURN);
-    EXPECT_EQ(m_host.Take(), Command({"1 0 0 2", "2 0 0 2", "3 0 0 2"}, 1, 3));
+    EXPECT_EQ(m_host.Take(), Command({"1 0 0 2", "2 0 0 2", "3 0 0 2"}, 2, 6));
     // The silent vector of an axis must not stick: the next command reads the buttons again.
     m_dialog.SetVettoreTo(CFPoint(0, 0, 50), 0);
     m_driver.Click(Dialog::IDC_UNIONE_TRAVI);
     m_driver.Press(VK_RETURN);
-    EXPECT_EQ(m_host.Take(), Command({"1 0 0 1", "2 0 0 1", "3 0 0 1"}, 1, 3));
+    EXPECT_EQ(m_host.Take(), Command({"1 0 0 1", "2 0 0 1", "3 0 0 1"}, 2, 6));
 }
 
 TEST_F(CopiaTrasla, EditorTakesDigitsStopAndEditingKeysOnly) {
@@ -219,11 +213,11 @@ TEST_F(CopiaTrasla, TypedCoordinateUpdatesTheSteps) {
 TEST_F(CopiaTrasla, AnyReadingOfAChangedPointResetsTheSteps) {
     m_host.View().Pick(0, 0, 0);
     m_host.View().Pick(5, 0, 0);
-    m_driver.Type(1197, "9");
+    m_driver.Type(Dialog::IDC_X2, "9");
     m_driver.Press(VK_RETURN); // the edit keeps the focus
     EXPECT_EQ(m_host.Take(), Command({"9 0 0 0"}, 0, 0));
     EXPECT_EQ(m_driver.Rows(list), Lines{Row(1, "9")});
-    m_driver.SetText(1197, "7");
+    m_driver.SetText(Dialog::IDC_X2, "7");
     EXPECT_EQ(m_dialog.GetNPass(), 1);
     EXPECT_EQ(m_driver.Text(spacing) + m_driver.Rows(list)[0], "7" + Row(1, "7"));
     m_driver.Press(VK_RETURN);
@@ -254,8 +248,6 @@ TEST_F(CopiaTrasla, NumbersOfCopies) {
     m_user.ExpectMessage("Numero copie non valido.", IDOK, MB_OK);
     m_driver.Press(VK_RETURN);
     EXPECT_EQ(m_host.Take(), Lines{});
-    m_driver.ClickSpinDown(spin);
-    EXPECT_EQ(m_driver.Text(copies), "0");
     m_driver.SetText(copies, "-2");
     m_driver.Press(VK_RETURN);
     EXPECT_EQ(m_host.Take(), Command({}, 0, 0)) << "a negative number makes no copy but is one undo step";

@@ -261,21 +261,4 @@ TEST_F(CreaCombinazione, CancelLeavesTheDocument) {
     EXPECT_EQ(combination.GetNome(), "SLU");
 }
 
-// Catches a factor that reaches another row, or only the first, where there are many.
-TEST_F(CreaCombinazione, FiveHundredCases) {
-    for (int id = 10; id < 510; ++id) {
-        AddNamed(m_host.doc.casi, id, "Caso " + std::to_string(id));
-        AddCombination(m_host.doc, 1000 + id, "Combinazione " + std::to_string(id), {{1, 1}});
-    }
-    Create([](DialogDriver& driver) {
-        Fill(driver, "Inviluppo");
-        driver.ClickRow(combinedId, 400);
-        for (int i = 1; i <= 100; ++i)
-            driver.SetText(fattoreCombinazioneId, std::to_string(i));
-        EXPECT_EQ(driver.Rows(combinedId)[400], "(100) 407 : Caso 407");
-        driver.Click(IDOK);
-    });
-    EXPECT_EQ(m_host.doc.combinazioni.back()->GetSizeCDC(), 503);
-}
-
 } // namespace

@@ -21,12 +21,4 @@ TEST_F(GenNodi2P, SpinRestoresStoredCoordinates) {
     EXPECT_EQ(m_dialog.m_nNodi, 40);
 }
 
-TEST_F(GenNodi2P, SpinStopsAtItsEnds) {
-    m_driver.ClickSpinDown(spin);
-    EXPECT_EQ(m_driver.Text(nodes), "1");
-    m_driver.Type(nodes, "100");
-    m_driver.ClickSpinUp(spin);
-    EXPECT_EQ(m_driver.Text(nodes), "100");
-}
-
 } // namespace

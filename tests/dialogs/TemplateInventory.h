@@ -29,6 +29,9 @@ inline constexpr const char* captions =
     "9142 Piastra Anello Circolare|9143 Piastra Circolare|9144 Piastra Rettangolare|9145 Platea su Pali|"
     "9146 Mesh 2 Punti Vettore|";
 
+// Menus whose dialogs are still to come.
+inline constexpr int scaleMenu = 106, fileMenu = 376;
+
 // Bitmap in the upper left corner, by template.
 inline const std::map<int, int> pictures = {{9005, 175}, {9006, 176},  {9011, 336}, {9012, 341}, {9013, 338},
                                             {9014, 342}, {9015, 337},  {9025, 344}, {9026, 343}, {9032, 175},

@@ -10,6 +10,7 @@
 #include "platform/drawing/Gdi.h"
 #include "platform/resource/Module.h"
 #include "platform/resource/Resource.h"
+#include "platform/resource/Units.h"
 #include "platform/window/Dialog.h"
 #include "platform/window/Styles.h"
 #include "tests/dialogs/TemplateInventory.h"
@@ -36,7 +37,7 @@ using platform::DialogTemplate;
 using Kind = ControlTemplate::Kind;
 
 constexpr int colourTemplate = 251; // the one with another font
-constexpr int scaleMenu = 106, fileMenu = 376;
+using inventory::fileMenu, inventory::scaleMenu;
 
 // Controls that are laid over others while they are shown, and hidden until then.
 const std::set<std::pair<int, int>> inPlaceEditors = {{CDialogCopiaTrasla::IDD, CDialogCopiaTrasla::IDC_EDIT_LISTA}};
@@ -57,6 +58,9 @@ bool IsRadio(const ControlTemplate& control) {
 }
 bool IsPicture(const ControlTemplate& control) {
     return control.kind == Kind::Static && (control.style & SS_TYPEMASK) == SS_BITMAP;
+}
+CSize SizeOf(int cx, int cy) { // of dialog units, in pixels
+    return {platform::UnitsToX(cx), platform::UnitsToY(cy)};
 }
 CRect UnitsOf(const ControlTemplate& control) {
     return {control.x, control.y, control.x + control.cx, control.y + control.cy};
@@ -228,16 +232,14 @@ TEST_F(Templates, OpenWithEveryControlAndRoomForItsText) {
         CFont font;
         font.CreatePointFont(source.fontPoints * 10, source.fontFace);
         CFont* previous = device.SelectObject(&font);
-        CRect client, wanted(0, 0, source.cx, source.cy);
+        CRect client;
         dialog.GetClientRect(client);
-        dialog.MapDialogRect(wanted);
-        EXPECT_EQ(client, wanted) << source.id;
+        EXPECT_EQ(client.Size(), SizeOf(source.cx, source.cy)) << source.id;
         for (const ControlTemplate& control : source.controls) {
-            CRect room(0, 0, control.cx, control.cy);
-            dialog.MapDialogRect(room);
+            const CSize room = SizeOf(control.cx, control.cy);
             const CSize text = device.GetTextExtent(ShownText(control.text));
-            EXPECT_LE(text.cx + RoomBesideText(control), room.right) << Where(source, control);
-            EXPECT_TRUE(text.cy <= room.bottom || !*control.text) << Where(source, control);
+            EXPECT_LE(text.cx + RoomBesideText(control), room.cx) << Where(source, control);
+            EXPECT_TRUE(text.cy <= room.cy || !*control.text) << Where(source, control);
             if (control.id == -1)
                 continue;
             const CWnd* window = dialog.GetDlgItem(control.id);

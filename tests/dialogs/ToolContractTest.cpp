@@ -25,16 +25,23 @@ struct Picked {
     const char* fields;
 };
 
+// Arrows that step a whole number in an edit between two ends, by control number.
+struct Spin {
+    int arrows, edit;
+    int lower, upper;
+};
+
 struct ToolDialog {
     const char* name;
     int templateId;
     const char* caption; // on a document called "Ponte"
     std::unique_ptr<CDialogDocument> (*make)();
-    const char* opening = "";                    // the one line that the host receives, "" for none
-    const char* fields = "";                     // what they show at every opening, see ContractFields
-    std::set<int> whole = {};                    // its edits of whole numbers
-    std::vector<Typed> typed = {};               // a dialog with edits has one at least
-    std::vector<Picked> picked = {};             // and one that picks as well
+    const char* opening = "";        // the one line that the host receives, "" for none
+    const char* fields = "";         // what they show at every opening, see ContractFields
+    std::set<int> whole = {};        // its edits of whole numbers
+    std::vector<Typed> typed = {};   // a dialog with edits has one at least
+    std::vector<Picked> picked = {}; // and one that picks as well
+    std::vector<Spin> spins = {};
     const char* rejection = nullptr;             // told when the host rejects the parameters; null for nothing
     const CRuntimeClass* runtimeClass = nullptr; // null where it declares its own
 };
@@ -69,12 +76,12 @@ Lines OneCopy(const std::string& step) {
 
 const std::vector<ToolDialog> toolDialogs = {
     {.name = "CDialogGenNodiLineare",
-     .templateId = 9015,
+     .templateId = CDialogGenNodiLineare::IDD,
      .caption = "Ponte : Generazione Nodi Lineare",
      .make = &Make<CDialogGenNodiLineare>,
      .opening = picking,
      .fields = "[X] 1 1 0 0 0 -0 -0 -0 -0 -0 -0",
-     .whole = {1221},
+     .whole = {CDialogGenNodiLineare::IDC_NODI},
      .typed = {{{"12", "0.25", "0.1", "-2e3", "5"}, {"GenNodiLineare (0.1,-2000,5) (1.1,-2000,5) 0.25 12"}},
                {{"[Y]", "1", "1", "2", "3", "0"}, {"GenNodiLineare (2,3,0) (2,4,0) 1 1"}},
                {{"[Z]", "250"}, {"GenNodiLineare (0,0,0) (0,0,1) 1 250"}},
@@ -83,41 +90,45 @@ const std::vector<ToolDialog> toolDialogs = {
      // The first point is the start as well; the second moves the vector and nothing else.
      .picked = {{{{1, 2, 3}}, "[Vettore] 1 1 1 2 3 1 2 3 0 0 0"},
                 {{{1, 2, 3}, {4, 5, 6}}, "[Vettore] 1 1 1 2 3 1 2 3 4 5 6"}},
+     .spins = {{CDialogGenNodiLineare::IDC_SPIN_NODI, CDialogGenNodiLineare::IDC_NODI, 1, 100}},
      .rejection = "Parametri Errati!"},
     {.name = "CDialogGenNodi2P",
-     .templateId = 9011,
+     .templateId = CDialogGenNodi2P::IDD,
      .caption = "Ponte : Generazione Nodi 2 Punti",
      .make = &Make<CDialogGenNodi2P>,
      .opening = picking,
      .fields = "0 0 0 0 0 0 1",
-     .whole = {1221},
+     .whole = {CDialogGenNodi2P::IDC_NODI},
      .typed = {{{"1", "2.5", "-3", "4", "5", "6e2", "-4"}, {"GenNodi2Punti (1,2.5,-3) (4,5,600) -4"}}},
      .picked = {{{{1, 2, 3}, {4, 5, 6}}, "1 2 3 4 5 6 1"}, {{{1, 2, 3}, {4, 5, 6}, {9, 8, 7}}, "9 8 7 4 5 6 1"}},
+     .spins = {{CDialogGenNodi2P::IDC_SPIN_NODI, CDialogGenNodi2P::IDC_NODI, 1, 100}},
      .rejection = "Parametri Errati!"},
     {.name = "CDialogCopiaTrasla",
-     .templateId = 9006,
+     .templateId = CDialogCopiaTrasla::IDD,
      .caption = "Ponte : Copia Trasla",
      .make = &Make<CDialogCopiaTrasla>,
      .opening = picking,
      .fields = "[Z] 1 3 [Niente] -0 -0 -0 -0 -0 -0",
-     .whole = {1203},
+     .whole = {CDialogCopiaTrasla::IDC_COPIE},
      .typed = {{{}, OneCopy("0 0 3 0")}, {{"[Y]", "1", "0.5", "[Bielle]"}, OneCopy("0 0.5 0 2")}},
      .picked = {{{{1, 1, 1}}, "[Vettore] 1 3 [Niente] 1 1 1 0 0 0"},
-                {{{1, 1, 1}, {4, 5, 1}}, "[Vettore] 1 5 [Niente] 1 1 1 4 5 1"}}},
+                {{{1, 1, 1}, {4, 5, 1}}, "[Vettore] 1 5 [Niente] 1 1 1 4 5 1"}},
+     .spins = {{CDialogCopiaTrasla::IDC_SPIN_COPIE, CDialogCopiaTrasla::IDC_COPIE, 0, 100}}},
     {.name = "CDialogCopiaRuota",
-     .templateId = 9005,
+     .templateId = CDialogCopiaRuota::IDD,
      .caption = "Ponte : Copia Ruota",
      .make = &Make<CDialogCopiaRuota>,
      .opening = picking,
      .fields = "0 0 0 0 0 0 1 0 [Niente]",
-     .whole = {1192},
+     .whole = {CDialogCopiaRuota::IDC_COPIE},
      .typed = {{{"0", "0", "0", "0", "0", "1", "3", "90"}, Copied("RuotaSelezione 0 0 0 0 0 1 90 3 0")},
                {{"1", "2", "3", "4", "5", "6", "1", "-7.5", "[Aste]"}, Copied("RuotaSelezione 1 2 3 4 5 6 -7.5 1 2")},
                {{"[Travi/Pilastri]", "0", "0", "0", "0", "0", "0", "-1"}, Copied("RuotaSelezione 0 0 0 0 0 0 0 -1 1")},
                {{"0", "0", "0", "0", "0", "0", "250"}, Copied("RuotaSelezione 0 0 0 0 0 0 0 250 0")}},
-     .picked = {{{{1, 2, 3}, {4, 5, 6}}, "1 2 3 4 5 6 1 0 [Niente]"}}},
+     .picked = {{{{1, 2, 3}, {4, 5, 6}}, "1 2 3 4 5 6 1 0 [Niente]"}},
+     .spins = {{CDialogCopiaRuota::IDC_SPIN_COPIE, CDialogCopiaRuota::IDC_COPIE, 0, 100}}},
     {.name = "CDialogMuovi",
-     .templateId = 9027,
+     .templateId = CDialogMuovi::IDD,
      .caption = "Ponte : Muovi",
      .make = &Make<CDialogMuovi>,
      .opening = picking,
@@ -125,7 +136,7 @@ const std::vector<ToolDialog> toolDialogs = {
      .typed = {{{"1", "2.5", "-3", "4", "8", "6e2"}, Moved("3 5.5 603")}, {{}, Moved("0 0 0")}},
      .picked = {{{{1, 2, 3}}, "1 2 3 0 0 0"}}},
     {.name = "CDialogRuota",
-     .templateId = 9032,
+     .templateId = CDialogRuota::IDD,
      .caption = "Ponte : Ruota",
      .make = &Make<CDialogRuota>,
      .opening = picking,
@@ -134,7 +145,7 @@ const std::vector<ToolDialog> toolDialogs = {
                 InStep("3 1 1 2 3 4 5 6 90 0 0", "RuotaSelezione 1 2 3 4 5 6 90 0 0")}},
      .picked = {{{{1, 2, 3}, {4, 5, 6}}, "[Asse Generico] 0 1 2 3 4 5 6"}}},
     {.name = "CDialogSpecchia",
-     .templateId = 9038,
+     .templateId = CDialogSpecchia::IDD,
      .caption = "Ponte : Specchia",
      .make = &Make<CDialogSpecchia>,
      .opening = pickingPlane,
@@ -144,23 +155,26 @@ const std::vector<ToolDialog> toolDialogs = {
                {{"1", "2", "3", "[// XZ]"}, Copied("SpecchiaSelezione 1 2 3 2")},
                {{"1", "2", "3", "[Origine]"}, Copied("SpecchiaSelezione 1 2 3 3")}}, // passed on for the origin too
      .picked = {{{{1, 2, 3}}, "[// XY] 1 2 3"}, {{{1, 2, 3}, {7, 8, 9}}, "[// XY] 7 8 9"}}},
-    {.name = "CDialogCheck", .templateId = 109, .caption = "Check Modello", .make = &Make<CDialogCheck>},
+    {.name = "CDialogCheck", .templateId = CDialogCheck::IDD, .caption = "Check Modello", .make = &Make<CDialogCheck>},
     {.name = "CDialogStrutture",
-     .templateId = 110,
+     .templateId = CDialogStrutture::IDD,
      .caption = "Strutture ",
      .make = &Make<CDialogStrutture>,
      .opening = "Deseleziona null"},
     {.name = "CDialogDiagrammi",
-     .templateId = 9009,
+     .templateId = CDialogDiagrammi::IDD,
      .caption = "Ponte : Diagramma - (Nessuna trave selezionata)",
      .make = &Make<CDialogDiagrammi>,
      .runtimeClass = RUNTIME_CLASS(CDialogDocument)},
     {.name = "CDialogNodoReazioniVincolari",
-     .templateId = 113,
+     .templateId = CDialogNodoReazioniVincolari::IDD,
      .caption = "Ponte : Nodo Reazioni Vincolari",
      .make = &Make<CDialogNodoReazioniVincolari>,
      .fields = "= = = = = ="},
-    {.name = "CDialogListaGruppi", .templateId = 9021, .caption = "Ponte : Gruppi", .make = &Make<CDialogListaGruppi>},
+    {.name = "CDialogListaGruppi",
+     .templateId = CDialogListaGruppi::IDD,
+     .caption = "Ponte : Gruppi",
+     .make = &Make<CDialogListaGruppi>},
 };
 
 // What closing tells the view is no command.
@@ -236,6 +250,20 @@ TEST_P(EveryDialogWithFields, TellsThatTheHostRejects) {
         m_user.ExpectMessage(GetParam().rejection, IDOK, MB_OK);
     driver.Click(IDOK);
     EXPECT_FALSE(m_dialog->IsWindow());
+}
+
+// Catches a range that is another dialog's, and arrows beside the wrong edit.
+TEST_P(EveryDialogWithFields, SpinsStopAtTheirEnds) {
+    for (const Spin& spin : GetParam().spins) {
+        DialogDriver driver = Open();
+        driver.Type(spin.edit, std::to_string(spin.upper - 1));
+        for (int times = 0; times < 2; ++times)
+            driver.ClickSpinUp(spin.arrows);
+        EXPECT_EQ(driver.Text(spin.edit), std::to_string(spin.upper));
+        driver.Type(spin.edit, std::to_string(spin.lower));
+        driver.ClickSpinDown(spin.arrows);
+        EXPECT_EQ(driver.Text(spin.edit), std::to_string(spin.lower));
+    }
 }
 
 // Catches a pick that lands in another point, that is not shown, or that applies the command.

@@ -189,11 +189,6 @@ TEST(AssignLoad, SelfWeightBelongsToTheCase) {
 
 class AssignLoadCommandTest : public WorkspaceTest {
   protected:
-    void Select(const std::vector<CElemento*>& elements) {
-        Document().Selection().Clear();
-        Document().Selection().Add(elements);
-        CWinApp::PumpMessages();
-    }
     CCasoCarico& FirstCase() { return *Document().GetIndexCasoCarico(0); }
 };
 

@@ -1,11 +1,15 @@
-// The model check in the application: messages from models that earn them, its window, and the check without windows.
+// The model check in the application: its window, and the check without windows. What each message takes is tested
+// where it is made.
 #include "host/commands/Check.h"
 #include "dialogs/check/DialogCheck.h"
 #include "dialogs/frame/host/QuovarGlobal.h"
+#include "host/document/HostDocument.h"
 #include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"
+#include "model/element/Nodo.h"
+#include "model/entity/Materiale.h"
 #include "platform/window/Application.h"
-#include "tests/host/CheckBuilder.h"
+#include "tests/host/TestModel.h"
 #include "tests/host/WorkspaceTest.h"
 #include "tests/support/TestApp.h"
 
@@ -22,42 +26,6 @@ namespace {
 using Rows = std::vector<std::string>;
 
 const Rows sound = {"--- Check Modello --- ", "", "", "--- Fine Messaggi ---"};
-
-struct Case {
-    const char* message;
-    // Completes the sound cantilever; `faulty` makes the model that earns the message.
-    void (*build)(CheckBuilder& model, bool faulty);
-};
-
-// What each message takes is tested where it is made. These need what the document does: it counts structures, assigns,
-// tells equal places apart and unlinks what goes.
-const Case cases[] = {
-    {"ATTENZIONE...Controllare la struttura con il comando Check Strutture Multiple!",
-     [](CheckBuilder& m, bool faulty) {
-         m.Fix(*m.Node(0, 5, 0), CVincolo::All);
-         m.Node(3, 5, 0);
-         m.Beam(3, 4);
-         if (!faulty)
-             m.Beam(2, 4);
-     }},
-    {"Attenzione la Struttura n.ro 1, è labile",
-     [](CheckBuilder& m, bool faulty) {
-         m.Fix(m.At(1), CVincolo::Tx | CVincolo::Ty | CVincolo::Tz);
-         // Springs without stiffness hold nothing.
-         m.Spring(m.At(1), CMolla::Rotational, faulty ? 0 : 100, {1, 1, 0});
-         m.Spring(m.At(1), CMolla::Rotational, 100, {0, 0, 1});
-     }},
-    {"CNodo n.ro 3 Il nodo coincide con il nodo n.ro 2.",
-     [](CheckBuilder& m, bool faulty) {
-         m.Node(3, 0, faulty ? 0 : 1);
-         m.Beam(1, 3);
-     }},
-    {"CTrave n.ro 1 L'elemento non ha un materiale.",
-     [](CheckBuilder& m, bool faulty) {
-         if (faulty)
-             m.document.Remove({m.material});
-     }},
-};
 
 } // namespace
 
@@ -91,35 +59,16 @@ class CheckTest : public WorkspaceTest {
     QTemporaryDir m_folder;
 };
 
-// Catches a fault that the application cannot produce, a message about the wrong object, and a sound model that gets
-// one.
-TEST_F(CheckTest, MessagesAndTheirTwins) {
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.message);
-        for (const bool faulty : {true, false}) {
-            m_workspace->NewDocument();
-            CheckBuilder model(Document());
-            each.build(model, faulty);
-            CWinApp::PumpMessages();
-            const Rows rows = Check();
-            if (!faulty) {
-                EXPECT_EQ(rows, sound);
-            } else {
-                EXPECT_EQ(std::count(rows.begin(), rows.end(), each.message), 1) << testing::PrintToString(rows);
-            }
-        }
-    }
-}
-
 // Catches rows that select one object at a time with a notification each, and a request that reaches another document.
 TEST_F(CheckTest, PickingAllRowsSelectsAllWithOneNotification) {
     constexpr int beams = 500;
-    CheckBuilder model(Document());
-    for (int i = 0; i < beams; ++i)
-        model.Node(6 + 3 * i, 0, 1);
-    for (int i = 0; i < beams; ++i)
-        model.Beam(i + 2, i + 3);
-    model.document.Remove({model.material});
+    BuildCantilever(Document());
+    for (int i = 0; i < beams; ++i) {
+        CFPoint place(6 + 3 * i, 0, 1);
+        Document().AddNodo(place, nullptr, 0);
+        Document().AddTrave(i + 2, i + 3, nullptr);
+    }
+    Document().Remove({Document().GetIndexMateriale(0)});
     CWinApp::PumpMessages();
     Check();
     struct Counter : DocumentObserver {
@@ -158,9 +107,12 @@ TEST_F(CheckTest, StandsBelowTheView) {
 // Catches an exit status that says sound where something was found, and rows in another encoding.
 TEST_F(CheckTest, PrintedRowsAndExitStatus) {
     {
-        CheckBuilder model(Document());
+        HostDocument& document = Document(); // printing opens others
+        BuildCantilever(document);
         EXPECT_EQ(Printed(Saved("sano.asg")), std::pair(0, sound));
-        model.Fix(model.At(1), CVincolo::Tx | CVincolo::Ty | CVincolo::Tz);
+        CNodo& foot = *document.GetIndexNodo(0);
+        const CVincolo hinge(CVincolo::Tx | CVincolo::Ty | CVincolo::Tz);
+        document.Modify(foot, [&] { foot.SetRestraint(&hinge); });
     }
     Rows labile = sound;
     labile.insert(labile.begin() + 2, "Attenzione la Struttura n.ro 1, è labile");

@@ -129,6 +129,16 @@ TEST_F(DocumentTransformTest, QuarterTurnsLeaveNoDust) {
     EXPECT_EQ(*high->GetPunto(), CFPoint(-3, 0, -3));
 }
 
+// Catches planes that are exchanged, and the point taken for the origin where it was given.
+TEST_F(DocumentTransformTest, MirrorsInEachPlaneAndInTheOrigin) {
+    Selection().Add(Node(1, 2, 3));
+    const CFPoint places[] = {{1, 2, 9}, {7, 2, 3}, {1, 8, 3}, {-1, -2, -3}};
+    for (int plane = 0; plane < 4; ++plane) {
+        Selection().SpecchiaSelezione(4, 5, 6, plane);
+        EXPECT_NE(Find(places[plane].x, places[plane].y, places[plane].z), nullptr) << plane;
+    }
+}
+
 // Catches springs that stay behind when their node turns, and an undo that forgets them.
 TEST_F(DocumentTransformTest, SpringsTurnWithTheirNode) {
     CNodo* foot = Node(1, 0, 0);

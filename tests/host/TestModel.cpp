@@ -5,6 +5,8 @@
 #include "model/element/Asta.h"
 #include "model/element/Trave.h"
 #include "model/entity/CasoCarico.h"
+#include "model/entity/Materiale.h"
+#include "model/entity/Sezione.h"
 #include "model/load/Carico.h"
 
 using namespace host;
@@ -56,4 +58,15 @@ void BuildEverything(HostDocument& document) {
     CFPoint place(2.5, 2.5, 9);
     document.AddNodo(place, nullptr, 1);
     document.Remove({document.GetIndexAsta(1), document.GetIndexTrave(12)}); // leaves gaps in the numbers
+}
+
+void BuildCantilever(HostDocument& document) {
+    document.AddNew(std::make_unique<CMateriale>())->SetNome("Calcestruzzo");
+    document.AddNew(std::make_unique<CSezione>());
+    CFPoint foot(0, 0, 0), tip(3, 0, 0);
+    CNodo* node = document.AddNodo(foot, nullptr, 0);
+    const CVincolo fixed(CVincolo::All);
+    document.Modify(*node, [&] { node->SetRestraint(&fixed); });
+    document.AddNodo(tip, nullptr, 0);
+    document.AddTrave(1, 2, nullptr);
 }

@@ -153,7 +153,7 @@ TEST_F(ViewTest, WhatIsSeenEdgeOnOrInPartIsHit) {
     View().SetFilter({});
     View().SetDirection(Adv3d::Right);
     View().SetPerspective(true);
-    View().Vista().SetEyeDistance(0.001); // well before the far end of the beams
+    View().Vista().SetScale(View().Vista().GetScale() * 2500); // the eye is well before the far end of the beams
     Adv3d::Punto from, to;
     CTrave* beam = document.GetIndexTrave(1);
     const CFPoint first = *beam->GetNodoIniziale()->GetPunto(), second = *beam->GetNodoFinale()->GetPunto();

@@ -101,6 +101,12 @@ void WorkspaceTest::Press(Qt::Key key) {
     CWinApp::PumpMessages();
 }
 
+void WorkspaceTest::Select(const std::vector<CElemento*>& elements) {
+    Document().Selection().Clear();
+    Document().Selection().Add(elements);
+    CWinApp::PumpMessages();
+}
+
 void WorkspaceTest::Trigger(const QString& command) {
     m_workspace->Window().Refresh();
     QAction* action = m_workspace->Window().Command(command);

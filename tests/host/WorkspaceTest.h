@@ -12,8 +12,10 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 class CDialogDocument;
+class CElemento;
 class CNodo;
 class QString;
 namespace host {
@@ -35,7 +37,8 @@ class WorkspaceTest : public testing::Test {
     void Click(CPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void Drag(CPoint from, CPoint to, Qt::MouseButton button = Qt::LeftButton);
     void Wheel(CPoint at, int notches);
-    void Press(Qt::Key key); // to the view
+    void Press(Qt::Key key);                              // to the view
+    void Select(const std::vector<CElemento*>& elements); // these and no others
     void Trigger(const QString& command);
     void Trigger(UINT dialog, int kind = 0); // the command of a dialog, by the number of its template
 

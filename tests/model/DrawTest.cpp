@@ -58,7 +58,7 @@ TEST_F(DrawTest, LinesAndNodes) {
     EXPECT_EQ(m_dc.GetPixel(200, 150), m_view.GetSettings(TipoElemento::Trave).GetColor());
     beam.SetSelect(1);
     InkOf(beam, &CElemento::Draw);
-    EXPECT_EQ(m_dc.GetPixel(200, 150), m_view.GetSelectionColor());
+    EXPECT_EQ(m_dc.GetPixel(200, 150), Adv3d::selectionColor);
     Clear();
     beam.SetVisible(0);
     beam.Draw(&m_view);

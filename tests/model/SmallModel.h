@@ -6,10 +6,8 @@
 #include "model/element/Setto.h"
 #include "model/element/Solaio.h"
 #include "model/element/Trave.h"
-#include "model/entity/Materiale.h"
-#include "model/entity/Sezione.h"
-#include "model/entity/Spessore.h"
 #include "model/index/NodeGrid.h"
+#include "tests/support/SoundParts.h"
 
 #include <gtest/gtest.h>
 
@@ -18,18 +16,8 @@
 #include <utility>
 #include <vector>
 
-class SmallModel {
+class SmallModel : public SoundParts {
   public:
-    SmallModel() {
-        material.SetID(1);
-        section.SetID(1);
-        thickness.SetID(1);
-        material.SetE(3e7);
-        material.SetG(1.25e7);
-        section.SetRectangle(0.3, 0.5);
-        thickness.SetThickness(0.2);
-    }
-
     CNodo& Node(double x, double y, double z) {
         nodes.push_back(std::make_unique<CNodo>(CFPoint(x, y, z)));
         nodes.back()->SetID(static_cast<int>(nodes.size()));
@@ -38,28 +26,15 @@ class SmallModel {
     // A line with material and section.
     template <typename T>
     T& Line(CNodo& from, CNodo& to) {
-        auto made = std::make_unique<T>();
-        T& result = *made;
-        result.SetID(static_cast<int>(elements.size()) + 1);
+        T& result = Sound(Made<T>());
         result.SetNodi(&from, &to);
-        result.SetMateriale(1, &material);
-        result.SetSezione(1, &section);
-        elements.push_back(std::move(made));
         return result;
     }
     CTrave& Beam(CNodo& from, CNodo& to) { return Line<CTrave>(from, to); }
     // A wall or slab with material and thickness.
     template <typename T>
     T& Polygon(std::initializer_list<CNodo*> corners) {
-        auto made = std::make_unique<T>();
-        T& result = *made;
-        result.SetID(static_cast<int>(elements.size()) + 1);
-        for (CNodo* corner : corners)
-            result.AggiungiVertice(corner);
-        result.SetMateriale(1, &material);
-        result.SetThickness(1, &thickness);
-        elements.push_back(std::move(made));
-        return result;
+        return Sound(Made<T>(), corners);
     }
 
     // The same with nodes of its own.
@@ -71,11 +46,16 @@ class SmallModel {
         return result;
     }
 
-    CMateriale material;
-    CSezione section;
-    CSpessore thickness;
     std::vector<std::unique_ptr<CNodo>> nodes;
     std::vector<std::unique_ptr<CElemento>> elements;
+
+  private:
+    template <typename T>
+    T& Made() {
+        elements.push_back(std::make_unique<T>());
+        elements.back()->SetID(static_cast<int>(elements.size()));
+        return static_cast<T&>(*elements.back());
+    }
 };
 
 // The messages of an object's own check, one a line; empty when it says that it is sound.

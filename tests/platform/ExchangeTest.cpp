@@ -183,7 +183,7 @@ TEST_F(Exchange, ARadioFieldBindsTheWholeGroup) {
     EXPECT_TRUE(m_dialog.IsDlgButtonChecked(400));
     m_dialog.radio = -1;
     m_dialog.UpdateData(FALSE);
-    EXPECT_EQ(m_dialog.GetCheckedRadioButton(301, 303), 0);
+    EXPECT_FALSE(m_dialog.IsDlgButtonChecked(303));
     EXPECT_EQ(Message(), "");
     EXPECT_EQ(m_dialog.radio, -1);
     DialogDriver(m_dialog).Click(301);

@@ -74,16 +74,14 @@ TEST(Keys, OfADialogNeverReachTheMainWindow) {
 TEST(Keys, OfADroppedDownListStayInTheDialog) {
     ShortcutFrame frame;
     OverFrame dialog(frame, WS_EX_TOOLWINDOW);
-    auto& combo = dynamic_cast<CComboBox&>(*dialog.GetDlgItem(203));
-    combo.AddString("uno");
-    combo.ShowDropDown();
-    CWinApp::PumpMessages();
+    dynamic_cast<CComboBox&>(*dialog.GetDlgItem(203)).AddString("uno");
+    DialogDriver(dialog).Click(203);
     QWidget* list = QApplication::activePopupWidget();
     ASSERT_TRUE(list);
     QTest::keyClick(list->windowHandle(), Qt::Key_F5);
     QTest::keyClick(list->windowHandle(), Qt::Key_D, Qt::ControlModifier);
     EXPECT_EQ(frame.fired, 0);
-    combo.ShowDropDown(FALSE);
+    list->close();
 }
 
 // A host that may take function keys must not be asked for those that a field has used, nor miss one that nobody did.
@@ -101,7 +99,7 @@ TEST(Keys, TheApplicationIsOfferedWhatNobodyUsed) {
 
 // A list that ends its dialog on Enter went on to press the default button, which deleted what had been chosen.
 TEST(Keys, ADialogThatHasEndedTakesNeitherKeysNorCommands) {
-    const TestTemplate source(TwoEdits());
+    const TestTemplate source(ControlRows().Edit(100).Button("Altro", 200, BS_DEFPUSHBUTTON));
     LoggedDialog dialog;
     dialog.onKey = [&](UINT key) {
         if (key == VK_RETURN || key == 'B')
@@ -114,7 +112,6 @@ TEST(Keys, ADialogThatHasEndedTakesNeitherKeysNorCommands) {
         std::string typed;
         const auto script = [&](DialogDriver& user) {
             const CWnd* edit = dialog.GetDlgItem(100);
-            dialog.SetDefID(200);
             user.Press(key);
             typed = edit->GetWindowText().ToUtf8();
             dialog.SendMessage(WM_COMMAND, MAKEWPARAM(200, BN_CLICKED)); // one that was waiting

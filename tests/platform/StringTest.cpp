@@ -44,20 +44,14 @@ TEST(CodePage, KnowsTheCaseOfAccents) {
 TEST(String, PartsAreCutToTheText) {
     const CString text("telaio");
     const std::pair<CString, const char*> parts[] = {
-        {text.Left(3), "tel"},      {text.Left(99), "telaio"}, {text.Left(-1), ""},    {text.Right(2), "io"},
-        {text.Right(99), "telaio"}, {text.Mid(2), "laio"},     {text.Mid(2, 2), "la"}, {text.Mid(6), ""},
-        {text.Mid(99, 2), ""},      {text.Mid(-2, 3), "tel"}};
+        {text.Left(3), "tel"},  {text.Left(99), "telaio"}, {text.Left(-1), ""},   {text.Mid(2), "laio"},
+        {text.Mid(2, 2), "la"}, {text.Mid(6), ""},         {text.Mid(99, 2), ""}, {text.Mid(-2, 3), "tel"}};
     for (const auto& [part, wanted] : parts)
         EXPECT_EQ(part, wanted);
     EXPECT_EQ(text[0], 't');
     EXPECT_EQ(text[6], '\0');
     EXPECT_EQ(text.GetAt(-1), '\0');
-    CString changed = text;
-    changed.SetAt(6, 'x');
-    changed.SetAt(0, 'T');
-    EXPECT_EQ(changed, "Telaio");
     EXPECT_EQ(CString(nullptr).GetLength(), 0);
-    EXPECT_EQ(CString("telaio", 3) + CString('x', 3), "telxxx");
 }
 
 TEST(String, Searches) {
@@ -82,17 +76,8 @@ TEST(String, Changes) {
     EXPECT_EQ(text.Replace("a", "aa"), 2);
     EXPECT_EQ(text, "aa-b-aa");
     EXPECT_EQ(text.Replace("", "x"), 0);
-    EXPECT_EQ(text.Replace('-', '+'), 2);
-    EXPECT_EQ(text.Remove('a'), 4);
-    EXPECT_EQ(text, "+b+");
-    EXPECT_EQ(text.Insert(1, "12"), 5);
-    EXPECT_EQ(text.Insert(99, 'z'), 6);
-    EXPECT_EQ(text.Delete(0, 3), 3);
-    EXPECT_EQ(text.Delete(2, 99), 2);
-    EXPECT_EQ(text, "b+");
     EXPECT_EQ(CString(" \t x y \n").Trim(), "x y");
     EXPECT_EQ(CString("   ").TrimRight(), "");
-    EXPECT_EQ(CString("00120").TrimLeft('0'), "120");
     text = "abc";
     text = static_cast<const char*>(text) + 1; // its own bytes
     EXPECT_EQ(text, "bc");

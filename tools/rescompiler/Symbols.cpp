@@ -98,7 +98,6 @@ const std::unordered_map<std::string, std::uint32_t>& Styles() {
         {"LBS_SORT", LBS_SORT},
         {"LBS_NOREDRAW", LBS_NOREDRAW},
         {"LBS_MULTIPLESEL", LBS_MULTIPLESEL},
-        {"LBS_USETABSTOPS", LBS_USETABSTOPS},
         {"LBS_NOINTEGRALHEIGHT", LBS_NOINTEGRALHEIGHT},
         {"LBS_MULTICOLUMN", LBS_MULTICOLUMN},
         {"LBS_WANTKEYBOARDINPUT", LBS_WANTKEYBOARDINPUT},
@@ -122,7 +121,6 @@ const std::unordered_map<std::string, std::uint32_t>& Styles() {
         {"TVS_HASBUTTONS", TVS_HASBUTTONS},
         {"TVS_HASLINES", TVS_HASLINES},
         {"TVS_LINESATROOT", TVS_LINESATROOT},
-        {"TVS_EDITLABELS", TVS_EDITLABELS},
         {"TVS_DISABLEDRAGDROP", TVS_DISABLEDRAGDROP},
         {"TVS_SHOWSELALWAYS", TVS_SHOWSELALWAYS},
         {"TVS_CHECKBOXES", TVS_CHECKBOXES},
@@ -133,7 +131,6 @@ const std::unordered_map<std::string, std::uint32_t>& Styles() {
         {"LVS_SINGLESEL", LVS_SINGLESEL},
         {"LVS_SHOWSELALWAYS", LVS_SHOWSELALWAYS},
         {"LVS_SORTASCENDING", LVS_SORTASCENDING},
-        {"LVS_EDITLABELS", LVS_EDITLABELS},
         {"LVS_NOCOLUMNHEADER", LVS_NOCOLUMNHEADER},
         // Sets of styles, styles without effect here that scripts carry, and the language of the texts.
         {"WS_OVERLAPPEDWINDOW", WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX},

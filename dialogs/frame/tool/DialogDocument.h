@@ -32,7 +32,8 @@ class CDialogDocument : public CDialog {
     virtual void Update(CView* pSender, long lHint, CObject* pHint);
     // Runs the command and leaves the dialog open.
     virtual void OnApply();
-    // The caption: the document's file name, " : " and the title; without a document the title alone.
+    // The caption: the document's file name, " : " and the title; without a document the title alone. A dialog with the
+    // title of its template gives the caption that it opens with, GetWindowText().
     virtual void SetTitle(CString titolo);
     // The dialog's command on the document.
     virtual void CambiaDocumento();

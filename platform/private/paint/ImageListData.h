@@ -11,7 +11,6 @@ namespace platform {
 
 struct ImageListData {
     QSize size; // device-independent pixels; empty before Create
-    COLORREF background = CLR_NONE;
     std::vector<QImage> images;
 };
 

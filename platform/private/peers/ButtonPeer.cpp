@@ -137,8 +137,6 @@ void ButtonOf<Base>::ShowText() {
     if (WindowPeer::style & BS_MULTILINE) // beside the check mark, or inside the frame
         shown = Wrapped(shown, this->fontMetrics(),
                         this->width() - (ButtonDialogCode(WindowPeer::style) & IsPushButton ? 6 : 18));
-    if (!m_picture.isNull())
-        shown.clear();
     if (shown == Base::text())
         return;
     Base::setText(shown);
@@ -178,14 +176,6 @@ void ButtonOf<Base>::mouseDoubleClickEvent(QMouseEvent* event) {
         this->NotifyParent(BN_DOUBLECLICKED);
     else
         Base::mouseDoubleClickEvent(event); // two fast clicks are two clicks
-}
-
-template <class Base>
-void ButtonOf<Base>::SetPicture(const QPixmap& picture) {
-    m_picture = picture;
-    this->setIcon(QIcon(picture));
-    this->setIconSize(picture.deviceIndependentSize().toSize());
-    ShowText();
 }
 
 GroupBoxPeer::GroupBoxPeer(const ControlSpec& spec, WindowPeer& parentPeer)

@@ -6,17 +6,8 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPixmap>
 
 namespace platform {
-
-class ButtonControl {
-  public:
-    virtual ~ButtonControl() = default;
-    virtual bool Pushed() const = 0;
-    virtual void SetPushed(bool down) = 0;
-    virtual void SetPicture(const QPixmap& picture) = 0;
-};
 
 // What the kinds of a style's button are.
 inline UINT ButtonType(DWORD style) {
@@ -32,7 +23,7 @@ std::unique_ptr<CWnd> MakeButtonObject();
 
 // `Base` is QPushButton, QCheckBox or QRadioButton.
 template <class Base>
-class ButtonOf final : public Hosted<Base>, public ButtonControl {
+class ButtonOf final : public Hosted<Base> {
   public:
     ButtonOf(const ControlSpec& spec, WindowPeer& parentPeer);
 
@@ -47,10 +38,6 @@ class ButtonOf final : public Hosted<Base>, public ButtonControl {
     void StyleChanged() override;
     void Resized() override { ShowText(); }
 
-    bool Pushed() const override { return this->isDown(); }
-    void SetPushed(bool down) override { this->setDown(down); }
-    void SetPicture(const QPixmap& picture) override;
-
   protected:
     void nextCheckState() override;
     bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
@@ -62,7 +49,6 @@ class ButtonOf final : public Hosted<Base>, public ButtonControl {
 
     CString m_text; // as set, with its '&'
     int m_check = 0;
-    QPixmap m_picture;
 };
 
 class GroupBoxPeer final : public Hosted<QWidget> {

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <string_view>
 #include <utility>
 
 namespace platform {
@@ -23,19 +22,13 @@ constexpr int closedHeight = 21; // pixels; what is left of the template's heigh
 
 QVariant ComboBoxModel::data(const QModelIndex& index, int role) const {
     const bool text = role == Qt::DisplayRole || role == Qt::EditRole;
-    return text && rows.Has(index.row()) ? ToQString(rows.At(index.row()).text) : QVariant();
+    return text && rows.Has(index.row()) ? ToQString(rows.At(index.row())) : QVariant();
 }
 
 void ComboBoxModel::Insert(int index, const CString& text) {
     beginInsertRows({}, index, index);
-    rows.Insert(index, {text, 0});
+    rows.Insert(index, text);
     endInsertRows();
-}
-
-void ComboBoxModel::Remove(int index) {
-    beginRemoveRows({}, index, index);
-    rows.Erase(index);
-    endRemoveRows();
 }
 
 void ComboBoxModel::Clear() {
@@ -98,16 +91,8 @@ LRESULT ComboBoxPeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
 }
 
 int ComboBoxPeer::Add(const CString& text) {
-    if (!(WindowPeer::style & CBS_SORT))
-        return Insert(-1, text);
-    return Insert(SortedPlace(Count(), text, [this](int index) -> const CString& { return TextOf(index); }), text);
-}
-
-int ComboBoxPeer::Insert(int index, const CString& text) {
-    if (index < -1 || index > Count())
-        return CB_ERR;
-    if (index < 0)
-        index = Count();
+    const auto textAt = [this](int row) -> const CString& { return TextOf(row); };
+    const int index = WindowPeer::style & CBS_SORT ? SortedPlace(Count(), text, textAt) : Count();
     const bool none = currentIndex() < 0;
     const QString typed = currentText();
     m_model.Insert(index, text);
@@ -120,17 +105,6 @@ int ComboBoxPeer::Insert(int index, const CString& text) {
     return index;
 }
 
-bool ComboBoxPeer::Remove(int index) {
-    if (!Has(index))
-        return false;
-    const bool wasSelected = index == currentIndex();
-    m_model.Remove(index);
-    if (wasSelected)
-        setCurrentIndex(-1);
-    m_told = currentIndex();
-    return true;
-}
-
 void ComboBoxPeer::Reset() {
     m_model.Clear();
     setCurrentIndex(-1);
@@ -139,15 +113,8 @@ void ComboBoxPeer::Reset() {
     m_told = -1;
 }
 
-int ComboBoxPeer::find(int startAfter, const CString& text, bool whole) const {
-    const int start = Has(startAfter) ? startAfter : -1;
-    for (int step = 1; step <= Count(); ++step) {
-        const int index = (start + step) % Count();
-        const std::string_view candidate = TextOf(index).View();
-        if (CompareNoCase(whole ? candidate : candidate.substr(0, text.View().size()), text.View()) == 0)
-            return index;
-    }
-    return CB_ERR;
+int ComboBoxPeer::Find(int startAfter, const CString& prefix) const {
+    return FindPrefix(Count(), startAfter, prefix, [this](int row) -> const CString& { return TextOf(row); });
 }
 
 int ComboBoxPeer::Selected() const {

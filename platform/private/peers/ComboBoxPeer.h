@@ -11,18 +11,12 @@ namespace platform {
 
 class ComboBoxModel final : public QAbstractListModel {
   public:
-    struct Row {
-        CString text;
-        DWORD_PTR data = 0;
-    };
-
     int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows.Count(); }
     QVariant data(const QModelIndex& index, int role) const override;
     void Insert(int index, const CString& text);
-    void Remove(int index);
     void Clear();
 
-    RowStore<Row> rows;
+    RowStore<CString> rows;
 };
 
 class ComboBoxPeer final : public Hosted<QComboBox> {
@@ -37,21 +31,17 @@ class ComboBoxPeer final : public Hosted<QComboBox> {
     LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM) override;
 
     int Add(const CString& text);
-    int Insert(int index, const CString& text); // -1 appends; -1 for a bad place
-    bool Remove(int index);
     void Reset();
     int Count() const { return m_model.rows.Count(); }
     bool Has(int index) const { return m_model.rows.Has(index); }
-    const CString& TextOf(int index) const { return m_model.rows.At(index).text; } // the row must be there
-    DWORD_PTR& DataOf(int index) { return m_model.rows.At(index).data; }
-    int find(int startAfter, const CString& text, bool whole) const;
+    const CString& TextOf(int index) const { return m_model.rows.At(index); } // the row must be there
+    int Find(int startAfter, const CString& prefix) const; // without regard to case, going round; -1 for none
 
     int Selected() const; // -1 when the text is no row's
     void Select(int index);
 
     void showPopup() override;
     void hidePopup() override;
-    bool Dropped() const { return m_dropped; }
 
   protected:
     void wheelEvent(QWheelEvent* event) override;

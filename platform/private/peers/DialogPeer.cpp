@@ -275,16 +275,4 @@ WindowPeer* DialogPeer::DefaultButton() const {
     return found == children.end() ? nullptr : *found;
 }
 
-void DialogPeer::SetDefaultButton(UINT buttonId) {
-    for (WindowPeer* child : children) {
-        if (!(child->DialogCode() & IsPushButton))
-            continue;
-        const DWORD wanted = child->id == buttonId ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-        if ((child->style & BS_TYPEMASK) != wanted) {
-            child->style = (child->style & ~DWORD{BS_TYPEMASK}) | wanted;
-            child->StyleChanged();
-        }
-    }
-}
-
 } // namespace platform

@@ -33,7 +33,6 @@ class DialogPeer final : public Hosted<QWidget> {
     WindowPeer* NextTabStop(WindowPeer* from, bool backward); // null when there is no tab stop
     void FocusNext(WindowPeer* from, bool backward);
     WindowPeer* DefaultButton() const; // null when no button is the default
-    void SetDefaultButton(UINT buttonId);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

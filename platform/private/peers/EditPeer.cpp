@@ -35,12 +35,15 @@ Qt::Alignment AlignmentOf(DWORD style) {
 }
 
 // A field that only shows looks like the dialog behind it.
-void ShowReadOnly(QWidget& widget, bool readOnly) {
+template <class Field>
+void ShowReadOnly(Field& field) {
+    field.setReadOnly(true);
     QPalette palette;
-    if (readOnly)
-        palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-    widget.setPalette(palette);
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    field.setPalette(palette);
 }
+
+constexpr int typedLimit = 32767; // characters of what the user types in one line; the program may set more
 
 bool IsTyping(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().at(0).isPrint() &&
@@ -69,7 +72,7 @@ LineEditPeer::LineEditPeer(const ControlSpec& spec, WindowPeer& parentPeer)
     if (spec.style & ES_PASSWORD)
         setEchoMode(Password);
     if (spec.style & ES_READONLY)
-        SetReadOnly(true);
+        ShowReadOnly(*this);
     setValidator(new LineValidator(spec.style, this));
     LineEditPeer::SetText(spec.text);
     connect(this, &QLineEdit::textChanged, this, [this] { TellChange(*this); });
@@ -120,30 +123,15 @@ void LineEditPeer::Insert(const CString& text) {
     QLineEdit::insert(ToQString(InCase(text, WindowPeer::style)));
 }
 
-void LineEditPeer::SetLimit(int characters) {
-    m_limit = characters > 0 ? characters : 32767;
-    AllowLength(static_cast<int>(QLineEdit::text().size()));
-}
-
 // The limit is for the user; the toolkit would cut the program's text as well. Setting it sets the text again there,
 // and the selection with it is lost.
 void LineEditPeer::AllowLength(int length) {
-    const int wanted = std::max(m_limit, length);
+    const int wanted = std::max(typedLimit, length);
     if (wanted == maxLength())
         return;
     const auto [start, end] = Selection();
     setMaxLength(wanted);
     Select(start, end, false);
-}
-
-void LineEditPeer::SetReadOnly(bool readOnly) {
-    WindowPeer::style = readOnly ? WindowPeer::style | ES_READONLY : WindowPeer::style & ~DWORD{ES_READONLY};
-    QLineEdit::setReadOnly(readOnly);
-    ShowReadOnly(*this, readOnly);
-}
-
-void LineEditPeer::SetPassword(bool hidden) {
-    setEchoMode(hidden ? Password : Normal);
 }
 
 bool LineEditPeer::PlayKey(UINT message, WPARAM wParam) {
@@ -188,7 +176,7 @@ TextEditPeer::TextEditPeer(const ControlSpec& spec, WindowPeer& parentPeer)
     setVerticalScrollBarPolicy(spec.style & WS_VSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     setHorizontalScrollBarPolicy(spec.style & WS_HSCROLL ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     if (spec.style & ES_READONLY)
-        SetReadOnly(true);
+        ShowReadOnly(*this);
     TextEditPeer::SetText(spec.text);
     connect(this, &QPlainTextEdit::textChanged, this, [this] { TellChange(*this); });
 }
@@ -203,7 +191,6 @@ void TextEditPeer::SetText(const CString& text) {
         const QSignalBlocker silent(this); // of a field of several lines only the user's changes are told
         setPlainText(shown);
     }
-    document()->setModified(false);
 }
 
 // Escape and Tab stay the dialog's; Enter is the field's when it asks for it.
@@ -248,10 +235,6 @@ void TextEditPeer::Select(int start, int end, bool scroll) {
         verticalScrollBar()->setValue(top);
 }
 
-std::pair<int, int> TextEditPeer::Selection() const {
-    return {ToBytes(textCursor().selectionStart()), ToBytes(textCursor().selectionEnd())};
-}
-
 int TextEditPeer::Caret() const {
     return ToBytes(textCursor().position());
 }
@@ -260,55 +243,26 @@ void TextEditPeer::Insert(const CString& text) {
     insertPlainText(WithoutReturns(InCase(text, WindowPeer::style)));
 }
 
-void TextEditPeer::SetReadOnly(bool readOnly) {
-    WindowPeer::style = readOnly ? WindowPeer::style | ES_READONLY : WindowPeer::style & ~DWORD{ES_READONLY};
-    QPlainTextEdit::setReadOnly(readOnly);
-    ShowReadOnly(*this, readOnly);
-}
-
-bool TextEditPeer::Modified() const {
-    return document()->isModified();
-}
-
-void TextEditPeer::SetModified(bool modified) {
-    document()->setModified(modified);
-}
-
-void TextEditPeer::ScrollLines(int lines) {
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + lines);
-}
-
 void TextEditPeer::keyPressEvent(QKeyEvent* event) {
     if (!IsTyping(*event)) {
         QPlainTextEdit::keyPressEvent(event);
         return;
     }
     const QString typed = TypedText(event->text(), WindowPeer::style);
-    const bool full = m_limit > 0 && Text().GetLength() >= m_limit && !textCursor().hasSelection();
-    if (typed.isEmpty() || full)
+    if (typed.isEmpty())
         return;
     QKeyEvent changed(event->type(), event->key(), event->modifiers(), typed, event->isAutoRepeat());
     QPlainTextEdit::keyPressEvent(&changed);
 }
 
-// What is pasted or dropped counts against the limit as well.
 void TextEditPeer::insertFromMimeData(const QMimeData* source) {
-    if (!source || !source->hasText())
-        return;
-    Insert(WithinLimit(WithLineEnds(WithoutReturns(FromQString(InCodePage(source->text()))))));
-}
-
-CString TextEditPeer::WithinLimit(const CString& inserted) const {
-    if (m_limit <= 0)
-        return inserted;
-    const auto [start, end] = Selection();
-    return inserted.Left(std::max(0, m_limit - (Text().GetLength() - (end - start))));
+    if (source && source->hasText())
+        Insert(FromQString(InCodePage(source->text())));
 }
 
 void TextEditPeer::inputMethodEvent(QInputMethodEvent* event) {
-    const QString text = TypedText(event->commitString(), WindowPeer::style);
     QInputMethodEvent typed(event->preeditString(), event->attributes());
-    typed.setCommitString(ToQString(WithinLimit(FromQString(text))), event->replacementStart(),
+    typed.setCommitString(TypedText(event->commitString(), WindowPeer::style), event->replacementStart(),
                           event->replacementLength());
     QPlainTextEdit::inputMethodEvent(&typed);
     event->setAccepted(typed.isAccepted());

@@ -15,20 +15,8 @@ class EditControl {
   public:
     virtual ~EditControl() = default;
     virtual void Select(int start, int end, bool scroll) = 0; // 0 <= start, 0 <= end, cut to the text
-    virtual std::pair<int, int> Selection() const = 0;
     virtual int Caret() const = 0;
     virtual void Insert(const CString& text) = 0;
-    virtual void SetLimit(int characters) = 0;
-    virtual void SetReadOnly(bool readOnly) = 0;
-    virtual bool Modified() const = 0;
-    virtual void SetModified(bool modified) = 0;
-    virtual int LineCount() const { return 1; }
-    virtual void ScrollLines(int) {}
-    virtual void SetPassword(bool) {}
-    virtual void CopySelection() = 0;
-    virtual void CutSelection() = 0;
-    virtual void PasteClipboard() = 0;
-    virtual void UndoChange() = 0;
 
     // The arrows attached to this field, when Up (+1) and Down (-1) are theirs.
     std::function<void(int)> stepSpin;
@@ -47,18 +35,8 @@ class LineEditPeer final : public Hosted<QLineEdit>, public EditControl {
     LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM) override { return PlayKey(message, wParam); }
 
     void Select(int start, int end, bool scroll) override;
-    std::pair<int, int> Selection() const override;
     int Caret() const override { return cursorPosition(); }
     void Insert(const CString& text) override;
-    void SetLimit(int characters) override;
-    void SetReadOnly(bool readOnly) override;
-    bool Modified() const override { return isModified(); }
-    void SetModified(bool modified) override { QLineEdit::setModified(modified); }
-    void SetPassword(bool hidden) override;
-    void CopySelection() override { copy(); }
-    void CutSelection() override { cut(); }
-    void PasteClipboard() override { paste(); }
-    void UndoChange() override { undo(); }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -67,8 +45,7 @@ class LineEditPeer final : public Hosted<QLineEdit>, public EditControl {
   private:
     bool PlayKey(UINT message, WPARAM wParam);
     void AllowLength(int length);
-
-    int m_limit = 32767; // of what the user types; the program may set more
+    std::pair<int, int> Selection() const;
 };
 
 class TextEditPeer final : public HostedScrollArea<QPlainTextEdit>, public EditControl {
@@ -84,19 +61,8 @@ class TextEditPeer final : public HostedScrollArea<QPlainTextEdit>, public EditC
     LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM) override;
 
     void Select(int start, int end, bool scroll) override;
-    std::pair<int, int> Selection() const override;
     int Caret() const override;
     void Insert(const CString& text) override;
-    void SetLimit(int characters) override { m_limit = characters; }
-    void SetReadOnly(bool readOnly) override;
-    bool Modified() const override;
-    void SetModified(bool modified) override;
-    int LineCount() const override { return blockCount(); }
-    void ScrollLines(int lines) override;
-    void CopySelection() override { copy(); }
-    void CutSelection() override { cut(); }
-    void PasteClipboard() override { paste(); }
-    void UndoChange() override { undo(); }
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -106,9 +72,6 @@ class TextEditPeer final : public HostedScrollArea<QPlainTextEdit>, public EditC
   private:
     int ToBytes(int position) const; // a line end is one character in the toolkit, two here
     int FromBytes(int position) const;
-    CString WithinLimit(const CString& inserted) const; // what of it the user may still enter
-
-    int m_limit = 0; // 0 for none
 };
 
 } // namespace platform

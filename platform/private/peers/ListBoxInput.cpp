@@ -99,7 +99,7 @@ int ListBoxPeer::TypeAhead(const QString& typed) {
     m_typedAt.start();
     m_typed += typed;
     const bool again = m_typed.size() == 1;
-    return find(again ? m_caret : m_caret - 1, FromQString(m_typed), false);
+    return Find(again ? m_caret : m_caret - 1, FromQString(m_typed));
 }
 
 void ListBoxPeer::keyPressEvent(QKeyEvent* event) {

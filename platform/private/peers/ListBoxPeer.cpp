@@ -3,7 +3,6 @@
 
 #include "platform/controls/ListBox.h"
 #include "platform/private/peers/Controls.h"
-#include "platform/resource/Units.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -13,7 +12,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <string_view>
 #include <utility>
 
 namespace platform {
@@ -21,10 +19,6 @@ namespace platform {
 namespace {
 
 constexpr int textIndent = 2; // pixels
-
-bool StartsWith(std::string_view text, std::string_view prefix) {
-    return text.size() >= prefix.size() && CompareNoCase(text.substr(0, prefix.size()), prefix) == 0;
-}
 
 } // namespace
 
@@ -57,17 +51,8 @@ LRESULT ListBoxPeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
 }
 
 int ListBoxPeer::Add(const CString& text) {
-    if (!(WindowPeer::style & LBS_SORT))
-        return Insert(-1, text);
-    return Insert(SortedPlace(Count(), text, [this](int index) -> const CString& { return m_rows.At(index).text; }),
-                  text);
-}
-
-int ListBoxPeer::Insert(int index, const CString& text) {
-    if (index < -1 || index > Count())
-        return LB_ERR;
-    if (index < 0)
-        index = Count();
+    const auto textAt = [this](int row) -> const CString& { return m_rows.At(row).text; };
+    const int index = WindowPeer::style & LBS_SORT ? SortedPlace(Count(), text, textAt) : Count();
     m_rows.Insert(index, Row{text, 0, false});
     m_current += m_current >= index;
     m_caret += m_caret >= index;
@@ -105,16 +90,8 @@ void ListBoxPeer::Reset() {
     RowsChanged();
 }
 
-int ListBoxPeer::find(int startAfter, const CString& text, bool whole) const {
-    const int total = Count();
-    const int start = startAfter < 0 || startAfter >= total ? -1 : startAfter;
-    for (int step = 1; step <= total; ++step) {
-        const int index = (start + step) % total;
-        const std::string_view candidate = m_rows.At(index).text.View();
-        if (whole ? CompareNoCase(candidate, text.View()) == 0 : StartsWith(candidate, text.View()))
-            return index;
-    }
-    return LB_ERR;
+int ListBoxPeer::Find(int startAfter, const CString& prefix) const {
+    return FindPrefix(Count(), startAfter, prefix, [this](int row) -> const CString& { return m_rows.At(row).text; });
 }
 
 void ListBoxPeer::Select(int index) {
@@ -248,11 +225,6 @@ void ListBoxPeer::SetExtent(int width) {
     RowsChanged();
 }
 
-void ListBoxPeer::SetTabStops(std::vector<int> pixels) {
-    m_tabStops = std::move(pixels);
-    viewport()->update();
-}
-
 void ListBoxPeer::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const int first = std::max(RowAt(event->rect().top()), 0);
@@ -270,7 +242,8 @@ void ListBoxPeer::PaintRow(QPainter& painter, const Row& each, const QRect& plac
     if (each.selected)
         painter.fillRect(place, palette().brush(group, QPalette::Highlight));
     painter.setPen(palette().color(group, each.selected ? QPalette::HighlightedText : QPalette::Text));
-    DrawColumns(painter, ToQString(each.text), place.adjusted(textIndent, 0, 0, 0));
+    painter.drawText(place.adjusted(textIndent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     ToQString(each.text));
     if (!focused)
         return;
     QStyleOptionFocusRect option;
@@ -279,22 +252,6 @@ void ListBoxPeer::PaintRow(QPainter& painter, const Row& each, const QRect& plac
     option.backgroundColor = palette().color(each.selected ? QPalette::Highlight : QPalette::Base);
     option.state |= QStyle::State_KeyboardFocusChange;
     QWidget::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-}
-
-void ListBoxPeer::DrawColumns(QPainter& painter, const QString& text, QRect place) const {
-    constexpr int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine;
-    if (!text.contains(QLatin1Char('\t')) || !(WindowPeer::style & LBS_USETABSTOPS)) {
-        painter.drawText(place, flags, text);
-        return;
-    }
-    const int origin = place.left();
-    for (const QString& column : text.split(QLatin1Char('\t'))) {
-        painter.drawText(place, flags, column);
-        const int end = place.left() - origin + fontMetrics().horizontalAdvance(column);
-        const auto stop = std::upper_bound(m_tabStops.begin(), m_tabStops.end(), end);
-        const int every = std::max(UnitsToX(32), 1);
-        place.setLeft(origin + (stop != m_tabStops.end() ? *stop : (end / every + 1) * every));
-    }
 }
 
 void ListBoxPeer::resizeEvent(QResizeEvent* event) {

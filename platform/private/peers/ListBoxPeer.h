@@ -9,8 +9,6 @@
 #include <QBasicTimer>
 #include <QElapsedTimer>
 
-#include <vector>
-
 namespace platform {
 
 class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
@@ -34,11 +32,10 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     int Count() const { return m_rows.Count(); }
     Row* RowOf(int index) { return m_rows.Has(index) ? &m_rows.At(index) : nullptr; }
 
-    int Add(const CString& text);               // at the end, or in its sorted place
-    int Insert(int index, const CString& text); // -1 appends; -1 for a bad place
+    int Add(const CString& text); // at the end, or in its sorted place
     bool Remove(int index);
     void Reset();
-    int find(int startAfter, const CString& text, bool whole) const; // -1 when there is none
+    int Find(int startAfter, const CString& prefix) const; // without regard to case, going round; -1 for none
 
     // The program's selecting, which tells nobody.
     int Current() const { return m_current; } // single selection: the selected row, -1 for none
@@ -47,7 +44,6 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     int SelectedCount() const { return m_selectedCount; }
     int Caret() const { return m_caret; }
     void SetCaret(int index, bool scroll);
-    int Anchor() const { return m_anchor; }
     void SetAnchor(int index) { m_anchor = index; }
 
     int RowHeight() const;
@@ -56,8 +52,6 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     int TopRow();
     void SetTopRow(int index);
     void SetExtent(int width);
-    int Extent() const { return m_extent; }
-    void SetTabStops(std::vector<int> pixels); // ascending
     void ShowRow(int index);
 
   protected:
@@ -80,7 +74,6 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     void RepaintSoon();
     int PageRows() const;
     void PaintRow(QPainter& painter, const Row& row, const QRect& place, bool focused) const;
-    void DrawColumns(QPainter& painter, const QString& text, QRect place) const;
 
     // The user's selecting; true when the selection may have changed and the parent is to hear of it.
     bool PickByMouse(int index, Qt::KeyboardModifiers modifiers);
@@ -98,7 +91,6 @@ class ListBoxPeer final : public HostedScrollArea<QAbstractScrollArea> {
     int m_caret = -1;   // with the focus rectangle
     int m_anchor = -1;  // where a range of the user's begins
     int m_extent = 0;
-    std::vector<int> m_tabStops;
     bool m_arrangePending = false;
     bool m_repaintPending = false;
     int m_wantedTop = -1;        // that the scroll bar does not know yet; -1 when it does

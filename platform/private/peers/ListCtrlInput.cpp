@@ -47,7 +47,6 @@ void ListCtrlControl::TellRows(const std::vector<int>& rows, UINT before, UINT a
         change.uOldState = before;
         change.uNewState = after;
         change.uChanged = LVIF_STATE;
-        change.lParam = m_model.RowAt(row)->data;
         Peer().NotifyParent(change.hdr, LVN_ITEMCHANGED);
     }
 }

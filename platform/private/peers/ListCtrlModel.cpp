@@ -23,7 +23,6 @@ QVariant ListCtrlModel::data(const QModelIndex& index, int role) const {
         return {};
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::EditRole:
         return ToQString(Text(index.row(), index.column()));
     case Qt::DecorationRole:
         return index.column() == 0 && m_images && found->image >= 0 ? IconAt(m_images, found->image) : QVariant();
@@ -47,16 +46,8 @@ QVariant ListCtrlModel::headerData(int section, Qt::Orientation orientation, int
     return ToQString(m_columns[column].heading);
 }
 
-Qt::ItemFlags ListCtrlModel::flags(const QModelIndex& index) const {
-    const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
-    return editable && index.column() == 0 ? flags | Qt::ItemIsEditable : flags;
-}
-
-bool ListCtrlModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    const CString text = FromQString(value.toString());
-    if (role != Qt::EditRole || !acceptLabel || !acceptLabel(index.row(), text))
-        return false;
-    return SetText(index.row(), index.column(), text);
+Qt::ItemFlags ListCtrlModel::flags(const QModelIndex&) const {
+    return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
 }
 
 const CString& ListCtrlModel::Text(int index, int column) const {
@@ -121,35 +112,10 @@ bool ListCtrlModel::SetText(int row, int column, const CString& text) {
     return true;
 }
 
-bool ListCtrlModel::SetRowData(int row, DWORD_PTR data) {
-    if (!RowAt(row))
-        return false;
-    m_rows.At(row).data = data;
-    return true;
-}
-
-bool ListCtrlModel::SetImage(int row, int image) {
-    if (!RowAt(row))
-        return false;
-    m_rows.At(row).image = image;
-    emit dataChanged(index(row, 0), index(row, 0));
-    return true;
-}
-
 void ListCtrlModel::SetImages(const CImageList* images) {
     m_images = images;
     if (Count() > 0)
         emit dataChanged(index(0, 0), index(Count() - 1, 0));
-}
-
-void ListCtrlModel::Reorder(const std::vector<int>& order) {
-    beginResetModel();
-    RowStore<Row> sorted;
-    for (const int former : order)
-        sorted.Insert(sorted.Count(), std::move(m_rows.At(former)));
-    m_rows = std::move(sorted);
-    m_noneBefore = 0;
-    endResetModel();
 }
 
 void ListCtrlModel::InsertColumnAt(int index, Column column) {
@@ -166,15 +132,6 @@ void ListCtrlModel::InsertColumnAt(int index, Column column) {
         emit headerDataChanged(Qt::Horizontal, 0, 0);
     else
         endInsertColumns();
-}
-
-void ListCtrlModel::RemoveColumnAt(int index) {
-    beginResetModel();
-    m_columns.erase(m_columns.begin() + index);
-    for (int row = 0; row < Count(); ++row)
-        if (std::vector<CString>& texts = m_rows.At(row).texts; texts.size() > static_cast<std::size_t>(index))
-            texts.erase(texts.begin() + index);
-    endResetModel();
 }
 
 } // namespace platform

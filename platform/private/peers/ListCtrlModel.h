@@ -8,7 +8,6 @@
 
 #include <QAbstractTableModel>
 
-#include <functional>
 #include <vector>
 
 namespace platform {
@@ -17,7 +16,6 @@ class ListCtrlModel final : public QAbstractTableModel {
   public:
     struct Row {
         std::vector<CString> texts; // by column; missing ones are empty
-        DWORD_PTR data = 0;
         int image = -1;
         bool selected = false;
     };
@@ -33,7 +31,6 @@ class ListCtrlModel final : public QAbstractTableModel {
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
     int Count() const { return m_rows.Count(); }
     const Row* RowAt(int index) const { return m_rows.Has(index) ? &m_rows.At(index) : nullptr; }
@@ -42,12 +39,8 @@ class ListCtrlModel final : public QAbstractTableModel {
     void RemoveRowAt(int index);
     void Clear();
     bool SetText(int row, int column, const CString& text);
-    bool SetRowData(int row, DWORD_PTR data);
-    bool SetImage(int row, int image);
     void SetImages(const CImageList* images);
     const CImageList* Images() const { return m_images; }
-    // order[new row] is the old one.
-    void Reorder(const std::vector<int>& order);
 
     bool Selected(int row) const { return m_rows.Has(row) && m_rows.At(row).selected; }
     int SelectedCount() const { return m_selectedCount; }
@@ -56,10 +49,6 @@ class ListCtrlModel final : public QAbstractTableModel {
 
     int Columns() const { return static_cast<int>(m_columns.size()); }
     void InsertColumnAt(int index, Column column);
-    void RemoveColumnAt(int index);
-
-    bool editable = false;
-    std::function<bool(int row, const CString& text)> acceptLabel; // asks whether an edited label may stay
 
   private:
     RowStore<Row> m_rows;

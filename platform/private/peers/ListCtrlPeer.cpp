@@ -9,9 +9,7 @@
 #include <QTreeView>
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
-#include <vector>
 
 namespace platform {
 
@@ -37,8 +35,6 @@ class RowDelegate final : public QStyledItemDelegate {
 void ListCtrlControl::SetUp(const ControlSpec& spec) {
     QAbstractItemView& shown = View();
     ApplySpec(Peer(), spec);
-    m_model.editable = spec.style & LVS_EDITLABELS;
-    m_model.acceptLabel = [this](int row, const CString& text) { return TellLabel(row, text); };
     shown.setModel(&m_model);
     shown.setFocusPolicy(Qt::StrongFocus);
     shown.setTabKeyNavigation(false);
@@ -46,8 +42,7 @@ void ListCtrlControl::SetUp(const ControlSpec& spec) {
     shown.setFrameShape(framed ? QFrame::StyledPanel : QFrame::NoFrame);
     shown.setSelectionMode(QAbstractItemView::NoSelection); // it is ours
     shown.setItemDelegate(new RowDelegate(m_model, &shown));
-    shown.setEditTriggers(spec.style & LVS_EDITLABELS ? QAbstractItemView::EditKeyPressed
-                                                      : QAbstractItemView::NoEditTriggers);
+    shown.setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
 
 void ListCtrlControl::SetState(int row, UINT state, UINT mask) {
@@ -87,24 +82,6 @@ void ListCtrlControl::Clear() {
     mark = -1;
 }
 
-void ListCtrlControl::Sort(PFNLVCOMPARE compare, LPARAM argument) {
-    std::vector<int> order(static_cast<std::size_t>(m_model.Count()));
-    std::iota(order.begin(), order.end(), 0);
-    const auto dataOf = [this](int row) { return static_cast<LPARAM>(m_model.RowAt(row)->data); };
-    std::stable_sort(order.begin(), order.end(),
-                     [&](int a, int b) { return compare(dataOf(a), dataOf(b), argument) < 0; });
-    // The mark and the focus stay with their rows, as the selection does.
-    const auto placeOf = [&order](int former) {
-        const auto found = std::find(order.begin(), order.end(), former);
-        return found == order.end() ? -1 : static_cast<int>(found - order.begin());
-    };
-    const int focused = View().currentIndex().row();
-    m_model.Reorder(order);
-    mark = placeOf(mark);
-    if (focused >= 0)
-        View().selectionModel()->setCurrentIndex(RowIndex(placeOf(focused)), QItemSelectionModel::NoUpdate);
-}
-
 LRESULT ListCtrlControl::TellItem(int code, const QPoint& point) {
     NMITEMACTIVATE click;
     const QModelIndex at = View().indexAt(point);
@@ -122,13 +99,6 @@ bool ListCtrlControl::TellKey(const QKeyEvent& event) {
     return spent || !alive || Peer().destroyed;
 }
 
-bool ListCtrlControl::TellLabel(int row, LPCTSTR text) {
-    NMLVDISPINFO change;
-    change.iItem = row;
-    change.text = text;
-    return Peer().NotifyParent(change.hdr, LVN_ENDLABELEDIT) != 0;
-}
-
 template <>
 void ListCtrlOf<QTreeView>::SetUpView(const ControlSpec& spec) {
     setRootIsDecorated(false);
@@ -138,12 +108,6 @@ void ListCtrlOf<QTreeView>::SetUpView(const ControlSpec& spec) {
     setHeaderHidden(spec.style & LVS_NOCOLUMNHEADER);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(4);
-    header()->setSectionsClickable(true);
-    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        NMLISTVIEW click;
-        click.iSubItem = column;
-        this->NotifyParent(click.hdr, LVN_COLUMNCLICK);
-    });
 }
 
 template <>
@@ -173,22 +137,9 @@ LRESULT ListCtrlOf<Base>::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
 }
 
 template <class Base>
-int ListCtrlOf<Base>::ColumnWidth(int column) {
-    if constexpr (std::is_same_v<Base, QTreeView>)
-        return Base::columnWidth(column);
-    else
-        return this->viewport()->width();
-}
-
-template <class Base>
 void ListCtrlOf<Base>::SetColumnWidth(int column, int width) {
     if constexpr (std::is_same_v<Base, QTreeView>) {
-        if (width < 0)
-            this->resizeColumnToContents(column);
-        else
-            Base::setColumnWidth(column, width);
-    } else if (width > 0) {
-        this->setGridSize(QSize(width, this->fontMetrics().height() + 4));
+        Base::setColumnWidth(column, width);
     }
 }
 

@@ -19,19 +19,16 @@ class ListCtrlControl {
 
     virtual QAbstractItemView& View() = 0;
     virtual WindowPeer& Peer() = 0;
-    virtual int ColumnWidth(int) { return 0; }
-    virtual void SetColumnWidth(int, int) {}
+    virtual void SetColumnWidth(int column, int width) = 0;
     virtual QRect RowRect(int row, int part) = 0;
 
     ListCtrlModel& Model() { return m_model; }
-    bool Focused(int row) { return View().currentIndex().row() == row; }
     void SetState(int row, UINT state, UINT mask);
     int RowAt(const QPoint& point) { return View().indexAt(point).row(); }
     void SetImages(const CImageList* images);
     int Insert(int row, ListCtrlModel::Row content);
     void Remove(int row);
-    void Clear(); // tells nobody
-    void Sort(PFNLVCOMPARE compare, LPARAM argument);
+    void Clear();  // tells nobody
     int mark = -1; // the row from which a selection extends; it stays with its row, and ends with it
 
   protected:
@@ -47,7 +44,6 @@ class ListCtrlControl {
     void SelectRows(int first, int last, bool select, bool only);
     LRESULT TellItem(int code, const QPoint& point);
     bool TellKey(const QKeyEvent& event); // true when the key is spent
-    bool TellLabel(int row, LPCTSTR text);
     QModelIndex RowIndex(int row) { return m_model.index(row, 0); }
 
   private:
@@ -74,7 +70,6 @@ class ListCtrlOf final : public HostedScrollArea<Base>, public ListCtrlControl {
 
     QAbstractItemView& View() override { return *this; }
     WindowPeer& Peer() override { return *this; }
-    int ColumnWidth(int column) override;
     void SetColumnWidth(int column, int width) override;
     QRect RowRect(int row, int part) override;
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -87,6 +88,21 @@ class RowStore {
     std::vector<Block> m_blocks; // none is empty between two calls
     int m_count = 0;
 };
+
+// The first of `count` texts behind `startAfter` that begins with the prefix, without regard to case and going round;
+// -1 for none. A place outside starts at the top. `textAt(index)` gives a CString.
+template <class TextAt>
+int FindPrefix(int count, int startAfter, const CString& prefix, TextAt textAt) {
+    const std::string_view wanted = prefix.View();
+    const int start = startAfter >= 0 && startAfter < count ? startAfter : -1;
+    for (int step = 1; step <= count; ++step) {
+        const int index = (start + step) % count;
+        const std::string_view text = textAt(index).View();
+        if (text.size() >= wanted.size() && CompareNoCase(text.substr(0, wanted.size()), wanted) == 0)
+            return index;
+    }
+    return -1;
+}
 
 // Where a text belongs among `count` sorted ones: behind all that are not greater, without regard to case.
 // `textAt(index)` gives a text that std::string_view takes.

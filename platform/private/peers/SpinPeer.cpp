@@ -26,11 +26,11 @@ constexpr int repeatDelay = 400;  // milliseconds until a held arrow repeats
 constexpr int repeatPeriod = 60;
 
 // A whole number, with blanks around it at most.
-bool ParseNumber(const CString& text, int base, int& value) {
+bool ParseNumber(const CString& text, int& value) {
     CString digits = text;
     digits.Trim();
     const std::string_view all = digits.View();
-    const auto [end, error] = std::from_chars(all.data(), all.data() + all.size(), value, base);
+    const auto [end, error] = std::from_chars(all.data(), all.data() + all.size(), value);
     return error == std::errc() && end == all.data() + all.size();
 }
 
@@ -102,11 +102,6 @@ void SpinPeer::SetRange(int lower, int upper) {
     m_upper = upper;
 }
 
-void SpinPeer::SetBase(int base) {
-    m_base = base;
-    ShowInBuddy();
-}
-
 int SpinPeer::InRange(long long value) const {
     const auto [low, high] = std::minmax(m_lower, m_upper);
     return static_cast<int>(std::clamp<long long>(value, low, high));
@@ -115,7 +110,7 @@ int SpinPeer::InRange(long long value) const {
 int SpinPeer::Position() {
     const WindowPeer* shown = Buddy();
     int value = 0;
-    if (shown && (WindowPeer::style & UDS_SETBUDDYINT) && ParseNumber(shown->Text(), m_base, value))
+    if (shown && (WindowPeer::style & UDS_SETBUDDYINT) && ParseNumber(shown->Text(), value))
         m_position = InRange(value);
     return m_position;
 }
@@ -132,7 +127,7 @@ void SpinPeer::ShowInBuddy() {
     if (!shown || !(WindowPeer::style & UDS_SETBUDDYINT))
         return;
     CString text;
-    text.Format(m_base == 16 ? "0x%04X" : "%d", m_position);
+    text.Format("%d", m_position);
     if (shown->Text() != text)
         shown->SetText(text);
 }
@@ -142,7 +137,7 @@ void SpinPeer::Step(int direction, bool ends) {
     const WindowPeer* shown = Buddy();
     int typed = 0;
     long long from = m_position;
-    if (shown && (WindowPeer::style & UDS_SETBUDDYINT) && ParseNumber(shown->Text(), m_base, typed))
+    if (shown && (WindowPeer::style & UDS_SETBUDDYINT) && ParseNumber(shown->Text(), typed))
         from = typed;
     m_position = InRange(from);
 

@@ -15,14 +15,10 @@ class SpinPeer final : public Hosted<QWidget> {
     std::unique_ptr<CWnd> MakeObject() const override;
 
     void SetRange(int lower, int upper);
-    int lower() const { return m_lower; }
-    int Upper() const { return m_upper; }
     int Position();             // the buddy's number, when it shows one
     int SetPosition(int value); // shows it in the buddy; returns the old one
     WindowPeer* Buddy() const;
     WindowPeer* SetBuddy(WindowPeer* buddy);
-    int Base() const { return m_base; }
-    void SetBase(int base);
 
     void Step(int direction, bool ends); // 1 up, -1 down; `ends` tells the end of scrolling with it
 
@@ -44,7 +40,6 @@ class SpinPeer final : public Hosted<QWidget> {
     int m_lower = 100; // up goes towards the second number, also when that is the smaller one
     int m_upper = 0;
     int m_position = 0;
-    int m_base = 10;
     QPointer<QWidget> m_buddy;
     int m_pressed = 0; // the arrow that is held: 1 up, -1 down, 0 none
     QBasicTimer m_repeat;

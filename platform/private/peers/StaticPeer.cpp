@@ -36,18 +36,6 @@ void StaticPeer::StyleChanged() {
     update();
 }
 
-void StaticPeer::SetPicture(const QImage& picture) {
-    m_number = 0;
-    m_picture = picture;
-    update();
-}
-
-void StaticPeer::SetNumber(int number) {
-    m_number = number;
-    m_picture = {};
-    update();
-}
-
 void StaticPeer::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const UINT type = WindowPeer::style & SS_TYPEMASK;

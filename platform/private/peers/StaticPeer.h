@@ -17,9 +17,6 @@ class StaticPeer final : public Hosted<QWidget> {
     std::unique_ptr<CWnd> MakeObject() const override;
     void StyleChanged() override;
 
-    void SetPicture(const QImage& picture);
-    void SetNumber(int number); // a picture of the resources; 0 for none
-
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -32,8 +29,8 @@ class StaticPeer final : public Hosted<QWidget> {
     void PaintBorder(QPainter& painter) const;
 
     CString m_text;
-    int m_number = 0;
-    QImage m_picture; // of the program, or the numbered one as last rendered
+    int m_number;     // of a picture of the resources; 0 for none
+    QImage m_picture; // as last rendered
 };
 
 } // namespace platform

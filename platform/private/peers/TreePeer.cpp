@@ -2,7 +2,6 @@
 
 #include "platform/private/paint/Icons.h"
 #include "platform/private/peers/Controls.h"
-#include "platform/private/peers/RowStore.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -10,10 +9,8 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
-#include <algorithm>
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace platform {
 
@@ -43,11 +40,12 @@ TreePeer::TreePeer(const ControlSpec& spec, WindowPeer& parentPeer)
     setHeaderHidden(true);
     setUniformRowHeights(true);
     setTabKeyNavigation(false);
+    setRootIsDecorated(false);
+    setEditTriggers(NoEditTriggers);
     const bool framed = (spec.style & WS_BORDER) || (spec.exStyle & (WS_EX_CLIENTEDGE | WS_EX_STATICEDGE));
     setFrameShape(framed ? StyledPanel : NoFrame);
     TreePeer::StyleChanged();
     connect(this, &QTreeWidget::itemSelectionChanged, this, [this] { SelectionMoved(); });
-    connect(this, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) { LabelEdited(item); });
 }
 
 std::unique_ptr<CWnd> TreePeer::MakeObject() const {
@@ -64,9 +62,6 @@ LRESULT TreePeer::Tell(int code) {
 }
 
 void TreePeer::StyleChanged() {
-    const DWORD style = WindowPeer::style;
-    setRootIsDecorated((style & TVS_HASBUTTONS) && (style & TVS_LINESATROOT));
-    setEditTriggers(style & TVS_EDITLABELS ? EditKeyPressed : NoEditTriggers);
     if (!HasBoxes())
         return;
     for (QTreeWidgetItemIterator at(this); *at; ++at)
@@ -78,40 +73,16 @@ LRESULT TreePeer::DefaultMessage(UINT message, WPARAM wParam, LPARAM) {
     return PlayKey(*this, message, wParam);
 }
 
-int TreePeer::PlaceOf(QTreeWidgetItem& parentItem, const CString& text, HTREEITEM after) const {
-    const int count = parentItem.childCount();
-    if (after == TVI_FIRST)
-        return 0;
-    if (after == TVI_LAST || !after || after == TVI_ROOT)
-        return count;
-    if (after == TVI_SORT)
-        return SortedPlace(count, text,
-                           [&parentItem](int index) { return FromQString(parentItem.child(index)->text(0)); });
-    return indexFromItem(reinterpret_cast<TreeItem*>(after)).row() + 1; // it knows its row; no search for it
-}
-
-TreeItem* TreePeer::Add(const CString& text, int image, int selectedImage, QTreeWidgetItem* parentItem,
-                        HTREEITEM after) {
-    QTreeWidgetItem& owner = parentItem ? *parentItem : *invisibleRootItem();
+TreeItem* TreePeer::Add(const CString& text, int image, int selectedImage) {
     auto* item = new TreeItem; // the tree's from the insertion on
     item->setText(0, ToQString(text));
-    if (WindowPeer::style & TVS_EDITLABELS)
-        item->setFlags(item->flags() | Qt::ItemIsEditable);
     if (HasBoxes())
         item->setCheckState(0, Qt::Unchecked);
     item->image = image;
     item->selectedImage = selectedImage;
     ShowImage(*item);
-    const int place = PlaceOf(owner, text, after);
-    if (place == owner.childCount())
-        owner.addChild(item);
-    else
-        owner.insertChild(place, item);
+    addTopLevelItem(item);
     return item;
-}
-
-void TreePeer::Remove(TreeItem* item) {
-    delete item;
 }
 
 void TreePeer::RemoveAll() {
@@ -162,21 +133,6 @@ void TreePeer::SelectionMoved() {
     NotifyParent(change.hdr, TVN_SELCHANGED);
 }
 
-bool TreePeer::expand(TreeItem* item, UINT code) {
-    const bool open = code == TVE_TOGGLE ? !item->isExpanded() : code == TVE_EXPAND;
-    if (open == item->isExpanded() || item->childCount() == 0)
-        return false;
-    const QPointer<QWidget> alive = this;
-    NMTREEVIEW change;
-    change.action = open ? TVE_EXPAND : TVE_COLLAPSE;
-    change.itemNew = Describe(item, item == SelectedItem());
-    if (NotifyParent(change.hdr, TVN_ITEMEXPANDING) || !Usable(alive))
-        return false;
-    item->setExpanded(open);
-    NotifyParent(change.hdr, TVN_ITEMEXPANDED);
-    return true;
-}
-
 void TreePeer::Toggle(TreeItem* item) {
     if (HasBoxes() && item)
         item->setCheckState(0, item->checkState(0) == Qt::Checked ? Qt::Unchecked : Qt::Checked);
@@ -211,10 +167,7 @@ TreeItem* TreePeer::HitTest(const QPoint& point, UINT& flags) const {
     const bool boxed = option.features & QStyleOptionViewItem::HasCheckIndicator;
     const bool pictured = option.features & QStyleOptionViewItem::HasDecoration;
     const QRect text = ItemRect(*item, true);
-    if (point.x() < option.rect.left())
-        flags = item->childCount() > 0 && point.x() >= option.rect.left() - indentation() ? TVHT_ONITEMBUTTON
-                                                                                          : TVHT_ONITEMINDENT;
-    else if (boxed && point.x() <= part(QStyle::SE_ItemViewItemCheckIndicator).right() + 1)
+    if (boxed && point.x() <= part(QStyle::SE_ItemViewItemCheckIndicator).right() + 1)
         flags = TVHT_ONITEMSTATEICON;
     else if (pictured && point.x() <= part(QStyle::SE_ItemViewItemDecoration).right())
         flags = TVHT_ONITEMICON;
@@ -251,33 +204,6 @@ void TreePeer::ShowImage(TreeItem& item) {
     item.setIcon(0, IconAt(m_images, selected && item.selectedImage >= 0 ? item.selectedImage : item.image));
 }
 
-void TreePeer::SortChildren(TreeItem* item) {
-    QTreeWidgetItem* owner = item ? static_cast<QTreeWidgetItem*>(item) : invisibleRootItem();
-    QTreeWidgetItem* selected = SelectedItem();
-    m_silent = true;
-    QList<QTreeWidgetItem*> children = owner->takeChildren();
-    std::vector<std::pair<CString, QTreeWidgetItem*>> sorted; // each text is converted once
-    for (QTreeWidgetItem* child : children)
-        sorted.emplace_back(FromQString(child->text(0)), child);
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const auto& a, const auto& b) { return a.first.CompareNoCase(b.first) < 0; });
-    std::transform(sorted.begin(), sorted.end(), children.begin(), [](const auto& each) { return each.second; });
-    owner->addChildren(children);
-    setCurrentItem(selected);
-    m_told = static_cast<TreeItem*>(selected);
-    m_silent = false;
-}
-
-void TreePeer::LabelEdited(QTreeWidgetItem* item) {
-    if (state() != EditingState)
-        return;
-    const CString text = FromQString(item->text(0));
-    NMTVDISPINFO change;
-    change.item = Describe(static_cast<TreeItem*>(item), true);
-    change.text = text;
-    NotifyParent(change.hdr, TVN_ENDLABELEDIT);
-}
-
 void TreePeer::keyPressEvent(QKeyEvent* event) {
     const QPointer<QWidget> alive = this;
     NMTVKEYDOWN key;
@@ -299,12 +225,8 @@ void TreePeer::keyPressEvent(QKeyEvent* event) {
 }
 
 void TreePeer::mousePressEvent(QMouseEvent* event) {
-    UINT flags = 0;
     m_pressedAt = event->position().toPoint();
-    TreeItem* item = HitTest(m_pressedAt, flags);
-    m_pressed = event->button() == Qt::LeftButton && flags != TVHT_ONITEMBUTTON && StillPressed(*event);
-    if (event->button() == Qt::LeftButton && flags == TVHT_ONITEMBUTTON)
-        expand(item, TVE_TOGGLE);
+    m_pressed = event->button() == Qt::LeftButton && StillPressed(*event);
 }
 
 void TreePeer::mouseMoveEvent(QMouseEvent* event) {
@@ -339,15 +261,13 @@ void TreePeer::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
     const QPointer<QWidget> alive = this;
-    const LRESULT handled = Tell(NM_DBLCLK);
+    Tell(NM_DBLCLK);
     if (!Usable(alive))
         return;
     UINT flags = 0;
     TreeItem* item = HitTest(event->position().toPoint(), flags);
     if (flags == TVHT_ONITEMSTATEICON)
         Toggle(item);
-    else if (flags == TVHT_ONITEMBUTTON || (!handled && (flags & TVHT_ONITEM)))
-        expand(item, TVE_TOGGLE);
 }
 
 WindowPeer* CreateTree(const ControlSpec& spec, WindowPeer& parent) {

@@ -28,19 +28,15 @@ class TreePeer final : public HostedScrollArea<QTreeWidget> {
     void StyleChanged() override;
     LRESULT DefaultMessage(UINT message, WPARAM wParam, LPARAM) override;
 
-    TreeItem* Add(const CString& text, int image, int selectedImage, QTreeWidgetItem* parentItem, HTREEITEM after);
-    void Remove(TreeItem* item);
+    TreeItem* Add(const CString& text, int image, int selectedImage);
     void RemoveAll(); // tells nobody
     TreeItem* SelectedItem() const;
     void SelectItem(TreeItem* item, UINT action);
-    bool expand(TreeItem* item, UINT code);
     bool HasBoxes() const { return WindowPeer::style & TVS_CHECKBOXES; }
     void Toggle(TreeItem* item);
     TreeItem* HitTest(const QPoint& point, UINT& flags) const;
     QRect ItemRect(const TreeItem& item, bool textOnly) const;
     const CImageList* SetImages(const CImageList* images);
-    void ShowImage(TreeItem& item);
-    void SortChildren(TreeItem* item); // null for the top items
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -50,9 +46,8 @@ class TreePeer final : public HostedScrollArea<QTreeWidget> {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
-    int PlaceOf(QTreeWidgetItem& parentItem, const CString& text, HTREEITEM after) const;
     void SelectionMoved();
-    void LabelEdited(QTreeWidgetItem* item);
+    void ShowImage(TreeItem& item);
     LRESULT Tell(int code);
     bool Usable(const QPointer<QWidget>& alive) const { return alive && !WindowPeer::destroyed; }
     QStyleOptionViewItem OptionFor(const TreeItem& item) const;
@@ -61,7 +56,7 @@ class TreePeer final : public HostedScrollArea<QTreeWidget> {
     TreeItem* m_told = nullptr;           // the selection that the parent knows; compared, never followed
     UINT m_action = TVC_UNKNOWN;
     bool m_silent = false;
-    bool m_pressed = false; // the left button went down over the tree, outside an expansion mark
+    bool m_pressed = false; // the left button went down over the tree
     QPoint m_pressedAt;
 };
 
