@@ -3,9 +3,9 @@
 
 #include "platform/controls/ComboBox.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QTest>
-#include <QWindow>
 
 namespace {
 
@@ -67,12 +67,13 @@ TEST(ComboBox, TypingIsToldAndIsNoRow) {
     EXPECT_EQ(user.Focus(), IDOK);
 }
 
-// The height of the template counts the list that drops.
+// The height of the template counts the list that drops. Fault: an end by the user that nobody told, after which the
+// dialog's Enter and Escape still went to the list.
 TEST(ComboBox, TheListDropsAndClosesUnderTheFocus) {
     ComboDialog dialog(CBS_DROPDOWNLIST);
     CComboBox second;
-    ASSERT_TRUE(
-        second.Create("COMBOBOX", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(150, 40, 250, 140), &dialog, 101));
+    ASSERT_TRUE(second.Create("COMBOBOX", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(150, 40, 250, 140),
+                              &dialog, 101));
     CRect rect;
     second.GetWindowRect(rect);
     EXPECT_LT(rect.Height(), 26); // the closed box is one line
@@ -80,7 +81,9 @@ TEST(ComboBox, TheListDropsAndClosesUnderTheFocus) {
     dialog.Take();
     dialog.user.Click(100);
     ASSERT_TRUE(QApplication::activePopupWidget());
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
-    EXPECT_TRUE(dialog.user.IsOpen());
+    QTest::keyClick(QApplication::activePopupWidget()->findChild<QAbstractItemView*>(), Qt::Key_Escape);
+    TestApp::PumpMessages();
     EXPECT_EQ(dialog.Take(), (Log{Told(100, CBN_DROPDOWN), Told(100, CBN_CLOSEUP)}));
+    dialog.user.Press(VK_ESCAPE);
+    EXPECT_FALSE(dialog.user.Visible(100));
 }

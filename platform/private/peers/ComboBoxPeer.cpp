@@ -136,11 +136,24 @@ void ComboBoxPeer::showPopup() {
         return;
     m_dropped = true;
     QComboBox::showPopup();
+    view()->window()->installEventFilter(this);
+}
+
+void ComboBoxPeer::hidePopup() {
+    QComboBox::hidePopup();
+    TellClosed();
+}
+
+// The toolkit closes the list by itself as well, on Escape. A handler may end the dialog: not in the middle of that.
+bool ComboBoxPeer::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Hide && m_dropped)
+        QMetaObject::invokeMethod(
+            this, [this] { TellClosed(); }, Qt::QueuedConnection);
+    return Hosted<QComboBox>::eventFilter(watched, event);
 }
 
 // The toolkit also hides a list that is not shown.
-void ComboBoxPeer::hidePopup() {
-    QComboBox::hidePopup();
+void ComboBoxPeer::TellClosed() {
     if (std::exchange(m_dropped, false))
         NotifyParent(CBN_CLOSEUP);
 }

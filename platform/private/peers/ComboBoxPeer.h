@@ -42,11 +42,14 @@ class ComboBoxPeer final : public Hosted<QComboBox> {
 
     void showPopup() override;
     void hidePopup() override;
+    bool eventFilter(QObject* watched, QEvent* event) override; // of the list while it hangs down
 
   protected:
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    void TellClosed();
+
     ComboBoxModel m_model;
     int m_told = -1; // the selection that the parent knows or that the program made
     bool m_dropped = false;
