@@ -1,6 +1,7 @@
 #include "host/commands/AssignLoad.h"
 
 #include "host/commands/AssignLoadDialog.h"
+#include "host/document/Changes.h"
 #include "host/document/HostDocument.h"
 #include "model/element/TipoElemento.h"
 #include "model/entity/CasoCarico.h"
@@ -18,49 +19,9 @@ using Numbers = std::unordered_set<int>;
 constexpr char assignName[] = "Assegna Carico";
 constexpr char removeName[] = "Elimina Carichi";
 
-// Loads that left their case, which nothing refers to. Undo puts each back at its place: the order of a case's loads is
-// what its file and its sums follow.
-class Discard final : public Change {
-  public:
-    // Takes them out.
-    Discard(CCasoCarico& loadCase, Numbers numbers) : m_case(loadCase), m_numbers(std::move(numbers)) { Redo(); }
-
-    void Undo() override {
-        Loads kept = m_case.DetachLoads();
-        auto next = kept.begin();
-        for (auto& [place, load] : m_out) {
-            while (m_case.GetSizeCarichi() < place)
-                GiveBack(*next++);
-            GiveBack(load);
-        }
-        while (next != kept.end())
-            GiveBack(*next++);
-        m_out.clear();
-    }
-
-    void Redo() override {
-        Loads all = m_case.DetachLoads();
-        for (std::size_t place = 0; place < all.size(); ++place) {
-            if (m_numbers.contains(all[place]->GetID()))
-                m_out.emplace_back(static_cast<int>(place), std::move(all[place]));
-            else
-                GiveBack(all[place]);
-        }
-    }
-
-  private:
-    using Loads = std::vector<std::unique_ptr<CCarico>>;
-
-    void GiveBack(std::unique_ptr<CCarico>& load) { m_case.AddCarico(load.release()); }
-
-    CCasoCarico& m_case;
-    Numbers m_numbers;
-    std::vector<std::pair<int, std::unique_ptr<CCarico>>> m_out; // with their places, in order; none while undone
-};
-
 void DiscardLoads(HostDocument& document, CCasoCarico& loadCase, Numbers numbers) {
     if (!numbers.empty())
-        document.Undo().Record(std::make_unique<Discard>(loadCase, std::move(numbers)), removeName);
+        document.Undo().Record(std::make_unique<LoadRemoval>(loadCase, std::move(numbers)), removeName);
 }
 
 bool CanCarry(CElemento& element, CCarico& load) {

@@ -173,22 +173,37 @@ void Leaving::Redo() {
     }
 }
 
-LoadMembership::LoadMembership(CCasoCarico& loadCase, std::unique_ptr<CCarico> load)
+LoadCreation::LoadCreation(CCasoCarico& loadCase, std::unique_ptr<CCarico> load)
     : m_case(loadCase), m_id(loadCase.AddCarico(load.get())) {
     if (m_id != 0)
         load.release();
 }
 
-LoadMembership::LoadMembership(CCasoCarico& loadCase, int loadId) : m_case(loadCase), m_id(loadId) {
-    Swap();
+void LoadCreation::Redo() {
+    m_case.AddCarico(m_load.get());
+    m_load.release();
 }
 
-void LoadMembership::Swap() {
-    if (m_load) {
-        m_case.AddCarico(m_load.get());
-        m_load.release();
-    } else {
-        m_load = m_case.DetachLoad(m_id);
+void LoadRemoval::Undo() {
+    auto kept = m_case.DetachLoads();
+    auto next = kept.begin();
+    for (auto& [place, load] : m_out) {
+        while (m_case.GetSizeCarichi() < place)
+            GiveBack(*next++);
+        GiveBack(load);
+    }
+    while (next != kept.end())
+        GiveBack(*next++);
+    m_out.clear();
+}
+
+void LoadRemoval::Redo() {
+    auto all = m_case.DetachLoads();
+    for (std::size_t place = 0; place < all.size(); ++place) {
+        if (m_numbers.contains(all[place]->GetID()))
+            m_out.emplace_back(static_cast<int>(place), std::move(all[place]));
+        else
+            GiveBack(all[place]);
     }
 }
 

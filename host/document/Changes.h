@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <unordered_set>
 #include <utility>
 
 namespace host {
@@ -88,7 +89,7 @@ class Former : public Change {
 
     void Undo() override { Exchange(); }
     void Redo() override { Exchange(); }
-    const CElemento* Keeps() const override { return &m_object; }
+    CElemento* Keeps() const override { return &m_object; }
     bool HasEffect() const override { return m_confirmed || m_object.GetID() != m_id || Differs(); }
     // The document finds the object under the number that it was given; one that is taken is put back.
     void Settle() override;
@@ -194,24 +195,41 @@ class Leaving : public Change {
     std::vector<Member> m_members;
 };
 
-// A load that entered its case as the last one, or left it. No element refers to it while it is out.
-class LoadMembership : public Change {
+// A load that entered its case, as the last one. No element refers to it while it is out.
+class LoadCreation : public Change {
   public:
     // Puts it in.
-    LoadMembership(CCasoCarico& loadCase, std::unique_ptr<CCarico> load);
-    // Takes it out.
-    LoadMembership(CCasoCarico& loadCase, int loadId);
+    LoadCreation(CCasoCarico& loadCase, std::unique_ptr<CCarico> load);
 
     CCarico* Load() const { return m_case.GetCarico(m_id, nullptr); }
-    void Undo() override { Swap(); }
-    void Redo() override { Swap(); }
+    void Undo() override { m_load = m_case.DetachLoad(m_id); }
+    void Redo() override;
 
   private:
-    void Swap();
-
     CCasoCarico& m_case;
     int m_id;
     std::unique_ptr<CCarico> m_load; // while it is out
+};
+
+// Loads that left their case, which nothing refers to. Undo puts each back at its place: the order of a case's loads is
+// what its file and its sums follow.
+class LoadRemoval : public Change {
+  public:
+    // Takes them out.
+    LoadRemoval(CCasoCarico& loadCase, std::unordered_set<int> numbers)
+        : m_case(loadCase), m_numbers(std::move(numbers)) {
+        Redo();
+    }
+
+    void Undo() override;
+    void Redo() override;
+
+  private:
+    void GiveBack(std::unique_ptr<CCarico>& load) { m_case.AddCarico(load.release()); }
+
+    CCasoCarico& m_case;
+    std::unordered_set<int> m_numbers;
+    std::vector<std::pair<int, std::unique_ptr<CCarico>>> m_out; // with their places, in order; none while undone
 };
 
 // A plain value of the document that no result depends on.

@@ -171,7 +171,7 @@ CCarico* HostCases::AddCarico(CCasoCarico& loadCase, std::unique_ptr<CCarico> lo
     UndoStep step(Undo(), "Aggiungi carico");
     load->SetLunghezza(Data().Units().length);
     load->SetForza(Data().Units().force);
-    auto change = std::make_unique<LoadMembership>(loadCase, std::move(load));
+    auto change = std::make_unique<LoadCreation>(loadCase, std::move(load));
     CCarico* added = change->Load();
     Undo().Record(std::move(change), "Aggiungi carico");
     return added;
@@ -185,7 +185,7 @@ void HostCases::EliminaCarico(CCasoCarico& loadCase, int loadId) {
         if (carrier.IsCarico(loadCase.GetID(), loadId, nullptr))
             Modify(carrier, [&] { carrier.EliminaCarico(loadCase.GetID(), loadId); });
     });
-    Undo().Record(std::make_unique<LoadMembership>(loadCase, loadId), "Elimina carico");
+    Undo().Record(std::make_unique<LoadRemoval>(loadCase, std::unordered_set<int>{loadId}), "Elimina carico");
 }
 
 CGruppo* HostCases::GetGroup(const CString& name) {

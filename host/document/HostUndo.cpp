@@ -15,9 +15,10 @@ struct HostUndo::Step {
     std::vector<std::unique_ptr<Change>> changes;
     HostSelection::Snapshot before, after;
     std::size_t stateBefore = 0, stateAfter = 0;
-    bool direct = false;                   // opened by a direct write outside every bracket
-    std::vector<long> announced, told;     // codes sent before its first change and after it
-    std::array<int, kindCount> firstNew{}; // objects from that number on were made in this step
+    bool direct = false;                          // opened by a direct write outside every bracket
+    std::vector<long> announced, told;            // codes sent before its first change and after it
+    std::array<int, kindCount> firstNew{};        // objects from that number on were made in this step
+    std::unordered_set<const CElemento*> keptNew; // those of them whose state it keeps
 
     Reach GetReach() const {
         Reach farthest = Reach::Look;
@@ -160,6 +161,11 @@ void HostUndo::Open(const char* name) {
     m_open->before = m_owner.Selection().TakeSnapshot();
     m_open->stateBefore = State();
     m_kept.clear();
+    CountNew();
+}
+
+// What the document gets from now on is new.
+void HostUndo::CountNew() {
     for (const Kind kind : allKinds) {
         const int next = m_owner.Data().NextId(kind);
         m_open->firstNew[static_cast<std::size_t>(kind)] = next > 0 ? next : std::numeric_limits<int>::max();
@@ -180,6 +186,10 @@ void HostUndo::TakeRecords(const char* name) {
         CloseStep();
 }
 
+bool HostUndo::IsNew(Kind kind, CElemento& object) const {
+    return m_open && object.GetID() >= m_open->firstNew[static_cast<std::size_t>(kind)];
+}
+
 bool HostUndo::IsKept(const CElemento& object) const {
     return m_open && m_kept.contains(&object);
 }
@@ -188,8 +198,9 @@ void HostUndo::BeforeWrite(CElemento& elemento) {
     Kind kind;
     if (m_running || elemento.GetID() == 0 || IsKept(elemento) || !KindOf(elemento, kind))
         return;
-    if (m_open && elemento.GetID() >= m_open->firstNew[static_cast<std::size_t>(kind)])
-        return; // comes and goes with the step, as it is
+    // What was made in this step comes and goes with it as it is, unless a former state brings it back half way.
+    if (IsNew(kind, elemento) && !m_open->keptNew.contains(&elemento))
+        return;
     DocumentData& data = m_owner.Data();
     if (data.Find(kind, elemento.GetID()) != &elemento)
         return;
@@ -253,10 +264,16 @@ void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {
         TakeRecords(defaultName);
         Open(name);
     }
-    if (const CElemento* object = change->Keeps())
+    Kind kind;
+    if (CElemento* object = change->Keeps()) {
         m_kept.insert(object);
-    else
+        if (KindOf(*object, kind) && IsNew(kind, *object))
+            m_open->keptNew.insert(object);
+    } else {
         m_kept.clear(); // what was kept before this change may not fit after it
+        if (change->KeepsAll())
+            CountNew();
+    }
     m_open->changes.push_back(std::move(change));
     ++m_recorded;
     if (!IsInBracket())

@@ -14,6 +14,7 @@
 namespace host {
 
 class UndoOwner;
+enum class Kind;
 
 // What open windows must hear of besides the change itself; bits.
 enum News : unsigned {
@@ -38,7 +39,8 @@ class Change {
     virtual unsigned GetNews() const { return newsNone; }
     // The object whose state it keeps, if it keeps one's: what else is written into that object until another kind of
     // change comes is kept with it.
-    virtual const CElemento* Keeps() const { return nullptr; }
+    virtual CElemento* Keeps() const { return nullptr; }
+    virtual bool KeepsAll() const { return false; } // the states of all objects
     // False when it turned out, at the end of its step, that nothing is different.
     virtual bool HasEffect() const { return true; }
     // The step ends.
@@ -135,6 +137,8 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
 
     void BeforeWrite(CElemento& elemento) override;
     bool IsKept(const CElemento& object) const;
+    void CountNew();
+    bool IsNew(Kind kind, CElemento& object) const; // made in the open step
     void TakeRecords(const char* name);
     bool HasOpenChanges() const;
     bool RecordsDiffer() const;

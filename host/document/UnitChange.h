@@ -19,6 +19,7 @@ class UnitChange : public Change {
 
     void Undo() override { Swap(); }
     void Redo() override { Swap(); }
+    bool KeepsAll() const override { return true; }
     unsigned GetNews() const override { return newsLengths | newsUnits; }
 
   private:

@@ -16,10 +16,15 @@ CGrandezza& CNodoProgetto::GetArm(int index) {
     return m_reinforcement[at];
 }
 
+// A quantity that nobody has asked for yet is as one of value 0.
 bool CNodoProgetto::operator==(const CNodoProgetto& other) const {
-    return std::equal(m_reinforcement.begin(), m_reinforcement.end(), other.m_reinforcement.begin(),
-                      other.m_reinforcement.end(),
-                      [](const CGrandezza& a, const CGrandezza& b) { return a.GetValue() == b.GetValue(); });
+    const auto value = [](const CNodoProgetto& node, std::size_t i) {
+        return i < node.m_reinforcement.size() ? node.m_reinforcement[i].GetValue() : 0;
+    };
+    for (std::size_t i = 0; i < std::max(m_reinforcement.size(), other.m_reinforcement.size()); ++i)
+        if (value(*this, i) != value(other, i))
+            return false;
+    return true;
 }
 
 CElementoProgetto::CElementoProgetto() {

@@ -267,6 +267,18 @@ TEST_F(UndoTest, DirectWritesBelongToTheirBracket) {
         line.SetBeta(12);
         m_document.Remove({m_document.GetIndexAsta(0)});
     });
+    ExpectExact("a new line whose state was kept before its node came", [&] {
+        const UndoStep step(m_document.Undo(), "Prova");
+        CTrave* made = m_document.AddTrave(1, 18, nullptr);
+        CTrave* other = m_document.AddTrave(2, 18, nullptr);
+        m_document.Modify(*made, [&] { made->SetBeta(3); });
+        CFPoint place(1, 2, 79);
+        CNodo* node = m_document.AddNodo(place, nullptr, 1);
+        made->SetNodi(made->GetNodoIniziale(), node);
+        m_document.ChangeUnits(Lunghezza::Feet, Forza::Newton);
+        place.z = 80;
+        other->SetNodi(node, m_document.AddNodo(place, nullptr, 1));
+    });
     ExpectExact("an exception on the way", [&] {
         try {
             const UndoStep step(m_document.Undo(), "Prova");
