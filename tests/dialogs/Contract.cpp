@@ -112,7 +112,7 @@ void ContractFields::ClickEverything(DialogDriver& driver) const {
         if (control.kind == Control::Kind::ListBox)
             for (int row = 0; row < static_cast<int>(driver.Rows(control.id).size()); ++row)
                 driver.ClickRow(control.id, row);
-        if (control.kind == Control::Kind::Custom && std::string_view(control.className) == WC_TREEVIEW) {
+        if (control.kind == Control::Kind::Custom && std::string_view(control.className) == "SysTreeView32") {
             driver.SetFocus(control.id);
             driver.Press({VK_DOWN, VK_SPACE});
             DialogDriver::Wait(150); // what the key did is read later
