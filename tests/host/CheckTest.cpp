@@ -130,14 +130,16 @@ TEST_F(CheckTest, PrintedRowsAndExitStatus) {
 // A model has the same faults in whatever unit it is shown. Catches a length of the host's own that is counted in the
 // document's unit: nodes near each other, a line of next to no length, a wall that is hardly warped.
 TEST_F(CheckTest, TheUnitChangesNoRow) {
-    CheckBuilder model(Document());
-    for (const double apart : {5e-6, 2e-5, 5e-4}) // metres
-        model.Beam(1, model.Node(3 + apart, 0, 0)->GetID());
-    model.Beam(1, model.Node(4e-7, 0, 0)->GetID());
-    model.Beam(1, model.Node(4e-6, 0, 0)->GetID());
+    BuildCantilever(Document());
+    const auto node = [this](double x, double z) {
+        CFPoint place(x, 0, z);
+        return Document().AddNodo(place, nullptr, 0)->GetID();
+    };
+    for (const double x : {3 + 5e-6, 3 + 2e-5, 3 + 5e-4, 4e-7, 4e-6}) // metres
+        Document().AddTrave(1, node(x, 0), nullptr);
     int corners[4];
     for (int i = 0; i < 4; ++i)
-        corners[i] = model.Node(i == 1 || i == 2 ? 8 : 5, 0, i < 2 ? 0 : 2)->GetID();
+        corners[i] = node(i == 1 || i == 2 ? 8 : 5, i < 2 ? 0 : 2);
     Document().AddSetto({corners[0], corners[1], corners[2], corners[3]});
     const Rows metres = Printed(Saved("metri.asg")).second;
     EXPECT_GT(metres.size(), sound.size());
