@@ -84,7 +84,7 @@ void ChangeRows(Random& random, const std::string& path) {
     sqlite3* database = nullptr;
     sqlite3_open(path.c_str(), &database);
     for (int n = random.Below(3); n >= 0; --n) {
-        const Table& table = *random.Of(tables::all);
+        const Table& table = *random.Of(tables::current);
         std::vector<std::string> columns{"pos"};
         std::string rest = std::string(table.columns) + ", ";
         for (std::size_t end; (end = rest.find(", ")) != std::string::npos; rest.erase(0, end + 2))
