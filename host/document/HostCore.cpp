@@ -80,6 +80,7 @@ void HostCore::Replace(DocumentData data) {
     m_selection.Forget();
     m_undo.Clear(); // before the objects that its steps refer to
     m_data = std::move(data);
+    m_undo.RememberRecords();
     m_savedState = m_undo.State();
     m_flagged = false;
     NotifyChange(Reach::Results, newsNone, {});

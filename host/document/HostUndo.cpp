@@ -307,8 +307,7 @@ void HostUndo::Run(Step& step, bool forward) {
                 step.changes[i]->Undo();
         }
         m_owner.Selection().Restore(selection);
-        for (const auto& record : m_records)
-            record->Remember();
+        RememberRecords();
     }
     m_owner.NotifyChange(step.GetReach(), step.GetNews(), step.told);
 }
@@ -341,12 +340,15 @@ CString HostUndo::RedoName() const {
     return CanRedo() ? CString::FromUtf8(m_steps[m_position]->name) : CString();
 }
 
+void HostUndo::RememberRecords() {
+    for (const auto& record : m_records)
+        record->Remember();
+}
+
 void HostUndo::Clear() {
     m_brackets.clear();
     m_open.reset();
     m_steps.clear();
-    for (const auto& record : m_records)
-        record->Remember();
     m_position = 0;
     ++m_lastState;
 }

@@ -104,6 +104,8 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
     // copied and compared. That its type enters here is all that it takes.
     template <class T>
     void Watch(T& record);
+    // They are what they are: nobody changed them.
+    void RememberRecords();
     // The code of a change was sent by somebody: undo and redo of the open step send it again. A step of direct writes
     // ends with it and has that name; null leaves it.
     void CodeSent(long hint);
