@@ -32,10 +32,30 @@ struct HostUndo::Step {
             news |= change->GetNews();
         return news;
     }
+    void DropIdle();
     bool HasEffect() const {
         return std::any_of(changes.begin(), changes.end(), [](const auto& change) { return change->HasEffect(); });
     }
 };
+
+// A state that is as before counts all the same when a later one of its object, kept in between, leads back to it.
+void HostUndo::Step::DropIdle() {
+    if (std::all_of(changes.begin(), changes.end(), [](const auto& change) { return change->HasEffect(); }))
+        return;
+    std::unordered_set<const CElemento*> later;
+    bool allLater = false;
+    for (std::size_t i = changes.size(); i-- > 0;) {
+        const CElemento* object = changes[i]->Keeps();
+        if (!changes[i]->HasEffect() && !allLater && !later.contains(object)) {
+            changes[i].reset();
+            continue;
+        }
+        if (object)
+            later.insert(object);
+        allLater = allLater || changes[i]->KeepsAll();
+    }
+    std::erase(changes, nullptr);
+}
 
 namespace {
 
@@ -241,7 +261,7 @@ void HostUndo::CloseStep() {
     std::unique_ptr<Step> step = std::move(m_open);
     for (const auto& change : step->changes)
         change->Settle();
-    std::erase_if(step->changes, [](const auto& change) { return !change->HasEffect(); });
+    step->DropIdle();
     if (step->changes.empty())
         return;
     step->after = m_owner.Selection().TakeSnapshot();

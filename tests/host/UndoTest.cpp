@@ -279,6 +279,13 @@ TEST_F(UndoTest, DirectWritesBelongToTheirBracket) {
         place.z = 80;
         other->SetNodi(node, m_document.AddNodo(place, nullptr, 1));
     });
+    ExpectExact("written, and taken back by a command", [&] {
+        const UndoStep step(m_document.Undo(), "Prova");
+        CCasoCarico* made = m_document.CreaCasoCarico();
+        line.AddCarico(m_document.AddCarico(*made, std::make_unique<CCaricoUniforme>(CFPoint(0, 0, -1), 0)), 1);
+        m_document.EliminaCasoCarico(made->GetID());
+        m_document.GenNodi2Punti({0, 0, 90}, {1, 0, 90}, 2);
+    });
     ExpectExact("an exception on the way", [&] {
         try {
             const UndoStep step(m_document.Undo(), "Prova");
