@@ -13,6 +13,7 @@
 #include "dialogs/selection/DialogSpecchia.h"
 #include "platform/window/Application.h"
 #include "tests/dialogs/Contract.h"
+#include "tests/support/TestApp.h"
 
 #include <algorithm>
 #include <memory>
