@@ -8,6 +8,8 @@
 #include "host/files/Version.h"
 #include "platform/resource/Module.h"
 
+#include <QtGlobal>
+
 #include <cstdio>
 #include <cstdlib>
 
@@ -32,6 +34,14 @@ class DialogModule {
     HINSTANCE m_handle;
 };
 
+// What the toolkit remarks about displays and folders is no output of a command: only what ends it is.
+void KeepToolkitQuiet() {
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtFatalMsg)
+            std::fprintf(stderr, "quovar: %s\n", qPrintable(text));
+    });
+}
+
 int RunApplication(const Options& options, int argc, char** argv) {
     const DialogModule module;
     if (!module.IsStarted()) {
@@ -47,6 +57,8 @@ int RunApplication(const Options& options, int argc, char** argv) {
 
 int main(int argc, char** argv) {
     const Options options = ParseOptions(argc, argv);
+    if (options.action != Options::Action::Open)
+        KeepToolkitQuiet();
     switch (options.action) {
     case Options::Action::Help:
         std::fputs(usageText, stdout);
