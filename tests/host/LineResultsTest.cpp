@@ -55,7 +55,7 @@ TEST(LineResults, RecordsComeBackBitForBit) {
             ExpectSame((*results)[i], records[i]);
 }
 
-// A hundred thousand lines with twenty cases, their model included, fit in 300 MB.
+// The results of a hundred thousand lines with twenty cases fit in 300 MB.
 TEST(LineResults, AreSmall) {
     constexpr int lines = 20'000, cases = 5;
     const auto allocated = [] {
