@@ -156,8 +156,9 @@ void FrameSystem::RefuseLooseParts() const {
 // A soft structure that the factor does solve for and a mechanism that rounding gave a little stiffness have equally
 // small pivots. They differ in what the exact forces of a motion tell the factor: of a mechanism, nothing.
 void FrameSystem::Factor() {
-    constexpr double slow = 0.5;       // what remains of a motion after a round in which refinement is of use
-    constexpr double settled = 1e-6;   // a mechanism that is less of the first motion would not be seen
+    constexpr double slow = 0.5;     // what remains of a motion after a round in which refinement is of use
+    constexpr double settled = 1e-6; // a mechanism that is less of the first motion would not be seen
+    constexpr int mostRounds = 200;
     constexpr Long mechanism = 1e-22L; // energy: geometry rounded to the last bit has 1e-32, the last double 1e-16
     RefuseLooseParts();
     if (Unknowns() == 0)
@@ -169,7 +170,8 @@ void FrameSystem::Factor() {
     LongVector motion = SoftMotion();
     double remaining = 1;
     int slowRounds = 0;
-    for (Long energy = m_elements.Energy(motion); remaining > settled;) {
+    Long energy = m_elements.Energy(motion);
+    for (int round = 1; remaining > settled; ++round) {
         const LongVector rest = Unsolved(motion);
         const double rate = Size(Gathered(rest));
         remaining *= rate;
@@ -178,7 +180,7 @@ void FrameSystem::Factor() {
         motion = Normalised(rest);
         const Long former = std::exchange(energy, m_elements.Energy(motion));
         slowRounds = rate > slow ? slowRounds + 1 : 0;
-        if (slowRounds < 3 || energy < former / 2)
+        if (round < mostRounds && (slowRounds < 3 || energy < former / 2))
             continue;
         if (energy < mechanism)
             Refuse("La struttura è labile"_t, motion);
