@@ -11,28 +11,27 @@
 #include "tests/monkey/Consistency.h"
 #include "tests/monkey/EventLog.h"
 #include "tests/monkey/Files.h"
+#include "tests/monkey/Hand.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QEventLoop>
 #include <QFileDialog>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QScopedValueRollback>
 #include <QTest>
 #include <QThread>
-#include <QWheelEvent>
-#include <QWindow>
 
 #include <algorithm>
 #include <set>
 
 using namespace host;
 using eventlog::Event;
+using hand::Drag;
+using hand::Key;
+using hand::Leaves;
+using hand::NameOf;
 
 namespace {
 
@@ -42,46 +41,12 @@ int LoopLevel() {
     return QThread::currentThread()->loopLevel();
 }
 
-std::string NameOf(const QWidget& widget) {
-    const CWnd* window = platform::WindowOf(&widget);
-    const std::string number = window ? " " + std::to_string(window->GetDlgCtrlID()) : "";
-    return widget.metaObject()->className() + number + " of \"" + widget.window()->windowTitle().toStdString() + "\"";
-}
-
-// Texts, frames and gaps.
-bool IsInert(const QWidget& widget) {
-    const CWnd* window = platform::WindowOf(&widget);
-    return (window && window->GetDlgCtrlID() == -1) || widget.inherits("QLabel") || widget.inherits("QSizeGrip") ||
-           widget.inherits("QToolBarSeparator") || widget.inherits("QMenuBar");
-}
-
-// What takes the pointer: visible, and nothing over it.
-std::vector<QWidget*> Leaves(QWidget& window, bool inert) {
-    std::vector<QWidget*> leaves;
-    const auto isShown = [&window](const QWidget* each) {
-        return !each->isWindow() && each->isVisibleTo(&window) && each->window() == &window;
-    };
-    for (QWidget* each : window.findChildren<QWidget*>()) {
-        const QObjectList& inside = each->children();
-        if (isShown(each) && each->isEnabled() && (inert || !IsInert(*each)) &&
-            std::none_of(inside.begin(), inside.end(), [&](const QObject* child) {
-                return child->isWidgetType() && isShown(static_cast<const QWidget*>(child));
-            }))
-            leaves.push_back(each);
-    }
-    return leaves;
-}
-
 void CollectActions(const QList<QAction*>& actions, std::vector<QAction*>& leaves) {
     for (QAction* each : actions)
         if (each->menu())
             CollectActions(each->menu()->actions(), leaves);
         else if (each->isEnabled() && !each->isSeparator())
             leaves.push_back(each);
-}
-
-bool IsText(const QWidget& control) {
-    return control.inherits("QLineEdit") || (control.parent() && control.parent()->inherits("QPlainTextEdit"));
 }
 
 } // namespace
@@ -245,7 +210,7 @@ void Monkey::ActOnPopup(QWidget& popup) {
     static const int keys[] = {Qt::Key_Down, Qt::Key_Down,   Qt::Key_Up,     Qt::Key_Right,
                                Qt::Key_Left, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Tab};
     if (m_random.Chance(50))
-        Key(popup, m_random.Of(keys), Qt::NoModifier);
+        Key(popup, m_random.Of(keys));
     else
         Click(popup, PointIn(popup));
 }
@@ -264,7 +229,7 @@ void Monkey::ActOnView() {
     else if (choice < 8)
         Drag(widget, from, to, m_random.Of(buttons));
     else if (choice < 9)
-        Wheel(widget, from);
+        hand::Wheel(widget, from, m_random.Below(7) - 3);
     else
         Press(*widget.QWidget::window());
 }
@@ -279,7 +244,7 @@ void Monkey::ActIn(QWidget& window) {
     if (choice < 60 && !leaves.empty())
         return ActOn(*m_random.Of(leaves));
     if (choice < 75 && &window != &m_workspace->Window())
-        return Key(window, choice < 70 ? Qt::Key_Return : Qt::Key_Escape, Qt::NoModifier);
+        return Key(window, choice < 70 ? Qt::Key_Return : Qt::Key_Escape);
     if (choice < 96)
         return Press(window);
     if (choice < 98) {
@@ -296,7 +261,7 @@ void Monkey::FillIn(QWidget& window) {
     const QPointer<QWidget> alive(&window);
     std::vector<QPointer<QWidget>> edits;
     for (QWidget* each : Leaves(window, false))
-        if (IsText(*each))
+        if (hand::IsText(*each))
             edits.push_back(each);
     for (const QPointer<QWidget>& each : edits)
         if (alive && each && each->isVisible() && m_random.Chance(70)) {
@@ -305,20 +270,20 @@ void Monkey::FillIn(QWidget& window) {
                 Type(*alive);
         }
     if (alive)
-        Key(*alive, Qt::Key_Return, Qt::NoModifier);
+        Key(*alive, Qt::Key_Return);
 }
 
 void Monkey::ActOn(QWidget& control) {
     const QPointer<QWidget> alive(&control), window(control.window());
     const int choice = m_random.Below(20);
     if (choice == 0)
-        return Wheel(control, PointIn(control));
+        return hand::Wheel(control, PointIn(control), m_random.Below(7) - 3);
     if (choice == 1)
         return Drag(control, PointIn(control), PointIn(control), Qt::LeftButton);
     const bool right = choice == 2, twice = choice == 3;
     Click(control, m_random.Chance(70) ? control.rect().center() : PointIn(control),
           right ? Qt::RightButton : Qt::LeftButton, twice);
-    if (alive && window && IsText(*alive) && alive->isVisible() && m_random.Chance(80))
+    if (alive && window && hand::IsText(*alive) && alive->isVisible() && m_random.Chance(80))
         Type(*window);
 }
 
@@ -380,7 +345,7 @@ void Monkey::CloseTop() {
         return;
     if (++m_attempts > 100)
         eventlog::Fail("Escape does not end " + NameOf(*top));
-    Key(*top, Qt::Key_Escape, Qt::NoModifier);
+    Key(*top, Qt::Key_Escape);
 }
 
 int Monkey::Answer(const CString& text, LPCTSTR caption, UINT type) {
@@ -430,71 +395,10 @@ QPoint Monkey::PointIn(HostView& view) {
     return inside.contains(at.x, at.y) ? QPoint(at.x, at.y) : PointIn(view.Widget());
 }
 
-// False when another window holds the user.
-bool Monkey::Activate(QWidget& widget) {
-    const QPointer<QWidget> alive(&widget);
-    QWidget* top = widget.window();
-    if (!top->windowHandle() || !top->isVisible())
-        return false;
-    if (QApplication::activeWindow() != top && !QApplication::activePopupWidget() &&
-        (!QApplication::activeModalWidget() || QApplication::activeModalWidget() == top)) {
-        QApplication::setActiveWindow(top);
-        QApplication::processEvents();
-    }
-    return alive && alive->window()->windowHandle();
-}
-
-// To the window, which a modal dialog may hold shut.
 void Monkey::Click(QWidget& widget, QPoint at, Qt::MouseButton button, bool twice) {
     static const Qt::KeyboardModifiers modifiers[] = {Qt::NoModifier, Qt::NoModifier,    Qt::NoModifier,
                                                       Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
-    const Qt::KeyboardModifiers held = m_random.Of(modifiers);
-    Event("click " + std::to_string(at.x()) + "," + std::to_string(at.y()) + (twice ? " twice" : "") + " button " +
-          std::to_string(button) + " with " + std::to_string(held) + " on " + NameOf(widget));
-    if (!Activate(widget))
-        return;
-    const QPointer<QWindow> window(widget.window()->windowHandle());
-    const QPoint place = widget.mapTo(widget.window(), at);
-    QTest::mouseMove(window, place);
-    if (!window)
-        return;
-    twice ? QTest::mouseDClick(window, button, held, place) : QTest::mouseClick(window, button, held, place);
-}
-
-void Monkey::Drag(QWidget& widget, QPoint from, QPoint to, Qt::MouseButton button) {
-    Event("drag " + std::to_string(from.x()) + "," + std::to_string(from.y()) + " to " + std::to_string(to.x()) + "," +
-          std::to_string(to.y()) + " button " + std::to_string(button) + " on " + NameOf(widget));
-    if (!Activate(widget))
-        return;
-    const QPointer<QWindow> window(widget.window()->windowHandle());
-    const QPoint places[] = {widget.mapTo(widget.window(), from), widget.mapTo(widget.window(), (from + to) / 2),
-                             widget.mapTo(widget.window(), to)};
-    QTest::mousePress(window, button, Qt::NoModifier, places[0]);
-    for (const QPoint& place : places)
-        if (window)
-            QTest::mouseMove(window, place);
-    if (window)
-        QTest::mouseRelease(window, button, Qt::NoModifier, places[2]);
-}
-
-void Monkey::Wheel(QWidget& widget, QPoint at) {
-    const int notches = m_random.Below(7) - 3;
-    Event("wheel " + std::to_string(notches) + " on " + NameOf(widget));
-    if (!Activate(widget) || QApplication::activeModalWidget())
-        return;
-    QWheelEvent event(at, widget.mapToGlobal(at), {}, QPoint(0, notches * 120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void Monkey::Key(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    Event("key " + QKeySequence(key | static_cast<int>(modifiers)).toString().toStdString() + " to " + NameOf(widget));
-    if (!Activate(widget))
-        return;
-    const QPointer<QWindow> window(widget.window()->windowHandle());
-    for (const auto action : {QTest::Press, QTest::Release})
-        if (window)
-            QTest::sendKeyEvent(action, window, static_cast<Qt::Key>(key), text, modifiers);
+    hand::Click(widget, at, button, m_random.Of(modifiers), twice);
 }
 
 // No digits: a number that grows key by key asks for a million copies.
@@ -505,7 +409,7 @@ void Monkey::Press(QWidget& window) {
                                Qt::Key_Plus, Qt::Key_PageDown};
     const int choice = m_random.Below(10);
     if (m_random.Chance(3))
-        return Key(window, Qt::Key_Delete, Qt::NoModifier);
+        return Key(window, Qt::Key_Delete);
     if (choice < 7)
         return Key(window, m_random.Of(keys), m_random.Chance(15) ? Qt::ShiftModifier : Qt::NoModifier);
     const int letter = Qt::Key_A + m_random.Below(26);
@@ -516,22 +420,8 @@ void Monkey::Press(QWidget& window) {
         choice == 8 ? QString() : QString(QChar(letter)).toLower());
 }
 
-// Over what an edit holds.
 void Monkey::Type(QWidget& window) {
     static const char* const sound[] = {"0", "1", "2", "3", "4", "-1", "5", "0.5", "-2.5", "90", "12", "Neve 1"};
     static const char* const others[] = {"1e308", "-1e-30", "", "abc", "nan", "1,5", "perché", "360", "1e5000", "-0"};
-    const QPointer<QWidget> alive(&window);
-    Key(window, Qt::Key_Home, Qt::NoModifier);
-    if (alive)
-        Key(window, Qt::Key_End, Qt::ShiftModifier);
-    const QString text = QString::fromUtf8(m_random.Chance(80) ? m_random.Of(sound) : m_random.Of(others));
-    if (!alive || !Activate(window))
-        return;
-    Event("type \"" + text.toStdString() + "\"");
-    const QPointer<QWindow> native(window.windowHandle());
-    for (const QChar each : text.isEmpty() ? QStringLiteral("\x7f") : text)
-        if (native)
-            QTest::sendKeyEvent(QTest::Click, native,
-                                each == u'\x7f' ? Qt::Key_Delete : static_cast<Qt::Key>(each.toUpper().unicode()),
-                                each == u'\x7f' ? QString() : QString(each), Qt::NoModifier);
+    hand::Type(window, QString::fromUtf8(m_random.Chance(80) ? m_random.Of(sound) : m_random.Of(others)));
 }

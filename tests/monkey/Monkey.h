@@ -13,13 +13,9 @@
 #include <string>
 #include <vector>
 
-class QAction;
-class QDialog;
 class QFileDialog;
-class QMenu;
 class QWidget;
 namespace host {
-class HostDocument;
 class HostView;
 class Workspace;
 } // namespace host
@@ -61,12 +57,8 @@ class Monkey : public QObject {
 
     // ---- Doing
     void Click(QWidget& widget, QPoint at, Qt::MouseButton button = Qt::LeftButton, bool twice = false);
-    void Drag(QWidget& widget, QPoint from, QPoint to, Qt::MouseButton button);
-    void Wheel(QWidget& widget, QPoint at);
     void Press(QWidget& window);
     void Type(QWidget& window);
-    void Key(QWidget& window, int key, Qt::KeyboardModifiers modifiers, const QString& text = {});
-    bool Activate(QWidget& widget);
 
     std::vector<QWidget*> Windows();
     QPoint PointIn(QWidget& widget);
