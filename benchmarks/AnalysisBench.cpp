@@ -101,7 +101,7 @@ void Factor(benchmark::State& state) {
     const host::FrameModel model = host::ReadFrame(data);
     const host::FrameSystem system(model);
     for (auto _ : state) {
-        Eigen::SimplicialLDLT<Eigen::SparseMatrix<double>> bare(system.StiffnessMatrix());
+        Eigen::SimplicialLDLT<SparseMatrix> bare(system.StiffnessMatrix());
         if (bare.info() != Eigen::Success) {
             std::fprintf(stderr, "bench: the stiffness was not factored\n");
             std::exit(1);

@@ -27,12 +27,15 @@ FrameSystem::FrameSystem(const FrameModel& model) : m_model(model), m_elements(m
 
 void FrameSystem::Number() {
     m_unknowns.assign(6 * m_model.nodes.size(), -1);
-    int next = 0;
-    for (std::size_t node = 0; node < m_model.nodes.size(); ++node)
-        for (int i = 0; i < 6; ++i)
-            if (m_model.active[node] && !(m_model.fixed[node] >> i & 1))
-                Unknown(static_cast<int>(node), i) = next++;
-    m_stiffness.resize(next, next);
+    for (std::size_t node = 0; node < m_model.nodes.size(); ++node) {
+        for (int i = 0; i < 6; ++i) {
+            if (m_model.active[node] && !(m_model.fixed[node] >> i & 1)) {
+                Unknown(static_cast<int>(node), i) = static_cast<int>(m_nodesOfUnknowns.size());
+                m_nodesOfUnknowns.push_back(static_cast<int>(node));
+            }
+        }
+    }
+    m_stiffness.resize(std::ssize(m_nodesOfUnknowns), std::ssize(m_nodesOfUnknowns));
 }
 
 void FrameSystem::AddBlock(int rowNode, int row, int columnNode, int column, const Eigen::Matrix3d& block) {
@@ -191,12 +194,12 @@ void FrameSystem::Factor() {
 }
 
 void FrameSystem::FactorStiffness() {
-    if (m_solver.Factor(m_stiffness))
+    if (m_solver.Factor(m_stiffness, m_nodesOfUnknowns))
         return;
     for (double more = 1e-15; more < 1e-3; more *= 10) {
         for (Eigen::Index i = 0; i < m_diagonal.size(); ++i)
             m_stiffness.coeffRef(i, i) = (1 + more) * m_diagonal(i);
-        if (m_solver.Factor(m_stiffness))
+        if (m_solver.Factor(m_stiffness, m_nodesOfUnknowns))
             return;
     }
     throw Refusal("Le equazioni della struttura non si risolvono: le rigidezze non sono numeri validi.");

@@ -23,11 +23,9 @@ class FrameSystem {
     Eigen::VectorXd SpringForces(const Eigen::VectorXd& displacements) const;
 
     int Unknowns() const { return static_cast<int>(m_stiffness.rows()); }
-    const Eigen::SparseMatrix<double>& StiffnessMatrix() const { return m_stiffness; } // lower half
+    const SparseMatrix& StiffnessMatrix() const { return m_stiffness; } // lower half
 
   private:
-    using Sparse = Eigen::SparseMatrix<double>;
-
     // A turn of one node that no member takes part in. It gets a stiffness, and must not be loaded.
     struct IdleTurn {
         int node;
@@ -59,11 +57,12 @@ class FrameSystem {
 
     const FrameModel& m_model;
     std::vector<int> m_unknowns; // six a node; -1 for components that are not solved for
+    std::vector<int> m_nodesOfUnknowns;
     std::vector<Eigen::Triplet<double>> m_entries;
     std::vector<Eigen::Matrix3d> m_turning; // by node: what holds its rotations
     std::vector<IdleTurn> m_idleTurns;
     ElementForces m_elements;   // with what holds idle turns
-    Sparse m_stiffness;         // lower half
+    SparseMatrix m_stiffness;   // lower half
     Eigen::VectorXd m_diagonal; // of the stiffness
     SparseCholesky m_solver;
 };

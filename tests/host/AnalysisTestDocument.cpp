@@ -1,4 +1,5 @@
 // Results in the life of a document: when they are there, when they go, and what is refused.
+#include "host/analysis/SparseCholesky.h"
 #include "host/app/Options.h"
 #include "host/app/Results.h"
 #include "host/commands/AnalysisCommand.h"
@@ -181,6 +182,14 @@ TEST(AnalysisRefusal, WhatIsMissingIsNamed) {
 
 // What the digits of the solution do not reach is said: a soft piece that is no mechanism, results that are not exact.
 // Catches a false verdict on a sound structure, and wrong numbers that look like others.
+TEST(AnalysisRefusal, AFactorTooLargeIsNotBegun) {
+    SparseMatrix stiffness(3, 3);
+    stiffness.setIdentity();
+    const int nodes[] = {4, 4, 7};
+    EXPECT_TRUE(SparseCholesky(1000).Factor(stiffness, nodes));
+    EXPECT_THROW(SparseCholesky(8).Factor(stiffness, nodes), Refusal);
+}
+
 TEST(AnalysisRefusal, LostDigitsAreTold) {
     {
         Model m; // 8 m with a piece of a hundredth of a millimetre
