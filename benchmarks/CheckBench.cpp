@@ -213,7 +213,7 @@ void PickAll(benchmark::State& state) {
     CDialogDocument& dialog = opened.Dialog();
     CListBox& list = opened.List();
     dialog.Update(nullptr, MODIFICA_CHECK, nullptr);
-    list.SelItemRange(TRUE, 0, list.GetCount() - 1);
+    list.SetSel(-1, TRUE);
     for (auto _ : state) {
         dialog.SendMessage(WM_COMMAND, MAKEWPARAM(CDialogCheck::IDC_LIST_ERRORS, LBN_SELCHANGE),
                            reinterpret_cast<LPARAM>(list.GetSafeHwnd()));

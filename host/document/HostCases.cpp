@@ -177,17 +177,6 @@ CCarico* HostCases::AddCarico(CCasoCarico& loadCase, std::unique_ptr<CCarico> lo
     return added;
 }
 
-void HostCases::EliminaCarico(CCasoCarico& loadCase, int loadId) {
-    if (!loadCase.GetCarico(loadId, nullptr))
-        return;
-    UndoStep step(Undo(), "Elimina carico");
-    ForEachCarrier(Data(), [&](CElementoCarico& carrier) {
-        if (carrier.IsCarico(loadCase.GetID(), loadId, nullptr))
-            Modify(carrier, [&] { carrier.EliminaCarico(loadCase.GetID(), loadId); });
-    });
-    Undo().Record(std::make_unique<LoadRemoval>(loadCase, std::unordered_set<int>{loadId}), "Elimina carico");
-}
-
 CGruppo* HostCases::GetGroup(const CString& name) {
     return static_cast<CGruppo*>(FindName(Data(), Kind::Group, name));
 }

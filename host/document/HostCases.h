@@ -40,8 +40,6 @@ class HostCases : public HostGeneration {
 
     // Gives the load to the case; elements are then made to refer to it with Modify. Null for a null load.
     CCarico* AddCarico(CCasoCarico& loadCase, std::unique_ptr<CCarico> load);
-    // Takes the load from its case and from every element.
-    void EliminaCarico(CCasoCarico& loadCase, int loadId);
 
     // A group of what is selected.
     CGruppo* CreateGroup(const CString& name);

@@ -240,11 +240,11 @@ class Builder {
 DocumentData ImportFrame3ddText(std::string_view text, std::vector<CString>* notes) {
     const Frame3ddModel model = ParseFrame3dd(text);
     if (notes && model.someRadius)
-        notes->push_back("I raggi dei nodi non sono considerati.");
+        notes->emplace_back("I raggi dei nodi non sono considerati.");
     if (notes && model.shear && model.someRigidInShear)
-        notes->push_back("Gli elementi con area a taglio nulla sono rigidi a taglio.");
+        notes->emplace_back("Gli elementi con area a taglio nulla sono rigidi a taglio.");
     if (notes && model.geometric)
-        notes->push_back("La rigidezza geometrica non è considerata."_t);
+        notes->emplace_back("La rigidezza geometrica non è considerata."_t);
     DocumentData data = Builder(model).Build();
     UseOfferedUnits(data);
     return data;

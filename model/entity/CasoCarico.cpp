@@ -76,7 +76,7 @@ std::unique_ptr<CCarico> CCasoCarico::DetachLoad(int id) {
         return nullptr;
     std::unique_ptr<CCarico> load = std::move(m_loads[static_cast<std::size_t>(place)]);
     m_loads.erase(m_loads.begin() + place);
-    m_places.Rebuild(m_loads, [](const auto& c) { return c->GetID(); });
+    m_places.Remove(id, place, m_loads, [](const auto& c) { return c->GetID(); });
     return load;
 }
 

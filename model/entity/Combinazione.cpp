@@ -48,7 +48,7 @@ int CCombinazione::EliminaCDC(int id) {
     if (place < 0)
         return 0;
     m_cases.erase(m_cases.begin() + place);
-    m_positions.Rebuild(m_cases, [](const Case& c) { return c.id; });
+    m_positions.Remove(id, place, m_cases, [](const Case& c) { return c.id; });
     return 1;
 }
 

@@ -13,13 +13,12 @@ class PositionIndex {
     void Set(int id, int position) { m_positions[id] = position; }
     void Clear() { m_positions.clear(); }
 
-    // Anew from an array whose elements give their identifier; of equal ones the first counts.
+    // An element left the array: those behind where it stood have moved up. As fast as that walk, nothing at the end.
     template <typename Array, typename GetId>
-    void Rebuild(const Array& array, GetId id) {
-        m_positions.clear();
-        int position = 0;
-        for (const auto& element : array)
-            m_positions.emplace(id(element), position++);
+    void Remove(int id, int position, const Array& array, GetId getId) {
+        m_positions.erase(id);
+        for (auto at = array.begin() + position; at != array.end(); ++at)
+            Set(getId(*at), position++);
     }
 
   private:

@@ -120,6 +120,9 @@ TEST(LoadTest, CopyingACaseCopiesItsLoads) {
 
     const std::unique_ptr<CCarico> taken = source.DetachLoad(number);
     EXPECT_EQ(taken.get(), load);
+    const int left = source.GetIndexCarico(0)->GetID();
+    EXPECT_EQ(source.GetCarico(left, &index), source.GetIndexCarico(0));
+    EXPECT_EQ(index, 0);                                    // moved up
     EXPECT_NE(source.AddCarico(new CCaricoNodale), number); // numbers are not given twice
     EXPECT_EQ(source.GetSizeCarichi(), 2);
 }
