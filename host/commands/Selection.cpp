@@ -1,4 +1,5 @@
 // The commands that copy and transform what is selected.
+#include "dialogs/selection/DialogBeta.h"
 #include "dialogs/selection/DialogCopiaRuota.h"
 #include "dialogs/selection/DialogCopiaTrasla.h"
 #include "dialogs/selection/DialogMuovi.h"
@@ -14,8 +15,10 @@ template <class Dialog>
 constexpr Command row = {
     .menu = CommandMenu::Select, .dialog = Dialog::IDD, .needs = Needs::Selection, .open = OpenTool<Dialog>};
 
-const Command rows[] = {row<CDialogCopiaTrasla>, row<CDialogCopiaRuota>, row<CDialogMuovi>, row<CDialogRuota>,
-                        row<CDialogSpecchia>};
+const Command rows[] = {
+    row<CDialogCopiaTrasla>, row<CDialogCopiaRuota>,
+    row<CDialogMuovi>,       row<CDialogRuota>,
+    row<CDialogSpecchia>,    {.menu = CommandMenu::Select, .dialog = CDialogBeta::IDD, .open = OpenTool<CDialogBeta>}};
 
 } // namespace
 
