@@ -13,8 +13,8 @@ namespace host {
 const std::vector<const Command*>& Commands() {
     static const std::vector<const Command*> all = [] {
         std::vector<const Command*> rows;
-        for (const auto subject :
-             {GenerationCommands(), SelectionCommands(), LoadCommands(), ResultCommands(), CheckCommands()})
+        for (const auto subject : {GenerationCommands(), SelectionCommands(), LoadCommands(), ResultCommands(),
+                                   CheckCommands(), ViewCommands()})
             for (const Command& each : subject)
                 rows.push_back(&each);
         return rows;

@@ -14,6 +14,7 @@ std::span<const Command> SelectionCommands();
 std::span<const Command> LoadCommands();
 std::span<const Command> ResultCommands();
 std::span<const Command> CheckCommands();
+std::span<const Command> ViewCommands();
 
 // Opens a tool dialog; for Command::open.
 template <class Dialog>

@@ -4,6 +4,7 @@
 #include "dialogs/loads/DialogCreaGruppo.h"
 #include "dialogs/loads/DialogInsertNome.h"
 #include "dialogs/loads/DialogListaCasiCarico.h"
+#include "dialogs/views/DialogUnita.h"
 #include "tests/dialogs/Contract.h"
 #include "tests/dialogs/LoadModel.h"
 #include "tests/dialogs/ModalTest.h"
@@ -79,6 +80,11 @@ std::string Contents(RecordingDoc& doc) {
 }
 
 template <class T>
+std::unique_ptr<CDialog> Make(RecordingHost& host) {
+    return std::make_unique<T>(&host.frame);
+}
+
+template <class T>
 std::unique_ptr<CDialog> Proposing(RecordingHost& host) {
     auto dialog = std::make_unique<T>(&host.frame);
     dialog->m_strNome = "Proposta";
@@ -110,6 +116,11 @@ std::unique_ptr<CDialog> MakeModificaCombinazione(RecordingHost& host) {
 std::unique_ptr<CDialog> MakeListaCasiCarico(RecordingHost& host) {
     AddCases(host);
     return std::make_unique<CDialogListaCasiCarico>(&host.doc, &host.frame);
+}
+
+std::string ChosenUnits(const CDialog& dialog) {
+    const auto& units = static_cast<const CDialogUnita&>(dialog);
+    return Exact(static_cast<int>(units.GetLunghezza())) + " " + Exact(static_cast<int>(units.GetForza()));
 }
 
 const std::vector<ModalDialog> modalDialogs = {
@@ -162,6 +173,13 @@ const std::vector<ModalDialog> modalDialogs = {
      .make = &MakeListaCasiCarico,
      .commands = {CDialogListaCasiCarico::IDC_PERMUTA},
      .okDisabled = true}, // without a selected case
+    {.name = "CDialogUnita",
+     .templateId = CDialogUnita::IDD,
+     .caption = "Unita di Misura",
+     .fields = "[Kg] [cm] [Secondi]",
+     .make = &Make<CDialogUnita>,
+     .values = &ChosenUnits,
+     .typed = {{{"[m]", "[KNewton]"}, {}, "2 3"}, {{"[inch]", "[KPound]"}, {}, "3 5"}, {{"[mm]"}, {}, "0 5"}}},
 };
 
 class EveryModalDialog : public ModalTest, public testing::WithParamInterface<ModalDialog> {
