@@ -29,6 +29,7 @@ class Creation : public Change {
     void Undo() override;
     void Redo() override;
     Reach GetReach() const override;
+    bool HasEffect() const override { return !m_runs.empty(); }
 
   private:
     struct Run {

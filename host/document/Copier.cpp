@@ -2,6 +2,7 @@
 
 #include "dialogs/frame/host/MainFrame.h"
 #include "host/document/HostDocument.h"
+#include "host/document/ModelWalks.h"
 #include "model/element/Asta.h"
 #include "model/element/Linea.h"
 #include "model/element/Poligono.h"
@@ -10,7 +11,6 @@
 #include "model/entity/CasoCarico.h"
 
 #include <algorithm>
-#include <climits>
 #include <cmath>
 #include <numbers>
 
@@ -25,13 +25,6 @@ constexpr std::size_t mostCopies = 5'000'000;
 double Clean(double degrees) {
     const double whole = std::round(degrees);
     return std::fabs(degrees - whole) < 1e-9 ? whole + 0.0 : degrees;
-}
-
-bool HasNode(CElemento& element, CNodo* node) {
-    for (int i = 0; i < element.GetSize(); ++i)
-        if (element.GetIndexNodo(i) == node)
-            return true;
-    return false;
 }
 
 void LeaveGroups(CElementoGruppo& copy) {
@@ -95,8 +88,7 @@ bool Copier::Accepts(std::size_t copies) const {
         return false;
     const std::size_t most = copies * (each + m_originals.size()); // with the joins
     for (const Kind kind : allKinds) {
-        const int next = m_document.Data().NextId(kind);
-        if (IsSelectableKind(kind) && (next == 0 || most > static_cast<std::size_t>(INT_MAX - next)))
+        if (IsSelectableKind(kind) && !m_document.Data().HasNumbers(kind, most))
             return false;
     }
     return true;
@@ -163,23 +155,11 @@ CNodo* Copier::CopyNode(CNodo& original, const CFPoint& place, const Motion& mot
     return m_document.AddNew(std::move(copy), "Copia");
 }
 
-// Whether an element of the kind has these nodes.
-bool Copier::Exists(Kind kind, const std::vector<CNodo*>& nodes) const {
-    CNodo* fewer = nodes[0]->GetSizeElementi() <= nodes[1]->GetSizeElementi() ? nodes[0] : nodes[1];
-    for (int i = 0; i < fewer->GetSizeElementi(); ++i) {
-        CElemento* element = fewer->GetIndexElemento(i);
-        if (element->GetTipoElemento() == CodeOf(kind) && element->GetSize() == static_cast<int>(nodes.size()) &&
-            std::all_of(nodes.begin(), nodes.end(), [element](CNodo* node) { return HasNode(*element, node); }))
-            return true;
-    }
-    return false;
-}
-
 void Copier::CopyItem(const Item& item, const Motion& motion) {
     m_corners.clear();
     for (const std::size_t place : item.nodes)
         m_corners.push_back(m_next[place]);
-    if (!Exists(item.kind, m_corners))
+    if (!HasElement(item.kind, m_corners))
         MakeCopy(item, motion);
 }
 
@@ -216,7 +196,7 @@ void Copier::Join(int join) {
     const Kind kind = join == UNIONE_TRAVI ? Kind::Beam : Kind::Truss;
     for (std::size_t i = 0; i < m_former.size(); ++i) {
         m_corners = {m_former[i], m_next[i]};
-        if (m_corners[0] == m_corners[1] || Exists(kind, m_corners))
+        if (m_corners[0] == m_corners[1] || HasElement(kind, m_corners))
             continue;
         if (kind == Kind::Beam)
             m_document.AddTrave(m_corners[0]->GetID(), m_corners[1]->GetID(), nullptr);

@@ -48,7 +48,6 @@ class Copier {
     CNodo* CopyNode(CNodo& original, const CFPoint& place, const Motion& motion);
     void CopyItem(const Item& item, const Motion& motion);
     void MakeCopy(const Item& item, const Motion& motion);
-    bool Exists(Kind kind, const std::vector<CNodo*>& nodes) const;
     void Join(int join);
     void MirrorLoads(CElementoCarico& copy, int axis);
 

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace host {
 
@@ -128,6 +129,11 @@ int DocumentData::NextId(Kind kind) const {
 int DocumentData::NextId(CElemento& object) const {
     Kind kind;
     return KindOf(object, kind) ? NextId(kind) : 0;
+}
+
+bool DocumentData::HasNumbers(Kind kind, std::size_t count) const {
+    const int next = NextId(kind);
+    return next > 0 && count <= static_cast<std::size_t>(std::numeric_limits<int>::max() - next) + 1;
 }
 
 void DocumentData::Enter(Kind kind, CElemento& object) {

@@ -104,6 +104,8 @@ class DocumentData : public ModelLookup {
     // Above all numbers in use; load cases and combinations share theirs. 0 when the numbers are used up.
     int NextId(Kind kind) const;
     int NextId(CElemento& object) const; // of the object's kind
+    // Whether there are numbers for so many more objects of the kind.
+    bool HasNumbers(Kind kind, std::size_t count) const;
 
     // Takes the object, as the last of its list, under the number that it has. The nodes of an element must be in, and
     // the element in their lists. False, and not taken, for null, a number that is taken or not positive, or an object

@@ -20,8 +20,26 @@ Places Checked(Places places, double tolerance) {
     return places;
 }
 
-double Radians(double degrees) {
-    return degrees * std::numbers::pi / 180;
+// The sine and cosine of an angle in degrees, exact at quarter turns: a coordinate that is 0 there is no rounding.
+struct Turn {
+    double sine, cosine;
+};
+
+Turn TurnBy(double degrees) {
+    const double turn = std::remainder(degrees, 360);
+    const double quarters = std::nearbyint(turn / 90);
+    const double rest = (turn - 90 * quarters) * std::numbers::pi / 180;
+    const double sine = std::sin(rest), cosine = std::cos(rest);
+    switch (static_cast<int>(quarters) & 3) {
+    case 0:
+        return {sine, cosine};
+    case 1:
+        return {cosine, -sine};
+    case 2:
+        return {-sine, -cosine};
+    default:
+        return {-cosine, sine};
+    }
 }
 
 struct Axes {
@@ -35,34 +53,10 @@ bool AxesOf(int plane, double tilt, Axes& axes) {
     const CFPoint x(1, 0, 0), y(0, 1, 0), z(0, 0, 1);
     axes.u = plane == 3 ? y : x;
     const CFPoint v = plane == 1 ? y : z;
-    const CFPoint normal = Cross(axes.u, v);
-    const double angle = Radians(tilt);
-    axes.v = v * std::cos(angle) + normal * std::sin(angle);
+    const Turn turn = TurnBy(tilt);
+    axes.v = v * turn.cosine + Cross(axes.u, v) * turn.sine;
     axes.normal = Cross(axes.u, axes.v);
     return true;
-}
-
-CFPoint OnCircle(const CFPoint& centre, const Axes& axes, double radius, double angle) {
-    return centre + axes.u * (radius * std::cos(angle)) + axes.v * (radius * std::sin(angle));
-}
-
-// `count` places from one angle over a span, in radians; the last is the end of the span unless the circle closes.
-Places Around(const CFPoint& centre, const Axes& axes, double radius, double from, double span, int count,
-              double tolerance) {
-    const bool closed = std::fabs(span) >= 2 * std::numbers::pi - 1e-12;
-    const double step = count == 1 ? 0 : span / (closed ? count : count - 1);
-    Places places;
-    places.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i)
-        places.push_back(OnCircle(centre, axes, radius, from + step * i));
-    return Checked(std::move(places), tolerance);
-}
-
-// The angle as a turn in the given direction, between 0 and a full one.
-double Turn(double angle) {
-    const double full = 2 * std::numbers::pi;
-    const double turn = std::fmod(angle, full);
-    return turn < 0 ? turn + full : turn;
 }
 
 } // namespace
@@ -94,51 +88,57 @@ Places PlacesOnSegment(const CFPoint& from, const CFPoint& to, int count, double
     return Checked(std::move(places), tolerance);
 }
 
-Places PlacesOnArc(int plane, const CFPoint& from, const CFPoint& through, const CFPoint& to, int count,
-                   double tolerance) {
-    Axes axes;
-    if (!IsCount(count) || !from.IsFinite() || !through.IsFinite() || !to.IsFinite() || !AxesOf(plane, 0, axes))
+Places PlacesOnArc(const CFPoint& from, const CFPoint& through, const CFPoint& to, int count, double tolerance) {
+    if (!IsCount(count) || !from.IsFinite() || !through.IsFinite() || !to.IsFinite())
         return {};
-    if (std::fabs(Dot(through - from, axes.normal)) > tolerance || std::fabs(Dot(to - from, axes.normal)) > tolerance)
+    const CFPoint a = through - from, b = to - through, chord = to - from;
+    const double lengthA = a.GetMod(), lengthB = b.GetMod(), lengthChord = chord.GetMod();
+    const double nearest = std::min({lengthA, lengthB, lengthChord});
+    const double farthest = std::max({lengthA, lengthB, lengthChord});
+    const CFPoint normal = Cross(a, b);
+    const double area = normal.GetMod(); // twice the triangle's
+    if (!(nearest > tolerance) || !(area > 1e-9 * farthest * farthest))
         return {};
-    // The centre of the circle through three points, from the first one.
-    const double bx = Dot(through - from, axes.u), by = Dot(through - from, axes.v);
-    const double cx = Dot(to - from, axes.u), cy = Dot(to - from, axes.v);
-    const double twice = 2 * (bx * cy - by * cx);
-    const double b = bx * bx + by * by, c = cx * cx + cy * cy;
-    const double longest = std::max({b, c, (bx - cx) * (bx - cx) + (by - cy) * (by - cy)});
-    // Three points in line, or two in one place.
-    if (!(std::fabs(twice) > 1e-9 * longest) || std::sqrt(std::min(b, c)) <= tolerance)
-        return {};
-    const double ux = (cy * b - by * c) / twice, uy = (bx * c - cx * b) / twice;
-    const CFPoint centre = from + axes.u * ux + axes.v * uy;
-    const double radius = std::hypot(ux, uy);
-    const double first = std::atan2(-uy, -ux);
-    const double middle = Turn(std::atan2(by - uy, bx - ux) - first);
-    const double last = Turn(std::atan2(cy - uy, cx - ux) - first);
-    const double span = middle < last ? last : last - 2 * std::numbers::pi;
-    Places places = Around(centre, axes, radius, first, span, count, tolerance);
-    if (!places.empty()) {
-        places.front() = from;
-        if (count > 1)
-            places.back() = to;
+    // An arc turns by twice the angle that its chords include, and leaves its start beside a chord by the angle that
+    // the chord is seen under from the rest of the circle. Measured from the start instead of from the centre, which is
+    // far away when the arc is flat.
+    const double half = std::atan2(area, Dot(a, b));
+    const double first = std::atan2(area, Dot(chord, b)); // half of what it turns up to the second point
+    const double diameter = lengthA * lengthB * lengthChord / area;
+    const CFPoint along = a * (1 / lengthA);
+    const CFPoint aside = Cross(normal * (1 / area), along);
+    Places places;
+    places.reserve(static_cast<std::size_t>(count) + 2);
+    places.push_back(from);
+    for (int i = 1; i <= count; ++i) {
+        const double turn = half * i / (count + 1.0);
+        const CFPoint direction = along * std::cos(turn - first) + aside * std::sin(turn - first);
+        places.push_back(from + direction * (diameter * std::sin(turn)));
     }
-    return places;
+    places.push_back(to);
+    return Checked(std::move(places), tolerance);
 }
 
 Places PlacesOnArc(int plane, double tilt, const CFPoint& centre, const CFPoint& start, double angle, int count,
                    double tolerance) {
     Axes axes;
-    if (!IsCount(count) || !centre.IsFinite() || !start.IsFinite() || !std::isfinite(angle) || std::fabs(angle) > 360 ||
-        angle == 0 || !AxesOf(plane, tilt, axes))
+    if (!IsCount(count) || !centre.IsFinite() || !start.IsFinite() || !(std::fabs(angle) > 0) ||
+        std::fabs(angle) > 360 || !AxesOf(plane, tilt, axes))
         return {};
-    const CFPoint radius = start - centre;
-    if (!(radius.GetMod() > tolerance) || std::fabs(Dot(radius, axes.normal)) > tolerance)
+    const CFPoint foot = centre + axes.normal * Dot(start - centre, axes.normal); // on the axis
+    const CFPoint radius = start - foot, across = Cross(axes.normal, radius);
+    if (!(radius.GetMod() > tolerance))
         return {};
-    const double from = std::atan2(Dot(radius, axes.v), Dot(radius, axes.u));
-    Places places = Around(centre, axes, radius.GetMod(), from, Radians(angle), count, tolerance);
+    const int last = std::fabs(angle) == 360 ? count - 1 : count; // a full turn ends where it began
+    Places places = {start};
+    places.reserve(static_cast<std::size_t>(last) + 1);
+    for (int i = 1; i <= last; ++i) {
+        const Turn turn = TurnBy(angle * i / count);
+        places.push_back(foot + radius * turn.cosine + across * turn.sine);
+    }
+    places = Checked(std::move(places), tolerance);
     if (!places.empty())
-        places.front() = start;
+        places.erase(places.begin());
     return places;
 }
 
@@ -147,40 +147,13 @@ Places PlacesOnCircle(int plane, double tilt, const CFPoint& centre, double radi
     if (!IsCount(count) || !centre.IsFinite() || !std::isfinite(radius) || !(radius > tolerance) ||
         !AxesOf(plane, tilt, axes))
         return {};
-    return Around(centre, axes, radius, 0, 2 * std::numbers::pi, count, tolerance);
-}
-
-Places PlacesInQuadrilateral(const CFPoint (&given)[4], int first, int second, double tolerance) {
-    if (first < 1 || second < 1 || first > mostGeneratedNodes || second > mostGeneratedNodes ||
-        (first + 1LL) * (second + 1LL) > mostGeneratedNodes)
-        return {};
-    if (!std::all_of(std::begin(given), std::end(given), [](const CFPoint& corner) { return corner.IsFinite(); }))
-        return {};
-    // Two neighbours may be one: a triangle. Its point is a single place, to the last bit.
-    CFPoint corners[4] = {given[0], given[1], given[2], given[3]};
-    int equal = 0;
-    for (int i = 0; i < 4; ++i) {
-        if (CFPoint::GetMod(given[i], given[(i + 2) % 4]) <= tolerance)
-            return {};
-        if (CFPoint::GetMod(given[i], given[(i + 1) % 4]) > tolerance)
-            continue;
-        corners[(i + 1) % 4] = corners[i];
-        ++equal;
-    }
-    if (equal > 1)
-        return {};
     Places places;
-    places.reserve(static_cast<std::size_t>((first + 1) * (second + 1)));
-    for (int j = 0; j <= second; ++j) {
-        const double t = static_cast<double>(j) / second;
-        const CFPoint left = corners[0] * (1 - t) + corners[3] * t;
-        const CFPoint right = corners[1] * (1 - t) + corners[2] * t;
-        for (int i = 0; i <= first; ++i) {
-            const double s = static_cast<double>(i) / first;
-            places.push_back(left * (1 - s) + right * s);
-        }
+    places.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        const Turn turn = TurnBy(360.0 * i / count);
+        places.push_back(centre + axes.u * (radius * turn.cosine) + axes.v * (radius * turn.sine));
     }
-    return places;
+    return Checked(std::move(places), tolerance);
 }
 
 } // namespace host

@@ -17,16 +17,14 @@ using Places = std::vector<CFPoint>;
 Places PlacesOnLine(const CFPoint& start, const CFPoint& towards, double spacing, int count, double tolerance);
 // Both ends included; one place alone is the first end.
 Places PlacesOnSegment(const CFPoint& from, const CFPoint& to, int count, double tolerance);
-// `plane` is 1 for X-Y, 2 for X-Z, 3 for Y-Z; the three points have the same distance from it.
-Places PlacesOnArc(int plane, const CFPoint& from, const CFPoint& through, const CFPoint& to, int count,
-                   double tolerance);
-// Angles in degrees. The plane is turned by `tilt` about its first axis; a positive `angle` turns the plane's first
-// axis towards its second. 360 degrees are a full circle, whose end is not given twice.
+// Both ends and `count` places between them, equally spaced on the arc. Empty also for points in one line.
+Places PlacesOnArc(const CFPoint& from, const CFPoint& through, const CFPoint& to, int count, double tolerance);
+// `plane` is 1 for X-Y, 2 for X-Z, 3 for Y-Z, turned by `tilt` about its first axis. Angles are in degrees; a positive
+// `angle` turns the plane's first axis towards its second. The start turns about the axis through the centre, and is
+// not among the places; the last one is at the end of the angle, but for a full circle, which ends at the start.
 Places PlacesOnArc(int plane, double tilt, const CFPoint& centre, const CFPoint& start, double angle, int count,
                    double tolerance);
+// The first lies on the plane's first axis.
 Places PlacesOnCircle(int plane, double tilt, const CFPoint& centre, double radius, int count, double tolerance);
-// (first + 1) * (second + 1) places, the first side running fastest, between the corners in their order around. Where
-// two neighbouring corners are one, all places of that side are.
-Places PlacesInQuadrilateral(const CFPoint (&corners)[4], int first, int second, double tolerance);
 
 } // namespace host

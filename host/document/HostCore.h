@@ -52,6 +52,11 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     // The operation is over: what it did is complete, the rest is left undone.
     void Refuse(const Refusal& refusal) const;
 
+    // Who asks the user, while a wait is shown, whether to break the operation off: asked often, until it answers true.
+    // Without one nothing is broken off.
+    void SetBreakAsker(std::function<bool()> asker) { m_breakAsker = std::move(asker); }
+    bool IsBrokenOff() const { return m_breakAsker && m_breakAsker(); }
+
     // ---- The file
     // Takes over a whole model that was read from a file. Undo and selection start anew, the document is unmodified.
     void Replace(DocumentData data);
@@ -92,6 +97,7 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     ChangeNotices m_notices{m_data, m_selection, m_analysis};
     DirectChanges m_direct{m_data, m_undo};
     RefusalTeller m_refusalTeller;
+    std::function<bool()> m_breakAsker;
     std::size_t m_savedState = 0;
     bool m_flagged = false; // modified, says a dialog
 };

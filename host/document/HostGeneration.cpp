@@ -1,14 +1,12 @@
 #include "host/document/HostGeneration.h"
 
-#include "host/document/Changes.h"
+#include "host/document/Defaults.h"
 #include "host/document/Generation.h"
+#include "host/document/Mesher.h"
 #include "model/element/Asta.h"
 #include "model/element/Setto.h"
 #include "model/element/Solaio.h"
 #include "model/element/Trave.h"
-#include "model/entity/Materiale.h"
-#include "model/entity/Sezione.h"
-#include "model/entity/Spessore.h"
 
 #include <algorithm>
 
@@ -17,29 +15,6 @@ namespace host {
 namespace {
 
 constexpr char generationStep[] = "Generazione nodi";
-
-// Null when the numbers of nodes are used up.
-CNodo* MakeNode(HostEditing& document, const CFPoint& place) {
-    if (CNodo* there = document.Data().NodeAt(place, nullptr, document.GetTolerance()))
-        return there;
-    return document.AddNew(std::make_unique<CNodo>(place), generationStep);
-}
-
-// New elements have the first material, section and thickness of the document, so that a simple model needs no
-// assigning.
-void GiveDefaults(HostEditing& document, CLineaFisica& line) {
-    if (CMateriale* material = document.GetIndexMateriale(0))
-        line.SetMateriale(material->GetID(), material);
-    if (CSezione* section = document.GetIndexSezione(0))
-        line.SetSezione(section->GetID(), section);
-}
-
-void GiveDefaults(HostEditing& document, CPoligonoFisico& polygon) {
-    if (CMateriale* material = document.GetIndexMateriale(0))
-        polygon.SetMateriale(material->GetID(), material);
-    if (CSpessore* thickness = document.GetIndexSpessore(0))
-        polygon.SetThickness(thickness->GetID(), thickness);
-}
 
 template <class T>
 T* AddLine(HostEditing& document, int idNodo1, int idNodo2, const char* stepName) {
@@ -70,22 +45,23 @@ T* AddPolygon(HostEditing& document, const std::vector<int>& idNodi, const char*
     return document.AddNew(std::move(polygon), stepName);
 }
 
-// Without neighbours of one number, around: where two sides meet, a quadrilateral is a triangle.
-std::vector<int> Distinct(std::vector<int> ids) {
-    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
-    if (ids.size() > 1 && ids.front() == ids.back())
-        ids.pop_back();
-    return ids;
-}
-
 } // namespace
 
 int HostGeneration::GenerateNodes(const std::vector<CFPoint>& places) {
-    if (places.empty() || !std::all_of(places.begin(), places.end(), IsUsablePlace))
+    if (places.empty() || !std::all_of(places.begin(), places.end(), IsUsablePlace) ||
+        !Data().HasNumbers(Kind::Node, places.size()))
         return 0;
+    Generated made;
     UndoStep step(Undo(), generationStep);
-    for (const CFPoint& place : places)
-        MakeNode(*this, place);
+    for (const CFPoint& place : places) {
+        if (Data().NodeAt(place, nullptr, GetTolerance())) {
+            ++made.nodesMet;
+        } else {
+            AddNew(std::make_unique<CNodo>(place), generationStep);
+            ++made.nodes;
+        }
+    }
+    m_lastGenerated = made;
     return 1;
 }
 
@@ -97,8 +73,8 @@ int HostGeneration::GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) {
     return GenerateNodes(PlacesOnSegment(p1, p2, nNodi, Data().Tolerance()));
 }
 
-int HostGeneration::GenNodiArco3Punti(int piano, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) {
-    return GenerateNodes(PlacesOnArc(piano, p1, p2, p3, nNodi, Data().Tolerance()));
+int HostGeneration::GenNodiArco3Punti(int, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) {
+    return GenerateNodes(PlacesOnArc(p1, p2, p3, nNodi, Data().Tolerance()));
 }
 
 int HostGeneration::GenNodiArcoCerchio(int piano, double inclinazione, CFPoint centro, CFPoint inizio, double angolo,
@@ -111,29 +87,22 @@ int HostGeneration::GenNodiCerchio(int piano, double inclinazione, int nNodi, CF
 }
 
 int HostGeneration::Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, int nSuddivisioni1, int nSuddivisioni2) {
-    const std::vector<CFPoint> places =
-        PlacesInQuadrilateral({p1, p2, p3, p4}, nSuddivisioni1, nSuddivisioni2, Data().Tolerance());
-    if (places.empty() || !std::all_of(places.begin(), places.end(), IsUsablePlace))
+    Mesher mesher(*this, {p1, p2, p3, p4}, nSuddivisioni1, nSuddivisioni2);
+    if (const std::optional<Refusal> refusal = mesher.Check()) {
+        Refuse(*refusal);
         return 0;
-    UndoStep step(Undo(), "Mesh");
-    Undo().Rename("Mesh");
-    std::vector<int> ids;
-    ids.reserve(places.size());
-    for (const CFPoint& place : places) {
-        CNodo* node = MakeNode(*this, place);
-        ids.push_back(node ? node->GetID() : 0);
     }
-    const auto row = static_cast<std::size_t>(nSuddivisioni1) + 1;
-    for (std::size_t corner = 0; corner + row < ids.size(); ++corner)
-        if (corner % row + 1 < row) // the last place of a row begins no element
-            AddPolygon<CSolaio>(
-                *this, Distinct({ids[corner], ids[corner + 1], ids[corner + row + 1], ids[corner + row]}), "Mesh");
+    if (!mesher.Run())
+        return 0;
+    m_lastGenerated = mesher.Made();
     return 1;
 }
 
 CNodo* HostGeneration::AddNodo(CFPoint& punto, CView*, int flag) {
-    if (!IsUsablePlace(punto))
+    if (!IsUsablePlace(punto)) {
+        Refuse(Refusal("Le coordinate non sono valide: il nodo non è stato creato."_t));
         return nullptr;
+    }
     if (flag != 0)
         if (CNodo* there = Data().NodeAt(punto, nullptr, Data().ExactTolerance()))
             return there;

@@ -5,6 +5,11 @@
 
 namespace host {
 
+struct Generated {
+    int nodes = 0, nodesMet = 0;
+    int elements = 0, elementsMet = 0;
+};
+
 class HostGeneration : public HostEditing {
   public:
     // All of them return 0 and change nothing for fewer than one node, more than a million, numbers that are not
@@ -15,16 +20,23 @@ class HostGeneration : public HostEditing {
     int GenNodiLineare(CFPoint inizio, CFPoint direzione, double passo, int nNodi) override;
     // Equally spaced, both ends included; a single node lies at the first end.
     int GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) override;
-    // From p1 through p2 to p3, both ends included. The points must lie in a plane parallel to `piano`.
+    // Degrees, positive from the first axis of the plane towards its second (X to Y, X to Z, Y to Z); the plane is
+    // turned by `inclinazione` about its first axis.
+    // Through three points: nNodi nodes between the ends, equally spaced from p1 over p2 to p3, and the ends where no
+    // node stands. The points give the plane; `piano` is not used.
     int GenNodiArco3Punti(int piano, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) override;
-    // Degrees. The plane is turned by `inclinazione` about its first axis through the centre; the arc runs
-    // counter-clockwise seen against the plane's normal and has both ends. `inizio` must lie in the tilted plane.
+    // nNodi nodes after the start, which itself gets none, the last one at the angle: one less for a full turn, which
+    // ends at the start. The start turns about the axis through the centre, in its own plane where it lies outside.
     int GenNodiArcoCerchio(int piano, double inclinazione, CFPoint centro, CFPoint inizio, double angolo,
                            int nNodi) override;
-    // The first node lies on the plane's first axis; `inclinazione` as above.
+    // The first node lies on the plane's first axis.
     int GenNodiCerchio(int piano, double inclinazione, int nNodi, CFPoint centro, double raggio) override;
-    // Slabs with four nodes. Opposite sides are divided alike.
+    // Walls with four nodes, or three where two corners are one, numbered row by row along the first side; of what
+    // stands there already none is made again. A user who breaks it off gets everything back. A refusal says why.
     int Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, int nSuddivisioni1, int nSuddivisioni2) override;
+
+    // What the generation that was carried out last made, and what it met.
+    const Generated& LastGenerated() const { return m_lastGenerated; }
 
     // A node that lies at exactly this place (1e-9 of the model's size) is returned instead of a second one. With a
     // flag of 0 the node is made all the same.
@@ -43,6 +55,8 @@ class HostGeneration : public HostEditing {
 
   private:
     int GenerateNodes(const std::vector<CFPoint>& places);
+
+    Generated m_lastGenerated;
 };
 
 } // namespace host

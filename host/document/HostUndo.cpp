@@ -300,6 +300,15 @@ void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {
         Settle();
 }
 
+void HostUndo::TakeBack() {
+    if (!Last())
+        return;
+    const std::unique_ptr<Change> change = std::move(m_open->changes.back());
+    m_open->changes.pop_back();
+    const Unrecorded running(m_running);
+    change->Undo();
+}
+
 Change* HostUndo::Last() {
     return m_open && !m_open->changes.empty() ? m_open->changes.back().get() : nullptr;
 }

@@ -115,6 +115,8 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
     // Takes a change that has just been made. Outside every bracket it opens a step of that name by itself, closed at
     // once, or when control is back in the event loop (see HostCore::SetIdleScheduler).
     void Record(std::unique_ptr<Change> change, const char* name);
+    // Undoes the change recorded last in the open step, as if it had never been.
+    void TakeBack();
     // The change recorded last in the open step, for those that can take one more; null at the start of a step.
     Change* Last();
 

@@ -49,6 +49,7 @@ Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, con
     project.document->SetIdleScheduler(
         [this, &project] { QTimer::singleShot(0, project.idle.get(), [this, &project] { RunIdle(project); }); });
     project.document->Selection().SetRangeAxis([this, &of = *project.document] { return m_tools.RangeAxis(of); });
+    project.document->SetBreakAsker([this] { return m_window->Wait().IsBrokenOff(); });
     project.document->SetRefusalTeller([](const Refusal& refusal) { AfxMessageBox(refusal.message, MB_OK); });
     return project;
 }

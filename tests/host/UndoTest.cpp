@@ -42,6 +42,9 @@ class UndoTest : public testing::Test {
 TEST_F(UndoTest, EveryCommandComesBackBitForBit) {
     HostSelection& selection = m_document.Selection();
     ExpectExact("generation", [&] { m_document.GenNodiLineare({0, 0, 20}, {1, 0, 20}, 0.5, 10); });
+    ExpectExact("arc", [&] { m_document.GenNodiArco3Punti(1, {0, 0, 40}, {1, 1, 40}, {2, 0, 41}, 7); });
+    ExpectExact("turn", [&] { m_document.GenNodiArcoCerchio(2, 10, {0, 0, 50}, {3, 0, 50}, -200, 7); });
+    ExpectExact("circle", [&] { m_document.GenNodiCerchio(3, 0, 7, {0, 0, 60}, 2); });
     ExpectExact("mesh", [&] { m_document.Mesh4Punti({0, 0, 30}, {4, 0, 30}, {4, 4, 30}, {0, 4, 30}, 3, 2); });
     ExpectExact("beam", [&] { m_document.AddTrave(1, 18, nullptr); });
     m_document.SelectAll();
