@@ -99,14 +99,7 @@ BOOL CDialogCopiaTrasla::OnInitDialog() {
     return TRUE;
 }
 
-BOOL CDialogCopiaTrasla::DestroyWindow() {
-    // The edits still lose the focus: a text that does not parse must not hold the closing up with a message.
-    m_closing = true;
-    return TwoPointDialog::DestroyWindow();
-}
-
 void CDialogCopiaTrasla::ResetFields() {
-    m_closing = false;
     ResetPoints();
     m_shownFrom = m_shownTo = CFPoint();
     m_nCopie = 1;
@@ -131,7 +124,7 @@ bool CDialogCopiaTrasla::WriteControls() {
 }
 
 bool CDialogCopiaTrasla::ReadControls() {
-    if (m_closing || IsCancel() || !UpdateData(TRUE))
+    if (IsClosing() || IsCancel() || !UpdateData(TRUE))
         return false;
     if (m_nDirezione == directionVector && VectorChanged())
         FollowVector();

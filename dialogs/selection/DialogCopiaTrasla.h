@@ -67,7 +67,6 @@ class CDialogCopiaTrasla : public TwoPointDialog {
     BOOL OnInitDialog() override;
     void OnOK() override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
-    BOOL DestroyWindow() override;
     void DoDataExchange(CDataExchange* pDX) override;
 
   protected:
@@ -110,7 +109,6 @@ class CDialogCopiaTrasla : public TwoPointDialog {
     CRect EditorPlace(int row);
     void HideEditor();
 
-    bool m_closing = false;
     CFPoint m_shownFrom, m_shownTo; // the vector in the controls, which the fields leave for an axis at OK
 
     DECLARE_MESSAGE_MAP()

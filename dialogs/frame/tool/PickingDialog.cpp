@@ -8,6 +8,16 @@ PickingDialog::~PickingDialog() {
     PickingDialog::DestroyWindow();
 }
 
+BOOL PickingDialog::OnInitDialog() {
+    m_closing = false;
+    return CDialogDocument::OnInitDialog();
+}
+
+BOOL PickingDialog::DestroyWindow() {
+    m_closing = true;
+    return CDialogDocument::DestroyWindow();
+}
+
 void PickingDialog::StartPicking(const CString& prompt) {
     if (CQuovarView* pView = GetView())
         pView->StartDefinisciVettore(prompt, "");

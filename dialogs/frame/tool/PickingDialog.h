@@ -10,7 +10,14 @@ class PickingDialog : public CDialogDocument {
     // Ends the window while this class still handles its messages: later the view would stay in vector definition.
     ~PickingDialog() override;
 
+    BOOL OnInitDialog() override;
+    BOOL DestroyWindow() override;
+
   protected:
+    // The window is going. The edits still lose the focus then: a text that does not parse must not hold the closing up
+    // with a message.
+    bool IsClosing() const { return m_closing; }
+
     // Asks the view for a point; nothing happens without a view. The prompt may be empty.
     void StartPicking(const CString& prompt = CString());
     // Asks for one more point, which then arrives at SetVettoreFrom again.
@@ -19,6 +26,9 @@ class PickingDialog : public CDialogDocument {
     virtual void EndPicking();
 
     void OnDestroy();
+
+  private:
+    bool m_closing = false;
 
     DECLARE_MESSAGE_MAP()
 };
