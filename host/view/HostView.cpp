@@ -1,5 +1,6 @@
 #include "host/view/HostView.h"
 
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "host/document/HostDocument.h"
 #include "host/view/ViewOwner.h"
@@ -7,6 +8,7 @@
 #include "host/view/ViewWidget.h"
 #include "model/element/Nodo.h"
 #include "model/element/TipoElemento.h"
+#include "model/values/Units.h"
 #include "platform/toolkit/Bridge.h"
 #include "platform/window/Application.h"
 
@@ -75,7 +77,9 @@ CQuovarDoc* HostView::GetDocument() {
 
 void HostView::StartDefinisciVettore(CString prompt, CString) {
     m_owner.PickingStarted(*this, prompt);
-    m_vector = {true, false, prompt, std::nullopt};
+    m_vector = {};
+    m_vector.active = true;
+    m_vector.prompt = prompt;
     m_widget->setCursor(Qt::CrossCursor);
     m_widget->update();
     m_owner.ViewChanged(*this);
@@ -152,6 +156,8 @@ void HostView::CatturaImmagine() {
 }
 
 void HostView::OnDocumentUpdate(CView* sender, long hint, CObject* pHint) {
+    if (CQuovarGlobal::_GetInformazioniBase(hint) == MODIFICA_UNITA)
+        ForgetPoints(); // they are of another unit
     if (m_empty && m_document.GetSizeNodi() > 1)
         Fit();
     Redraw();
@@ -267,6 +273,9 @@ bool HostView::Pick(CPoint at) {
     // The state moves on before the dialog hears of the point: it may restart the mode for the next one.
     const bool second = m_vector.secondIsNext;
     m_vector.secondIsNext = !second;
+    m_vector.vector.reset();
+    if (second && m_vector.from && m_vector.prompt.IsEmpty())
+        m_vector.vector.emplace(*m_vector.from, point);
     m_vector.from = second ? std::optional<CFPoint>() : point;
     m_owner.PointPicked(*this, point, second);
     if (!m_closed) {
@@ -281,10 +290,15 @@ void HostView::BreakOffVector() {
         StopDefinisciVettore();
         return;
     }
-    m_vector.secondIsNext = false;
-    m_vector.from.reset();
+    ForgetPoints();
     m_widget->update();
     m_owner.ViewChanged(*this);
+}
+
+void HostView::ForgetPoints() {
+    m_vector.secondIsNext = false;
+    m_vector.from.reset();
+    m_vector.vector.reset();
 }
 
 CNodo* HostView::SnapNode(CPoint at) {
@@ -308,8 +322,16 @@ CString HostView::Prompt() const {
         return {};
     if (!m_vector.prompt.IsEmpty())
         return m_vector.prompt;
-    return m_vector.secondIsNext ? "Fare clic sul secondo nodo del vettore (Esc per ricominciare)."
-                                 : "Fare clic sul primo nodo del vettore.";
+    if (m_vector.secondIsNext)
+        return "Fare clic sul secondo nodo del vettore (Esc per ricominciare).";
+    const CString first = "Fare clic sul primo nodo del vettore.";
+    if (!m_vector.vector)
+        return first;
+    const CFPoint along = m_vector.vector->second - m_vector.vector->first;
+    CString measured;
+    measured.Format("dx %.6g   dy %.6g   dz %.6g %s   ", along.x, along.y, along.z,
+                    static_cast<LPCTSTR>(CGrandezza::_GetStringLunghezza(m_document.GetLunghezza())));
+    return measured + first;
 }
 
 void HostView::Redraw() {

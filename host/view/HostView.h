@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 class QWidget;
 
@@ -26,6 +27,8 @@ struct VectorDefinition {
     bool secondIsNext = false;
     CString prompt;              // the dialog's instruction; may be empty
     std::optional<CFPoint> from; // the first point of the pair, while the second is awaited
+    // The last pair, until the next pick, where the dialog asked for vectors in words of the view.
+    std::optional<std::pair<CFPoint, CFPoint>> vector;
 };
 
 class HostView final : public CQuovarView, public DocumentObserver {
@@ -109,7 +112,8 @@ class HostView final : public CQuovarView, public DocumentObserver {
   private:
     QPixmap CapturedPicture() const;
     bool Pick(CPoint at);
-    void Redraw(); // the picture is out of date
+    void ForgetPoints(); // that were picked
+    void Redraw();       // the picture is out of date
     void OnPaint();
     LRESULT OnFineDialogo(WPARAM wParam, LPARAM lParam);
 

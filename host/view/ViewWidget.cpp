@@ -157,6 +157,12 @@ void ViewWidget::DrawVector(QPainter& painter) {
     const bool inside = m_pointer.x() >= 0;
     CNodo* snap = inside && m_drag == Drag::None ? m_view.SnapNode(ToPoint(m_pointer)) : nullptr;
     painter.setBrush(Qt::NoBrush);
+    if (const auto& vector = m_view.Vector().vector) {
+        painter.setPen(QPen(pickColor, 1));
+        painter.drawLine(onScreen(vector->first), onScreen(vector->second));
+        for (const CFPoint& end : {vector->first, vector->second})
+            painter.drawEllipse(onScreen(end), 4, 4);
+    }
     if (const auto& from = m_view.Vector().from) {
         const QPointF start = onScreen(*from);
         painter.setPen(QPen(pickColor, 2));
