@@ -95,8 +95,8 @@ void Mesher::FillPlaces() {
     }
 }
 
-// Every element is wider than that across its longest side or diagonal, so no two of its nodes can be one, and its
-// sides are longer where they are not none.
+// Every element has longer sides, where they are not none, and more area for its longest side: with that its shorter
+// diagonal is longer too, so that no two of its nodes can be one.
 bool Mesher::AreLargerThan(double tolerance) const {
     const std::size_t row = Row();
     const double square = tolerance * tolerance;
@@ -112,7 +112,7 @@ bool Mesher::AreLargerThan(double tolerance) const {
                 return false;
             longest = std::max(longest, length);
         }
-        const CFPoint area = Cross(corners[2] - corners[0], corners[3] - corners[1]);
+        const CFPoint area = 0.5 * Cross(corners[2] - corners[0], corners[3] - corners[1]);
         if (!(Dot(area, area) > square * longest))
             return false;
     }

@@ -329,7 +329,7 @@ CString HostView::Prompt() const {
         return first;
     const CFPoint along = m_vector.vector->second - m_vector.vector->first;
     CString measured;
-    measured.Format("dx %.6g   dy %.6g   dz %.6g %s   ", along.x, along.y, along.z,
+    measured.Format("dx %.10g   dy %.10g   dz %.10g %s   ", along.x, along.y, along.z,
                     static_cast<LPCTSTR>(CGrandezza::_GetStringLunghezza(m_document.GetLunghezza())));
     return measured + first;
 }
