@@ -59,6 +59,8 @@ void WaitIndicator::Step() {
 }
 
 void WaitIndicator::End() {
+    if (m_depth == 1 && m_offered)
+        KeepAlive(); // a second Escape, while what was made is taken back, is the wait's too
     if (m_depth == 0 || --m_depth > 0)
         return;
     m_label->hide();

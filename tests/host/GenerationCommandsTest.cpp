@@ -9,6 +9,7 @@
 #include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -71,10 +72,13 @@ TEST_F(GenerationCommandsTest, ALongMeshIsBrokenOff) {
             user.stop();
             QTest::keyClick(window, Qt::Key_A, Qt::ControlModifier); // dropped, as all else is
             EXPECT_TRUE(Document().Selection().IsEmpty());
-            if (byKey)
-                QTest::keyClick(platform::WidgetOf(*m_workspace->ToolOf(View()))->windowHandle(), Qt::Key_Escape);
-            else
+            if (byKey) {
+                QWindow* dialog = platform::WidgetOf(*m_workspace->ToolOf(View()))->windowHandle();
+                QTest::keyClick(dialog, Qt::Key_Escape);
+                QCoreApplication::postEvent(dialog, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, {})); // impatient
+            } else {
                 QTest::mouseClick(window, Qt::LeftButton, {}, stop->mapTo(&m_workspace->Window(), QPoint(5, 5)));
+            }
         });
         user.start(10);
         driver.Click(MeshDialog::IDC_APPLICA);
