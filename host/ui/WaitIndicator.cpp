@@ -32,14 +32,12 @@ WaitIndicator::WaitIndicator(QStatusBar& bar)
     m_stop->hide();
 }
 
-WaitIndicator::~WaitIndicator() = default;
-
 void WaitIndicator::Begin(const QString& message, unsigned steps) {
     if (m_depth++ > 0)
         return;
     m_steps = std::min(steps, static_cast<unsigned>(INT_MAX));
     m_done = 0;
-    m_brokenOff = false;
+    m_asked = m_brokenOff = false;
     m_label->setText(message);
     m_progress->setRange(0, static_cast<int>(m_steps));
     m_progress->setValue(0);
@@ -70,11 +68,8 @@ void WaitIndicator::End() {
 }
 
 bool WaitIndicator::IsBrokenOff() {
-    if (m_depth == 0)
-        return false;
-    if (!m_offered)
-        Offer(true);
-    return m_brokenOff;
+    m_asked = m_depth > 0;
+    return m_asked && m_brokenOff;
 }
 
 void WaitIndicator::Offer(bool offered) {
@@ -114,6 +109,8 @@ bool WaitIndicator::eventFilter(QObject* receiver, QEvent* event) {
 // The user's own events wait until the command is over: a click in the middle would start a second one. Where it can be
 // broken off they come, to the filter.
 void WaitIndicator::KeepAlive() {
+    if (m_asked)
+        Offer(true);
     m_progress->setValue(static_cast<int>(m_done));
     QApplication::processEvents(m_offered ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
     m_sinceRefresh.start();

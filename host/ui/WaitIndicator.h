@@ -16,14 +16,13 @@ class WaitIndicator : private QObject {
   public:
     // The widgets belong to the status bar, which outlives this object.
     explicit WaitIndicator(QStatusBar& bar);
-    ~WaitIndicator() override;
 
     // Waits nest: only the outermost is shown, and the bar goes when it ends. Zero steps show a bar without a measure.
     void Begin(const QString& message, unsigned steps);
     void Step();
     void End();
-    // Whether the user breaks the wait off, by Escape or by the button that the bar has from the first question on.
-    // Whatever else he does until the wait ends is dropped.
+    // Whether the user breaks the wait off, by Escape or by the button that the bar then has. Whatever else he does
+    // until the wait ends is dropped. A wait that is over in no time offers nothing and drops nothing.
     bool IsBrokenOff();
 
     bool IsActive() const { return m_depth > 0; }
@@ -37,7 +36,8 @@ class WaitIndicator : private QObject {
     QLabel* m_label;
     QProgressBar* m_progress;
     QPushButton* m_stop;
-    bool m_offered = false; // the wait can be broken off
+    bool m_asked = false;   // the wait can be broken off
+    bool m_offered = false; // and the user sees that
     bool m_brokenOff = false;
     QElapsedTimer m_sinceRefresh;
     unsigned m_depth = 0;
