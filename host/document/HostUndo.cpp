@@ -179,7 +179,7 @@ void HostUndo::Open(const char* name) {
     m_open = std::make_unique<Step>();
     m_open->name = name;
     m_open->before = m_owner.Selection().TakeSnapshot();
-    m_open->stateBefore = State();
+    m_open->stateBefore = ClosedState(); // not that of the records which this step is about to take
     m_kept.clear();
     CountNew();
 }
@@ -218,8 +218,9 @@ void HostUndo::BeforeWrite(CElemento& elemento) {
     Kind kind;
     if (m_running || elemento.GetID() == 0 || IsKept(elemento) || !KindOf(elemento, kind))
         return;
-    // What was made in this step comes and goes with it as it is, unless a former state brings it back half way.
-    if (IsNew(kind, elemento) && !m_open->keptNew.contains(&elemento))
+    // What was made in this step comes and goes with it as it is, unless a former state brings it back half way. Not a
+    // named entity: it may be given another number, under which the document is to find it.
+    if (IsSelectableKind(kind) && IsNew(kind, elemento) && !m_open->keptNew.contains(&elemento))
         return;
     DocumentData& data = m_owner.Data();
     if (data.Find(kind, elemento.GetID()) != &elemento)
@@ -383,8 +384,10 @@ void HostUndo::Clear() {
 }
 
 std::size_t HostUndo::State() const {
-    if (HasOpenChanges())
-        return m_lastState + 1;
+    return HasOpenChanges() ? m_lastState + 1 : ClosedState();
+}
+
+std::size_t HostUndo::ClosedState() const {
     if (m_position > 0)
         return m_steps[m_position - 1]->stateAfter;
     return m_steps.empty() ? m_lastState : m_steps.front()->stateBefore;

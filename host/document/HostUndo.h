@@ -146,6 +146,7 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
     void TakeRecords(const char* name);
     bool HasOpenChanges() const;
     bool RecordsDiffer() const;
+    std::size_t ClosedState() const; // the one that the last whole step led to
     void Open(const char* name);
     void EndBracket(unsigned int tipo);
     void Settle(); // closes the step, now or when control is back in the event loop

@@ -155,6 +155,11 @@ TEST_F(UndoTest, NumbersAreGivenAgainAfterUndo) {
 
 TEST_F(UndoTest, ModifiedFollowsTheSavedState) {
     m_document.MarkSaved();
+    m_document.Data().Info().author = "Io"; // the first step of all, of a record alone
+    m_document.MarkSaved();
+    m_document.Undo().Undo();
+    EXPECT_TRUE(m_document.IsModified());
+    m_document.Undo().Redo();
     EXPECT_FALSE(m_document.IsModified());
     m_document.GenNodi2Punti({70, 0, 0}, {80, 0, 0}, 5);
     EXPECT_TRUE(m_document.IsModified());
@@ -358,6 +363,12 @@ TEST_F(UndoTest, NumbersAndRecordsComeBack) {
     loadCase->SetID(m_document.GetIndexCasoCarico(0)->GetID());
     m_document.UpdateAllViews(nullptr, MODIFICA_CASI_CARICO);
     EXPECT_EQ(loadCase->GetID(), id + 70) << "a number that is taken";
+    ExpectExact("number of a new one", [&] {
+        const UndoStep step(m_document.Undo(), "Prova");
+        loadCase = m_document.CreaCasoCarico();
+        loadCase->SetID(id + 90);
+    });
+    EXPECT_EQ(m_document.Find(Kind::LoadCase, id + 90), loadCase);
 
     m_document.MarkSaved();
     const std::size_t steps = m_document.Undo().UndoCount();
