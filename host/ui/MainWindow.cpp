@@ -251,9 +251,11 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    for (const QUrl& url : event->mimeData()->urls())
-        if (url.isLocalFile())
-            m_workspace.Open(url.toLocalFile());
+    m_workspace.Execute([this, &event] { // not in the middle of another command
+        for (const QUrl& url : event->mimeData()->urls())
+            if (url.isLocalFile())
+                m_workspace.Open(url.toLocalFile());
+    });
 }
 
 } // namespace host

@@ -193,12 +193,14 @@ void ToolDialogs::ResultShown(const HostView& view, int kind, bool shown) {
 
 void ToolDialogs::Renamed(const HostDocument& document, const CString& formerPath) {
     const CString former = CaptionPrefix(formerPath);
+    // Not by the dialog itself, which without a view knows no document.
+    const CString present = CaptionPrefix(document.GetPathName());
     for (const auto& each : Tools(m_tools)) {
-        if (each->document != &document || !each->view || !each->dialog || !each->tool || !each->command->titled)
+        if (each->document != &document || !each->dialog || !each->tool || !each->command->titled)
             continue;
         const CString caption = each->tool->GetWindowText();
         const bool prefixed = caption.Left(former.GetLength()) == former;
-        each->tool->SetTitle(prefixed ? caption.Mid(former.GetLength()) : caption);
+        each->tool->SetWindowText(present + (prefixed ? caption.Mid(former.GetLength()) : caption));
     }
 }
 

@@ -230,6 +230,15 @@ TEST_F(ToolDialogsTest, CaptionsFollowTheDocumentsName) {
     const std::vector<std::string> followed = captions();
     m_workspace->Tools().EndAll();
     EXPECT_EQ(captions(), followed);
+    // And of one that waits without a view, since the other view has the same dialog.
+    const Command& linear = *FindCommand(CDialogGenNodiLineare::IDD);
+    HostView& first = View();
+    const CDialog* waiting = m_workspace->Run(linear);
+    m_workspace->NewView(Document());
+    m_workspace->Run(linear);
+    m_workspace->CloseView(first);
+    ASSERT_TRUE(m_workspace->SaveAs(Document(), folder.filePath("Faro.asg")));
+    EXPECT_EQ(waiting->GetWindowText(), "Faro : Generazione Nodi Lineare");
 }
 
 } // namespace
