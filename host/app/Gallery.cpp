@@ -120,7 +120,11 @@ bool TakeModals(Camera& camera, Workspace& workspace, bool isExample) {
     // What some of them need in order to open at all.
     HostDocument& document = workspace.ActiveView()->Document();
     const int currentCase = document.Data().CurrentCase();
-    document.SelectAll();
+    document.Selection().Clear();
+    if (CTrave* beam = document.GetIndexTrave(0))
+        document.Selection().Add(beam); // to divide a line takes just one
+    else
+        document.SelectAll();
     if (CCombinazione* combination = document.GetIndexCombinazione(0))
         document.SelectCasoCarico(combination->GetID());
     bool ok = true;

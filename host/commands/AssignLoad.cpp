@@ -1,28 +1,20 @@
 #include "host/commands/AssignLoad.h"
 
 #include "host/commands/AssignLoadDialog.h"
-#include "host/document/Changes.h"
+#include "host/document/CarriedLoads.h"
 #include "host/document/HostDocument.h"
 #include "model/element/TipoElemento.h"
 #include "model/entity/CasoCarico.h"
 #include "platform/window/Application.h"
 
-#include <unordered_set>
 #include <vector>
 
 namespace host {
 
 namespace {
 
-using Numbers = std::unordered_set<int>;
-
 constexpr char assignName[] = "Assegna Carico";
 constexpr char removeName[] = "Elimina Carichi";
-
-void DiscardLoads(HostDocument& document, CCasoCarico& loadCase, Numbers numbers) {
-    if (!numbers.empty())
-        document.Undo().Record(std::make_unique<LoadRemoval>(loadCase, std::move(numbers)), removeName);
-}
 
 bool CanCarry(CElemento& element, CCarico& load) {
     Kind kind;
@@ -45,34 +37,16 @@ void ForEachSelfWeight(CCasoCarico& loadCase, const Action& action) {
 }
 
 int AssignSelfWeight(HostDocument& document, CCasoCarico& loadCase, std::unique_ptr<CCarico> load) {
-    Numbers former;
+    LoadNumbers former;
     ForEachSelfWeight(loadCase, [&](CCaricoPesoProprio& weight) { former.insert(weight.GetID()); });
     const bool isNone = static_cast<CCaricoPesoProprio&>(*load).GetAcceleration() == CFPoint();
     if (isNone && former.empty())
         return 0;
     const UndoStep step(document.Undo(), assignName);
-    DiscardLoads(document, loadCase, std::move(former));
+    DiscardLoads(document, loadCase, std::move(former), removeName);
     if (!isNone)
         document.AddCarico(loadCase, std::move(load));
     return 1;
-}
-
-Numbers LoadsOf(CElementoCarico& carrier, int caseId) {
-    Numbers loads;
-    for (int i = 0; i < carrier.GetSizeCarichi(); ++i)
-        if (carrier.GetIndexIDCasoCarico(i) == caseId)
-            loads.insert(carrier.GetIndexIDCarico(i));
-    return loads;
-}
-
-// One walk along the model, however many loads there are.
-void DiscardUncarried(HostDocument& document, CCasoCarico& loadCase, Numbers candidates) {
-    for (const Kind kind : allKinds) {
-        for (int i = 0; IsSelectableKind(kind) && i < document.Data().Size(kind); ++i)
-            for (const int carried : LoadsOf(*document.Data().As<CElementoCarico>(kind, i), loadCase.GetID()))
-                candidates.erase(carried);
-    }
-    DiscardLoads(document, loadCase, std::move(candidates));
 }
 
 } // namespace
@@ -102,11 +76,11 @@ int AssignLoad(HostDocument& document, CCasoCarico& loadCase, std::unique_ptr<CC
 int RemoveLoads(HostDocument& document, CCasoCarico& loadCase) {
     const UndoStep step(document.Undo(), removeName);
     const int id = loadCase.GetID();
-    Numbers removed;
+    LoadNumbers removed;
     int count = 0;
     for (CElemento* element : document.Selection().All()) {
         auto* carrier = static_cast<CElementoCarico*>(element);
-        const Numbers its = LoadsOf(*carrier, id);
+        const LoadNumbers its = LoadsOf(*carrier, id);
         if (its.empty())
             continue;
         removed.insert(its.begin(), its.end());
@@ -114,7 +88,7 @@ int RemoveLoads(HostDocument& document, CCasoCarico& loadCase) {
         ++count;
     }
     if (count > 0)
-        DiscardUncarried(document, loadCase, std::move(removed));
+        DiscardUncarried(document, loadCase, std::move(removed), removeName);
     return count;
 }
 

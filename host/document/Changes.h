@@ -119,6 +119,7 @@ class Attributes : public Former {
     Attributes(DocumentData& data, CElemento& object, Reach reach);
 
     unsigned GetNews() const override;
+    CElemento* Other() const override { return m_other.get(); }
 
   private:
     bool Differs() const override;

@@ -35,11 +35,15 @@ void LeaveGroups(CElementoGruppo& copy) {
 } // namespace
 
 double BetaAfter(CLineaFisica& line, const Motion& motion, const CFPoint& newFirst, const CFPoint& newSecond) {
-    CFPoint axis1, axis2, axis3, base1, base2, base3;
-    if (!motion.Turns() || !line.GetLocalAxes(axis1, axis2, axis3) ||
-        !CLinea::_GetLocalAxes(newFirst, newSecond, 0, base1, base2, base3))
+    CFPoint axis1, axis2, axis3;
+    if (!motion.Turns() || !line.GetLocalAxes(axis1, axis2, axis3) || newFirst == newSecond)
         return line.GetBeta();
-    const CFPoint third = motion.Direction(axis3);
+    return BetaFor(motion.Direction(axis3), newFirst, newSecond);
+}
+
+double BetaFor(const CFPoint& third, const CFPoint& first, const CFPoint& second) {
+    CFPoint base1, base2, base3;
+    CLinea::_GetLocalAxes(first, second, 0, base1, base2, base3);
     return Clean(std::atan2(-Dot(third, base2), Dot(third, base3)) * 180 / std::numbers::pi);
 }
 

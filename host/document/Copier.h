@@ -81,4 +81,8 @@ void TurnSprings(CNodo& node, const Motion& motion);
 // have gone along; degrees. A mirrored line keeps its third axis, and its second one changes sides.
 double BetaAfter(CLineaFisica& line, const Motion& motion, const CFPoint& newFirst, const CFPoint& newSecond);
 
+// The turn about its own axis that gives a line between two places the third axis `third`, or the nearest that it can
+// have; degrees.
+double BetaFor(const CFPoint& third, const CFPoint& first, const CFPoint& second);
+
 } // namespace host

@@ -1,6 +1,7 @@
 #include "host/document/HostDocument.h"
 
 #include "dialogs/frame/host/QuovarView.h"
+#include "host/document/Division.h"
 #include "model/entity/CasoCarico.h"
 
 namespace host {
@@ -22,6 +23,10 @@ HostDocument::~HostDocument() = default;
 
 Adv3d* HostDocument::GetVista() {
     return m_activeView ? m_activeView->GetVista() : nullptr;
+}
+
+void HostDocument::FinishDivision() {
+    FinishDivisions(*this);
 }
 
 } // namespace host

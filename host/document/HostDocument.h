@@ -25,6 +25,8 @@ class HostDocument : public HostCases {
     Adv3d* GetVista() override;
 
   private:
+    void FinishDivision() override;
+
     HostSelection m_selection{*this};
     CQuovarView* m_activeView = nullptr;
 };

@@ -1,9 +1,13 @@
 #include "host/document/HostSelection.h"
 
+#include "dialogs/frame/host/MainFrame.h"
 #include "host/document/Copier.h"
+#include "host/document/Division.h"
+#include "host/document/Generation.h"
 #include "host/document/HostDocument.h"
-#include "model/element/Linea.h"
+#include "model/element/LineaFisica.h"
 #include "model/element/Poligono.h"
+#include "model/values/ExceptionEx.h"
 
 #include <algorithm>
 #include <cmath>
@@ -177,25 +181,65 @@ bool PlaneOf(CPoligono* polygon, Plane& plane) {
 
 } // namespace
 
-// A node where each selected line crosses the polygon's plane between its ends. The lines stay whole.
+// Cuts the selected lines where they cross the plane of the polygon, as far as it goes on.
 void HostSelection::IntersezioneLineePiano(CPoligono* pPoligono) {
     Plane plane;
     if (!PlaneOf(pPoligono, plane))
-        return;
-    UndoStep step(m_document.Undo(), "Intersezione linee piano");
+        throw new CExceptionEx("I tre nodi sono allineati: non definiscono un piano.");
+    const double tolerance = m_document.GetTolerance();
+    std::vector<std::pair<CLineaFisica*, double>> crossed;
     for (const Kind kind : {Kind::Beam, Kind::Truss}) {
         for (int i = 0; i < Size(kind); ++i) {
-            auto* line = static_cast<CLinea*>(At(kind, i));
-            const CFPoint from = *line->GetNodoIniziale()->GetPunto();
-            const CFPoint to = *line->GetNodoFinale()->GetPunto();
-            const double a = plane.Distance(from), b = plane.Distance(to);
-            if (std::signbit(a) == std::signbit(b) || a == b)
-                continue;
-            CFPoint place = from + (to - from) * (a / (a - b));
-            if (!m_document.GetNodo(place, nullptr, m_document.GetTolerance()))
-                m_document.AddNodo(place, nullptr, 1);
+            auto* line = static_cast<CLineaFisica*>(At(kind, i));
+            const double from = plane.Distance(*line->GetNodoIniziale()->GetPunto());
+            const double to = plane.Distance(*line->GetNodoFinale()->GetPunto());
+            // What only touches the plane with an end, or lies in it, stays whole.
+            if (std::fabs(from) > tolerance && std::fabs(to) > tolerance && (from < 0) != (to < 0))
+                crossed.emplace_back(line, from / (from - to));
         }
     }
+    if (Size(Kind::Beam) + Size(Kind::Truss) == 0)
+        return Refuse("Nessuna trave o asta selezionata");
+    if (crossed.empty())
+        return Refuse("Nessuna trave o asta selezionata attraversa il piano");
+    UndoStep step(m_document.Undo(), "Intersezione linee piano");
+    Division division(m_document);
+    for (const auto& [line, place] : crossed)
+        division.Cut(*line, {place});
+    division.Finish();
+}
+
+void HostSelection::DivideEqually(int parts) {
+    const int count = Size(Kind::Beam) + Size(Kind::Truss);
+    if (count == 0)
+        return Refuse("Nessuna trave o asta selezionata");
+    if (parts < 2)
+        return Refuse("Il numero delle divisioni deve essere almeno 2");
+    if (parts > mostGeneratedNodes / count)
+        return Refuse("Il numero delle divisioni è troppo grande"_t);
+    std::vector<CLineaFisica*> lines;
+    for (const Kind kind : {Kind::Beam, Kind::Truss}) {
+        for (int i = 0; i < Size(kind); ++i) {
+            lines.push_back(static_cast<CLineaFisica*>(At(kind, i)));
+            if (lines.back()->GetLunghezzaLinea() / parts > m_document.GetTolerance())
+                continue;
+            CString text;
+            text.Format("%s n.ro %d è troppo corta per il numero delle divisioni"_t,
+                        kind == Kind::Beam ? "La trave" : "L'asta", lines.back()->GetID());
+            return Refuse(text);
+        }
+    }
+    std::vector<double> places;
+    for (int i = 1; i < parts; ++i)
+        places.push_back(static_cast<double>(i) / parts);
+    UndoStep step(m_document.Undo(), "Spezza");
+    WaitBar bar("Attendere...Divisione delle linee selezionate.", static_cast<unsigned>(count));
+    Division division(m_document);
+    for (CLineaFisica* line : lines) {
+        division.Cut(*line, places);
+        CMainFrame::_StepBar();
+    }
+    division.Finish();
 }
 
 void HostSelection::SelezionaElementiPiano(CPoligono* pPoligono) {

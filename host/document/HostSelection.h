@@ -43,7 +43,10 @@ class HostSelection : public CQuovarSelection {
     void CicloTraslaSelezione(double dx, double dy, double dz, int unione, unsigned int& contatore, Adv3dRect& rect,
                               CObList& oggetti, CObList& copie) override;
     void FineCicloTraslaSelezione(Adv3dRect& rect, unsigned int contatore) override;
+    // Throws a CExceptionEx for a polygon that defines no plane.
     void IntersezioneLineePiano(CPoligono* pPoligono) override;
+    // Divides each selected beam and truss member into equal parts; refused whole when one would be too short.
+    void DivideEqually(int parts);
     void SelezionaElementiPiano(CPoligono* pPoligono) override;
     void SelezionaElementiRange(CFPoint da, CFPoint a, int nodi, int aste, int travi, int solai, int setti) override;
 

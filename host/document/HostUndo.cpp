@@ -109,6 +109,8 @@ void HostUndo::BeginUndo(unsigned int tipo, double, double, double, double, doub
 
 void HostUndo::EndUndo(unsigned int tipo) {
     const bool inside = IsInBracket();
+    if (tipo == UNDO_DIVIDI && std::find(m_brackets.begin(), m_brackets.end(), tipo) != m_brackets.end())
+        m_owner.FinishDivision();
     EndBracket(tipo);
     if (inside && !IsInBracket())
         CloseStep();
@@ -206,8 +208,20 @@ void HostUndo::TakeRecords(const char* name) {
         CloseStep();
 }
 
+std::vector<std::pair<CElemento*, CElemento*>> HostUndo::FormerStates() const {
+    std::vector<std::pair<CElemento*, CElemento*>> states;
+    for (std::size_t i = 0; m_open && i < m_open->changes.size(); ++i)
+        if (CElemento* former = m_open->changes[i]->Other())
+            states.emplace_back(m_open->changes[i]->Keeps(), former);
+    return states;
+}
+
+int HostUndo::FirstNew(Kind kind) const {
+    return m_open ? m_open->firstNew[static_cast<std::size_t>(kind)] : std::numeric_limits<int>::max();
+}
+
 bool HostUndo::IsNew(Kind kind, CElemento& object) const {
-    return m_open && object.GetID() >= m_open->firstNew[static_cast<std::size_t>(kind)];
+    return m_open && object.GetID() >= FirstNew(kind);
 }
 
 bool HostUndo::IsKept(const CElemento& object) const {

@@ -40,6 +40,9 @@ class Change {
     // The object whose state it keeps, if it keeps one's: what else is written into that object until another kind of
     // change comes is kept with it.
     virtual CElemento* Keeps() const { return nullptr; }
+    // The copy of what that object is not: while the change has happened, of what it was. Null for a change that has
+    // none.
+    virtual CElemento* Other() const { return nullptr; }
     virtual bool KeepsAll() const { return false; } // the states of all objects
     // False when it turned out, at the end of its step, that nothing is different.
     virtual bool HasEffect() const { return true; }
@@ -93,6 +96,11 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
     bool IsInBracket() const { return !m_brackets.empty(); }
     // How many changes were ever recorded: equal numbers say that nothing was recorded in between.
     std::size_t RecordCount() const { return m_recorded; }
+    // What the open step has changed so far, each object with a copy of what it was, in the order of the changes; an
+    // object may come again.
+    std::vector<std::pair<CElemento*, CElemento*>> FormerStates() const;
+    // Objects of the kind from that number on were made in the open step; above all numbers when none is open.
+    int FirstNew(Kind kind) const;
     // A better name for the open step: the kind 4 of a bracket does not tell a mirror from a copy.
     void Rename(const char* name);
     void Close();

@@ -17,6 +17,8 @@ class UndoOwner {
     virtual void NotifyChange(Reach reach, unsigned news, const std::vector<long>& codes) = 0;
     // A code to be sent again before what it announced.
     virtual void Announce(long hint) = 0;
+    // A dialog has cut a line into parts and is about to close the step: the parts are to get what the line carried.
+    virtual void FinishDivision() = 0;
     // Asks for CloseImplicit when control is back in the event loop; false when there is no loop to come back to.
     virtual bool ScheduleIdle() = 0;
 

@@ -19,9 +19,11 @@ BOOL CExceptionEx::GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext) {
     const std::size_t length = std::min<std::size_t>(size - 1, static_cast<std::size_t>(m_strMessage.GetLength()));
     std::memcpy(buffer, static_cast<LPCSTR>(m_strMessage), length);
     buffer[length] = '\0';
-    return TRUE;
+    return !m_strMessage.IsEmpty();
 }
 
 int CExceptionEx::ReportError(UINT nType, UINT nMessageID) {
+    if (m_strMessage.IsEmpty())
+        return CException::ReportError(nType, nMessageID);
     return AfxMessageBox(m_strMessage, nType, nMessageID);
 }

@@ -9,7 +9,7 @@ class CExceptionEx : public CException {
     explicit CExceptionEx(CString messaggio);
 
     BOOL GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext = nullptr) override;
-    // Shows the message, an empty one too, in a box of type `nType`; returns the button.
+    // Shows the message, a general one when it is empty, in a box of type `nType`; returns the button.
     int ReportError(UINT nType = 0, UINT nMessageID = 0) override;
 
   private:

@@ -1,4 +1,6 @@
 // What every modal dialog of the module keeps to. A new dialog is one row of the table, or one for each of its kinds.
+#include "dialogs/generation/DialogDividiLinea.h"
+#include "dialogs/generation/DialogSpezza.h"
 #include "dialogs/loads/DialogCreaCasoCarico.h"
 #include "dialogs/loads/DialogCreaCombinazione.h"
 #include "dialogs/loads/DialogCreaGruppo.h"
@@ -123,6 +125,15 @@ std::string ChosenUnits(const CDialog& dialog) {
     return Exact(static_cast<int>(units.GetLunghezza())) + " " + Exact(static_cast<int>(units.GetForza()));
 }
 
+std::unique_ptr<CDialog> MakeDividiLinea(RecordingHost& host) {
+    host.doc.NewNodo(0, 0, 0);
+    host.doc.NewNodo(3, 4, 0);
+    auto dialog = std::make_unique<CDialogDividiLinea>(&host.frame);
+    dialog->SetDoc(&host.doc);
+    dialog->SetLinea(host.doc.NewTrave(1, 2));
+    return dialog;
+}
+
 const std::vector<ModalDialog> modalDialogs = {
     {.name = "CDialogCreaCasoCarico",
      .templateId = CDialogCreaCasoCarico::IDD,
@@ -180,6 +191,21 @@ const std::vector<ModalDialog> modalDialogs = {
      .make = &Make<CDialogUnita>,
      .values = &ChosenUnits,
      .typed = {{{"[m]", "[KNewton]"}, {}, "2 3"}, {{"[inch]", "[KPound]"}, {}, "3 5"}, {{"[mm]"}, {}, "0 5"}}},
+    {.name = "CDialogDividiLinea",
+     .templateId = CDialogDividiLinea::IDD,
+     .caption = "Dividi",
+     .fields = "",
+     .make = &MakeDividiLinea,
+     .texts = {CDialogDividiLinea::IDC_N_NODI, CDialogDividiLinea::IDC_DISTANZA, CDialogDividiLinea::IDC_PROPORZIONE},
+     .typed = {{{"3", "1"}, {}}}}, // what was not inserted counts for nothing
+    {.name = "CDialogSpezza",
+     .templateId = CDialogSpezza::IDD,
+     .caption = "Spezza",
+     .fields = "0",
+     .make = &Make<CDialogSpezza>,
+     .values = &ValuesOf<CDialogSpezza, &CDialogSpezza::m_nDivisioni>,
+     .whole = {CDialogSpezza::IDC_DIVISIONI},
+     .typed = {{{"-12"}, {}, "-12"}}},
 };
 
 class EveryModalDialog : public ModalTest, public testing::WithParamInterface<ModalDialog> {

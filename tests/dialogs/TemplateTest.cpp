@@ -1,6 +1,7 @@
 // Contracts over all dialog templates, menus and pictures of the module at once. A new template is checked without a
 // line here.
 #include "dialogs/frame/Module.h"
+#include "dialogs/generation/DialogDividiLinea.h"
 #include "dialogs/generation/DialogGenNodiArco3Punti.h"
 #include "dialogs/generation/DialogGenNodiArcoCentro.h"
 #include "dialogs/generation/DialogGenNodiLineare.h"
@@ -46,6 +47,7 @@ const std::set<std::pair<int, int>> inPlaceEditors = {{CDialogCopiaTrasla::IDD, 
 
 // Keys that two fixed texts claim: pressed again, the key goes on to the other one.
 const std::set<std::pair<int, char>> sharedMnemonics = {{CDialogCreaCombinazione::IDD, 'C'},
+                                                        {CDialogDividiLinea::IDD, 'N'},
                                                         {CDialogGenNodiArco3Punti::IDD, 'P'},
                                                         {CDialogGenNodiArcoCentro::IDD, 'P'},
                                                         {CDialogListaCasiCarico::IDD, 'C'}};

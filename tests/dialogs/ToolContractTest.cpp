@@ -7,6 +7,7 @@
 #include "dialogs/generation/DialogGenNodiArcoCentro.h"
 #include "dialogs/generation/DialogGenNodiCerchio.h"
 #include "dialogs/generation/DialogGenNodiLineare.h"
+#include "dialogs/generation/DialogIntLineaPiano.h"
 #include "dialogs/generation/DialogMesh2PuntiDir.h"
 #include "dialogs/generation/DialogMesh3Punti.h"
 #include "dialogs/generation/DialogMesh4Punti.h"
@@ -289,6 +290,13 @@ const std::vector<ToolDialog> toolDialogs = {
      .templateId = CDialogListaGruppi::IDD,
      .caption = "Ponte : Gruppi",
      .make = &Make<CDialogListaGruppi>},
+    {.name = "CDialogIntLineaPiano",
+     .templateId = CDialogIntLineaPiano::IDD,
+     .caption = "Ponte : Intersezione Linee Piano",
+     .make = &Make<CDialogIntLineaPiano>,
+     .opening = "StartDefinisciVettore \"Definisci il primo nodo\" \"\"",
+     .fields = "=0 =0 =0 =0 =0 =0 =0 =0 =0",
+     .picked = {{{{1, 2, 3}, {4, 5, 6}}, "=1 =2 =3 =4 =5 =6 =0 =0 =0"}}},
 };
 
 // What closing tells the view is no command, and asking for points is none.

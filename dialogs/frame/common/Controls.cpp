@@ -2,6 +2,11 @@
 
 #include "platform/controls/SpinButton.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+
 void EnableControls(CWnd& dialog, std::initializer_list<int> ids, BOOL enable) {
     for (const int id : ids)
         EnableControls(dialog, id, id, enable);
@@ -28,6 +33,20 @@ void DDX_Point(CDataExchange* pDX, int idX, int idY, int idZ, double& x, double&
     DDX_Text(pDX, idX, x);
     DDX_Text(pDX, idY, y);
     DDX_Text(pDX, idZ, z);
+}
+
+double NumberIn(const CWnd& dialog, int edit) {
+    const CWnd* control = dialog.GetDlgItem(edit);
+    const CString text = control ? control->GetWindowText() : CString();
+    const char* const begin = text;
+    char* end = nullptr;
+    const double number = std::strtod(begin, &end);
+    return *(end + std::strspn(end, " \t")) == '\0' && std::isfinite(number) ? number : 0;
+}
+
+int WholeNumberIn(const CWnd& dialog, int edit) {
+    const double number = NumberIn(dialog, edit);
+    return number == std::floor(number) ? static_cast<int>(std::clamp(number, -2147483648.0, 2147483647.0)) : 0;
 }
 
 void StorePoint(const CFPoint& point, double& x, double& y, double& z) {

@@ -22,5 +22,10 @@ void DDX_Point(CDataExchange* pDX, int idX, double& x, double& y, double& z);
 // The same for edits with numbers of their own.
 void DDX_Point(CDataExchange* pDX, int idX, int idY, int idZ, double& x, double& y, double& z);
 
+// What the edit holds, as a number; 0 for a text that is none, or none that is finite.
+double NumberIn(const CWnd& dialog, int edit);
+// The same for a whole number; one that no int holds becomes the nearest that it does.
+int WholeNumberIn(const CWnd& dialog, int edit);
+
 // Stores a point in three fields.
 void StorePoint(const CFPoint& point, double& x, double& y, double& z);
