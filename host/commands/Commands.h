@@ -42,8 +42,9 @@ struct Command {
 
     // ---- Of those that stay open.
     Place place = Place::BesideView;
-    bool titled = true; // the caption begins with the document's name; otherwise it stays the template's
-    int rangeAxis = -1; // 0 X to 2 Z, along which a selection by range limits; -1 for other commands
+    bool titled = true;      // the caption begins with the document's name; otherwise it stays the template's
+    bool picksNodes = false; // its points must be nodes: no crossings of construction lines
+    int rangeAxis = -1;      // 0 X to 2 Z, along which a selection by range limits; -1 for other commands
     void (*opened)(HostDocument& document) = nullptr; // what follows the opening; null for nothing
     // A kind of results of beams (CElementoSettings) was shown or hidden in the dialog's view; null for who does not
     // care.

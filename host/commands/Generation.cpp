@@ -6,6 +6,7 @@
 #include "dialogs/generation/DialogGenNodiArcoCentro.h"
 #include "dialogs/generation/DialogGenNodiCerchio.h"
 #include "dialogs/generation/DialogGenNodiLineare.h"
+#include "dialogs/generation/DialogGrigliaNodi.h"
 #include "dialogs/generation/DialogIntLineaPiano.h"
 #include "dialogs/generation/DialogMesh2PuntiDir.h"
 #include "dialogs/generation/DialogMesh3Punti.h"
@@ -46,6 +47,13 @@ void RunSplitLines(HostDocument& document, CWnd& frame) {
         document.Selection().DivideEqually(dialog.m_nDivisioni);
 }
 
+std::unique_ptr<CDialog> OpenGrid(HostView& view, CWnd& frame) {
+    auto dialog = std::make_unique<CDialogGrigliaNodi>(&frame);
+    if (!view.EditGrid(*dialog))
+        dialog.reset();
+    return dialog;
+}
+
 template <class Dialog>
 constexpr Command row = {.menu = CommandMenu::Generate, .dialog = Dialog::IDD, .open = OpenTool<Dialog>};
 
@@ -67,7 +75,9 @@ const Command rows[] = {
     {.menu = CommandMenu::Generate,
      .dialog = CDialogIntLineaPiano::IDD,
      .needs = Needs::Selection,
-     .open = OpenTool<CDialogIntLineaPiano>},
+     .open = OpenTool<CDialogIntLineaPiano>,
+     .picksNodes = true},
+    {.menu = CommandMenu::Generate, .dialog = CDialogGrigliaNodi::IDD, .open = OpenGrid, .titled = false},
     {.menu = CommandMenu::Tools, .dialog = CDialogDistanza::IDD, .open = OpenTool<CDialogDistanza>},
 };
 

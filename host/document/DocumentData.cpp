@@ -95,6 +95,7 @@ DocumentData& DocumentData::operator=(DocumentData&& other) noexcept {
     m_tolerance = other.m_tolerance;
     m_units = other.m_units;
     m_info = std::move(other.m_info);
+    m_constructionGrid = other.m_constructionGrid;
     m_currentCase = other.m_currentCase;
     return *this;
 }

@@ -1,6 +1,7 @@
 // Everything that a project holds, without undo, selection or views: what files are read into and written from.
 #pragma once
 
+#include "host/document/ConstructionGrid.h"
 #include "host/document/GapVector.h"
 #include "model/element/Copy.h"
 #include "model/element/Nodo.h"
@@ -150,6 +151,9 @@ class DocumentData : public ModelLookup {
     const DocumentUnits& Units() const { return m_units; }
     ProjectInfo& Info() { return m_info; }
     const ProjectInfo& Info() const { return m_info; }
+    // The construction lines that the views show; no part of the model, undo passes it over.
+    ConstructionGrid& Grid() { return m_constructionGrid; }
+    const ConstructionGrid& Grid() const { return m_constructionGrid; }
     // The current load case or combination; 0 for none.
     int& CurrentCase() { return m_currentCase; }
     int CurrentCase() const { return m_currentCase; }
@@ -184,6 +188,7 @@ class DocumentData : public ModelLookup {
     double m_tolerance = 0.001;
     DocumentUnits m_units;
     ProjectInfo m_info;
+    ConstructionGrid m_constructionGrid;
     int m_currentCase = 0;
 };
 

@@ -34,6 +34,8 @@ class Example {
         BuildFloors();
         BuildBracing();
         m_data.CurrentCase() = m_permanent->GetID();
+        m_data.Grid().lines[0] = {.positive = placesX - 1, .spacing = bay};
+        m_data.Grid().lines[1] = {.positive = placesY - 1, .spacing = bay};
         return std::move(m_data);
     }
 

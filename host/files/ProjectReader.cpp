@@ -45,7 +45,7 @@ std::string Shown(const CString& name) {
 
 class Reader {
   public:
-    explicit Reader(Database& database) : m_database(database) {}
+    Reader(Database& database, int format) : m_database(database), m_format(format) {}
 
     DocumentData Read() {
         ReadProject();
@@ -62,6 +62,8 @@ class Reader {
         ReadLoads();
         ReadLoaded();
         ReadMembers();
+        if (m_format >= 2) // before, nobody had construction lines
+            ReadGrid();
         if (m_rows != m_expectedRows)
             throw FileError("Il progetto è incompleto: mancano delle righe."_utf8);
         CheckCurrentCase();
@@ -185,10 +187,12 @@ class Reader {
         ForEach(tables::groups, [this](RowReader& row) { ReadNamed<CGruppo>(row); });
     }
 
+    // Limits of places are the same length whatever the unit: a model that reaches them in metres may be shown in
+    // millimetres. A conversion may round it up.
+    double Metres() const { return CGrandezza::_LengthFactor(m_data.Units().length, Lunghezza::Metres) / (1 + 1e-9); }
+
     void ReadNodes() {
-        // The limit is the same length whatever the unit: a model that reaches it in metres may be shown in
-        // millimetres. A conversion may round it up.
-        const double metres = CGrandezza::_LengthFactor(m_data.Units().length, Lunghezza::Metres) / (1 + 1e-9);
+        const double metres = Metres();
         ForEach(tables::nodes, [this, metres](RowReader& row) {
             const int id = row.Id();
             CFPoint place;
@@ -323,6 +327,32 @@ class Reader {
         });
     }
 
+    void ReadGrid() {
+        RowReader row(m_database, tables::grid);
+        if (!row.Next())
+            row.Fail("mancano i dati della griglia.");
+        constexpr int least = std::numeric_limits<int>::min(), most = std::numeric_limits<int>::max();
+        ConstructionGrid& grid = m_data.Grid();
+        grid.shown = row.Flag();
+        grid.plane = row.Int(0, 2);
+        grid.tilt = row.Real();
+        for (double* coordinate : {&grid.origin.x, &grid.origin.y, &grid.origin.z})
+            *coordinate = row.Real();
+        for (ConstructionGrid::Lines& lines : grid.lines) {
+            lines.negative = row.Int(least, most);
+            lines.positive = row.Int(least, most);
+            lines.spacing = row.Real();
+            lines.angle = row.Real();
+        }
+        ConstructionGrid inMetres = grid;
+        inMetres.ScaleLengths(Metres());
+        if (!inMetres.IsUsable())
+            row.Fail("la griglia non è valida."_utf8);
+        ++m_rows;
+        if (row.Next())
+            row.Fail("i dati della griglia sono ripetuti.");
+    }
+
     void CheckCurrentCase() {
         const int id = m_data.CurrentCase();
         if (id != 0 && !m_data.Find(Kind::LoadCase, id) && !m_data.Find(Kind::Combination, id))
@@ -330,6 +360,7 @@ class Reader {
     }
 
     Database& m_database;
+    int m_format;
     DocumentData m_data;
     int m_rows = 0; // read so far
     int m_expectedRows = 0;
@@ -345,9 +376,15 @@ struct Format {
     DocumentData (*read)(Database& database);
 };
 
+template <int version>
+DocumentData Read(Database& database) {
+    return Reader(database, version).Read();
+}
+
 // Every format that ever was, the one that is written last.
 const Format formats[] = {
-    {1, tables::format1, [](Database& database) { return Reader(database).Read(); }},
+    {1, tables::format1, Read<1>},
+    {2, tables::format2, Read<2>},
 };
 
 const Format& FormatOf(Database& database) {

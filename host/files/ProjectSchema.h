@@ -11,7 +11,7 @@
 namespace host {
 
 inline constexpr int projectApplicationId = 0x51564152;
-inline constexpr int projectFormat = 1; // what is written; raised with every change of the tables
+inline constexpr int projectFormat = 2; // what is written; raised with every change of the tables
 
 // A table: its name and its columns, "I" integer, "R" real, "T" text. Every table also has the place of the row, `pos`,
 // in front.
@@ -43,13 +43,18 @@ inline constexpr Table loads{"carichi", "caso I, id I, genere I, riferimento I, 
                                         "v5 R, v6 R, v7 R, v8 R, v9 R, v10 R, v11 R, v12 R"};
 inline constexpr Table loaded{"carichi_elementi", "genere I, elemento I, caso I, carico I"};
 inline constexpr Table members{"gruppi_elementi", "gruppo I, genere I, elemento I"};
+inline constexpr Table grid{"griglia", "visibile I, piano I, inclinazione R, x R, y R, z R, neg1 I, pos1 I, passo1 R, "
+                                       "angolo1 R, neg2 I, pos2 I, passo2 R, angolo2 R"};
 
 // In the order in which they are made; a file of the format has exactly these. Tables of a format that was released
 // never change: see docs/project-format.md.
 inline constexpr const Table* format1[] = {
     &project, &materials, &sections, &thicknesses, &loadCases, &combinations, &factors, &groups, &nodes,  &springs,
     &beams,   &trusses,   &releases, &walls,       &slabs,     &vertices,     &loads,   &loaded, &members};
-inline constexpr std::span<const Table* const> current = format1; // of projectFormat
+inline constexpr const Table* format2[] = {
+    &project, &materials, &sections, &thicknesses, &loadCases, &combinations, &factors, &groups, &nodes,   &springs,
+    &beams,   &trusses,   &releases, &walls,       &slabs,     &vertices,     &loads,   &loaded, &members, &grid};
+inline constexpr std::span<const Table* const> current = format2; // of projectFormat
 } // namespace tables
 
 std::string CreationSql(const Table& table);

@@ -41,6 +41,7 @@ class Writer {
         WritePolygons(Kind::Slab, tables::slabs);
         WriteAttached();
         WriteMembers();
+        WriteGrid();
         WriteProject(version);
         m_database.Execute("COMMIT");
     }
@@ -192,6 +193,16 @@ class Writer {
             for (int i = 0; i < group.GetSizeElementi(); ++i)
                 members.Put(group.GetID()).Put(group.GetElementKindAt(i)).Put(group.GetElementIdAt(i)).End();
         });
+    }
+
+    void WriteGrid() {
+        const ConstructionGrid& grid = m_data.Grid();
+        RowWriter row(m_database, tables::grid, m_rows);
+        row.Put(grid.shown).Put(grid.plane).Put(grid.tilt);
+        row.Put(grid.origin.x).Put(grid.origin.y).Put(grid.origin.z);
+        for (const ConstructionGrid::Lines& lines : grid.lines)
+            row.Put(lines.negative).Put(lines.positive).Put(lines.spacing).Put(lines.angle);
+        row.End();
     }
 
     const DocumentData& m_data;

@@ -167,6 +167,9 @@ void MainMenu::BuildView() {
     AddToggle(
         menu, "vista.prospettiva", "&Prospettiva", [](HostView& view) { return view.Vista().IsPerspective() != 0; },
         [](HostView& view, bool on) { view.SetPerspective(on); });
+    AddToggle(
+        menu, "vista.griglia", "&Griglia nodi", [](HostView& view) { return view.IsGridShown(); },
+        [](HostView& view, bool on) { view.ShowGrid(on); });
     menu.addSeparator();
     BuildShown(menu);
 }

@@ -269,6 +269,11 @@ bool ToolDialogs::IsPicking(const HostView& view) const {
     return PickerOf(view) != nullptr;
 }
 
+bool ToolDialogs::PicksNodesOnly(const HostView& view) const {
+    const auto picker = PickerOf(view);
+    return picker && picker->command->picksNodes;
+}
+
 void ToolDialogs::PickingStarted(const HostView& view, const CString& prompt) {
     const Tool* caller = CallerOn(view);
     // Nobody known asks, for example a dialog over which a message was shown: the one that was used last.

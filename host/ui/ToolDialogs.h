@@ -58,6 +58,7 @@ class ToolDialogs {
     // ---- Picking in a view. Who asks for it or stops it is the dialog that is being called or, otherwise, the active
     // one.
     bool IsPicking(const HostView& view) const;
+    bool PicksNodesOnly(const HostView& view) const;
     void PickingStarted(const HostView& view, const CString& prompt);
     bool PickingStops(const HostView& view); // false for a dialog that is not the one that picks: the mode goes on
     void PointPicked(const HostView& view, const CFPoint& point, bool second);

@@ -3,6 +3,7 @@
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
+#include "host/document/Properties.h"
 #include "host/ui/DeferredDelete.h"
 #include "host/ui/MainWindow.h"
 #include "host/view/HostView.h"
@@ -254,6 +255,10 @@ void Workspace::DocumentChanged(HostView& view, CView* sender, long hint, CObjec
 void Workspace::ViewChanged(HostView& view) {
     if (&view == m_active)
         m_window->ScheduleRefresh();
+}
+
+void Workspace::ShowProperties(CElemento& element) {
+    AfxMessageBox(PropertiesOf(element), MB_OK | MB_ICONINFORMATION);
 }
 
 void Workspace::ShowCoordinates(const QString& text) {

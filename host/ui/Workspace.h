@@ -71,6 +71,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     bool IsPicking(const HostView& view) const override { return m_tools.IsPicking(view); }
     void PickingStarted(const HostView& view, const CString& prompt) override { m_tools.PickingStarted(view, prompt); }
     bool PickingStops(const HostView& view) override { return m_tools.PickingStops(view); }
+    bool PicksNodesOnly(const HostView& view) const override { return m_tools.PicksNodesOnly(view); }
     void PointPicked(const HostView& view, const CFPoint& point, bool second) override {
         m_tools.PointPicked(view, point, second);
     }
@@ -78,6 +79,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     void DocumentChanged(HostView& view, CView* sender, long hint, CObject* pHint) override;
     void ViewChanged(HostView& view) override;
     void ResultShown(HostView& view, int kind, bool shown) override { m_tools.ResultShown(view, kind, shown); }
+    void ShowProperties(CElemento& element) override;
     void ShowCoordinates(const QString& text) override;
     bool IsWaiting() const override;
 

@@ -2,6 +2,7 @@
 
 #include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/frame/tool/DialogDocument.h"
+#include "dialogs/generation/DialogGrigliaNodi.h"
 #include "host/document/HostDocument.h"
 #include "host/view/ViewOwner.h"
 #include "host/view/ViewRenderer.h"
@@ -29,10 +30,11 @@ IMPLEMENT_DYNAMIC(HostView, CView)
 BEGIN_MESSAGE_MAP(HostView, CView)
     ON_WM_PAINT()
     ON_MESSAGE(WM_FINEDIALOGO, OnFineDialogo)
+    ON_MESSAGE(WM_GRIGLIANODI_AGGIORNA, OnGridChanged)
+    ON_MESSAGE(WM_GRIGLIANODI_FINE, OnGridDone)
 END_MESSAGE_MAP()
 
 namespace {
-constexpr int snapRadius = 12;          // pixels
 constexpr double degreesPerPixel = 0.4; // of orbit
 constexpr double firstScale = 50;       // pixels per metre of an empty document
 
@@ -161,6 +163,7 @@ void HostView::OnDocumentUpdate(CView* sender, long hint, CObject* pHint) {
     if (m_empty && m_document.GetSizeNodi() > 1)
         Fit();
     Redraw();
+    RefreshGridDialog();
     m_owner.DocumentChanged(*this, sender, hint, pHint);
 }
 
@@ -266,10 +269,10 @@ void HostView::SelectRectangle(CPoint a, CPoint b) {
 }
 
 bool HostView::Pick(CPoint at) {
-    CNodo* node = SnapNode(at);
-    if (!node)
+    const std::optional<Snap> snap = SnapAt(at);
+    if (!snap)
         return false;
-    const CFPoint point = *node->GetPunto();
+    const CFPoint point = snap->point;
     // The state moves on before the dialog hears of the point: it may restart the mode for the next one.
     const bool second = m_vector.secondIsNext;
     m_vector.secondIsNext = !second;
@@ -302,18 +305,18 @@ void HostView::ForgetPoints() {
 }
 
 CNodo* HostView::SnapNode(CPoint at) {
-    return NearestNode(m_document, m_projection, at, snapRadius);
+    return NearestNode(m_document, m_projection, at, pickRadius);
 }
 
 CString HostView::Describe(CPoint at) {
     CString text;
-    if (CNodo* node = SnapNode(at)) {
-        const CFPoint& point = *node->GetPunto();
-        text.Format("Nodo %d   x %.3f   y %.3f   z %.3f", node->GetID(), point.x, point.y, point.z);
-    } else {
-        const CFPoint point = m_projection.Unproject(at, m_projection.GetTarget());
-        text.Format("x %.3f   y %.3f   z %.3f", point.x, point.y, point.z);
-    }
+    const std::optional<Snap> snap = SnapAt(at);
+    const CFPoint point = snap ? snap->point : m_projection.Unproject(at, m_projection.GetTarget());
+    if (snap && snap->node)
+        text.Format("Nodo %d   ", snap->node->GetID());
+    else if (snap)
+        text = "Griglia   ";
+    text.AppendFormat("x %.3f   y %.3f   z %.3f", point.x, point.y, point.z);
     return text;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dialogs/frame/host/QuovarView.h"
+#include "host/document/ConstructionGrid.h"
 #include "host/document/DocumentObserver.h"
 #include "host/view/Picking.h"
 #include "model/view/Adv3d.h"
@@ -13,6 +14,7 @@
 #include <optional>
 #include <utility>
 
+class CDialogGrigliaNodi;
 class QWidget;
 
 namespace host {
@@ -95,6 +97,12 @@ class HostView final : public CQuovarView, public DocumentObserver {
     // A result kind of beams, on or off, in the view and in the windows beside it.
     void SetResultShown(int kind, bool shown);
 
+    // ---- The construction lines, which all views of the document show.
+    bool IsGridShown() const;
+    void ShowGrid(bool shown);
+    // Opens the dialog on them; they follow it until its window goes, and stay then. False when there is no window.
+    bool EditGrid(CDialogGrigliaNodi& dialog);
+
     // ---- What the user does with the pointer.
     // In vector definition the click picks; otherwise it replaces the selection, or toggles one object of it.
     void ClickAt(CPoint at, bool toggle);
@@ -104,6 +112,14 @@ class HostView final : public CQuovarView, public DocumentObserver {
     void BreakOffVector();
     // The node that a pick at the point would take; null when none is near.
     CNodo* SnapNode(CPoint at);
+    // What a pick at the point would take: a node, or a crossing of construction lines that is nearer.
+    struct Snap {
+        CFPoint point;
+        CNodo* node; // null for a crossing
+    };
+    std::optional<Snap> SnapAt(CPoint at);
+    // Makes a node on a crossing, tells about an object, or fits the model into the window.
+    void DoubleClickAt(CPoint at);
     CString Describe(CPoint at); // for the status bar: coordinates, of the node where one is near
 
     const VectorDefinition& Vector() const { return m_vector; }
@@ -116,6 +132,11 @@ class HostView final : public CQuovarView, public DocumentObserver {
     void Redraw();       // the picture is out of date
     void OnPaint();
     LRESULT OnFineDialogo(WPARAM wParam, LPARAM lParam);
+    LRESULT OnGridChanged(WPARAM wParam, LPARAM lParam);
+    LRESULT OnGridDone(WPARAM wParam, LPARAM lParam);
+    void SetGrid(const ConstructionGrid& grid);
+    void RefreshGridDialog();
+    std::optional<CFPoint> SnapCrossing(CPoint at) const;
 
     DECLARE_MESSAGE_MAP()
 
@@ -125,6 +146,9 @@ class HostView final : public CQuovarView, public DocumentObserver {
     Adv3d m_projection;
     KindFilter m_filter;
     VectorDefinition m_vector;
+    CDialogGrigliaNodi* m_gridDialog = nullptr; // open on the construction lines; not owned
+    ConstructionGrid m_dialogGrid;              // of that dialog, as far as it was valid
+    bool m_readingGrid = false;
     CRect m_captureRect; // screen; empty captures the view
     bool m_closed = false;
     bool m_fitted = false; // the user has not moved away from the whole model, which then follows the window's size

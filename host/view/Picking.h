@@ -24,6 +24,8 @@ struct KindFilter {
     bool AllElements() const { return beams && trusses && walls && slabs; }
 };
 
+inline constexpr int pickRadius = 12; // pixels, of a node or a crossing around the pointer
+
 // Points are pixels of the view. Objects that the view does not show are never hit.
 
 // The visible node nearest to the point, at most `radius` pixels away; of several at one place, the one nearest to the

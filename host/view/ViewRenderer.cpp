@@ -1,6 +1,7 @@
 #include "host/view/ViewRenderer.h"
 
 #include "host/document/HostDocument.h"
+#include "host/view/GridSight.h"
 #include "model/element/Asta.h"
 #include "model/element/FaceElemento.h"
 #include "model/element/Nodo.h"
@@ -64,6 +65,8 @@ void DrawModel(HostDocument& document, Adv3d& vista, CDC& dc, int stride) {
     stride = std::max(stride, 1);
     const DrawingScope scope(vista, dc);
     DrawPlanes(document, vista);
+    if (const ConstructionGrid& grid = document.Data().Grid(); grid.shown)
+        GridSight(grid, vista).Draw(vista);
     // Lines and nodes ask themselves whether they are to be drawn.
     for (int i = 0; i < document.GetSizeTravi(); i += stride)
         document.GetIndexTrave(i)->Draw(&vista);

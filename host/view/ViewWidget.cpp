@@ -155,7 +155,7 @@ void ViewWidget::DrawVector(QPainter& painter) {
         return QPointF(seen.x, seen.y);
     };
     const bool inside = m_pointer.x() >= 0;
-    CNodo* snap = inside && m_drag == Drag::None ? m_view.SnapNode(ToPoint(m_pointer)) : nullptr;
+    const auto snap = inside && m_drag == Drag::None ? m_view.SnapAt(ToPoint(m_pointer)) : std::nullopt;
     painter.setBrush(Qt::NoBrush);
     if (const auto& vector = m_view.Vector().vector) {
         painter.setPen(QPen(pickColor, 1));
@@ -169,11 +169,11 @@ void ViewWidget::DrawVector(QPainter& painter) {
         painter.drawEllipse(start, 6, 6);
         if (inside) {
             painter.setPen(QPen(pickColor, 1, Qt::DashLine));
-            painter.drawLine(start, snap ? onScreen(*snap->GetPunto()) : QPointF(m_pointer));
+            painter.drawLine(start, snap ? onScreen(snap->point) : QPointF(m_pointer));
         }
     }
     if (snap) {
-        const QPointF at = onScreen(*snap->GetPunto());
+        const QPointF at = onScreen(snap->point);
         painter.setPen(QPen(pickColor, 2));
         painter.drawRect(QRectF(at - QPointF(6, 6), QSizeF(12, 12)));
     }
@@ -244,8 +244,10 @@ void ViewWidget::mouseReleaseEvent(QMouseEvent* event) {
 void ViewWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton)
         m_view.Fit();
-    else
+    else if (event->button() != Qt::LeftButton || m_view.Vector().active)
         mousePressEvent(event); // two quick picks are two picks
+    else if (!m_view.Owner().IsWaiting())
+        m_view.DoubleClickAt(ToPoint(event->position().toPoint()));
 }
 
 void ViewWidget::wheelEvent(QWheelEvent* event) {

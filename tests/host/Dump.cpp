@@ -29,6 +29,11 @@ class Dumper {
             for (int i = 0; i < data.Size(kind); ++i)
                 Object(kind, *data.At(kind, i));
         }
+        const ConstructionGrid& grid = data.Grid();
+        m_text += "\n== ";
+        Add(grid.shown, grid.plane, grid.tilt, grid.origin);
+        for (const ConstructionGrid::Lines& lines : grid.lines)
+            Add(lines.negative, lines.positive, lines.spacing, lines.angle);
         return m_text;
     }
 

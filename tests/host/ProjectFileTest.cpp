@@ -94,7 +94,8 @@ TEST_F(ProjectFileTest, RoundTripIsExact) {
 // raised without a reader for the files of the one before, or without keeping one.
 TEST_F(ProjectFileTest, EveryFormatOpens) {
     const char* const contents[] = {
-        "Edificio a due piani: 18 26 4 2 4 2 1 1 2 3 1, 28 carichi, nodo 7 a (0, 0, 3.2)",
+        "Edificio a due piani: 18 26 4 2 4 2 1 1 2 3 1, 28 carichi, nodo 7 a (0, 0, 3.2), griglia 10 x 10",
+        "Edificio a due piani: 18 26 4 2 4 2 1 1 2 3 1, 28 carichi, nodo 7 a (0, 0, 3.2), griglia 2 x 1",
     };
     static_assert(std::size(contents) == projectFormat, "a format lacks its file");
     for (int format = 1; format <= projectFormat; ++format) {
@@ -112,7 +113,8 @@ TEST_F(ProjectFileTest, EveryFormatOpens) {
         }
         CString rest;
         const CFPoint& place = *data.FindAs<CNodo>(Kind::Node, 7)->GetPunto();
-        rest.Format(", %d carichi, nodo 7 a (%g, %g, %g)", loads, place.x, place.y, place.z);
+        rest.Format(", %d carichi, nodo 7 a (%g, %g, %g), griglia %d x %d", loads, place.x, place.y, place.z,
+                    data.Grid().lines[0].positive, data.Grid().lines[1].positive);
         EXPECT_EQ(found + rest.ToUtf8(), contents[format - 1]);
         SaveProject(data, m_file.string(), "1.2.3");
         EXPECT_EQ(Loaded(), Dump(data)) << format;
@@ -218,9 +220,12 @@ TEST_F(ProjectFileTest, HostileContentIsRefusedWithItsPlace) {
         {"INSERT INTO gruppi_elementi SELECT NULL, gruppo, genere, elemento FROM gruppi_elementi LIMIT 1",
          "Tabella gruppi_elementi, riga 10: l'elemento è già nel gruppo."},
         {"DELETE FROM progetto", "Tabella progetto, riga 1: mancano i dati del progetto."},
+        {"DELETE FROM griglia", "Tabella griglia, riga 1: mancano i dati della griglia."},
+        {"UPDATE griglia SET piano = 3", "Tabella griglia, riga 1: il numero 3 non è ammesso."},
+        {"UPDATE griglia SET angolo1 = 80, angolo2 = -10", "Tabella griglia, riga 1: la griglia non è valida."},
         {"UPDATE progetto SET lunghezza = 9", "Tabella progetto, riga 1: il numero 9 non è ammesso."},
         {"UPDATE progetto SET caso = 55", "Tabella progetto: il caso di carico corrente non esiste."},
-        {"PRAGMA user_version = 2", "Il progetto è stato salvato da una versione più recente del programma."},
+        {"PRAGMA user_version = 3", "Il progetto è stato salvato da una versione più recente del programma."},
         {"PRAGMA application_id = 5", "Il file non è un progetto."},
         {"CREATE TRIGGER t AFTER INSERT ON nodi BEGIN DELETE FROM travi; END", stranger},
         {"CREATE VIEW v AS SELECT 1", stranger},
