@@ -45,6 +45,7 @@ MainMenu::MainMenu(MainWindow& window, Workspace& workspace) : m_window(window),
     BuildEdit();
     BuildView();
     BuildDialogs("&Genera", CommandMenu::Generate);
+    BuildDrawing();
     BuildSelection();
     BuildAssign();
     BuildDialogs("&Carichi", CommandMenu::Loads);
@@ -200,6 +201,25 @@ void MainMenu::BuildShown(QMenu& menu) {
                 for (const KindEntry& kind : kinds)
                     view.SetShown(kind.kind, item, on);
             });
+}
+
+// What is to be drawn through nodes that the user picks.
+void MainMenu::BuildDrawing() {
+    QMenu& menu = Menu("&Disegna");
+    const struct {
+        const char* name;
+        const char* text;
+        const char* keys;
+        const char* icon;
+        Kind kind;
+    } drawings[] = {{"disegna.trave", "&Trave", "F6", "travi", Kind::Beam},
+                    {"disegna.asta", "&Asta", "F7", "aste", Kind::Truss},
+                    {"disegna.setto", "&Setto", "F8", "setti", Kind::Wall},
+                    {"disegna.solaio", "S&olaio", "F9", "solai", Kind::Slab}};
+    for (const auto& each : drawings)
+        AddForView(menu, each.name, each.text, QKeySequence(each.keys), [kind = each.kind](HostView& view) {
+            view.StartDrawing(kind);
+        })->setIcon(ToolIcon(each.icon));
 }
 
 void MainMenu::BuildSelection() {

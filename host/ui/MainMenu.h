@@ -45,6 +45,7 @@ class MainMenu {
     void BuildEdit();
     void BuildView();
     void BuildShown(QMenu& menu);
+    void BuildDrawing();
     void BuildSelection();
     void BuildAssign();
     void BuildAnalysis();

@@ -116,11 +116,15 @@ MainWindow::~MainWindow() {
 
 void MainWindow::BuildStatusBar() {
     m_prompt = new QLabel;
+    m_sentence = new QLabel;
+    for (QLabel* each : {m_prompt, m_sentence}) // long texts do not widen a window on a small screen
+        each->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_coordinates = new QLabel;
     m_unit = new QLabel;
     m_coordinates->setMinimumWidth(
         fontMetrics().horizontalAdvance("Nodo 000000   x -0000.000   y -0000.000   z -0000.000"));
     statusBar()->addWidget(m_prompt, 1);
+    statusBar()->addWidget(m_sentence, 1);
     m_wait = std::make_unique<WaitIndicator>(*statusBar());
     statusBar()->addPermanentWidget(m_coordinates);
     statusBar()->addPermanentWidget(m_unit);
@@ -205,12 +209,21 @@ void MainWindow::Refresh() {
             each->setWindowTitle(m_workspace.TitleOf(*view));
     HostView* view = m_workspace.ActiveView();
     setWindowTitle(view ? m_workspace.TitleOf(*view) + QStringLiteral(" \u2013 Quovar") : QStringLiteral("Quovar"));
-    m_prompt->setText(view ? platform::ToQString(view->Prompt()) : QString());
+    ShowPrompt(view);
     m_unit->setText(view ? platform::ToQString(CGrandezza::_GetStringLunghezza(view->Document().GetLunghezza()) + ", " +
                                                CGrandezza::_GetStringForza(view->Document().GetForza()))
                          : QString());
     m_menu->Refresh(view);
     RefreshLoadCases(view);
+}
+
+void MainWindow::ShowPrompt(HostView* view) {
+    QString prompt = view ? platform::ToQString(view->Prompt()) : QString();
+    if (view && !view->Widget().TypedNumber().isEmpty())
+        prompt += "  Nodo " + view->Widget().TypedNumber();
+    m_prompt->setText(prompt);
+    m_prompt->setToolTip(prompt);
+    m_prompt->setVisible(!prompt.isEmpty());
 }
 
 void MainWindow::RefreshLoadCases(HostView* view) {
@@ -239,6 +252,15 @@ void MainWindow::RefreshLoadCases(HostView* view) {
 
 void MainWindow::ShowCoordinates(const QString& text) {
     m_coordinates->setText(text);
+}
+
+void MainWindow::ShowSentence(const QString& text) {
+    m_sentence->setText(text);
+    m_sentence->setToolTip(text);
+}
+
+QString MainWindow::SentenceText() const {
+    return m_sentence->text();
 }
 
 QString MainWindow::PromptText() const {

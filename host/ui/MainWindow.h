@@ -58,10 +58,12 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     void ScheduleRefresh();
     void Refresh();
     void ShowCoordinates(const QString& text);
+    void ShowSentence(const QString& text); // what became of a command; empty for nothing to say
 
     // Commands by name ("file.salva", "modifica.annulla"), those of dialogs by ActionName; null when there is none.
     QAction* Command(const QString& name) const { return findChild<QAction*>(name); }
     QString PromptText() const;
+    QString SentenceText() const;
 
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -70,6 +72,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
   private:
     void BuildStatusBar();
     void BuildToolBar();
+    void ShowPrompt(HostView* view);
     void RefreshLoadCases(HostView* view);
     QMdiSubWindow* WindowOf(const HostView& view) const;
 
@@ -77,6 +80,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     HostFrame m_frame;
     QMdiArea* m_area; // this and the next are owned by the window
     QLabel* m_prompt = nullptr;
+    QLabel* m_sentence = nullptr;
     QLabel* m_coordinates = nullptr;
     QLabel* m_unit = nullptr;
     QComboBox* m_loadCase = nullptr;

@@ -3,6 +3,7 @@
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
+#include "host/document/NewModel.h"
 #include "host/ui/DeferredDelete.h"
 #include "host/ui/MainWindow.h"
 #include "host/view/HostView.h"
@@ -91,7 +92,9 @@ QString Workspace::TitleOf(const HostView& view) const {
 
 HostView& Workspace::NewDocument() {
     const QString name = QStringLiteral("Senza titolo %1").arg(++m_untitled);
-    Project& project = Adopt(std::make_unique<HostDocument>(), {}, name);
+    auto document = std::make_unique<HostDocument>();
+    document->Replace(NewModel(document->Data().Units()));
+    Project& project = Adopt(std::move(document), {}, name);
     project.document->SetTitle(platform::FromQString(name));
     return NewView(*project.document);
 }
@@ -257,6 +260,10 @@ void Workspace::ViewChanged(HostView& view) {
 
 void Workspace::ShowCoordinates(const QString& text) {
     m_window->ShowCoordinates(text);
+}
+
+void Workspace::Tell(const CString& sentence) {
+    m_window->ShowSentence(platform::ToQString(sentence));
 }
 
 bool Workspace::IsWaiting() const {

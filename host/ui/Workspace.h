@@ -79,6 +79,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     void ViewChanged(HostView& view) override;
     void ResultShown(HostView& view, int kind, bool shown) override { m_tools.ResultShown(view, kind, shown); }
     void ShowCoordinates(const QString& text) override;
+    void Tell(const CString& sentence) override;
     bool IsWaiting() const override;
 
     // ---- For the dialogs.

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numbers>
 
 namespace host {
@@ -45,7 +46,7 @@ QString AskPictureFile(QWidget* parent) {
 std::function<QString()> HostView::pictureFileHook;
 
 HostView::HostView(HostDocument& document, ViewOwner& owner, HWND frame, QWidget* parent)
-    : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)) {
+    : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)), m_drawing(document) {
     m_widget->Open(*this);
     m_projection.SetScale(firstScale * CGrandezza::_LengthFactor(m_document.GetLunghezza(), Lunghezza::Metres));
     // What a window of diagrams begins with.
@@ -65,6 +66,7 @@ void HostView::Close() {
     m_closed = true;
     m_document.RemoveObserver(this);
     m_vector = {};
+    m_drawing.Stop();
     DestroyWindow();
     m_widget->Leave(); // the loop deletes it
 }
@@ -76,16 +78,30 @@ CQuovarDoc* HostView::GetDocument() {
 void HostView::StartDefinisciVettore(CString prompt, CString) {
     m_owner.PickingStarted(*this, prompt);
     m_vector = {true, false, prompt, std::nullopt};
-    m_widget->setCursor(Qt::CrossCursor);
-    m_widget->update();
-    m_owner.ViewChanged(*this);
+    m_drawing.Stop();
+    ShowPicking();
 }
 
 void HostView::StopDefinisciVettore() {
     if (!m_vector.active || !m_owner.PickingStops(*this))
         return;
     m_vector = {};
-    m_widget->unsetCursor();
+    ShowPicking();
+}
+
+void HostView::StartDrawing(Kind kind) {
+    m_owner.Tell(m_drawing.Start(kind));
+    m_widget->setFocus();
+    ShowPicking();
+}
+
+void HostView::ShowPicking() {
+    if (m_closed)
+        return;
+    if (AsksForNodes())
+        m_widget->setCursor(Qt::CrossCursor);
+    else
+        m_widget->unsetCursor();
     m_widget->update();
     m_owner.ViewChanged(*this);
 }
@@ -234,76 +250,108 @@ void HostView::SetResultShown(int kind, bool shown) {
     m_owner.ViewChanged(*this);
 }
 
-void HostView::ClickAt(CPoint at, bool toggle) {
-    if (m_vector.active) {
-        Pick(at);
+void HostView::ClickAt(CPoint at, SelectMode mode) {
+    if (AsksForNodes()) {
+        if (CNodo* node = SnapNode(at))
+            Pick(*node);
         return;
     }
+    std::vector<CElemento*> hit;
+    if (CElemento* object = ObjectAt(m_document, m_projection, at, m_filter))
+        hit.push_back(object);
+    Select(hit, mode);
+}
+
+void HostView::SelectRectangle(CPoint a, CPoint b, SelectMode mode) {
+    Select(ObjectsIn(m_document, m_projection, a, b, m_filter), mode);
+}
+
+bool HostView::ActAt(CElemento& object, SelectMode mode) {
+    if (!AsksForNodes()) {
+        Select({&object}, mode);
+        return true;
+    }
+    auto* node = DYNAMIC_DOWNCAST(CNodo, &object);
+    if (node)
+        Pick(*node);
+    return node;
+}
+
+void HostView::Select(const std::vector<CElemento*>& found, SelectMode mode) {
     HostSelection& selection = m_document.Selection();
-    CElemento* hit = ObjectAt(m_document, m_projection, at, m_filter);
-    if (toggle) {
-        if (hit && hit->IsSelect())
-            selection.Remove(hit);
-        else if (hit)
-            selection.Add(hit);
+    std::vector<CElemento*> leaving;
+    if (mode == SelectMode::Replace)
+        selection.Clear();
+    else if (mode == SelectMode::Toggle)
+        std::copy_if(found.begin(), found.end(), std::back_inserter(leaving),
+                     [](CElemento* each) { return each->IsSelect(); });
+    if (leaving.empty()) {
+        selection.Add(found);
         return;
     }
-    selection.Clear();
-    if (hit)
-        selection.Add(hit);
+    std::vector<CElemento*> coming;
+    std::copy_if(found.begin(), found.end(), std::back_inserter(coming),
+                 [](CElemento* each) { return !each->IsSelect(); });
+    selection.Remove(leaving);
+    selection.Add(coming);
 }
 
-void HostView::SelectRectangle(CPoint a, CPoint b) {
-    const std::vector<CElemento*> found = ObjectsIn(m_document, m_projection, a, b, m_filter);
-    if (!found.empty())
-        m_document.Selection().Add(found);
+void HostView::Pick(CNodo& node) {
+    if (!m_drawing.IsActive())
+        return PickForTool(*node.GetPunto());
+    m_owner.Tell(m_drawing.Take(node));
+    ShowPicking();
 }
 
-bool HostView::Pick(CPoint at) {
-    CNodo* node = SnapNode(at);
-    if (!node)
-        return false;
-    const CFPoint point = *node->GetPunto();
+void HostView::PickForTool(const CFPoint& point) {
     // The state moves on before the dialog hears of the point: it may restart the mode for the next one.
     const bool second = m_vector.secondIsNext;
     m_vector.secondIsNext = !second;
     m_vector.from = second ? std::optional<CFPoint>() : point;
     m_owner.PointPicked(*this, point, second);
-    if (!m_closed) {
-        m_widget->update();
-        m_owner.ViewChanged(*this);
-    }
-    return true;
+    ShowPicking();
 }
 
-void HostView::BreakOffVector() {
-    if (!m_owner.IsPicking(*this)) {
+void HostView::BreakOff() {
+    if (m_drawing.IsActive()) {
+        m_drawing.StepBack();
+    } else if (!m_owner.IsPicking(*this)) {
         StopDefinisciVettore();
         return;
+    } else {
+        m_vector.secondIsNext = false;
+        m_vector.from.reset();
     }
-    m_vector.secondIsNext = false;
-    m_vector.from.reset();
-    m_widget->update();
-    m_owner.ViewChanged(*this);
+    ShowPicking();
 }
 
 CNodo* HostView::SnapNode(CPoint at) {
     return NearestNode(m_document, m_projection, at, snapRadius);
 }
 
-CString HostView::Describe(CPoint at) {
+CString HostView::Describe(CElemento& object) {
     CString text;
-    if (CNodo* node = SnapNode(at)) {
+    if (auto* node = DYNAMIC_DOWNCAST(CNodo, &object)) {
         const CFPoint& point = *node->GetPunto();
         text.Format("Nodo %d   x %.3f   y %.3f   z %.3f", node->GetID(), point.x, point.y, point.z);
     } else {
-        const CFPoint point = m_projection.Unproject(at, m_projection.GetTarget());
-        text.Format("x %.3f   y %.3f   z %.3f", point.x, point.y, point.z);
+        object.GetTextInfo(text);
     }
     return text;
 }
 
+CString HostView::Describe(CPoint at) {
+    if (CNodo* node = SnapNode(at))
+        return Describe(*node);
+    CString text;
+    const CFPoint point = m_projection.Unproject(at, m_projection.GetTarget());
+    text.Format("x %.3f   y %.3f   z %.3f", point.x, point.y, point.z);
+    return text;
+}
+
 CString HostView::Prompt() const {
+    if (m_drawing.IsActive())
+        return m_drawing.Prompt();
     if (!m_vector.active)
         return {};
     if (!m_vector.prompt.IsEmpty())

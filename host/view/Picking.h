@@ -24,6 +24,9 @@ struct KindFilter {
     bool AllElements() const { return beams && trusses && walls && slabs; }
 };
 
+// What becomes of the objects that are selected already.
+enum class SelectMode { Replace, Add, Toggle };
+
 // Points are pixels of the view. Objects that the view does not show are never hit.
 
 // The visible node nearest to the point, at most `radius` pixels away; of several at one place, the one nearest to the

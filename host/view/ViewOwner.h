@@ -30,6 +30,7 @@ class ViewOwner {
     // A kind of results of beams (CElementoSettings) was shown or hidden in the view.
     virtual void ResultShown(HostView& view, int kind, bool shown) = 0;
     virtual void ShowCoordinates(const QString& text) = 0;
+    virtual void Tell(const CString& sentence) = 0; // what became of a command, for the status bar
     // A long command is running: the model may be half changed and is not to be drawn.
     virtual bool IsWaiting() const = 0;
 };
