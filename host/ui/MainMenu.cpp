@@ -255,6 +255,13 @@ void MainMenu::BuildAssign() {
             if (HostView* view = m_workspace.ActiveView())
                 run(view->Document(), m_window);
         });
+    QMenu& supports = *menu.addMenu("Vincoli &pronti");
+    for (const Support& each : Supports())
+        Add(supports, QStringLiteral("assegna.vincolo.") + each.name, each.caption, {}, Needs::Selection,
+            [this, fixed = each.fixed] {
+                if (HostView* view = m_workspace.ActiveView())
+                    RunAssignSupport(view->Document(), fixed);
+            });
 }
 
 void MainMenu::BuildAnalysis() {
