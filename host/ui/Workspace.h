@@ -13,6 +13,8 @@
 #include <memory>
 #include <vector>
 
+class QFileInfo;
+
 namespace host {
 
 class HostDocument;
@@ -108,6 +110,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     Project& Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name);
     Project* ProjectOf(const HostDocument& document) const;
     HostView* LastViewOf(const HostDocument& document) const; // null when it has none or more than one
+    HostView* ViewOf(const QFileInfo& file) const;            // null when no open document is saved there
     HostView* OtherViewOf(const HostView& view) const;        // of the same document; null when there is none
     void Activate(HostView& view);                            // its window too
     void RunIdle(Project& project);

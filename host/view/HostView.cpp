@@ -2,6 +2,7 @@
 
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "host/document/HostDocument.h"
+#include "host/view/SaveDialog.h"
 #include "host/view/ViewOwner.h"
 #include "host/view/ViewRenderer.h"
 #include "host/view/ViewWidget.h"
@@ -12,8 +13,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QScreen>
 
 #include <algorithm>
@@ -36,9 +35,8 @@ constexpr double degreesPerPixel = 0.4; // of orbit
 constexpr double firstScale = 50;       // pixels per metre of an empty document
 
 QString AskPictureFile(QWidget* parent) {
-    return QFileDialog::getSaveFileName(
-        parent, QStringLiteral("Salva immagine"), QStringLiteral("immagine.png"),
-        QStringLiteral("Immagini PNG (*.png);;Immagini JPEG (*.jpg);;Immagini BMP (*.bmp)"));
+    return AskSaveName(parent, QStringLiteral("Salva immagine"), QStringLiteral("immagine.png"),
+                       {"Immagini PNG (*.png)", "Immagini JPEG (*.jpg)", "Immagini BMP (*.bmp)"});
 }
 
 } // namespace
@@ -157,12 +155,8 @@ void HostView::CatturaImmagine() {
     if (picture.isNull())
         return;
     QApplication::clipboard()->setPixmap(picture);
-    QString path = pictureFileHook ? pictureFileHook() : AskPictureFile(m_widget->QWidget::window());
-    if (path.isEmpty())
-        return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += ".png";
-    if (!picture.save(path))
+    const QString path = pictureFileHook ? pictureFileHook() : AskPictureFile(m_widget->QWidget::window());
+    if (!path.isEmpty() && !picture.save(path))
         AfxMessageBox("Impossibile scrivere l'immagine \"" + platform::FromQString(path) + "\".",
                       MB_OK | MB_ICONEXCLAMATION);
 }
