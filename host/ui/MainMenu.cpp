@@ -308,7 +308,7 @@ void MainMenu::BuildWindow() {
         area.setViewMode(QMdiArea::SubWindowView);
         area.cascadeSubWindows();
     });
-    Add(menu, "finestra.schede", "S&chede", {}, Needs::View, [&area] { area.setViewMode(QMdiArea::TabbedView); });
+    Add(menu, "finestra.schede", "S&chede", {}, Needs::View, [this] { m_window.ShowAsTabs(); });
     menu.addSeparator();
     Add(menu, "finestra.successiva", "S&uccessiva", QKeySequence("Ctrl+Tab"), Needs::View,
         [&area] { area.activateNextSubWindow(); });

@@ -187,12 +187,26 @@ void MainWindow::RemoveView(HostView& view) {
         window->deleteLater();
     }
 }
+        FillTab();
 
 void MainWindow::ShowView(HostView& view) {
     if (QMdiSubWindow* window = WindowOf(view))
+void MainWindow::ShowAsTabs() {
+    m_area->setViewMode(QMdiArea::TabbedView);
+    FillTab();
+}
+
+// The area leaves a window as small as it was when the one before it goes.
+void MainWindow::FillTab() {
+    QMdiSubWindow* shown = m_area->currentSubWindow();
+    if (m_area->viewMode() == QMdiArea::TabbedView && shown && !shown->isMaximized())
+        shown->showMaximized();
+}
+
         m_area->setActiveSubWindow(window);
 }
 
+    FillTab();
 void MainWindow::ScheduleRefresh() {
     if (m_refreshScheduled)
         return;

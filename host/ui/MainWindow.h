@@ -53,6 +53,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     void AddView(HostView& view);
     void RemoveView(HostView& view); // the view closes itself
     void ShowView(HostView& view);   // makes it the active one
+    void ShowAsTabs();
 
     // Brings menus, tool bar, titles and status bar up to date, once, when control is back in the loop.
     void ScheduleRefresh();
@@ -74,6 +75,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     void BuildToolBar();
     void ShowPrompt(HostView* view);
     void RefreshLoadCases(HostView* view);
+    void FillTab();
     QMdiSubWindow* WindowOf(const HostView& view) const;
 
     Workspace& m_workspace;
