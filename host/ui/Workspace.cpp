@@ -44,6 +44,7 @@ Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, con
     m_projects.push_back(std::make_unique<Project>());
     Project& project = *m_projects.back();
     project.document = std::move(document);
+    project.document->SetPathName(platform::FromQString(path.isEmpty() ? name + ".asg" : path));
     project.idle = std::make_unique<QObject>();
     project.path = path;
     project.name = name;
@@ -91,11 +92,10 @@ QString Workspace::TitleOf(const HostView& view) const {
 }
 
 HostView& Workspace::NewDocument() {
-    const QString name = QStringLiteral("Senza titolo %1").arg(++m_untitled);
+    const QString name = QStringLiteral("Senza nome %1").arg(++m_untitled);
     auto document = std::make_unique<HostDocument>();
     document->Replace(NewModel(document->Data().Units()));
     Project& project = Adopt(std::move(document), {}, name);
-    project.document->SetTitle(platform::FromQString(name));
     return NewView(*project.document);
 }
 

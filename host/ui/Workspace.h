@@ -111,6 +111,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     Project* ProjectOf(const HostDocument& document) const;
     HostView* LastViewOf(const HostDocument& document) const; // null when it has none or more than one
     HostView* ViewOf(const QFileInfo& file) const;            // null when no open document is saved there
+    // Without a path the captions of its dialogs begin with the name.
     HostView* OtherViewOf(const HostView& view) const;        // of the same document; null when there is none
     void Activate(HostView& view);                            // its window too
     void RunIdle(Project& project);

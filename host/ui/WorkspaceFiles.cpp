@@ -91,11 +91,6 @@ HostView* Workspace::Open(const QString& path) {
     });
     if (!read)
         return nullptr;
-    // A text model becomes a project of its own: saving never writes over it.
-    if (text)
-        document->SetTitle(platform::FromQString(file.completeBaseName()));
-    else
-        document->SetPathName(platform::FromQString(whole));
     HostView* former = m_active;
     Project& project =
         Adopt(std::move(document), text ? QString() : whole, text ? file.completeBaseName() : file.fileName());

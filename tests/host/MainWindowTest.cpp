@@ -30,8 +30,8 @@ TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
     HostView& second = View();
     ASSERT_NE(&first, &second);
     EXPECT_EQ(&first.Document(), &second.Document());
-    EXPECT_EQ(m_workspace->TitleOf(first), "Senza titolo 1:1");
-    EXPECT_EQ(m_workspace->TitleOf(second), "Senza titolo 1:2");
+    EXPECT_EQ(m_workspace->TitleOf(first), "Senza nome 1:1");
+    EXPECT_EQ(m_workspace->TitleOf(second), "Senza nome 1:2");
     EXPECT_EQ(m_workspace->Window().Area().subWindowList().size(), 2);
     second.SetDirection(Adv3d::Top);
     EXPECT_FALSE(first.Vista().GetAxis(2) == second.Vista().GetAxis(2));
@@ -42,7 +42,7 @@ TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
     second.Widget().grab();
     EXPECT_GT(first.Widget().DrawCount(), drawnFirst);
     EXPECT_GT(second.Widget().DrawCount(), drawnSecond);
-    EXPECT_EQ(m_workspace->TitleOf(first), "Senza titolo 1*:1");
+    EXPECT_EQ(m_workspace->TitleOf(first), "Senza nome 1*:1");
 
     EXPECT_TRUE(m_workspace->CloseView(second)) << "no question: another view is left";
     CWinApp::PumpMessages();
@@ -56,9 +56,9 @@ TEST_F(MainWindowTest, TwoViewsOfOneDocument) {
     EXPECT_EQ(first.Document().GetViewStructure(), &first);
     EXPECT_TRUE(m_workspace->CloseView(View()));
     EXPECT_EQ(m_workspace->ActiveView(), &first);
-    m_user.ExpectMessage("Salvare le modifiche a \"Senza titolo 1\"?", IDCANCEL, MB_YESNOCANCEL | MB_ICONQUESTION);
+    m_user.ExpectMessage("Salvare le modifiche a \"Senza nome 1\"?", IDCANCEL, MB_YESNOCANCEL | MB_ICONQUESTION);
     EXPECT_FALSE(m_workspace->CloseView(first));
-    m_user.ExpectMessage("Salvare le modifiche a \"Senza titolo 1\"?", IDNO);
+    m_user.ExpectMessage("Salvare le modifiche a \"Senza nome 1\"?", IDNO);
     EXPECT_TRUE(m_workspace->CloseView(first));
     EXPECT_FALSE(m_workspace->ActiveView());
     EXPECT_FALSE(CQuovarGlobal::_GetActiveDoc());
