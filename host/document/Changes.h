@@ -29,6 +29,7 @@ class Creation : public Change {
     void Undo() override;
     void Redo() override;
     Reach GetReach() const override;
+    void CountIn(StepSummary& summary) const override;
 
   private:
     struct Run {
@@ -51,6 +52,7 @@ class Removal : public Change {
     void Undo() override;
     void Redo() override;
     Reach GetReach() const override { return ReachOf(m_kind); }
+    void CountIn(StepSummary& summary) const override;
 
   private:
     DocumentData& m_data;
@@ -68,6 +70,7 @@ class Movement : public Change {
     void Undo() override { Swap(); }
     void Redo() override { Swap(); }
     unsigned GetNews() const override { return newsLengths; }
+    void CountIn(StepSummary& summary) const override;
 
   private:
     void Swap();

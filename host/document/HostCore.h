@@ -51,6 +51,10 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     void SetRefusalTeller(RefusalTeller teller) { m_refusalTeller = std::move(teller); }
     // The operation is over: what it did is complete, the rest is left undone.
     void Refuse(const Refusal& refusal) const;
+    // Who shows the user in one sentence what a command did; each step tells by itself. One at a time.
+    using Teller = std::function<void(const CString& sentence)>;
+    void SetTeller(Teller teller) { m_teller = std::move(teller); }
+    void Tell(const CString& sentence) const;
 
     // ---- The file
     // Takes over a whole model that was read from a file. Undo and selection start anew, the document is unmodified.
@@ -78,6 +82,7 @@ class HostCore : public CQuovarDoc, private UndoOwner {
 
   private:
     void NotifyChange(Reach reach, unsigned news, const std::vector<long>& codes) override;
+    void StepMade(const StepSummary& summary) override;
     void Announce(long hint) override { m_notices.Tell(nullptr, hint); }
     void FollowResults(Reach reach);
     bool ScheduleIdle() override { return m_notices.ScheduleIdle(); }
@@ -92,6 +97,7 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     ChangeNotices m_notices{m_data, m_selection, m_analysis};
     DirectChanges m_direct{m_data, m_undo};
     RefusalTeller m_refusalTeller;
+    Teller m_teller;
     std::size_t m_savedState = 0;
     bool m_flagged = false; // modified, says a dialog
 };

@@ -20,8 +20,10 @@ constexpr char generationStep[] = "Generazione nodi";
 
 // Null when the numbers of nodes are used up.
 CNodo* MakeNode(HostEditing& document, const CFPoint& place) {
-    if (CNodo* there = document.Data().NodeAt(place, nullptr, document.GetTolerance()))
+    if (CNodo* there = document.Data().NodeAt(place, nullptr, document.GetTolerance())) {
+        document.Undo().NotePresent();
         return there;
+    }
     return document.AddNew(std::make_unique<CNodo>(place), generationStep);
 }
 
@@ -94,7 +96,9 @@ int HostGeneration::GenNodiLineare(CFPoint inizio, CFPoint direzione, double pas
 }
 
 int HostGeneration::GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) {
-    return GenerateNodes(PlacesOnSegment(p1, p2, nNodi, Data().Tolerance()));
+    if (nNodi < 1 || nNodi > mostGeneratedNodes - 2)
+        return 0;
+    return GenerateNodes(PlacesOnSegment(p1, p2, nNodi + 2, Data().Tolerance()));
 }
 
 int HostGeneration::GenNodiArco3Punti(int piano, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) {

@@ -13,7 +13,7 @@ class HostGeneration : public HostEditing {
     //
     // The first node is at `inizio`; a negative `passo` leads away from `direzione`. It must exceed the tolerance.
     int GenNodiLineare(CFPoint inizio, CFPoint direzione, double passo, int nNodi) override;
-    // Equally spaced, both ends included; a single node lies at the first end.
+    // `nNodi` of them strictly between the two points, equally spaced, and one at each point where none lies yet.
     int GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) override;
     // From p1 through p2 to p3, both ends included. The points must lie in a plane parallel to `piano`.
     int GenNodiArco3Punti(int piano, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) override;

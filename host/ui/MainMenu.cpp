@@ -65,8 +65,9 @@ QAction* MainMenu::Add(QMenu& menu, const QString& name, const QString& text, co
     action->setObjectName(name);
     action->setShortcut(keys);
     menu.addAction(action);
+    const QString caption = QString(text).remove('&').remove(u'\u2026');
     QObject::connect(action, &QAction::triggered, &m_window,
-                     [this, run = std::move(run)] { m_workspace.Execute(run); });
+                     [this, caption, run = std::move(run)] { m_workspace.RunCommand(caption, run); });
     m_items.push_back({action, needs, {}});
     return action;
 }
@@ -81,8 +82,12 @@ QAction* MainMenu::AddForView(QMenu& menu, const QString& name, const QString& t
 
 QAction* MainMenu::AddToggle(QMenu& menu, const QString& name, const QString& text,
                              std::function<bool(HostView&)> state, std::function<void(HostView&, bool)> set) {
-    QAction* action =
-        AddForView(menu, name, text, {}, [state, set = std::move(set)](HostView& view) { set(view, !state(view)); });
+    QAction* action = AddForView(menu, name, text, {}, [this, text, state, set = std::move(set)](HostView& view) {
+        set(view, !state(view));
+        const QString caption =
+            QString(text).remove('&') + (state(view) ? QStringLiteral(": sì.") : QStringLiteral(": no."));
+        m_workspace.Tell(platform::FromQString(caption));
+    });
     action->setCheckable(true);
     m_items.back().checked = std::move(state);
     return action;

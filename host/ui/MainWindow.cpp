@@ -119,6 +119,7 @@ void MainWindow::BuildStatusBar() {
     m_sentence = new QLabel;
     for (QLabel* each : {m_prompt, m_sentence}) // long texts do not widen a window on a small screen
         each->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_selected = new QLabel;
     m_coordinates = new QLabel;
     m_unit = new QLabel;
     m_coordinates->setMinimumWidth(
@@ -126,6 +127,7 @@ void MainWindow::BuildStatusBar() {
     statusBar()->addWidget(m_prompt, 1);
     statusBar()->addWidget(m_sentence, 1);
     m_wait = std::make_unique<WaitIndicator>(*statusBar());
+    statusBar()->addPermanentWidget(m_selected);
     statusBar()->addPermanentWidget(m_coordinates);
     statusBar()->addPermanentWidget(m_unit);
 }
@@ -185,12 +187,10 @@ void MainWindow::RemoveView(HostView& view) {
         m_area->removeSubWindow(window);
         window->hide();
         window->deleteLater();
+        FillTab();
     }
 }
-        FillTab();
 
-void MainWindow::ShowView(HostView& view) {
-    if (QMdiSubWindow* window = WindowOf(view))
 void MainWindow::ShowAsTabs() {
     m_area->setViewMode(QMdiArea::TabbedView);
     FillTab();
@@ -203,10 +203,12 @@ void MainWindow::FillTab() {
         shown->showMaximized();
 }
 
+void MainWindow::ShowView(HostView& view) {
+    if (QMdiSubWindow* window = WindowOf(view))
         m_area->setActiveSubWindow(window);
+    FillTab();
 }
 
-    FillTab();
 void MainWindow::ScheduleRefresh() {
     if (m_refreshScheduled)
         return;
@@ -224,6 +226,8 @@ void MainWindow::Refresh() {
     HostView* view = m_workspace.ActiveView();
     setWindowTitle(view ? m_workspace.TitleOf(*view) + QStringLiteral(" \u2013 Quovar") : QStringLiteral("Quovar"));
     ShowPrompt(view);
+    const bool selected = view && !view->Document().Selection().IsEmpty();
+    m_selected->setText(selected ? platform::ToQString(view->Document().Selection().Text()) : QString());
     m_unit->setText(view ? platform::ToQString(CGrandezza::_GetStringLunghezza(view->Document().GetLunghezza()) + ", " +
                                                CGrandezza::_GetStringForza(view->Document().GetForza()))
                          : QString());

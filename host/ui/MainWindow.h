@@ -83,6 +83,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     QMdiArea* m_area; // this and the next are owned by the window
     QLabel* m_prompt = nullptr;
     QLabel* m_sentence = nullptr;
+    QLabel* m_selected = nullptr;
     QLabel* m_coordinates = nullptr;
     QLabel* m_unit = nullptr;
     QComboBox* m_loadCase = nullptr;

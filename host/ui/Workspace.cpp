@@ -51,6 +51,7 @@ Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, con
     project.document->SetIdleScheduler(
         [this, &project] { QTimer::singleShot(0, project.idle.get(), [this, &project] { RunIdle(project); }); });
     project.document->Selection().SetRangeAxis([this, &of = *project.document] { return m_tools.RangeAxis(of); });
+    project.document->SetTeller([this](const CString& sentence) { Tell(sentence); });
     project.document->SetRefusalTeller([](const Refusal& refusal) { AfxMessageBox(refusal.message, MB_OK); });
     return project;
 }
@@ -197,6 +198,22 @@ void Workspace::Execute(const std::function<void()>& command) {
     platform::RunGuarded(command);
 }
 
+void Workspace::RunCommand(const QString& caption, const std::function<void()>& command) {
+    Execute([&] {
+        const HostView* view = m_active;
+        const auto before = view ? view->Document().Selection().TakeSnapshot() : HostSelection::Snapshot();
+        m_told = false;
+        command();
+        if (m_told)
+            return;
+        const bool sameView = view && view == m_active;
+        if (sameView && view->Document().Selection().TakeSnapshot() != before)
+            Tell(view->Document().Selection().Text() + ".");
+        else
+            Tell(platform::FromQString(caption + "."));
+    });
+}
+
 // What was changed until then is a step that can be undone.
 void Workspace::Recover() {
     for (const auto& project : m_projects)
@@ -224,14 +241,23 @@ CDialog* Workspace::Run(const Command& command) {
 }
 
 void Workspace::Undo() {
-    if (m_active)
-        m_active->Document().Undo().Undo();
+    if (m_active) {
+        HostUndo& undo = m_active->Document().Undo();
+        undo.Close();
+        const CString name = undo.UndoName();
+        if (undo.Undo())
+            Tell("Annullato: " + name + ".");
+    }
     m_window->ScheduleRefresh();
 }
 
 void Workspace::Redo() {
-    if (m_active)
-        m_active->Document().Undo().Redo();
+    if (m_active) {
+        HostUndo& undo = m_active->Document().Undo();
+        const CString name = undo.RedoName();
+        if (undo.Redo())
+            Tell("Ripristinato: " + name + ".");
+    }
     m_window->ScheduleRefresh();
 }
 
@@ -263,6 +289,7 @@ void Workspace::ShowCoordinates(const QString& text) {
 }
 
 void Workspace::Tell(const CString& sentence) {
+    m_told = m_told || !sentence.IsEmpty();
     m_window->ShowSentence(platform::ToQString(sentence));
 }
 

@@ -59,6 +59,10 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     // is gone, and a request that was already waiting behind the dialog's last key may come before that.
     void Execute(const std::function<void()>& command);
 
+    // The same for a command of the menus. Where it has told nothing of what it did, its caption is told, or what is
+    // selected now when that is other than before.
+    void RunCommand(const QString& caption, const std::function<void()>& command);
+
     // ---- Commands on the active view; without one nothing happens.
     // Opens the command's dialog and returns it, or runs it until the user is done and returns null. Null also when
     // there can be no dialog, or nothing is selected for a command that needs it.
@@ -107,11 +111,11 @@ class Workspace final : public CQuovarHost, public ViewOwner {
         QString name;                  // without folder
     };
 
+    // Without a path the captions of its dialogs begin with the name.
     Project& Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name);
     Project* ProjectOf(const HostDocument& document) const;
     HostView* LastViewOf(const HostDocument& document) const; // null when it has none or more than one
     HostView* ViewOf(const QFileInfo& file) const;            // null when no open document is saved there
-    // Without a path the captions of its dialogs begin with the name.
     HostView* OtherViewOf(const HostView& view) const;        // of the same document; null when there is none
     void Activate(HostView& view);                            // its window too
     void RunIdle(Project& project);
@@ -127,6 +131,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     ToolDialogs m_tools;
     int m_untitled = 0;
     bool m_executing = false;
+    bool m_told = false; // something, since the last command began
 };
 
 } // namespace host

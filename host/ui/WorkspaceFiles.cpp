@@ -1,6 +1,7 @@
 // The part of the workspace that reads and writes files.
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "host/document/HostDocument.h"
+#include "host/document/StepSummary.h"
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddImport.h"
 #include "host/files/ProjectFile.h"
@@ -92,10 +93,16 @@ HostView* Workspace::Open(const QString& path) {
     if (!read)
         return nullptr;
     HostView* former = m_active;
+    // A text model becomes a project of its own: saving never writes over it.
     Project& project =
         Adopt(std::move(document), text ? QString() : whole, text ? file.completeBaseName() : file.fileName());
     HostView& view = NewView(*project.document);
     CloseUntouched(former);
+    KindCounts counts = {};
+    for (const Kind kind : {Kind::Node, Kind::Beam, Kind::Truss, Kind::Wall, Kind::Slab})
+        counts[static_cast<std::size_t>(kind)] = project.document->Data().Size(kind);
+    Tell(platform::FromQString(QStringLiteral("Aperto \"%1\": ").arg(file.fileName())) +
+         (CountText(counts).IsEmpty() ? CString("vuoto") : CountText(counts)) + ".");
     if (!notes.empty())
         TellNotes(notes);
     return &view;
@@ -139,6 +146,7 @@ bool Workspace::SaveAs(HostDocument& document, const QString& path) {
     m_tools.Renamed(document, formerPath);
     document.MarkSaved();
     m_window->ScheduleRefresh();
+    Tell(platform::FromQString(QStringLiteral("Salvato in \"%1\".").arg(QDir::toNativeSeparators(whole))));
     return true;
 }
 

@@ -49,16 +49,22 @@ TEST(DocumentGeneration, LinePlacesNodesFromTheStart) {
     ExpectNear(At(document, 5), {2, 0, 0});
 }
 
-TEST(DocumentGeneration, SegmentHasBothEnds) {
+// The number is of the nodes strictly between the points, which the picture in the dialog shows; the ends are met.
+TEST(DocumentGeneration, SegmentCountsTheNodesBetweenItsEnds) {
     HostDocument document;
-    EXPECT_NE(document.GenNodi2Punti({0, 0, 0}, {0.3, 0.7, 1.1}, 4), 0);
+    std::vector<std::string> told;
+    document.SetTeller([&](const CString& sentence) { told.push_back(sentence.ToUtf8()); });
+    EXPECT_NE(document.GenNodi2Punti({0, 0, 0}, {0.3, 0.7, 1.1}, 2), 0);
     ASSERT_EQ(document.GetSizeNodi(), 4);
     ExpectNear(At(document, 1), {0.1, 0.7 / 3, 1.1 / 3});
     EXPECT_TRUE(At(document, 3) == CFPoint(0.3, 0.7, 1.1)) << "the end is exact";
-    HostDocument single;
-    EXPECT_NE(single.GenNodi2Punti({5, 6, 7}, {8, 9, 10}, 1), 0);
-    ASSERT_EQ(single.GetSizeNodi(), 1);
-    EXPECT_TRUE(At(single, 0) == CFPoint(5, 6, 7));
+    EXPECT_NE(document.GenNodi2Punti({0, 0, 0}, {2, 0, 0}, 1), 0);
+    ASSERT_EQ(document.GetSizeNodi(), 6) << "the first end was there";
+    ExpectNear(At(document, 4), {1, 0, 0});
+    EXPECT_NE(document.GenNodi2Punti({0, 0, 0}, {2, 0, 0}, 1), 0);
+    EXPECT_EQ(told, (std::vector<std::string>{"Generazione nodi: 4 nodi creati.",
+                                              "Generazione nodi: 2 nodi creati, 1 già presente.",
+                                              "Generazione nodi: nessun nodo creato, 3 già presenti."}));
 }
 
 // Parameters that cannot be used leave no trace: no node, no step.
@@ -76,6 +82,8 @@ TEST(DocumentGeneration, NonsenseIsRejected) {
     EXPECT_EQ(document.GenNodiLineare(o, x, 1e308, 5), 0);
     EXPECT_EQ(document.GenNodi2Punti(x, x, 5), 0);
     EXPECT_EQ(document.GenNodi2Punti(o, x, 500'000), 0) << "closer than the tolerance";
+    EXPECT_EQ(document.GenNodi2Punti(o, x, 2'147'483'647), 0);
+    EXPECT_EQ(document.GenNodi2Punti(o, x, -1), 0);
     EXPECT_EQ(document.GenNodiArco3Punti(1, o, x, {2, 0, 0}, 5), 0) << "three points in line";
     EXPECT_EQ(document.GenNodiArco3Punti(1, o, x, {1, 1, 3}, 5), 0) << "not parallel to the plane";
     EXPECT_EQ(document.GenNodiArco3Punti(4, o, x, {1, 1, 0}, 5), 0);

@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -99,6 +100,47 @@ TEST_F(MainWindowTest, ItsToolBarsAreBarsOfTheFrame) {
     window.Frame().ShowControlBar(bars[0], FALSE, TRUE);
     EXPECT_TRUE(window.findChild<QToolBar*>("principale")->isHidden());
     EXPECT_FALSE(bars[0]->GetStyle() & WS_VISIBLE);
+}
+
+// Fault: what stays when a document is closed is a small window in the corner of its tab.
+TEST_F(MainWindowTest, TabsAreFilled) {
+    m_workspace->NewDocument();
+    QMdiArea& area = m_workspace->Window().Area();
+    Trigger("file.chiudi");
+    ASSERT_TRUE(area.currentSubWindow());
+    EXPECT_TRUE(area.currentSubWindow()->isMaximized());
+    Trigger("finestra.nuova");
+    Trigger("finestra.affianca");
+    Trigger("finestra.schede");
+    EXPECT_TRUE(area.currentSubWindow()->isMaximized());
+}
+
+// Each command ends with a sentence. Faults: one in silence, one that speaks of another's work, objects left uncounted.
+TEST_F(MainWindowTest, CommandsSayWhatTheyDid) {
+    BuildSmallModel();
+    MainWindow& window = m_workspace->Window();
+    const struct {
+        const char* command;
+        const char* sentence;
+    } rows[] = {
+        {"modifica.seleziona_tutto", "Selezionati: 12 nodi, 2 travi, 1 asta, 1 setto, 1 solaio."},
+        {"assegna.vincolo.incastro", "Assegna vincolo: 12 nodi modificati."},
+        {"modifica.elimina", "Elimina: 12 nodi eliminati, 2 travi eliminate, 1 asta eliminata, 1 setto eliminato, 1 "
+                             "solaio eliminato."},
+        {"modifica.annulla", "Annullato: Elimina."},
+        {"modifica.ripristina", "Ripristinato: Elimina."},
+        {"modifica.annulla", "Annullato: Elimina."},
+        {"modifica.deseleziona", "Nessun elemento selezionato."},
+        {"vista.xz", "Prospetto XZ."},
+        {"mostra.Nodi", "Mostra nodi: no."},
+    };
+    for (const auto& row : rows) {
+        Trigger(row.command);
+        EXPECT_EQ(window.SentenceText().toStdString(), row.sentence);
+    }
+    Document().Remove({Document().Data().At(Kind::Wall, 0), Document().Data().At(Kind::Slab, 0)});
+    Trigger("analisi.esegui");
+    EXPECT_TRUE(window.SentenceText().startsWith("Analisi eseguita in 0,")) << qPrintable(window.SentenceText());
 }
 
 // Catches a menu that shows a command without a dialog or leaves one out, and undo that does not name its step.
