@@ -45,6 +45,10 @@ int HostApplication::Open() {
     return Run();
 }
 
+BOOL HostApplication::OnUnusedKey(const MSG& message) {
+    return m_workspace && m_workspace->TakeKey(message);
+}
+
 int HostApplication::ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) {
     if (m_options.action == Options::Action::Open)
         return CWinApp::ShowMessageBox(text, caption, type);

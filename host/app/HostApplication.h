@@ -21,6 +21,7 @@ class HostApplication final : public CWinApp {
     // Carries out what the options ask for and returns the exit status: 0 for success.
     int Execute();
 
+    BOOL OnUnusedKey(const MSG& message) override;
     // Without windows there is nobody who could answer: a box is noted, and cancelled.
     int ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) override;
 

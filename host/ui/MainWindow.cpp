@@ -281,6 +281,13 @@ QString MainWindow::SentenceText() const {
     return m_sentence->text();
 }
 
+QAction* MainWindow::CommandOf(const QKeySequence& key) const {
+    for (QAction* each : findChildren<QAction*>(Qt::FindDirectChildrenOnly))
+        if (each->shortcuts().contains(key))
+            return each;
+    return nullptr;
+}
+
 QString MainWindow::PromptText() const {
     return m_prompt->text();
 }

@@ -63,6 +63,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
 
     // Commands by name ("file.salva", "modifica.annulla"), those of dialogs by ActionName; null when there is none.
     QAction* Command(const QString& name) const { return findChild<QAction*>(name); }
+    QAction* CommandOf(const QKeySequence& key) const; // the one of that shortcut; null when there is none
     QString PromptText() const;
     QString SentenceText() const;
 

@@ -83,6 +83,16 @@ bool ToolDialogs::IsOpen(const CDialog* dialog, const HostView& view) const {
            FindLast([&](const Tool& each) { return each.view == &view && each.dialog.get() == dialog; }) != nullptr;
 }
 
+HostView* ToolDialogs::ViewOf(HWND control) const {
+    const CWnd* window = CWnd::FromHandle(control);
+    const QWidget* widget = window ? platform::WidgetOf(*window) : nullptr;
+    const auto found = FindLast([widget](const Tool& each) {
+        const QWidget* its = each.dialog ? platform::WidgetOf(*each.dialog) : nullptr;
+        return widget && its && (its == widget || its->isAncestorOf(widget));
+    });
+    return found ? found->view : nullptr;
+}
+
 int ToolDialogs::RangeAxis(const HostDocument& document) const {
     const QWidget* active = QApplication::activeWindow();
     std::shared_ptr<Tool> found;

@@ -39,6 +39,8 @@ class ToolDialogs {
     CDialogDocument* Latest(const HostView& view) const; // opened last or picking since; null when there is none
     bool IsOpen(const CDialog* dialog, const HostView& view) const; // for any address
 
+    HostView* ViewOf(HWND control) const; // of the dialog that the control is in; null for another window
+
     // The axis of the active dialog that selects by range in the document, otherwise of the one opened last; -1 for
     // none.
     int RangeAxis(const HostDocument& document) const;

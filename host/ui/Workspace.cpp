@@ -6,11 +6,14 @@
 #include "host/document/NewModel.h"
 #include "host/ui/DeferredDelete.h"
 #include "host/ui/MainWindow.h"
+#include "host/ui/SharedKeys.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
 #include "platform/core/Exception.h"
 #include "platform/window/Application.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
@@ -212,6 +215,20 @@ void Workspace::RunCommand(const QString& caption, const std::function<void()>& 
         else
             Tell(platform::FromQString(caption + "."));
     });
+}
+
+bool Workspace::TakeKey(const MSG& message) {
+    const QKeySequence key = SharedKey(message);
+    if (key.isEmpty() || m_executing || IsWaiting() || QApplication::activeModalWidget())
+        return false;
+    if (HostView* view = m_tools.ViewOf(message.hwnd); view && view != m_active)
+        Activate(*view);
+    m_window->Refresh(); // what can be done now
+    QAction* command = m_window->CommandOf(key);
+    if (!command || !command->isEnabled())
+        return false;
+    command->trigger();
+    return true;
 }
 
 // What was changed until then is a step that can be undone.

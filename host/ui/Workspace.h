@@ -14,6 +14,7 @@
 #include <vector>
 
 class QFileInfo;
+struct MSG;
 
 namespace host {
 
@@ -62,6 +63,9 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     // The same for a command of the menus. Where it has told nothing of what it did, its caption is told, or what is
     // selected now when that is other than before.
     void RunCommand(const QString& caption, const std::function<void()>& command);
+    // A key for which a tool dialog had no use: one of those in SharedKeys.h runs its command on the dialog's view.
+    // False for any other key, and while a modal dialog is open.
+    bool TakeKey(const MSG& message);
 
     // ---- Commands on the active view; without one nothing happens.
     // Opens the command's dialog and returns it, or runs it until the user is done and returns null. Null also when
