@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QSettings;
 class QTranslator;
 
 namespace host {
@@ -30,6 +31,7 @@ class HostApplication final : public CWinApp {
 
     Options m_options;
     std::unique_ptr<QTranslator> m_translator;
+    std::unique_ptr<QSettings> m_settings; // the user's; null in batch modes
     std::unique_ptr<Workspace> m_workspace;
 };
 

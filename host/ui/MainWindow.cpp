@@ -154,8 +154,10 @@ void MainWindow::BuildToolBar() {
     m_loadCase->setMinimumContentsLength(14);
     bar->addWidget(m_loadCase);
     QObject::connect(m_loadCase, &QComboBox::activated, this, [this](int index) {
-        if (HostView* view = m_workspace.ActiveView())
+        if (HostView* view = m_workspace.ActiveView()) {
             m_workspace.SelectLoadCase(*view, m_loadCase->itemData(index).toInt());
+            view->Widget().setFocus();
+        }
     });
 }
 
@@ -189,6 +191,11 @@ void MainWindow::RemoveView(HostView& view) {
         window->deleteLater();
         FillTab();
     }
+}
+
+void MainWindow::ChooseLoadCase() {
+    m_loadCase->setFocus(Qt::ShortcutFocusReason);
+    m_loadCase->showPopup();
 }
 
 void MainWindow::ShowAsTabs() {

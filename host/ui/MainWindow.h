@@ -54,6 +54,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     void RemoveView(HostView& view); // the view closes itself
     void ShowView(HostView& view);   // makes it the active one
     void ShowAsTabs();
+    void ChooseLoadCase(); // by keyboard, in the list of the tool bar
 
     // Brings menus, tool bar, titles and status bar up to date, once, when control is back in the loop.
     void ScheduleRefresh();
@@ -63,6 +64,7 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
 
     // Commands by name ("file.salva", "modifica.annulla"), those of dialogs by ActionName; null when there is none.
     QAction* Command(const QString& name) const { return findChild<QAction*>(name); }
+    const MainMenu& Menus() const { return *m_menu; }
     QAction* CommandOf(const QKeySequence& key) const; // the one of that shortcut; null when there is none
     QString PromptText() const;
     QString SentenceText() const;

@@ -1,6 +1,7 @@
 // The dialogs that stay open beside the views: which view each works on, which one picks there, and when it ends.
 #pragma once
 
+#include "host/ui/WindowPlaces.h"
 #include "platform/core/String.h"
 
 #include <QTimer>
@@ -45,6 +46,8 @@ class ToolDialogs {
     // none.
     int RangeAxis(const HostDocument& document) const;
 
+    DialogPlaces& Places() { return m_places; }
+
     // Destroys the dialog's window now and the object when its handlers have returned. Any other address is ignored.
     void End(const CDialog* dialog);
     void EndAll();
@@ -73,6 +76,7 @@ class ToolDialogs {
         CDialogDocument* tool = nullptr;    // the same; null for one of another kind
         bool picks = false;                 // in its view, or in the one that it had
         std::optional<CString> prompt = {}; // of its last picking, unless it stopped that by itself
+        QPoint place = {};                  // the frame's corner when it opened
     };
     using Tools = std::vector<std::shared_ptr<Tool>>;
 
@@ -86,6 +90,7 @@ class ToolDialogs {
     CDialog* BringToFront(Tool& tool);
     void ResumePicking(Tool& tool);
     void Adopt(Tool& tool, HostView& view);
+    void RememberPlace(const Tool& tool);
     void End(std::shared_ptr<Tool> tool); // by value: the list holds it no longer
     void EndClosed();
     void EndCancelledOrphans();
@@ -93,6 +98,7 @@ class ToolDialogs {
     Tools m_tools; // the one that was opened or began to pick last is at the end
     Tool* m_caller = nullptr;
     QTimer m_orphanWatch;
+    DialogPlaces m_places;
 };
 
 } // namespace host

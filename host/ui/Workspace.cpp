@@ -5,6 +5,7 @@
 #include "host/document/HostDocument.h"
 #include "host/document/NewModel.h"
 #include "host/ui/DeferredDelete.h"
+#include "host/ui/MainMenu.h"
 #include "host/ui/MainWindow.h"
 #include "host/ui/SharedKeys.h"
 #include "host/view/HostView.h"
@@ -31,6 +32,8 @@ Workspace::Workspace() {
 }
 
 Workspace::~Workspace() {
+    if (m_settings)
+        RememberMainWindow(*m_window, *m_settings);
     m_tools.EndAll();
     while (!m_views.empty())
         ReleaseView(*m_views.back());
@@ -41,6 +44,17 @@ Workspace::~Workspace() {
         application->recover = nullptr;
     }
     CQuovarHost::Install(nullptr);
+}
+
+void Workspace::Remember(QSettings& settings) {
+    m_settings = &settings;
+    RestoreMainWindow(*m_window, settings);
+    RestoreShortcuts(m_window->Menus().Keys(), settings);
+    m_tools.Places().SetSettings(&settings);
+}
+
+void Workspace::EditShortcuts() {
+    host::EditShortcuts(*m_window, m_window->Menus().Keys(), m_settings);
 }
 
 Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name) {

@@ -14,6 +14,7 @@
 #include <vector>
 
 class QFileInfo;
+class QSettings;
 struct MSG;
 
 namespace host {
@@ -33,6 +34,11 @@ class Workspace final : public CQuovarHost, public ViewOwner {
 
     MainWindow& Window() { return *m_window; }
     ToolDialogs& Tools() { return m_tools; }
+
+    // What the user changed of places and shortcuts in former runs comes back, and is kept from now on. Outlives this
+    // object. Without it, as in tests and batch modes, nothing is remembered.
+    void Remember(QSettings& settings);
+    void EditShortcuts();
 
     // ---- Documents. Views and documents stay this object's; a document lives as long as it has views.
     HostView& NewDocument();
@@ -132,6 +138,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     std::vector<std::unique_ptr<Project>> m_projects;
     std::vector<std::unique_ptr<HostView>> m_views;
     HostView* m_active = nullptr;
+    QSettings* m_settings = nullptr; // null remembers nothing
     ToolDialogs m_tools;
     int m_untitled = 0;
     bool m_executing = false;

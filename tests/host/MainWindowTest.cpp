@@ -132,7 +132,7 @@ TEST_F(MainWindowTest, CommandsSayWhatTheyDid) {
         {"modifica.annulla", "Annullato: Elimina."},
         {"modifica.deseleziona", "Nessun elemento selezionato."},
         {"vista.xz", "Prospetto XZ."},
-        {"mostra.Nodi", "Mostra nodi: no."},
+        {"mostra.Nodi", "Mostra: Nodi no."},
     };
     for (const auto& row : rows) {
         Trigger(row.command);
@@ -143,8 +143,24 @@ TEST_F(MainWindowTest, CommandsSayWhatTheyDid) {
     EXPECT_TRUE(window.SentenceText().startsWith("Analisi eseguita in 0,")) << qPrintable(window.SentenceText());
 }
 
+// No two commands of a menu under one letter, and none without.
+static void ExpectMnemonics(const QList<QAction*>& actions) {
+    QString taken;
+    for (const QAction* each : actions) {
+        if (each->isSeparator())
+            continue;
+        const QString text = each->text();
+        const QChar letter = text.contains('&') ? text[text.indexOf('&') + 1].toLower() : QChar();
+        EXPECT_TRUE(!letter.isNull() && !taken.contains(letter)) << qPrintable(text);
+        taken += letter;
+        if (each->menu())
+            ExpectMnemonics(each->menu()->actions());
+    }
+}
+
 // Catches a menu that shows a command without a dialog or leaves one out, and undo that does not name its step.
 TEST_F(MainWindowTest, MenusShowWhatThereIs) {
+    ExpectMnemonics(m_workspace->Window().menuBar()->actions());
     QStringList titles;
     for (QAction* action : m_workspace->Window().menuBar()->actions()) {
         titles << action->text().remove('&');
@@ -160,7 +176,7 @@ TEST_F(MainWindowTest, MenusShowWhatThereIs) {
         const QAction* action = window.Command(ActionName(each->dialog, each->kind));
         ASSERT_EQ(action != nullptr, each->menu != CommandMenu::Prompts) << qPrintable(caption);
         if (action) {
-            EXPECT_EQ(action->text(), caption);
+            EXPECT_EQ(QString(action->text()).remove('&'), caption);
         }
     }
     window.Refresh();
