@@ -280,6 +280,7 @@ void MainWindow::ShowCoordinates(const QString& text) {
 }
 
 void MainWindow::ShowSentence(const QString& text) {
+    m_sentence->setVisible(!text.isEmpty());
     m_sentence->setText(text);
     m_sentence->setToolTip(text);
 }

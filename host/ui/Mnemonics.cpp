@@ -59,12 +59,13 @@ class Mnemonics {
     };
 
     bool Place(std::size_t index, std::set<QChar>& tried) {
+        const auto letterAt = [&](qsizetype place) { return m_open[index].action->text()[place].toLower(); };
+        for (const qsizetype place : m_open[index].places)
+            if (m_given.try_emplace(letterAt(place), Given{index, place}).second)
+                return true;
         for (const qsizetype place : m_open[index].places) {
-            const QChar letter = m_open[index].action->text()[place].toLower();
-            if (!tried.insert(letter).second)
-                continue;
-            const auto holder = m_given.find(letter);
-            if (holder == m_given.end() || Place(holder->second.index, tried)) {
+            const QChar letter = letterAt(place);
+            if (tried.insert(letter).second && Place(m_given.at(letter).index, tried)) {
                 m_given[letter] = {index, place};
                 return true;
             }

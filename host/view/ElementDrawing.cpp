@@ -150,12 +150,11 @@ CString ElementDrawing::Prompt() const {
     CString text;
     const auto count = static_cast<int>(Picked().size());
     if (IsLineKind(m_kind))
-        text.Format("Scegliere il %s nodo %s (clic, o numero e Invio; Esc per finire).",
-                    count == 0 ? "primo" : "secondo", NameOf(m_kind));
+        text.Format("%s nodo %s: clic, o numero e Invio", count == 0 ? "Primo" : "Secondo", NameOf(m_kind));
     else if (count < static_cast<int>(leastCorners))
-        text.Format("Scegliere il nodo %d %s (clic, o numero e Invio; Esc per finire).", count + 1, NameOf(m_kind));
+        text.Format("Nodo %d %s: clic, o numero e Invio", count + 1, NameOf(m_kind));
     else
-        text.Format("Scegliere il nodo %d %s, o di nuovo l'ultimo per chiudere.", count + 1, NameOf(m_kind));
+        text.Format("Nodo %d %s, o di nuovo l'ultimo per chiudere", count + 1, NameOf(m_kind));
     return text;
 }
 

@@ -293,7 +293,8 @@ void HostView::Select(const std::vector<CElemento*>& found, SelectMode mode) {
 void HostView::Pick(CNodo& node) {
     if (!m_drawing.IsActive())
         return PickForTool(*node.GetPunto());
-    m_owner.Tell(m_drawing.Take(node));
+    if (const CString refused = m_drawing.Take(node); !refused.IsEmpty()) // otherwise the step tells
+        m_owner.Tell(refused);
     ShowPicking();
 }
 

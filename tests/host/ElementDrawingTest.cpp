@@ -49,6 +49,7 @@ TEST_F(ElementDrawingTest, AFrameIsDrawnInOneGoAndCanBeAnalysed) {
     for (const int id : {3, 4}) // the same by keyboard
         TypeNode(id);
     ASSERT_EQ(Document().GetSizeTravi(), 3);
+    EXPECT_EQ(Sentence(), "Disegna trave: 1 trave creata.");
     EXPECT_EQ(Document().Undo().UndoCount(), 3u);
     EXPECT_EQ(Document().GetIndexTrave(2)->GetNodoIniziale()->GetID(), 3);
     TypeNode(3);
