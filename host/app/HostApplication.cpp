@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QSettings>
 #include <QTranslator>
 
 #include <cstdio>
@@ -39,10 +40,16 @@ int HostApplication::Execute() {
 }
 
 int HostApplication::Open() {
+    m_settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, "quovar", "quovar");
+    m_workspace->Remember(*m_settings);
     m_workspace->Window().show();
     if (m_options.argument.empty() || !m_workspace->Open(QString::fromLocal8Bit(m_options.argument.c_str())))
         m_workspace->NewDocument();
     return Run();
+}
+
+BOOL HostApplication::OnUnusedKey(const MSG& message) {
+    return m_workspace && m_workspace->TakeKey(message);
 }
 
 int HostApplication::ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) {

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QSettings;
 class QTranslator;
 
 namespace host {
@@ -21,6 +22,7 @@ class HostApplication final : public CWinApp {
     // Carries out what the options ask for and returns the exit status: 0 for success.
     int Execute();
 
+    BOOL OnUnusedKey(const MSG& message) override;
     // Without windows there is nobody who could answer: a box is noted, and cancelled.
     int ShowMessageBox(LPCTSTR text, LPCTSTR caption, UINT type) override;
 
@@ -29,6 +31,7 @@ class HostApplication final : public CWinApp {
 
     Options m_options;
     std::unique_ptr<QTranslator> m_translator;
+    std::unique_ptr<QSettings> m_settings; // the user's; null in batch modes
     std::unique_ptr<Workspace> m_workspace;
 };
 

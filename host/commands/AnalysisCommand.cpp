@@ -3,6 +3,7 @@
 #include "host/document/HostDocument.h"
 #include "platform/window/Application.h"
 
+#include <chrono>
 #include <new>
 
 namespace host {
@@ -31,15 +32,22 @@ bool RunAnalysis(HostDocument& document) {
         return false;
     }
     AnalysisOutcome outcome;
+    const auto start = std::chrono::steady_clock::now();
     try {
         outcome = document.RunAnalysis();
     } catch (const std::bad_alloc&) {
         outcome.refusal = Refusal("Memoria insufficiente.");
     }
     if (outcome.refusal) {
+        document.Tell("Analisi non eseguita.");
         AfxMessageBox("Analisi non eseguita.\n" + outcome.refusal->message, MB_OK | MB_ICONEXCLAMATION);
         return false;
     }
+    const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+    CString seconds;
+    seconds.Format("%.1f", took.count());
+    seconds.Replace(".", ",");
+    document.Tell("Analisi eseguita in " + seconds + " s.");
     const CQuovarAnalisi& asked = *document.m_pAnalisi;
     if (asked.m_bAnalisiModale || asked.m_bAnalisiSpettro || asked.m_bAnalisiInstabilita)
         outcome.notes.push_back("Solo l'analisi statica è disponibile."_t);

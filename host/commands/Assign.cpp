@@ -50,7 +50,20 @@ EndReleases ReleasesOf(CTrave& beam) {
     return releases;
 }
 
+const Support supports[] = {
+    {"incastro", "&Incastro", "Bloccate le traslazioni e le rotazioni", CVincolo::All},
+    {"cerniera", "&Cerniera", "Bloccate le traslazioni, libere le rotazioni",
+     CVincolo::Tx | CVincolo::Ty | CVincolo::Tz},
+    {"carrello_x", "Carrello &X", "Scorre lungo X: bloccate le traslazioni Y e Z", CVincolo::Ty | CVincolo::Tz},
+    {"carrello_y", "Carrello &Y", "Scorre lungo Y: bloccate le traslazioni X e Z", CVincolo::Tx | CVincolo::Tz},
+    {"carrello_z", "Carrello &Z", "Scorre lungo Z: bloccate le traslazioni X e Y", CVincolo::Tx | CVincolo::Ty},
+};
+
 } // namespace
+
+std::span<const Support> Supports() {
+    return supports;
+}
 
 int AssignRestraint(HostDocument& document, const CVincolo& restraint) {
     return ChangeSelected<CNodo>(document, Kind::Node, "Assegna vincolo",
@@ -75,6 +88,11 @@ int AssignReleases(HostDocument& document, const EndReleases& releases) {
                 beam.AddSpecifica(new CSpecificheSvincoliTrave(end, of[0], of[1], of[2], of[3])); // the beam's own
         }
     });
+}
+
+void RunAssignSupport(HostDocument& document, unsigned fixed) {
+    if (FirstSelected<CNodo>(document, Kind::Node, noNodes))
+        AssignRestraint(document, CVincolo(fixed));
 }
 
 void RunAssignRestraint(HostDocument& document, QWidget& parent) {

@@ -7,8 +7,10 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace host {
 
@@ -110,6 +112,18 @@ std::optional<CVincolo> AskRestraint(QWidget& parent, const CVincolo& present) {
     }
     form.Content().addWidget(new QLabel("Componenti bloccate:"));
     form.Content().addLayout(grid);
+    auto* ready = new QHBoxLayout;
+    for (const Support& support : Supports()) {
+        auto* button = new QPushButton(support.caption);
+        button->setObjectName(support.name);
+        button->setToolTip(support.hint);
+        QObject::connect(button, &QPushButton::clicked, &form, [&boxes, fixed = CVincolo(support.fixed)] {
+            for (int i = 0; i < components; ++i)
+                boxes[i]->setChecked(fixed.IsFixed(i));
+        });
+        ready->addWidget(button);
+    }
+    form.Content().addLayout(ready);
     if (!form.Ask())
         return std::nullopt;
     CVincolo chosen;

@@ -16,13 +16,35 @@ AssignForm::AssignForm(QWidget& parent, const QString& title) : QDialog(&parent)
     auto* all = new QVBoxLayout(this);
     m_content = new QVBoxLayout;
     all->addLayout(m_content);
-    auto* buttons = new QDialogButtonBox;
-    buttons->addButton("OK", QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton("Annulla", QDialogButtonBox::RejectRole);
-    all->addWidget(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+// Tab goes in the order in which the controls come into the dialog, so the buttons come last.
+bool AssignForm::Ask() {
+    auto* buttons = new QDialogButtonBox;
+    QPushButton* ok = buttons->addButton("OK", QDialogButtonBox::AcceptRole);
+    buttons->addButton("Annulla", QDialogButtonBox::RejectRole);
+    layout()->addWidget(buttons);
     QObject::connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
     QObject::connect(buttons, &QDialogButtonBox::rejected, this, [this] { reject(); });
+    // Otherwise Enter presses the button that has the focus.
+    for (QPushButton* each : findChildren<QPushButton*>())
+        each->setAutoDefault(false);
+    ok->setDefault(true);
+    QWidget* last = nullptr;
+    QList<QWidget*> controls = findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    for (QAbstractButton* each : buttons->buttons())
+        controls << each;
+    for (QWidget* each : controls) {
+        if (!(each->focusPolicy() & Qt::TabFocus))
+            continue;
+        if (last)
+            setTabOrder(last, each);
+        else
+            each->setFocus(Qt::TabFocusReason);
+        last = each;
+    }
+    return exec() == Accepted;
 }
 
 void AssignForm::accept() {

@@ -13,7 +13,8 @@ class QVBoxLayout;
 
 namespace host {
 
-// A titled dialog with rows above OK and Annulla.
+// A titled dialog with rows above OK and Annulla. It opens in its first field, Tab goes through the fields before the
+// buttons, and Enter is OK wherever it is pressed.
 class AssignForm final : public QDialog {
   public:
     AssignForm(QWidget& parent, const QString& title);
@@ -21,8 +22,8 @@ class AssignForm final : public QDialog {
     QVBoxLayout& Content() { return *m_content; }
     // Answers whether what was entered can be used, after telling the user why not.
     void SetCheck(std::function<bool()> check) { m_check = std::move(check); }
-    // False when the user cancels.
-    bool Ask() { return exec() == Accepted; }
+    // Once the content is there. False when the user cancels.
+    bool Ask();
 
     void accept() override;
 

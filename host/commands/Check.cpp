@@ -44,7 +44,11 @@ const Command rows[] = {
      .place = Place::Own, // under the view
      .titled = false,
      .opened = RequestCheck},
-    {.menu = CommandMenu::Tools, .dialog = CDialogStrutture::IDD, .open = OpenTool<CDialogStrutture>, .titled = false},
+    {.menu = CommandMenu::Tools,
+     .dialog = CDialogStrutture::IDD,
+     .caption = "Check Strutture Multiple", // as the check's row calls it
+     .open = OpenTool<CDialogStrutture>,
+     .titled = false},
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "host/document/Changes.h"
 
 #include "host/document/ModelWalks.h"
+#include "host/document/StepSummary.h"
 
 namespace host {
 
@@ -31,6 +32,11 @@ Reach Creation::GetReach() const {
     return farthest;
 }
 
+void Creation::CountIn(StepSummary& summary) const {
+    for (const Run& run : m_runs)
+        summary.made[static_cast<std::size_t>(run.kind)] += static_cast<int>(run.count);
+}
+
 Removal::Removal(DocumentData& data, Kind kind, std::vector<CElemento*> objects)
     : m_data(data), m_kind(kind), m_objects(std::move(objects)) {
     Redo();
@@ -45,9 +51,17 @@ void Removal::Redo() {
     m_taken = m_data.Take(m_kind, m_objects);
 }
 
+void Removal::CountIn(StepSummary& summary) const {
+    summary.removed[static_cast<std::size_t>(m_kind)] += static_cast<int>(m_objects.size());
+}
+
 Movement::Movement(DocumentData& data, std::vector<std::pair<CNodo*, CFPoint>> places)
     : m_data(data), m_places(std::move(places)) {
     Swap();
+}
+
+void Movement::CountIn(StepSummary& summary) const {
+    summary.moved += static_cast<int>(m_places.size());
 }
 
 void Movement::Swap() {

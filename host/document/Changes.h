@@ -30,6 +30,7 @@ class Creation : public Change {
     void Redo() override;
     Reach GetReach() const override;
     bool HasEffect() const override { return !m_runs.empty(); }
+    void CountIn(StepSummary& summary) const override;
 
   private:
     struct Run {
@@ -52,6 +53,7 @@ class Removal : public Change {
     void Undo() override;
     void Redo() override;
     Reach GetReach() const override { return ReachOf(m_kind); }
+    void CountIn(StepSummary& summary) const override;
 
   private:
     DocumentData& m_data;
@@ -69,6 +71,7 @@ class Movement : public Change {
     void Undo() override { Swap(); }
     void Redo() override { Swap(); }
     unsigned GetNews() const override { return newsLengths; }
+    void CountIn(StepSummary& summary) const override;
 
   private:
     void Swap();

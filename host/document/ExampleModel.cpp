@@ -1,6 +1,7 @@
 #include "host/document/ExampleModel.h"
 
 #include "host/document/HostDocument.h"
+#include "host/document/NewModel.h"
 #include "model/element/Asta.h"
 #include "model/element/Setto.h"
 #include "model/element/Solaio.h"
@@ -47,27 +48,13 @@ class Example {
         return entity;
     }
 
-    CMateriale* Material(const char* name, double young, double poisson, double density, double alpha) {
-        auto* material = Named<CMateriale>(Kind::Material, name);
-        material->SetE(young); // kN/m^2
-        material->SetG(young / (2 * (1 + poisson)));
-        material->SetPoisson(poisson);
-        material->SetDensity(density); // t/m^3, which is kN s^2/m^4
-        material->SetAlpha(alpha);
-        return material;
-    }
-
     void BuildProperties() {
-        m_concrete = Material("C25/30", 31'476'000, 0.2, 2.5, 1e-5);
-        m_steel = Material("S275", 210'000'000, 0.3, 7.85, 1.2e-5);
-        m_columnSection = Named<CSezione>(Kind::Section, "Pilastro 30x30");
-        m_columnSection->SetRectangle(0.30, 0.30);
-        m_beamSection = Named<CSezione>(Kind::Section, "Trave 30x50");
-        m_beamSection->SetRectangle(0.30, 0.50);
-        m_barSection = Named<CSezione>(Kind::Section, "Piatto 80x10");
-        m_barSection->SetRectangle(0.01, 0.08);
-        m_thickness = Named<CSpessore>(Kind::Thickness, "Spessore 20 cm");
-        m_thickness->SetThickness(0.20);
+        m_concrete = AppendConcrete(m_data);
+        m_steel = AppendMaterial(m_data, "S275", 210'000'000, 0.3, 7.85, 1.2e-5);
+        m_columnSection = AppendRectangle(m_data, "Pilastro 30x30", 0.30, 0.30);
+        m_beamSection = AppendRectangle(m_data, "Trave 30x50", 0.30, 0.50);
+        m_barSection = AppendRectangle(m_data, "Piatto 80x10", 0.01, 0.08);
+        m_thickness = AppendThickness(m_data, "Spessore 20 cm", 0.20);
     }
 
     void BuildCases() {

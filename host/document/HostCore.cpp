@@ -1,6 +1,7 @@
 #include "host/document/HostCore.h"
 
 #include "dialogs/frame/host/QuovarGlobal.h"
+#include "host/document/StepSummary.h"
 #include "model/values/Path.h"
 
 namespace host {
@@ -72,6 +73,15 @@ void HostCore::KeepCurrentCase() {
 void HostCore::Refuse(const Refusal& refusal) const {
     if (m_refusalTeller)
         m_refusalTeller(refusal);
+}
+
+void HostCore::Tell(const CString& sentence) const {
+    if (m_teller)
+        m_teller(sentence);
+}
+
+void HostCore::StepMade(const StepSummary& summary) {
+    Tell(Sentence(summary));
 }
 
 // ---- The file

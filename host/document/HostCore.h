@@ -51,6 +51,10 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     void SetRefusalTeller(RefusalTeller teller) { m_refusalTeller = std::move(teller); }
     // The operation is over: what it did is complete, the rest is left undone.
     void Refuse(const Refusal& refusal) const;
+    // Who shows the user in one sentence what a command did; each step tells by itself. One at a time.
+    using Teller = std::function<void(const CString& sentence)>;
+    void SetTeller(Teller teller) { m_teller = std::move(teller); }
+    void Tell(const CString& sentence) const;
 
     // Who asks the user, while a wait is shown, whether to break the operation off: asked often, until it answers true.
     // Without one nothing is broken off.
@@ -83,6 +87,7 @@ class HostCore : public CQuovarDoc, private UndoOwner {
 
   private:
     void NotifyChange(Reach reach, unsigned news, const std::vector<long>& codes) override;
+    void StepMade(const StepSummary& summary) override;
     void Announce(long hint) override { m_notices.Tell(nullptr, hint); }
     void FollowResults(Reach reach);
     bool ScheduleIdle() override { return m_notices.ScheduleIdle(); }
@@ -98,6 +103,7 @@ class HostCore : public CQuovarDoc, private UndoOwner {
     DirectChanges m_direct{m_data, m_undo};
     RefusalTeller m_refusalTeller;
     std::function<bool()> m_breakAsker;
+    Teller m_teller;
     std::size_t m_savedState = 0;
     bool m_flagged = false; // modified, says a dialog
 };

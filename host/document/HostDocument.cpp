@@ -2,21 +2,14 @@
 
 #include "dialogs/frame/host/QuovarView.h"
 #include "host/document/Division.h"
-#include "model/entity/CasoCarico.h"
+#include "host/document/NewModel.h"
 
 namespace host {
 
 HostDocument::HostDocument() : HostCases(m_selection) {
     m_pSelezione = &m_selection;
     SetTitle("Senza nome");
-    DocumentData data;
-    auto loadCase = std::make_unique<CCasoCarico>();
-    loadCase->SetID(1);
-    loadCase->SetNome("Caso 1");
-    std::unique_ptr<CElemento> object = std::move(loadCase);
-    data.Append(object);
-    data.CurrentCase() = 1;
-    Replace(std::move(data));
+    Replace(EmptyModel());
 }
 
 HostDocument::~HostDocument() = default;

@@ -51,17 +51,13 @@ int HostGeneration::GenerateNodes(const std::vector<CFPoint>& places) {
     if (places.empty() || !std::all_of(places.begin(), places.end(), IsUsablePlace) ||
         !Data().HasNumbers(Kind::Node, places.size()))
         return 0;
-    Generated made;
     UndoStep step(Undo(), generationStep);
     for (const CFPoint& place : places) {
-        if (Data().NodeAt(place, nullptr, GetTolerance())) {
-            ++made.nodesMet;
-        } else {
+        if (Data().NodeAt(place, nullptr, GetTolerance()))
+            Undo().NotePresent();
+        else
             AddNew(std::make_unique<CNodo>(place), generationStep);
-            ++made.nodes;
-        }
     }
-    m_lastGenerated = made;
     return 1;
 }
 
@@ -70,7 +66,9 @@ int HostGeneration::GenNodiLineare(CFPoint inizio, CFPoint direzione, double pas
 }
 
 int HostGeneration::GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) {
-    return GenerateNodes(PlacesOnSegment(p1, p2, nNodi, Data().Tolerance()));
+    if (nNodi < 1 || nNodi > mostGeneratedNodes - 2)
+        return 0;
+    return GenerateNodes(PlacesOnSegment(p1, p2, nNodi + 2, Data().Tolerance()));
 }
 
 int HostGeneration::GenNodiArco3Punti(int, CFPoint p1, CFPoint p2, CFPoint p3, int nNodi) {
@@ -92,10 +90,7 @@ int HostGeneration::Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, i
         Refuse(*refusal);
         return 0;
     }
-    if (!mesher.Run())
-        return 0;
-    m_lastGenerated = mesher.Made();
-    return 1;
+    return mesher.Run();
 }
 
 CNodo* HostGeneration::AddNodo(CFPoint& punto, CView*, int flag) {

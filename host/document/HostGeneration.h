@@ -5,11 +5,6 @@
 
 namespace host {
 
-struct Generated {
-    int nodes = 0, nodesMet = 0;
-    int elements = 0, elementsMet = 0;
-};
-
 class HostGeneration : public HostEditing {
   public:
     // All of them return 0 and change nothing for fewer than one node, more than a million, numbers that are not
@@ -18,7 +13,7 @@ class HostGeneration : public HostEditing {
     //
     // The first node is at `inizio`; a negative `passo` leads away from `direzione`. It must exceed the tolerance.
     int GenNodiLineare(CFPoint inizio, CFPoint direzione, double passo, int nNodi) override;
-    // Equally spaced, both ends included; a single node lies at the first end.
+    // `nNodi` of them strictly between the two points, equally spaced, and one at each point where none lies yet.
     int GenNodi2Punti(CFPoint p1, CFPoint p2, int nNodi) override;
     // Degrees, positive from the first axis of the plane towards its second (X to Y, X to Z, Y to Z); the plane is
     // turned by `inclinazione` about its first axis.
@@ -34,9 +29,6 @@ class HostGeneration : public HostEditing {
     // Walls with four nodes, or three where two corners are one, numbered row by row along the first side; of what
     // stands there already none is made again. A user who breaks it off gets everything back. A refusal says why.
     int Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, int nSuddivisioni1, int nSuddivisioni2) override;
-
-    // What the generation that was carried out last made, and what it met.
-    const Generated& LastGenerated() const { return m_lastGenerated; }
 
     // A node that lies at exactly this place (1e-9 of the model's size) is returned instead of a second one. With a
     // flag of 0 the node is made all the same.
@@ -56,7 +48,6 @@ class HostGeneration : public HostEditing {
   private:
     int GenerateNodes(const std::vector<CFPoint>& places);
 
-    Generated m_lastGenerated;
 };
 
 } // namespace host

@@ -5,6 +5,7 @@
 #include "host/document/Division.h"
 #include "host/document/Generation.h"
 #include "host/document/HostDocument.h"
+#include "host/document/StepSummary.h"
 #include "model/element/LineaFisica.h"
 #include "model/element/Poligono.h"
 #include "model/values/ExceptionEx.h"
@@ -24,6 +25,13 @@ HostSelection::~HostSelection() = default;
 CElemento* HostSelection::At(Kind kind, int index) const {
     const auto& elements = m_kinds[static_cast<std::size_t>(kind)];
     return static_cast<std::size_t>(index) < elements.size() ? elements[static_cast<std::size_t>(index)] : nullptr;
+}
+
+CString HostSelection::Text() const {
+    KindCounts counts = {};
+    for (const Kind kind : allKinds)
+        counts[static_cast<std::size_t>(kind)] = Size(kind);
+    return IsEmpty() ? CString("Nessun elemento selezionato") : "Selezionati: " + CountText(counts);
 }
 
 void HostSelection::Changed(unsigned kinds) {

@@ -65,6 +65,7 @@ class HostSelection : public CQuovarSelection {
     int Size(Kind kind) const { return static_cast<int>(m_kinds[static_cast<std::size_t>(kind)].size()); }
     CElemento* At(Kind kind, int index) const; // null for an index outside
     const std::vector<CElemento*>& All() const { return m_all; }
+    CString Text() const; // "Selezionati: 3 nodi, 1 trave"
     bool IsEmpty() const { return m_all.empty(); }
     CObList* List();
 

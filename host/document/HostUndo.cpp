@@ -2,6 +2,7 @@
 
 #include "host/document/Changes.h"
 #include "host/document/HostSelection.h"
+#include "host/document/StepSummary.h"
 #include "host/document/UndoOwner.h"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ struct HostUndo::Step {
     std::vector<long> announced, told;            // codes sent before its first change and after it
     std::array<int, kindCount> firstNew{};        // objects from that number on were made in this step
     std::unordered_set<const CElemento*> keptNew; // those of them whose state it keeps
+    int present = 0;                              // nodes that it was to make and found
 
     Reach GetReach() const {
         Reach farthest = Reach::Look;
@@ -267,6 +269,26 @@ void HostUndo::EndDirect(const char* name) {
     TakeRecords(name ? name : defaultName);
 }
 
+void HostUndo::NotePresent() {
+    if (m_open)
+        ++m_open->present;
+}
+
+StepSummary HostUndo::Summarize(const Step& step) const {
+    StepSummary summary;
+    summary.name = CString::FromUtf8(step.name);
+    summary.present = step.present;
+    std::unordered_set<const CElemento*> changed;
+    for (const auto& change : step.changes) {
+        change->CountIn(summary);
+        CElemento* object = change->Keeps();
+        Kind kind;
+        if (object && KindOf(*object, kind) && changed.insert(object).second)
+            ++summary.changed[static_cast<std::size_t>(kind)];
+    }
+    return summary;
+}
+
 void HostUndo::CloseStep() {
     if (!m_open)
         return;
@@ -277,8 +299,12 @@ void HostUndo::CloseStep() {
     for (const auto& change : step->changes)
         change->Settle();
     step->DropIdle();
-    if (step->changes.empty())
+    const StepSummary summary = Summarize(*step);
+    if (step->changes.empty()) {
+        if (summary.present > 0)
+            m_owner.StepMade(summary);
         return;
+    }
     step->after = m_owner.Selection().TakeSnapshot();
     step->stateAfter = ++m_lastState;
     while (m_steps.size() > m_position) // what had been undone cannot come back after a new command
@@ -288,6 +314,7 @@ void HostUndo::CloseStep() {
     m_steps.push_back(std::move(step));
     ++m_position;
     m_owner.NotifyChange(reach, news, {}); // the codes have been sent
+    m_owner.StepMade(summary);
 }
 
 void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {

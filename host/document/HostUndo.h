@@ -15,6 +15,7 @@ namespace host {
 
 class UndoOwner;
 enum class Kind;
+struct StepSummary;
 
 // What open windows must hear of besides the change itself; bits.
 enum News : unsigned {
@@ -44,6 +45,8 @@ class Change {
     // none.
     virtual CElemento* Other() const { return nullptr; }
     virtual bool KeepsAll() const { return false; } // the states of all objects
+    // Adds the objects that it made, removed or moved. Those whose state it keeps count as changed without it.
+    virtual void CountIn(StepSummary&) const {}
     // False when it turned out, at the end of its step, that nothing is different.
     virtual bool HasEffect() const { return true; }
     // The step ends.
@@ -119,6 +122,8 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
     void CodeSent(long hint);
     void EndDirect(const char* name);
     bool IsOpen() const { return !m_brackets.empty() || m_open; }
+    // A node that the open step was to make lay there already: its summary says so.
+    void NotePresent();
 
     // Takes a change that has just been made. Outside every bracket it opens a step of that name by itself, closed at
     // once, or when control is back in the event loop (see HostCore::SetIdleScheduler).
@@ -159,6 +164,7 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
     void EndBracket(unsigned int tipo);
     void Settle(); // closes the step, now or when control is back in the event loop
     void CloseStep();
+    StepSummary Summarize(const Step& step) const;
     void Run(Step& step, bool forward);
 
     UndoOwner& m_owner;

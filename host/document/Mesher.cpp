@@ -152,10 +152,9 @@ bool Mesher::MakeNodes() {
         } else if (i >= row && m_places[i] == m_places[i - row]) {
             m_nodes[i] = m_nodes[i - row];
         } else if (m_nodes[i]) {
-            ++m_made.nodesMet;
+            m_document.Undo().NotePresent();
         } else {
             m_nodes[i] = m_document.AddNew(std::make_unique<CNodo>(m_places[i]), stepName);
-            ++m_made.nodes;
         }
         if (!Goes())
             return false;
@@ -184,7 +183,6 @@ void Mesher::MakeElement(std::size_t corner) {
         return; // all of it met one node or two
     if (std::all_of(m_sides.begin(), m_sides.end(), [this](CNodo* node) { return node->GetID() < m_firstNew; }) &&
         HasElement(Kind::Wall, m_sides)) {
-        ++m_made.elementsMet;
         return;
     }
     auto wall = std::make_unique<CSetto>();
@@ -193,7 +191,6 @@ void Mesher::MakeElement(std::size_t corner) {
             return;
     GiveDefaults(m_document, *wall);
     m_document.AddNew(std::move(wall), stepName);
-    ++m_made.elements;
 }
 
 } // namespace host

@@ -26,7 +26,6 @@ class Mesher {
     std::optional<Refusal> Check();
     // As one step, with a wait bar. False when the user broke it off: then nothing has changed.
     bool Run();
-    const Generated& Made() const { return m_made; }
 
   private:
     const char* Fault();
@@ -47,7 +46,6 @@ class Mesher {
     std::vector<CNodo*> m_nodes; // at the places
     std::vector<CNodo*> m_sides; // of the element at work
     int m_firstNew = 0;          // nodes from that number on were made here
-    Generated m_made;
 };
 
 } // namespace host

@@ -7,6 +7,7 @@
 #include "host/files/Version.h"
 #include "host/ui/Icons.h"
 #include "host/ui/MainWindow.h"
+#include "host/ui/Mnemonics.h"
 #include "host/ui/Workspace.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
@@ -45,13 +46,16 @@ MainMenu::MainMenu(MainWindow& window, Workspace& workspace) : m_window(window),
     BuildEdit();
     BuildView();
     BuildDialogs("&Genera", CommandMenu::Generate);
+    BuildDrawing();
     BuildSelection();
     BuildAssign();
     BuildDialogs("&Carichi", CommandMenu::Loads);
     BuildAnalysis();
-    BuildDialogs("S&trumenti", CommandMenu::Tools);
+    BuildTools();
     BuildWindow();
     BuildHelp();
+    for (QAction* each : m_window.menuBar()->actions())
+        GiveMnemonics(*each->menu());
 }
 
 QMenu& MainMenu::Menu(const QString& title) {
@@ -64,9 +68,11 @@ QAction* MainMenu::Add(QMenu& menu, const QString& name, const QString& text, co
     action->setObjectName(name);
     action->setShortcut(keys);
     menu.addAction(action);
+    const QString caption = QString(text).remove('&').remove(u'\u2026');
     QObject::connect(action, &QAction::triggered, &m_window,
-                     [this, run = std::move(run)] { m_workspace.Execute(run); });
+                     [this, caption, run = std::move(run)] { m_workspace.RunCommand(caption, run); });
     m_items.push_back({action, needs, {}});
+    m_keys.push_back({action, QString(menu.title()).remove('&') + ", " + caption, action->shortcut()});
     return action;
 }
 
@@ -80,8 +86,11 @@ QAction* MainMenu::AddForView(QMenu& menu, const QString& name, const QString& t
 
 QAction* MainMenu::AddToggle(QMenu& menu, const QString& name, const QString& text,
                              std::function<bool(HostView&)> state, std::function<void(HostView&, bool)> set) {
-    QAction* action =
-        AddForView(menu, name, text, {}, [state, set = std::move(set)](HostView& view) { set(view, !state(view)); });
+    const QString caption = QString(menu.title() + ": " + text).remove('&');
+    QAction* action = AddForView(menu, name, text, {}, [this, caption, state, set = std::move(set)](HostView& view) {
+        set(view, !state(view));
+        m_workspace.Tell(platform::FromQString(caption) + (state(view) ? " sì."_t : " no."_t));
+    });
     action->setCheckable(true);
     m_items.back().checked = std::move(state);
     return action;
@@ -144,9 +153,9 @@ void MainMenu::BuildView() {
         Adv3d::Direzione direction;
     } directions[] = {
         {"vista.assonometria", "&Assonometria", "Ctrl+1", Adv3d::Axonometry},
-        {"vista.xy", "Pianta X&Y", "Ctrl+2", Adv3d::Top},
+        {"vista.xy", "&Pianta XY", "Ctrl+2", Adv3d::Top},
         {"vista.xz", "Prospetto X&Z", "Ctrl+3", Adv3d::Front},
-        {"vista.yz", "Prospetto Y&Z", "Ctrl+4", Adv3d::Right},
+        {"vista.yz", "Prospetto &YZ", "Ctrl+4", Adv3d::Right},
         {"vista.basso", "Dal &basso", "", Adv3d::Bottom},
         {"vista.retro", "Dal &retro", "", Adv3d::Back},
         {"vista.sinistra", "Da &sinistra", "", Adv3d::Left},
@@ -165,19 +174,21 @@ void MainMenu::BuildView() {
     AddForView(menu, "vista.ingrandisci", "&Ingrandisci", QKeySequence::ZoomIn, zoom(1.25));
     AddForView(menu, "vista.riduci", "Ri&duci", QKeySequence::ZoomOut, zoom(0.8));
     AddToggle(
-        menu, "vista.prospettiva", "&Prospettiva", [](HostView& view) { return view.Vista().IsPerspective() != 0; },
+        menu, "vista.prospettiva", "Prospetti&va", [](HostView& view) { return view.Vista().IsPerspective() != 0; },
         [](HostView& view, bool on) { view.SetPerspective(on); });
     AddToggle(
         menu, "vista.griglia", "&Griglia nodi", [](HostView& view) { return view.IsGridShown(); },
         [](HostView& view, bool on) { view.ShowGrid(on); });
+    AddForView(menu, "vista.caso", "&Caso di carico mostrato", QKeySequence("Ctrl+L"),
+               [this](HostView&) { m_window.ChooseLoadCase(); });
     menu.addSeparator();
-    BuildShown(menu);
+    BuildShown(*menu.addMenu("&Mostra"));
 }
 
 void MainMenu::BuildShown(QMenu& menu) {
     for (const KindEntry& each : kinds)
         AddToggle(
-            menu, QStringLiteral("mostra.") + each.name, QStringLiteral("Mostra ") + QString(each.name).toLower(),
+            menu, QStringLiteral("mostra.") + each.name, each.name,
             [kind = each.kind](HostView& view) { return view.IsShown(kind, CElementoSettings::Object); },
             [kind = each.kind](HostView& view, bool on) { view.SetShown(kind, CElementoSettings::Object, on); });
     menu.addSeparator();
@@ -205,6 +216,25 @@ void MainMenu::BuildShown(QMenu& menu) {
             });
 }
 
+// What is to be drawn through nodes that the user picks.
+void MainMenu::BuildDrawing() {
+    QMenu& menu = Menu("&Disegna");
+    const struct {
+        const char* name;
+        const char* text;
+        const char* keys;
+        const char* icon;
+        Kind kind;
+    } drawings[] = {{"disegna.trave", "&Trave", "F6", "travi", Kind::Beam},
+                    {"disegna.asta", "&Asta", "F7", "aste", Kind::Truss},
+                    {"disegna.setto", "&Setto", "F8", "setti", Kind::Wall},
+                    {"disegna.solaio", "S&olaio", "F9", "solai", Kind::Slab}};
+    for (const auto& each : drawings)
+        AddForView(menu, each.name, each.text, QKeySequence(each.keys), [kind = each.kind](HostView& view) {
+            view.StartDrawing(kind);
+        })->setIcon(ToolIcon(each.icon));
+}
+
 void MainMenu::BuildSelection() {
     QMenu& menu = Menu("&Selezione");
     for (const KindEntry& each : kinds)
@@ -228,16 +258,24 @@ void MainMenu::BuildAssign() {
         const char* text;
         Needs needs;
         void (*run)(HostDocument&, QWidget&);
-    } commands[] = {{"assegna.vincolo", "&Vincolo\u2026", Needs::Selection, RunAssignRestraint},
-                    {"assegna.molla", "&Molla\u2026", Needs::Selection, RunAssignSpring},
-                    {"assegna.svincoli", "&Svincoli\u2026", Needs::Selection, RunAssignReleases},
-                    {"assegna.carico", "&Carico\u2026", Needs::View, RunAssignLoad}, // a self weight has no place
-                    {"assegna.elimina_carichi", "&Elimina Carichi", Needs::Selection, RunRemoveLoads}};
+        const char* keys;
+    } commands[] = {{"assegna.vincolo", "&Vincolo\u2026", Needs::Selection, RunAssignRestraint, "F2"},
+                    {"assegna.molla", "&Molla\u2026", Needs::Selection, RunAssignSpring, ""},
+                    {"assegna.svincoli", "&Svincoli\u2026", Needs::Selection, RunAssignReleases, ""},
+                    {"assegna.carico", "&Carico\u2026", Needs::View, RunAssignLoad, "F3"}, // a self weight has no place
+                    {"assegna.elimina_carichi", "&Elimina Carichi", Needs::Selection, RunRemoveLoads, ""}};
     for (const auto& each : commands)
-        Add(menu, each.name, QString::fromUtf8(each.text), {}, each.needs, [this, run = each.run] {
+        Add(menu, each.name, QString::fromUtf8(each.text), QKeySequence(each.keys), each.needs, [this, run = each.run] {
             if (HostView* view = m_workspace.ActiveView())
                 run(view->Document(), m_window);
         });
+    QMenu& supports = *menu.addMenu("Vincoli &pronti");
+    for (const Support& each : Supports())
+        Add(supports, QStringLiteral("assegna.vincolo.") + each.name, each.caption, {}, Needs::Selection,
+            [this, fixed = each.fixed] {
+                if (HostView* view = m_workspace.ActiveView())
+                    RunAssignSupport(view->Document(), fixed);
+            });
 }
 
 void MainMenu::BuildAnalysis() {
@@ -246,12 +284,13 @@ void MainMenu::BuildAnalysis() {
                [](HostView& view) { RunAnalysis(view.Document()); });
     AddDialogs(menu, CommandMenu::Results);
     QMenu& shown = *menu.addMenu("Diagrammi &mostrati");
+    int number = 0; // the names share too few letters
     for (const int kind : {CElementoSettings::N, CElementoSettings::V2, CElementoSettings::V3, CElementoSettings::T,
                            CElementoSettings::M2, CElementoSettings::M3, CElementoSettings::N_A,
                            CElementoSettings::M2_W2, CElementoSettings::M3_W3}) {
         const QString name = platform::ToQString(CElementoRisultati::_GetStringRisultato(kind));
         AddToggle(
-            shown, "analisi.mostra_risultato." + name, name,
+            shown, "analisi.mostra_risultato." + name, QStringLiteral("&%1 %2").arg(++number).arg(name),
             [kind](HostView& view) { return view.GetTraveSettings().IsRisultato(kind) != 0; },
             [kind](HostView& view, bool on) { view.SetResultShown(kind, on); });
     }
@@ -270,6 +309,14 @@ void MainMenu::BuildDialogs(const QString& title, CommandMenu which) {
         AddDialogs(Menu(title), which);
 }
 
+void MainMenu::BuildTools() {
+    QMenu& menu = Menu("S&trumenti");
+    AddDialogs(menu, CommandMenu::Tools);
+    menu.addSeparator();
+    Add(menu, "strumenti.tasti", QStringLiteral("&Tasti di scelta rapida\u2026"), {}, Needs::Nothing,
+        [this] { m_workspace.EditShortcuts(); });
+}
+
 void MainMenu::BuildWindow() {
     QMenu& menu = Menu("Fi&nestra");
     AddForView(menu, "finestra.nuova", "&Nuova finestra", {},
@@ -284,7 +331,7 @@ void MainMenu::BuildWindow() {
         area.setViewMode(QMdiArea::SubWindowView);
         area.cascadeSubWindows();
     });
-    Add(menu, "finestra.schede", "S&chede", {}, Needs::View, [&area] { area.setViewMode(QMdiArea::TabbedView); });
+    Add(menu, "finestra.schede", "S&chede", {}, Needs::View, [this] { m_window.ShowAsTabs(); });
     menu.addSeparator();
     Add(menu, "finestra.successiva", "S&uccessiva", QKeySequence("Ctrl+Tab"), Needs::View,
         [&area] { area.activateNextSubWindow(); });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/commands/Commands.h"
+#include "host/ui/Shortcuts.h"
 
 #include <QKeySequence>
 #include <QString>
@@ -26,6 +27,9 @@ class MainMenu {
     // Enables what the view (null for none) can do and shows its state.
     void Refresh(HostView* view);
 
+    // Of all commands, in menu order.
+    const Shortcuts& Keys() const { return m_keys; }
+
   private:
     struct Item {
         QAction* action; // owned by the window
@@ -45,9 +49,11 @@ class MainMenu {
     void BuildEdit();
     void BuildView();
     void BuildShown(QMenu& menu);
+    void BuildDrawing();
     void BuildSelection();
     void BuildAssign();
     void BuildAnalysis();
+    void BuildTools();
     void BuildWindow();
     void BuildHelp();
     QMenu& Menu(const QString& title);
@@ -57,6 +63,7 @@ class MainMenu {
     MainWindow& m_window;
     Workspace& m_workspace;
     std::vector<Item> m_items;
+    Shortcuts m_keys;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
 };

@@ -116,12 +116,18 @@ MainWindow::~MainWindow() {
 
 void MainWindow::BuildStatusBar() {
     m_prompt = new QLabel;
+    m_sentence = new QLabel;
+    for (QLabel* each : {m_prompt, m_sentence}) // long texts do not widen a window on a small screen
+        each->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_selected = new QLabel;
     m_coordinates = new QLabel;
     m_unit = new QLabel;
     m_coordinates->setMinimumWidth(
         fontMetrics().horizontalAdvance("Nodo 000000   x -0000.000   y -0000.000   z -0000.000"));
     statusBar()->addWidget(m_prompt, 1);
+    statusBar()->addWidget(m_sentence, 1);
     m_wait = std::make_unique<WaitIndicator>(*statusBar());
+    statusBar()->addPermanentWidget(m_selected);
     statusBar()->addPermanentWidget(m_coordinates);
     statusBar()->addPermanentWidget(m_unit);
 }
@@ -148,8 +154,10 @@ void MainWindow::BuildToolBar() {
     m_loadCase->setMinimumContentsLength(14);
     bar->addWidget(m_loadCase);
     QObject::connect(m_loadCase, &QComboBox::activated, this, [this](int index) {
-        if (HostView* view = m_workspace.ActiveView())
+        if (HostView* view = m_workspace.ActiveView()) {
             m_workspace.SelectLoadCase(*view, m_loadCase->itemData(index).toInt());
+            view->Widget().setFocus();
+        }
     });
 }
 
@@ -181,12 +189,31 @@ void MainWindow::RemoveView(HostView& view) {
         m_area->removeSubWindow(window);
         window->hide();
         window->deleteLater();
+        FillTab();
     }
+}
+
+void MainWindow::ChooseLoadCase() {
+    m_loadCase->setFocus(Qt::ShortcutFocusReason);
+    m_loadCase->showPopup();
+}
+
+void MainWindow::ShowAsTabs() {
+    m_area->setViewMode(QMdiArea::TabbedView);
+    FillTab();
+}
+
+// The area leaves a window as small as it was when the one before it goes.
+void MainWindow::FillTab() {
+    QMdiSubWindow* shown = m_area->currentSubWindow();
+    if (m_area->viewMode() == QMdiArea::TabbedView && shown && !shown->isMaximized())
+        shown->showMaximized();
 }
 
 void MainWindow::ShowView(HostView& view) {
     if (QMdiSubWindow* window = WindowOf(view))
         m_area->setActiveSubWindow(window);
+    FillTab();
 }
 
 void MainWindow::ScheduleRefresh() {
@@ -205,12 +232,23 @@ void MainWindow::Refresh() {
             each->setWindowTitle(m_workspace.TitleOf(*view));
     HostView* view = m_workspace.ActiveView();
     setWindowTitle(view ? m_workspace.TitleOf(*view) + QStringLiteral(" \u2013 Quovar") : QStringLiteral("Quovar"));
-    m_prompt->setText(view ? platform::ToQString(view->Prompt()) : QString());
+    ShowPrompt(view);
+    const bool selected = view && !view->Document().Selection().IsEmpty();
+    m_selected->setText(selected ? platform::ToQString(view->Document().Selection().Text()) : QString());
     m_unit->setText(view ? platform::ToQString(CGrandezza::_GetStringLunghezza(view->Document().GetLunghezza()) + ", " +
                                                CGrandezza::_GetStringForza(view->Document().GetForza()))
                          : QString());
     m_menu->Refresh(view);
     RefreshLoadCases(view);
+}
+
+void MainWindow::ShowPrompt(HostView* view) {
+    QString prompt = view ? platform::ToQString(view->Prompt()) : QString();
+    if (view && !view->Widget().TypedNumber().isEmpty())
+        prompt += "  Nodo " + view->Widget().TypedNumber();
+    m_prompt->setText(prompt);
+    m_prompt->setToolTip(prompt);
+    m_prompt->setVisible(!prompt.isEmpty());
 }
 
 void MainWindow::RefreshLoadCases(HostView* view) {
@@ -239,6 +277,23 @@ void MainWindow::RefreshLoadCases(HostView* view) {
 
 void MainWindow::ShowCoordinates(const QString& text) {
     m_coordinates->setText(text);
+}
+
+void MainWindow::ShowSentence(const QString& text) {
+    m_sentence->setVisible(!text.isEmpty());
+    m_sentence->setText(text);
+    m_sentence->setToolTip(text);
+}
+
+QString MainWindow::SentenceText() const {
+    return m_sentence->text();
+}
+
+QAction* MainWindow::CommandOf(const QKeySequence& key) const {
+    for (QAction* each : findChildren<QAction*>(Qt::FindDirectChildrenOnly))
+        if (each->shortcuts().contains(key))
+            return each;
+    return nullptr;
 }
 
 QString MainWindow::PromptText() const {

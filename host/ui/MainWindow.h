@@ -53,15 +53,21 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
     void AddView(HostView& view);
     void RemoveView(HostView& view); // the view closes itself
     void ShowView(HostView& view);   // makes it the active one
+    void ShowAsTabs();
+    void ChooseLoadCase(); // by keyboard, in the list of the tool bar
 
     // Brings menus, tool bar, titles and status bar up to date, once, when control is back in the loop.
     void ScheduleRefresh();
     void Refresh();
     void ShowCoordinates(const QString& text);
+    void ShowSentence(const QString& text); // what became of a command; empty for nothing to say
 
     // Commands by name ("file.salva", "modifica.annulla"), those of dialogs by ActionName; null when there is none.
     QAction* Command(const QString& name) const { return findChild<QAction*>(name); }
+    const MainMenu& Menus() const { return *m_menu; }
+    QAction* CommandOf(const QKeySequence& key) const; // the one of that shortcut; null when there is none
     QString PromptText() const;
+    QString SentenceText() const;
 
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -70,13 +76,17 @@ class MainWindow final : public platform::HostedWidget<QMainWindow> {
   private:
     void BuildStatusBar();
     void BuildToolBar();
+    void ShowPrompt(HostView* view);
     void RefreshLoadCases(HostView* view);
+    void FillTab();
     QMdiSubWindow* WindowOf(const HostView& view) const;
 
     Workspace& m_workspace;
     HostFrame m_frame;
     QMdiArea* m_area; // this and the next are owned by the window
     QLabel* m_prompt = nullptr;
+    QLabel* m_sentence = nullptr;
+    QLabel* m_selected = nullptr;
     QLabel* m_coordinates = nullptr;
     QLabel* m_unit = nullptr;
     QComboBox* m_loadCase = nullptr;

@@ -29,7 +29,9 @@ bool LiesInView(const CDialog& dialog) {
 
 // Beside the main window where the screen has room, otherwise inside the view's right edge, and a caption lower for
 // each window that stands there already. One that places itself is only kept on the screen.
-void PlaceBeside(const Command& command, QWidget& window, const HostView& view, int others) {
+QPoint FreePlace(const Command& command, const QWidget& window, const HostView& view, int others) {
+    if (command.place == Place::Own)
+        return window.pos();
     const QWidget& viewWidget = view.Widget();
     const QRect screen = viewWidget.screen()->availableGeometry();
     const QRect frame = viewWidget.window()->frameGeometry();
@@ -38,11 +40,11 @@ void PlaceBeside(const Command& command, QWidget& window, const HostView& view, 
     QPoint place(frame.right() + gap, viewCorner.y() + others * cascade);
     if (place.x() + window.frameGeometry().width() > screen.right())
         place.setX(viewCorner.x() - window.frameGeometry().width() - gap);
-    if (command.place == Place::Own)
-        place = window.pos();
-    place.setX(std::clamp(place.x(), screen.left(), std::max(screen.left(), screen.right() - window.width())));
-    place.setY(std::clamp(place.y(), screen.top(), std::max(screen.top(), screen.bottom() - window.height() - 40)));
-    window.move(place);
+    return place;
+}
+
+QString PlaceName(const Command& command) {
+    return QStringLiteral("%1-%2").arg(command.dialog).arg(command.kind);
 }
 
 // What the caption of a dialog begins with; empty for a document that has no file.
@@ -81,6 +83,16 @@ CDialogDocument* ToolDialogs::Latest(const HostView& view) const {
 bool ToolDialogs::IsOpen(const CDialog* dialog, const HostView& view) const {
     return dialog &&
            FindLast([&](const Tool& each) { return each.view == &view && each.dialog.get() == dialog; }) != nullptr;
+}
+
+HostView* ToolDialogs::ViewOf(HWND control) const {
+    const CWnd* window = CWnd::FromHandle(control);
+    const QWidget* widget = window ? platform::WidgetOf(*window) : nullptr;
+    const auto found = FindLast([widget](const Tool& each) {
+        const QWidget* its = each.dialog ? platform::WidgetOf(*each.dialog) : nullptr;
+        return widget && its && (its == widget || its->isAncestorOf(widget));
+    });
+    return found ? found->view : nullptr;
 }
 
 int ToolDialogs::RangeAxis(const HostDocument& document) const {
@@ -125,8 +137,11 @@ CDialog* ToolDialogs::Make(Tool& tool, CWnd& frame) {
     QObject::connect(&window, &QObject::destroyed, &m_orphanWatch, [this] { EndClosed(); });
     const bool inside = LiesInView(*tool.dialog);
     if (!inside)
-        PlaceBeside(*tool.command, window, *tool.view, static_cast<int>(others) - 1);
+        MoveOntoScreen(window,
+                       m_places.PlaceOf(PlaceName(*tool.command))
+                           .value_or(FreePlace(*tool.command, window, *tool.view, static_cast<int>(others) - 1)));
     tool.dialog->ShowWindow(SW_SHOW);
+    tool.place = window.pos();
     if (!inside)
         tool.dialog->SetActiveWindow();
     return tool.dialog.get();
@@ -148,11 +163,21 @@ void ToolDialogs::End(const CDialog* dialog) {
         End(FindLast([dialog](const Tool& each) { return each.dialog.get() == dialog; }));
 }
 
+// Where the user has moved it to.
+void ToolDialogs::RememberPlace(const Tool& tool) {
+    if (!tool.dialog || !tool.dialog->GetSafeHwnd() || LiesInView(*tool.dialog))
+        return;
+    const QWidget* window = platform::WidgetOf(*tool.dialog);
+    if (window && window->isVisible() && !window->isMinimized() && window->pos() != tool.place)
+        m_places.Remember(PlaceName(*tool.command), window->pos());
+}
+
 void ToolDialogs::End(std::shared_ptr<Tool> tool) {
     if (!tool)
         return;
     // Out of the list first: the dialog's handlers run while its window goes, and may come back here.
     std::erase(m_tools, tool);
+    RememberPlace(*tool);
     const QScopedValueRollback<Tool*> calling(m_caller, tool.get());
     std::unique_ptr<CDialog> ended = std::move(tool->dialog);
     if (ended)

@@ -1,6 +1,7 @@
 // The dialogs that stay open beside the views: which view each works on, which one picks there, and when it ends.
 #pragma once
 
+#include "host/ui/WindowPlaces.h"
 #include "platform/core/String.h"
 
 #include <QTimer>
@@ -39,9 +40,13 @@ class ToolDialogs {
     CDialogDocument* Latest(const HostView& view) const; // opened last or picking since; null when there is none
     bool IsOpen(const CDialog* dialog, const HostView& view) const; // for any address
 
+    HostView* ViewOf(HWND control) const; // of the dialog that the control is in; null for another window
+
     // The axis of the active dialog that selects by range in the document, otherwise of the one opened last; -1 for
     // none.
     int RangeAxis(const HostDocument& document) const;
+
+    DialogPlaces& Places() { return m_places; }
 
     // Destroys the dialog's window now and the object when its handlers have returned. Any other address is ignored.
     void End(const CDialog* dialog);
@@ -72,6 +77,7 @@ class ToolDialogs {
         CDialogDocument* tool = nullptr;    // the same; null for one of another kind
         bool picks = false;                 // in its view, or in the one that it had
         std::optional<CString> prompt = {}; // of its last picking, unless it stopped that by itself
+        QPoint place = {};                  // the frame's corner when it opened
     };
     using Tools = std::vector<std::shared_ptr<Tool>>;
 
@@ -85,6 +91,7 @@ class ToolDialogs {
     CDialog* BringToFront(Tool& tool);
     void ResumePicking(Tool& tool);
     void Adopt(Tool& tool, HostView& view);
+    void RememberPlace(const Tool& tool);
     void End(std::shared_ptr<Tool> tool); // by value: the list holds it no longer
     void EndClosed();
     void EndCancelledOrphans();
@@ -92,6 +99,7 @@ class ToolDialogs {
     Tools m_tools; // the one that was opened or began to pick last is at the end
     Tool* m_caller = nullptr;
     QTimer m_orphanWatch;
+    DialogPlaces m_places;
 };
 
 } // namespace host

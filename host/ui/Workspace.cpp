@@ -3,14 +3,19 @@
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
+#include "host/document/NewModel.h"
 #include "host/document/Properties.h"
 #include "host/ui/DeferredDelete.h"
+#include "host/ui/MainMenu.h"
 #include "host/ui/MainWindow.h"
+#include "host/ui/SharedKeys.h"
 #include "host/view/HostView.h"
 #include "host/view/ViewWidget.h"
 #include "platform/core/Exception.h"
 #include "platform/window/Application.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 
@@ -28,6 +33,8 @@ Workspace::Workspace() {
 }
 
 Workspace::~Workspace() {
+    if (m_settings)
+        RememberMainWindow(*m_window, *m_settings);
     m_tools.EndAll();
     while (!m_views.empty())
         ReleaseView(*m_views.back());
@@ -40,10 +47,22 @@ Workspace::~Workspace() {
     CQuovarHost::Install(nullptr);
 }
 
+void Workspace::Remember(QSettings& settings) {
+    m_settings = &settings;
+    RestoreMainWindow(*m_window, settings);
+    RestoreShortcuts(m_window->Menus().Keys(), settings);
+    m_tools.Places().SetSettings(&settings);
+}
+
+void Workspace::EditShortcuts() {
+    host::EditShortcuts(*m_window, m_window->Menus().Keys(), m_settings);
+}
+
 Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name) {
     m_projects.push_back(std::make_unique<Project>());
     Project& project = *m_projects.back();
     project.document = std::move(document);
+    project.document->SetPathName(platform::FromQString(path.isEmpty() ? name + ".asg" : path));
     project.idle = std::make_unique<QObject>();
     project.path = path;
     project.name = name;
@@ -51,6 +70,7 @@ Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, con
         [this, &project] { QTimer::singleShot(0, project.idle.get(), [this, &project] { RunIdle(project); }); });
     project.document->Selection().SetRangeAxis([this, &of = *project.document] { return m_tools.RangeAxis(of); });
     project.document->SetBreakAsker([this] { return m_window->Wait().IsBrokenOff(); });
+    project.document->SetTeller([this](const CString& sentence) { Tell(sentence); });
     project.document->SetRefusalTeller([](const Refusal& refusal) { AfxMessageBox(refusal.message, MB_OK); });
     return project;
 }
@@ -92,9 +112,10 @@ QString Workspace::TitleOf(const HostView& view) const {
 }
 
 HostView& Workspace::NewDocument() {
-    const QString name = QStringLiteral("Senza titolo %1").arg(++m_untitled);
-    Project& project = Adopt(std::make_unique<HostDocument>(), {}, name);
-    project.document->SetTitle(platform::FromQString(name));
+    const QString name = QStringLiteral("Senza nome %1").arg(++m_untitled);
+    auto document = std::make_unique<HostDocument>();
+    document->Replace(NewModel(document->Data().Units()));
+    Project& project = Adopt(std::move(document), {}, name);
     return NewView(*project.document);
 }
 
@@ -196,6 +217,36 @@ void Workspace::Execute(const std::function<void()>& command) {
     platform::RunGuarded(command);
 }
 
+void Workspace::RunCommand(const QString& caption, const std::function<void()>& command) {
+    Execute([&] {
+        const HostView* view = m_active;
+        const auto before = view ? view->Document().Selection().TakeSnapshot() : HostSelection::Snapshot();
+        m_told = false;
+        command();
+        if (m_told)
+            return;
+        const bool sameView = view && view == m_active;
+        if (sameView && view->Document().Selection().TakeSnapshot() != before)
+            Tell(view->Document().Selection().Text() + ".");
+        else
+            Tell(platform::FromQString(caption + "."));
+    });
+}
+
+bool Workspace::TakeKey(const MSG& message) {
+    const QKeySequence key = SharedKey(message);
+    if (key.isEmpty() || m_executing || IsWaiting() || QApplication::activeModalWidget())
+        return false;
+    if (HostView* view = m_tools.ViewOf(message.hwnd); view && view != m_active)
+        Activate(*view);
+    m_window->Refresh(); // what can be done now
+    QAction* command = m_window->CommandOf(key);
+    if (!command || !command->isEnabled())
+        return false;
+    command->trigger();
+    return true;
+}
+
 // What was changed until then is a step that can be undone.
 void Workspace::Recover() {
     for (const auto& project : m_projects)
@@ -223,14 +274,23 @@ CDialog* Workspace::Run(const Command& command) {
 }
 
 void Workspace::Undo() {
-    if (m_active)
-        m_active->Document().Undo().Undo();
+    if (m_active) {
+        HostUndo& undo = m_active->Document().Undo();
+        undo.Close();
+        const CString name = undo.UndoName();
+        if (undo.Undo())
+            Tell("Annullato: " + name + ".");
+    }
     m_window->ScheduleRefresh();
 }
 
 void Workspace::Redo() {
-    if (m_active)
-        m_active->Document().Undo().Redo();
+    if (m_active) {
+        HostUndo& undo = m_active->Document().Undo();
+        const CString name = undo.RedoName();
+        if (undo.Redo())
+            Tell("Ripristinato: " + name + ".");
+    }
     m_window->ScheduleRefresh();
 }
 
@@ -263,6 +323,11 @@ void Workspace::ShowProperties(CElemento& element) {
 
 void Workspace::ShowCoordinates(const QString& text) {
     m_window->ShowCoordinates(text);
+}
+
+void Workspace::Tell(const CString& sentence) {
+    m_told = m_told || !sentence.IsEmpty();
+    m_window->ShowSentence(platform::ToQString(sentence));
 }
 
 bool Workspace::IsWaiting() const {

@@ -13,6 +13,10 @@
 #include <memory>
 #include <vector>
 
+class QFileInfo;
+class QSettings;
+struct MSG;
+
 namespace host {
 
 class HostDocument;
@@ -30,6 +34,11 @@ class Workspace final : public CQuovarHost, public ViewOwner {
 
     MainWindow& Window() { return *m_window; }
     ToolDialogs& Tools() { return m_tools; }
+
+    // What the user changed of places and shortcuts in former runs comes back, and is kept from now on. Outlives this
+    // object. Without it, as in tests and batch modes, nothing is remembered.
+    void Remember(QSettings& settings);
+    void EditShortcuts();
 
     // ---- Documents. Views and documents stay this object's; a document lives as long as it has views.
     HostView& NewDocument();
@@ -57,6 +66,13 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     // is gone, and a request that was already waiting behind the dialog's last key may come before that.
     void Execute(const std::function<void()>& command);
 
+    // The same for a command of the menus. Where it has told nothing of what it did, its caption is told, or what is
+    // selected now when that is other than before.
+    void RunCommand(const QString& caption, const std::function<void()>& command);
+    // A key for which a tool dialog had no use: one of those in SharedKeys.h runs its command on the dialog's view.
+    // False for any other key, and while a modal dialog is open.
+    bool TakeKey(const MSG& message);
+
     // ---- Commands on the active view; without one nothing happens.
     // Opens the command's dialog and returns it, or runs it until the user is done and returns null. Null also when
     // there can be no dialog, or nothing is selected for a command that needs it.
@@ -81,6 +97,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     void ResultShown(HostView& view, int kind, bool shown) override { m_tools.ResultShown(view, kind, shown); }
     void ShowProperties(CElemento& element) override;
     void ShowCoordinates(const QString& text) override;
+    void Tell(const CString& sentence) override;
     bool IsWaiting() const override;
 
     // ---- For the dialogs.
@@ -106,9 +123,11 @@ class Workspace final : public CQuovarHost, public ViewOwner {
         QString name;                  // without folder
     };
 
+    // Without a path the captions of its dialogs begin with the name.
     Project& Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name);
     Project* ProjectOf(const HostDocument& document) const;
     HostView* LastViewOf(const HostDocument& document) const; // null when it has none or more than one
+    HostView* ViewOf(const QFileInfo& file) const;            // null when no open document is saved there
     HostView* OtherViewOf(const HostView& view) const;        // of the same document; null when there is none
     void Activate(HostView& view);                            // its window too
     void RunIdle(Project& project);
@@ -121,9 +140,11 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     std::vector<std::unique_ptr<Project>> m_projects;
     std::vector<std::unique_ptr<HostView>> m_views;
     HostView* m_active = nullptr;
+    QSettings* m_settings = nullptr; // null remembers nothing
     ToolDialogs m_tools;
     int m_untitled = 0;
     bool m_executing = false;
+    bool m_told = false; // something, since the last command began
 };
 
 } // namespace host

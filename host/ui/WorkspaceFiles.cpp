@@ -1,6 +1,7 @@
 // The part of the workspace that reads and writes files.
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "host/document/HostDocument.h"
+#include "host/document/StepSummary.h"
 #include "host/files/FileError.h"
 #include "host/files/Frame3ddImport.h"
 #include "host/files/ProjectFile.h"
@@ -8,6 +9,7 @@
 #include "host/ui/MainWindow.h"
 #include "host/ui/Workspace.h"
 #include "host/view/HostView.h"
+#include "host/view/SaveDialog.h"
 #include "platform/window/Application.h"
 
 #include <QDir>
@@ -15,6 +17,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <new>
 
 namespace host {
@@ -34,7 +37,7 @@ bool IsTextModel(const QString& path) {
     return QFileInfo(path).suffix().compare(QStringLiteral("3dd"), Qt::CaseInsensitive) == 0;
 }
 
-void Tell(const QString& text) {
+void ShowMessage(const QString& text) {
     AfxMessageBox(platform::FromQString(text), MB_OK);
 }
 
@@ -59,24 +62,28 @@ bool Guarded(const QString& what, const Action& action) {
     } catch (const std::bad_alloc&) {
         reason = QStringLiteral("Memoria insufficiente.");
     }
-    Tell(what + "\n" + reason);
+    ShowMessage(what + "\n" + reason);
     return false;
-}
-
-QString WithSuffix(const QString& path) {
-    return QFileInfo(path).suffix().isEmpty() ? path + ".asg" : path;
 }
 
 } // namespace
 
+// Whose document is saved in the file; links lead to the file itself.
+HostView* Workspace::ViewOf(const QFileInfo& file) const {
+    const auto found = std::find_if(m_views.begin(), m_views.end(), [&](const auto& each) {
+        const QString path = PathOf(each->Document());
+        return !path.isEmpty() && QFileInfo(path) == file;
+    });
+    return found == m_views.end() ? nullptr : found->get();
+}
+
 HostView* Workspace::Open(const QString& path) {
     const QFileInfo file(path);
     const QString whole = file.absoluteFilePath();
-    for (const auto& view : m_views)
-        if (!PathOf(view->Document()).isEmpty() && QFileInfo(PathOf(view->Document())) == file) {
-            Activate(*view);
-            return view.get();
-        }
+    if (HostView* there = ViewOf(file)) {
+        Activate(*there);
+        return there;
+    }
     const bool text = IsTextModel(whole);
     std::vector<CString> notes;
     auto document = std::make_unique<HostDocument>();
@@ -85,16 +92,17 @@ HostView* Workspace::Open(const QString& path) {
     });
     if (!read)
         return nullptr;
-    // A text model becomes a project of its own: saving never writes over it.
-    if (text)
-        document->SetTitle(platform::FromQString(file.completeBaseName()));
-    else
-        document->SetPathName(platform::FromQString(whole));
     HostView* former = m_active;
+    // A text model becomes a project of its own: saving never writes over it.
     Project& project =
         Adopt(std::move(document), text ? QString() : whole, text ? file.completeBaseName() : file.fileName());
     HostView& view = NewView(*project.document);
     CloseUntouched(former);
+    KindCounts counts = {};
+    for (const Kind kind : {Kind::Node, Kind::Beam, Kind::Truss, Kind::Wall, Kind::Slab})
+        counts[static_cast<std::size_t>(kind)] = project.document->Data().Size(kind);
+    Tell(platform::FromQString(QStringLiteral("Aperto \"%1\": ").arg(file.fileName())) +
+         (CountText(counts).IsEmpty() ? CString("vuoto") : CountText(counts)) + ".");
     if (!notes.empty())
         TellNotes(notes);
     return &view;
@@ -121,6 +129,11 @@ bool Workspace::SaveAs(HostDocument& document, const QString& path) {
         return false;
     const QFileInfo file(path);
     const QString whole = file.absoluteFilePath();
+    if (const HostView* other = ViewOf(file); other && &other->Document() != &document) {
+        ShowMessage(QStringLiteral("Impossibile salvare \"%1\".\nIl file appartiene a un altro documento aperto.")
+                        .arg(QDir::toNativeSeparators(path)));
+        return false;
+    }
     document.Idle(); // what was just done belongs to the file
     const bool written = Guarded(QStringLiteral("Impossibile salvare \"%1\".").arg(QDir::toNativeSeparators(path)),
                                  [&] { SaveProject(document.Data(), SystemPath(whole), applicationVersion); });
@@ -133,6 +146,7 @@ bool Workspace::SaveAs(HostDocument& document, const QString& path) {
     m_tools.Renamed(document, formerPath);
     document.MarkSaved();
     m_window->ScheduleRefresh();
+    Tell(platform::FromQString(QStringLiteral("Salvato in \"%1\".").arg(QDir::toNativeSeparators(whole))));
     return true;
 }
 
@@ -152,9 +166,8 @@ void Workspace::AskAndImport() {
 bool Workspace::AskAndSaveAs(HostDocument& document) {
     const Project* project = ProjectOf(document);
     const QString proposed = project ? (project->path.isEmpty() ? project->name + ".asg" : project->path) : QString();
-    const QString path =
-        QFileDialog::getSaveFileName(m_window.get(), QStringLiteral("Salva con nome"), proposed, projects);
-    return !path.isEmpty() && SaveAs(document, WithSuffix(path));
+    const QString path = AskSaveName(m_window.get(), QStringLiteral("Salva con nome"), proposed, {projects});
+    return !path.isEmpty() && SaveAs(document, path);
 }
 
 bool Workspace::AskToSave(Project& project) {

@@ -4,6 +4,7 @@
 #include "dialogs/frame/tool/DialogDocument.h"
 #include "dialogs/generation/DialogGrigliaNodi.h"
 #include "host/document/HostDocument.h"
+#include "host/view/SaveDialog.h"
 #include "host/view/ViewOwner.h"
 #include "host/view/ViewRenderer.h"
 #include "host/view/ViewWidget.h"
@@ -15,12 +16,11 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QScreen>
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numbers>
 
 namespace host {
@@ -39,9 +39,8 @@ constexpr double degreesPerPixel = 0.4; // of orbit
 constexpr double firstScale = 50;       // pixels per metre of an empty document
 
 QString AskPictureFile(QWidget* parent) {
-    return QFileDialog::getSaveFileName(
-        parent, QStringLiteral("Salva immagine"), QStringLiteral("immagine.png"),
-        QStringLiteral("Immagini PNG (*.png);;Immagini JPEG (*.jpg);;Immagini BMP (*.bmp)"));
+    return AskSaveName(parent, QStringLiteral("Salva immagine"), QStringLiteral("immagine.png"),
+                       {"Immagini PNG (*.png)", "Immagini JPEG (*.jpg)", "Immagini BMP (*.bmp)"});
 }
 
 } // namespace
@@ -49,7 +48,7 @@ QString AskPictureFile(QWidget* parent) {
 std::function<QString()> HostView::pictureFileHook;
 
 HostView::HostView(HostDocument& document, ViewOwner& owner, HWND frame, QWidget* parent)
-    : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)) {
+    : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)), m_drawing(document) {
     m_widget->Open(*this);
     m_projection.SetScale(firstScale * CGrandezza::_LengthFactor(m_document.GetLunghezza(), Lunghezza::Metres));
     // What a window of diagrams begins with.
@@ -69,6 +68,7 @@ void HostView::Close() {
     m_closed = true;
     m_document.RemoveObserver(this);
     m_vector = {};
+    m_drawing.Stop();
     DestroyWindow();
     m_widget->Leave(); // the loop deletes it
 }
@@ -82,16 +82,30 @@ void HostView::StartDefinisciVettore(CString prompt, CString) {
     m_vector = {};
     m_vector.active = true;
     m_vector.prompt = prompt;
-    m_widget->setCursor(Qt::CrossCursor);
-    m_widget->update();
-    m_owner.ViewChanged(*this);
+    m_drawing.Stop();
+    ShowPicking();
 }
 
 void HostView::StopDefinisciVettore() {
     if (!m_vector.active || !m_owner.PickingStops(*this))
         return;
     m_vector = {};
-    m_widget->unsetCursor();
+    ShowPicking();
+}
+
+void HostView::StartDrawing(Kind kind) {
+    m_owner.Tell(m_drawing.Start(kind));
+    m_widget->setFocus();
+    ShowPicking();
+}
+
+void HostView::ShowPicking() {
+    if (m_closed)
+        return;
+    if (AsksForNodes())
+        m_widget->setCursor(Qt::CrossCursor);
+    else
+        m_widget->unsetCursor();
     m_widget->update();
     m_owner.ViewChanged(*this);
 }
@@ -147,12 +161,8 @@ void HostView::CatturaImmagine() {
     if (picture.isNull())
         return;
     QApplication::clipboard()->setPixmap(picture);
-    QString path = pictureFileHook ? pictureFileHook() : AskPictureFile(m_widget->QWidget::window());
-    if (path.isEmpty())
-        return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += ".png";
-    if (!picture.save(path))
+    const QString path = pictureFileHook ? pictureFileHook() : AskPictureFile(m_widget->QWidget::window());
+    if (!path.isEmpty() && !picture.save(path))
         AfxMessageBox("Impossibile scrivere l'immagine \"" + platform::FromQString(path) + "\".",
                       MB_OK | MB_ICONEXCLAMATION);
 }
@@ -243,36 +253,61 @@ void HostView::SetResultShown(int kind, bool shown) {
     m_owner.ViewChanged(*this);
 }
 
-void HostView::ClickAt(CPoint at, bool toggle) {
-    if (m_vector.active) {
-        Pick(at);
+void HostView::ClickAt(CPoint at, SelectMode mode) {
+    if (AsksForNodes()) {
+        if (const std::optional<Snap> snap = SnapAt(at))
+            snap->node ? Pick(*snap->node) : PickForTool(snap->point);
         return;
     }
+    std::vector<CElemento*> hit;
+    if (CElemento* object = ObjectAt(m_document, m_projection, at, m_filter))
+        hit.push_back(object);
+    Select(hit, mode);
+}
+
+void HostView::SelectRectangle(CPoint a, CPoint b, SelectMode mode) {
+    Select(ObjectsIn(m_document, m_projection, a, b, m_filter), mode);
+}
+
+bool HostView::ActAt(CElemento& object, SelectMode mode) {
+    if (!AsksForNodes()) {
+        Select({&object}, mode);
+        return true;
+    }
+    auto* node = DYNAMIC_DOWNCAST(CNodo, &object);
+    if (node)
+        Pick(*node);
+    return node;
+}
+
+void HostView::Select(const std::vector<CElemento*>& found, SelectMode mode) {
     HostSelection& selection = m_document.Selection();
-    CElemento* hit = ObjectAt(m_document, m_projection, at, m_filter);
-    if (toggle) {
-        if (hit && hit->IsSelect())
-            selection.Remove(hit);
-        else if (hit)
-            selection.Add(hit);
+    std::vector<CElemento*> leaving;
+    if (mode == SelectMode::Replace)
+        selection.Clear();
+    else if (mode == SelectMode::Toggle)
+        std::copy_if(found.begin(), found.end(), std::back_inserter(leaving),
+                     [](CElemento* each) { return each->IsSelect(); });
+    if (leaving.empty()) {
+        selection.Add(found);
         return;
     }
-    selection.Clear();
-    if (hit)
-        selection.Add(hit);
+    std::vector<CElemento*> coming;
+    std::copy_if(found.begin(), found.end(), std::back_inserter(coming),
+                 [](CElemento* each) { return !each->IsSelect(); });
+    selection.Remove(leaving);
+    selection.Add(coming);
 }
 
-void HostView::SelectRectangle(CPoint a, CPoint b) {
-    const std::vector<CElemento*> found = ObjectsIn(m_document, m_projection, a, b, m_filter);
-    if (!found.empty())
-        m_document.Selection().Add(found);
+void HostView::Pick(CNodo& node) {
+    if (!m_drawing.IsActive())
+        return PickForTool(*node.GetPunto());
+    if (const CString refused = m_drawing.Take(node); !refused.IsEmpty()) // otherwise the step tells
+        m_owner.Tell(refused);
+    ShowPicking();
 }
 
-bool HostView::Pick(CPoint at) {
-    const std::optional<Snap> snap = SnapAt(at);
-    if (!snap)
-        return false;
-    const CFPoint point = snap->point;
+void HostView::PickForTool(const CFPoint& point) {
     // The state moves on before the dialog hears of the point: it may restart the mode for the next one.
     const bool second = m_vector.secondIsNext;
     m_vector.secondIsNext = !second;
@@ -281,21 +316,19 @@ bool HostView::Pick(CPoint at) {
         m_vector.vector.emplace(*m_vector.from, point);
     m_vector.from = second ? std::optional<CFPoint>() : point;
     m_owner.PointPicked(*this, point, second);
-    if (!m_closed) {
-        m_widget->update();
-        m_owner.ViewChanged(*this);
-    }
-    return true;
+    ShowPicking();
 }
 
-void HostView::BreakOffVector() {
-    if (!m_owner.IsPicking(*this)) {
+void HostView::BreakOff() {
+    if (m_drawing.IsActive()) {
+        m_drawing.StepBack();
+    } else if (!m_owner.IsPicking(*this)) {
         StopDefinisciVettore();
         return;
+    } else {
+        ForgetPoints();
     }
-    ForgetPoints();
-    m_widget->update();
-    m_owner.ViewChanged(*this);
+    ShowPicking();
 }
 
 void HostView::ForgetPoints() {
@@ -308,19 +341,30 @@ CNodo* HostView::SnapNode(CPoint at) {
     return NearestNode(m_document, m_projection, at, pickRadius);
 }
 
-CString HostView::Describe(CPoint at) {
+CString HostView::Describe(CElemento& object) {
     CString text;
+    if (auto* node = DYNAMIC_DOWNCAST(CNodo, &object)) {
+        const CFPoint& point = *node->GetPunto();
+        text.Format("Nodo %d   x %.3f   y %.3f   z %.3f", node->GetID(), point.x, point.y, point.z);
+    } else {
+        object.GetTextInfo(text);
+    }
+    return text;
+}
+
+CString HostView::Describe(CPoint at) {
     const std::optional<Snap> snap = SnapAt(at);
-    const CFPoint point = snap ? snap->point : m_projection.Unproject(at, m_projection.GetTarget());
     if (snap && snap->node)
-        text.Format("Nodo %d   ", snap->node->GetID());
-    else if (snap)
-        text = "Griglia   ";
-    text.AppendFormat("x %.3f   y %.3f   z %.3f", point.x, point.y, point.z);
+        return Describe(*snap->node);
+    const CFPoint point = snap ? snap->point : m_projection.Unproject(at, m_projection.GetTarget());
+    CString text;
+    text.Format("%sx %.3f   y %.3f   z %.3f", CString(snap ? "Griglia   " : ""), point.x, point.y, point.z);
     return text;
 }
 
 CString HostView::Prompt() const {
+    if (m_drawing.IsActive())
+        return m_drawing.Prompt();
     if (!m_vector.active)
         return {};
     if (!m_vector.prompt.IsEmpty())

@@ -4,6 +4,7 @@
 #include "dialogs/frame/host/QuovarView.h"
 #include "host/document/ConstructionGrid.h"
 #include "host/document/DocumentObserver.h"
+#include "host/view/ElementDrawing.h"
 #include "host/view/Picking.h"
 #include "model/view/Adv3d.h"
 #include "platform/window/MessageMap.h"
@@ -104,12 +105,18 @@ class HostView final : public CQuovarView, public DocumentObserver {
     bool EditGrid(CDialogGrigliaNodi& dialog);
 
     // ---- What the user does with the pointer.
-    // In vector definition the click picks; otherwise it replaces the selection, or toggles one object of it.
-    void ClickAt(CPoint at, bool toggle);
-    void SelectRectangle(CPoint a, CPoint b); // adds
-    // The user's Escape: a pair begins again with its first point, a dialog that asks for single ones goes on asking.
-    // Without a dialog that picks the mode ends.
-    void BreakOffVector();
+    // Where nodes are asked for the click picks one; otherwise it selects.
+    void ClickAt(CPoint at, SelectMode mode);
+    void SelectRectangle(CPoint a, CPoint b, SelectMode mode);
+    // What a click on the object would do. False for one that is not asked for.
+    bool ActAt(CElemento& object, SelectMode mode);
+    // A tool dialog or a drawing command waits for nodes; the one that began last gets them.
+    bool AsksForNodes() const { return m_vector.active || m_drawing.IsActive(); }
+    // Makes elements of the kind through the nodes that are picked from now on.
+    void StartDrawing(Kind kind);
+    // The user's Escape: what a drawing picked is let go, then the drawing ends; a pair begins again with its first
+    // point, a dialog that asks for single ones goes on asking. Without a dialog that picks the mode ends.
+    void BreakOff();
     // The node that a pick at the point would take; null when none is near.
     CNodo* SnapNode(CPoint at);
     // What a pick at the point would take: a node, or a crossing of construction lines that is nearer.
@@ -121,14 +128,19 @@ class HostView final : public CQuovarView, public DocumentObserver {
     // Makes a node on a crossing, tells about an object, or fits the model into the window.
     void DoubleClickAt(CPoint at);
     CString Describe(CPoint at); // for the status bar: coordinates, of the node where one is near
+    static CString Describe(CElemento& object);
 
     const VectorDefinition& Vector() const { return m_vector; }
+    const ElementDrawing& Drawing() const { return m_drawing; }
     CString Prompt() const; // the instruction for the next pick, in words of the view where the dialog gave none
 
   private:
     QPixmap CapturedPicture() const;
-    bool Pick(CPoint at);
+    void Pick(CNodo& node);
+    void PickForTool(const CFPoint& point);
+    void Select(const std::vector<CElemento*>& found, SelectMode mode);
     void ForgetPoints(); // that were picked
+    void ShowPicking();  // whether nodes are asked for, and what was picked
     void Redraw();       // the picture is out of date
     void OnPaint();
     LRESULT OnFineDialogo(WPARAM wParam, LPARAM lParam);
@@ -149,6 +161,7 @@ class HostView final : public CQuovarView, public DocumentObserver {
     CDialogGrigliaNodi* m_gridDialog = nullptr; // open on the construction lines; not owned
     ConstructionGrid m_dialogGrid;              // of that dialog, as far as it was valid
     bool m_readingGrid = false;
+    ElementDrawing m_drawing;
     CRect m_captureRect; // screen; empty captures the view
     bool m_closed = false;
     bool m_fitted = false; // the user has not moved away from the whole model, which then follows the window's size

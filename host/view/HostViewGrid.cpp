@@ -117,8 +117,8 @@ std::optional<CFPoint> HostView::SnapCrossing(CPoint at) const {
 
 std::optional<HostView::Snap> HostView::SnapAt(CPoint at) {
     CNodo* node = SnapNode(at);
-    const std::optional<CFPoint> crossing =
-        m_vector.active && m_owner.PicksNodesOnly(*this) ? std::nullopt : SnapCrossing(at);
+    const bool onlyNodes = m_drawing.IsActive() || (m_vector.active && m_owner.PicksNodesOnly(*this));
+    const std::optional<CFPoint> crossing = onlyNodes ? std::nullopt : SnapCrossing(at);
     if (!node && !crossing)
         return std::nullopt;
     const auto distance = [&](const CFPoint& point) {

@@ -25,6 +25,8 @@ struct KindFilter {
 };
 
 inline constexpr int pickRadius = 12; // pixels, of a node or a crossing around the pointer
+// What becomes of the objects that are selected already.
+enum class SelectMode { Replace, Add, Toggle };
 
 // Points are pixels of the view. Objects that the view does not show are never hit.
 

@@ -35,6 +35,7 @@ class ViewOwner {
     // The user asks what an object is.
     virtual void ShowProperties(CElemento& element) = 0;
     virtual void ShowCoordinates(const QString& text) = 0;
+    virtual void Tell(const CString& sentence) = 0; // what became of a command, for the status bar
     // A long command is running: the model may be half changed and is not to be drawn.
     virtual bool IsWaiting() const = 0;
 };

@@ -34,8 +34,14 @@ CPoint ToPoint(const QPoint& point) {
 
 } // namespace
 
+SelectMode SelectModeOf(Qt::KeyboardModifiers held) {
+    return held & Qt::ControlModifier ? SelectMode::Toggle
+           : held & Qt::ShiftModifier ? SelectMode::Add
+                                      : SelectMode::Replace;
+}
+
 ViewWidget::ViewWidget(HostView& view, HWND frame, QWidget* parent)
-    : HostedWidget<QWidget>(frame, parent), m_view(view) {
+    : HostedWidget<QWidget>(frame, parent), m_view(view), m_keyboard(view) {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -78,13 +84,20 @@ void ViewWidget::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     DrawTripod(painter);
     DrawCaseName(painter);
-    if (m_view.Vector().active)
-        DrawVector(painter);
+    if (m_view.AsksForNodes())
+        DrawPicked(painter);
     if (m_drag == Drag::Rectangle) {
         painter.setRenderHint(QPainter::Antialiasing, false);
         painter.setPen(QPen(QColor(40, 90, 170), 1, Qt::DashLine));
         painter.setBrush(QColor(40, 90, 170, 30));
         painter.drawRect(QRect(m_pressed, m_pointer).normalized());
+    }
+    if (hasFocus()) {
+        m_keyboard.Draw(painter);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 
@@ -149,7 +162,8 @@ void ViewWidget::DrawCaseName(QPainter& painter) {
     }
 }
 
-void ViewWidget::DrawVector(QPainter& painter) {
+// The points picked until now, and the way to the next one.
+void ViewWidget::DrawPicked(QPainter& painter) {
     const auto onScreen = [this](const CFPoint& point) {
         const Adv3d::Punto seen = m_view.Vista().Project(point);
         return QPointF(seen.x, seen.y);
@@ -163,14 +177,19 @@ void ViewWidget::DrawVector(QPainter& painter) {
         for (const CFPoint& end : {vector->first, vector->second})
             painter.drawEllipse(onScreen(end), 4, 4);
     }
-    if (const auto& from = m_view.Vector().from) {
-        const QPointF start = onScreen(*from);
-        painter.setPen(QPen(pickColor, 2));
-        painter.drawEllipse(start, 6, 6);
-        if (inside) {
-            painter.setPen(QPen(pickColor, 1, Qt::DashLine));
-            painter.drawLine(start, snap ? onScreen(snap->point) : QPointF(m_pointer));
-        }
+    QPolygonF picked;
+    if (m_view.Drawing().IsActive())
+        for (CNodo* node : m_view.Drawing().Picked())
+            picked << onScreen(*node->GetPunto());
+    else if (const auto& from = m_view.Vector().from)
+        picked << onScreen(*from);
+    painter.setPen(QPen(pickColor, 2));
+    for (const QPointF& each : picked)
+        painter.drawEllipse(each, 6, 6);
+    painter.drawPolyline(picked);
+    if (!picked.isEmpty() && inside) {
+        painter.setPen(QPen(pickColor, 1, Qt::DashLine));
+        painter.drawLine(picked.back(), snap ? onScreen(snap->point) : QPointF(m_pointer));
     }
     if (snap) {
         const QPointF at = onScreen(snap->point);
@@ -202,6 +221,8 @@ void ViewWidget::mouseMoveEvent(QMouseEvent* event) {
     const QPoint now = event->position().toPoint();
     const QPoint moved = now - m_pointer;
     m_pointer = now;
+    if (!moved.isNull())
+        m_keyboard.Hide();
     switch (m_drag) {
     case Drag::Orbit:
         m_settle.start();
@@ -212,13 +233,13 @@ void ViewWidget::mouseMoveEvent(QMouseEvent* event) {
         m_view.Pan(moved.x(), moved.y());
         return;
     case Drag::Press:
-        if ((now - m_pressed).manhattanLength() >= QApplication::startDragDistance() && !m_view.Vector().active)
+        if ((now - m_pressed).manhattanLength() >= QApplication::startDragDistance() && !m_view.AsksForNodes())
             m_drag = Drag::Rectangle;
         break;
     default:
         break;
     }
-    if (m_drag == Drag::Rectangle || m_view.Vector().active)
+    if (m_drag == Drag::Rectangle || m_view.AsksForNodes())
         update();
     if (!m_view.Owner().IsWaiting())
         m_view.Owner().ShowCoordinates(platform::ToQString(m_view.Describe(ToPoint(now))));
@@ -235,16 +256,16 @@ void ViewWidget::mouseReleaseEvent(QMouseEvent* event) {
         return;
     if (drag == Drag::Rectangle) {
         update();
-        m_view.SelectRectangle(ToPoint(m_pressed), ToPoint(at));
+        m_view.SelectRectangle(ToPoint(m_pressed), ToPoint(at), SelectModeOf(event->modifiers()));
     } else if (drag == Drag::Press) {
-        m_view.ClickAt(ToPoint(at), event->modifiers() & Qt::ControlModifier);
+        m_view.ClickAt(ToPoint(at), SelectModeOf(event->modifiers()));
     }
 }
 
 void ViewWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton)
         m_view.Fit();
-    else if (event->button() != Qt::LeftButton || m_view.Vector().active)
+    else if (event->button() != Qt::LeftButton || m_view.AsksForNodes())
         mousePressEvent(event); // two quick picks are two picks
     else if (!m_view.Owner().IsWaiting())
         m_view.DoubleClickAt(ToPoint(event->position().toPoint()));
@@ -258,15 +279,28 @@ void ViewWidget::wheelEvent(QWheelEvent* event) {
 
 void ViewWidget::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) {
-        QWidget::keyPressEvent(event);
+        if (m_view.Owner().IsWaiting() || !m_keyboard.Press(*event))
+            QWidget::keyPressEvent(event);
         return;
     }
     if (m_drag == Drag::Rectangle) {
         m_drag = Drag::None;
         update();
+    } else if (m_keyboard.DropNumber()) {
+        m_view.Owner().ViewChanged(m_view);
     } else {
-        m_view.BreakOffVector();
+        m_view.BreakOff();
     }
+}
+
+void ViewWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void ViewWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
 }
 
 void ViewWidget::leaveEvent(QEvent*) {

@@ -1,6 +1,8 @@
 // The toolkit's side of a structure view: the picture, the pointer and the keys.
 #pragma once
 
+#include "host/view/KeyboardCursor.h"
+#include "host/view/Picking.h"
 #include "platform/toolkit/Bridge.h"
 
 #include <QElapsedTimer>
@@ -15,8 +17,12 @@ namespace host {
 
 class HostView;
 
+// Ctrl adds objects or takes them away, Shift adds them; without either they replace the selection.
+SelectMode SelectModeOf(Qt::KeyboardModifiers held);
+
 // Left button: click selects or picks, drag selects by rectangle. Right button: orbit. Middle button, or right with
-// Shift: pan. Wheel: zoom at the pointer. Escape leaves vector definition or drops a rectangle.
+// Shift: pan. Wheel: zoom at the pointer. Escape breaks picking off or drops a rectangle. For the other keys see
+// KeyboardCursor.
 class ViewWidget final : public platform::HostedWidget<QWidget> {
   public:
     ViewWidget(HostView& view, HWND frame, QWidget* parent);
@@ -26,6 +32,7 @@ class ViewWidget final : public platform::HostedWidget<QWidget> {
     QSize sizeHint() const override { return {800, 600}; }
     // How often the model was drawn; painting without a change takes the kept picture.
     unsigned DrawCount() const { return m_drawCount; }
+    const QString& TypedNumber() const { return m_keyboard.Number(); } // of the node to be picked
 
     bool event(QEvent* event) override;
 
@@ -39,7 +46,9 @@ class ViewWidget final : public platform::HostedWidget<QWidget> {
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    bool focusNextPrevChild(bool) override { return false; } // Tab belongs to nobody here
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool) override { return false; } // Tab goes from object to object
 
   private:
     enum class Drag { None, Press, Rectangle, Orbit, Pan };
@@ -48,7 +57,7 @@ class ViewWidget final : public platform::HostedWidget<QWidget> {
     int Stride() const;
     void DrawTripod(QPainter& painter);
     void DrawCaseName(QPainter& painter); // the current load case or combination
-    void DrawVector(QPainter& painter);
+    void DrawPicked(QPainter& painter);
     void BeginCamera(Drag drag);
 
     HostView& m_view;
@@ -63,6 +72,7 @@ class ViewWidget final : public platform::HostedWidget<QWidget> {
     Drag m_drag = Drag::None;
     QPoint m_pressed;
     QPoint m_pointer{-1, -1}; // outside while negative
+    KeyboardCursor m_keyboard;
 };
 
 } // namespace host

@@ -2,6 +2,7 @@
 
 #include "platform/core/Exception.h"
 #include "platform/private/events/KeypadDecimal.h"
+#include "platform/private/events/VisibleFocus.h"
 #include "platform/private/paint/DialogStyle.h"
 #include "platform/private/paint/Fonts.h"
 #include "platform/private/peers/WindowPeer.h"
@@ -126,6 +127,7 @@ CWinApp::CWinApp(LPCTSTR name, int& argc, char** argv) : m_pszAppName(name) {
     QLocale::setDefault(QLocale::c());
     QApplication::setStyle(new platform::DialogStyle);
     m_toolkit->installEventFilter(new platform::KeypadDecimal(m_toolkit.get()));
+    m_toolkit->installEventFilter(new platform::VisibleFocus(m_toolkit.get()));
     QApplication::setPalette(DialogPalette());
     QApplication::setFont(platform::ToolkitFont("MS Sans Serif", 11, 400, false));
     QApplication::setApplicationName(platform::ToQString(name));

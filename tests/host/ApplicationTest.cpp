@@ -6,12 +6,16 @@
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "model/element/Nodo.h"
+#include "tests/host/AskedDialog.h"
 #include "tests/host/WorkspaceTest.h"
 #include "tests/support/TestApp.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -141,6 +145,31 @@ TEST_F(ApplicationTest, BrokenFilesLeaveTheOpenDocumentAlone) {
     EXPECT_EQ(m_workspace->ActiveView(), view);
     EXPECT_EQ(Document().GetSizeNodi(), nodes);
     EXPECT_TRUE(m_workspace->PathOf(Document()).isEmpty());
+}
+
+// Faults: a file that is overwritten without a question because its extension was not typed, two open documents that
+// save each over the other.
+TEST_F(ApplicationTest, SavingUnderANameTouchesNoOtherFile) {
+    const QString project = m_folder.filePath("progetto.asg"), link = m_folder.filePath("collegato.asg");
+    WriteFile(project, "di un altro");
+    for (const char* name : {"progetto", "nuovo"}) {
+        WhenAsked([this, name](QDialog& dialog) {
+            Find<QLineEdit>(dialog, "fileNameEdit").setText(m_folder.filePath(name));
+            if (QString(name) == "progetto")
+                WhenAsked([](QDialog& question) { EXPECT_TRUE(qobject_cast<QMessageBox*>(&question)); }); // no
+            dialog.accept();
+        });
+        Trigger("file.salva");
+    }
+    EXPECT_EQ(m_workspace->PathOf(Document()), m_folder.filePath("nuovo.asg"));
+    EXPECT_EQ(QFileInfo(project).size(), 11);
+    ASSERT_TRUE(QFile::link(m_folder.filePath("nuovo.asg"), link));
+    m_workspace->NewDocument();
+    for (const QString& path : {m_folder.filePath("nuovo.asg"), link}) {
+        m_user.ExpectMessage("Impossibile salvare \"" + path.toStdString() +
+                             "\".\nIl file appartiene a un altro documento aperto.");
+        EXPECT_FALSE(m_workspace->SaveAs(Document(), path));
+    }
 }
 
 // Catches a close that loses changes: Yes must save before the window goes.

@@ -14,6 +14,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
 
 using namespace host;
 
@@ -80,6 +82,51 @@ TEST_F(AssignTest, RestraintsAreAssignedDrawnAndUndone) {
 
     Select({});
     EXPECT_NE(View().Widget().grab().toImage(), before) << "nothing of it is drawn";
+}
+
+// Catches a form that opens on a button, one whose Tab or Enter presses Annulla and loses what was entered, and a
+// support that fixes other components than its name says.
+TEST_F(AssignTest, FormsAreFilledInByKeyboard) {
+    BuildCantilever(Document());
+    Select({Document().GetIndexNodo(0), Document().GetIndexTrave(0)});
+    for (const char* command : {"assegna.vincolo", "assegna.molla", "assegna.svincoli", "assegna.carico"}) {
+        SCOPED_TRACE(command);
+        WhenAsked([](QDialog& dialog) {
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+            const auto press = [&dialog](Qt::Key key) { QTest::keyClick(dialog.windowHandle(), key); };
+            const QWidget* first = dialog.focusWidget();
+            const auto isLast = [&dialog] {
+                const auto* button = qobject_cast<QPushButton*>(dialog.focusWidget());
+                return button && button->text() == "Annulla";
+            };
+            EXPECT_FALSE(qobject_cast<const QPushButton*>(first));
+            int fields = 0;
+            for (; fields < 20 && !isLast(); ++fields)
+                press(Qt::Key_Tab);
+            EXPECT_GT(fields, 3);
+            press(Qt::Key_Tab);
+            EXPECT_EQ(dialog.focusWidget(), first) << "the buttons come last";
+            press(Qt::Key_Backtab);
+            if (dialog.windowTitle() == "Carico")
+                Find<QLineEdit>(dialog, "nodale.fx").setText("1");
+            press(Qt::Key_Return);
+            EXPECT_EQ(dialog.result(), QDialog::Accepted);
+        });
+        Trigger(command);
+    }
+    for (const Support& each : Supports()) {
+        AssignRestraint(Document(), CVincolo());
+        WhenAsked([&each](QDialog& dialog) {
+            Find<QPushButton>(dialog, each.name).click();
+            dialog.accept();
+        });
+        Trigger("assegna.vincolo");
+        EXPECT_EQ(Document().GetIndexNodo(0)->GetVincolo()->GetMask(), each.fixed);
+        AssignRestraint(Document(), CVincolo());
+        Trigger(QString("assegna.vincolo.") + each.name);
+        EXPECT_EQ(Document().GetIndexNodo(0)->GetVincolo()->GetMask(), each.fixed);
+    }
+    EXPECT_EQ(Supports()[2].fixed, unsigned{CVincolo::Ty | CVincolo::Tz}) << "rolls along X";
 }
 
 // Assigning again replaces; what releases nothing or fixes nothing takes away. Nothing that fits is said, not ignored.

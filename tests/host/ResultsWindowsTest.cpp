@@ -110,9 +110,9 @@ TEST_F(ResultsWindows, CaptureGoesToClipboardAndFile) {
     CClientDC(area).FillSolidRect(rect, RGB(0, 200, 0));
     CClientDC(area).FillSolidRect(0, 0, 10, 10, RGB(200, 0, 0));
     const QTemporaryDir folder;
-    const QString path = folder.filePath("figura");
+    const QString path = folder.filePath("figura.png");
     Capture(*diagrams, path);
-    const QImage saved(path + ".png"), copied = QApplication::clipboard()->image();
+    const QImage saved(path), copied = QApplication::clipboard()->image();
     for (const QImage& picture : {saved, copied}) {
         ASSERT_EQ(picture.deviceIndependentSize().toSize(), QSize(rect.Width(), rect.Height()));
         EXPECT_EQ(picture.pixel(2, 2), qRgb(200, 0, 0));

@@ -107,8 +107,8 @@ TEST_F(ViewTest, RestartAsksForAFirstPointAndShowsItsPrompt) {
     EXPECT_EQ(m_workspace->Window().PromptText(), "");
 }
 
-// Catches a click that adds, a Ctrl-click that replaces, a rectangle that replaces or takes what it only touches.
-TEST_F(ViewTest, ClickReplacesCtrlTogglesRectangleAdds) {
+// Catches a click and a rectangle that follow different rules, and a rectangle that takes what it only touches.
+TEST_F(ViewTest, ReplacesCtrlTogglesShiftAdds) {
     BuildSmallModel();
     HostDocument& document = Document();
     CTrave* beam = document.GetIndexTrave(0);
@@ -124,11 +124,21 @@ TEST_F(ViewTest, ClickReplacesCtrlTogglesRectangleAdds) {
 
     const CPoint corner = PixelOf(CFPoint(5.5, 0, 3.5));
     const CPoint far = PixelOf(CFPoint(8.5, 0, 6.5));
-    Drag(corner, far);
-    EXPECT_EQ(document.GetSizeSettiSelect(), 1);
-    EXPECT_EQ(document.Selection().Size(Kind::Node), 4);
-    EXPECT_TRUE(beam->IsSelect()) << "the rectangle adds";
-    EXPECT_EQ(document.GetSizeSolaiSelect(), 0);
+    const struct {
+        Qt::KeyboardModifier held;
+        bool beam, wall;
+    } drags[] = {{Qt::ShiftModifier, true, true},
+                 {Qt::ShiftModifier, true, true},
+                 {Qt::ControlModifier, true, false},
+                 {Qt::ControlModifier, true, true},
+                 {Qt::NoModifier, false, true}};
+    for (const auto& drag : drags) {
+        Drag(corner, far, Qt::LeftButton, drag.held);
+        EXPECT_EQ(beam->IsSelect(), drag.beam) << drag.held;
+        EXPECT_EQ(document.GetSizeSettiSelect(), drag.wall) << drag.held;
+        EXPECT_EQ(document.Selection().Size(Kind::Node), drag.wall ? 4 : 0) << drag.held;
+        EXPECT_EQ(document.GetSizeSolaiSelect(), 0);
+    }
 
     Click(PixelOf(CFPoint(-0.8, 0, 5)));
     EXPECT_TRUE(Selected(document).empty()) << "a click on nothing empties the selection";
@@ -196,7 +206,7 @@ TEST_F(ViewTest, FiltersAndHiddenKindsAreNotHit) {
     EXPECT_EQ(document.GetSizeSolaiSelect(), 1);
     View().SetFilter({false, false, false, false, false});
     EXPECT_FALSE(View().IsSelectElementi());
-    Drag({3, 3}, {View().Widget().width() - 3, View().Widget().height() - 3});
+    Drag({3, 3}, {View().Widget().width() - 3, View().Widget().height() - 3}, Qt::LeftButton, Qt::ShiftModifier);
     EXPECT_EQ(Selected(document).size(), 1u) << "an empty filter selects nothing";
 
     View().SetFilter({});

@@ -76,12 +76,12 @@ void WorkspaceTest::Click(CPoint at, Qt::KeyboardModifiers modifiers) {
     CWinApp::PumpMessages();
 }
 
-void WorkspaceTest::Drag(CPoint from, CPoint to, Qt::MouseButton button) {
+void WorkspaceTest::Drag(CPoint from, CPoint to, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
     QWindow* window = NativeWindow(View());
-    QTest::mousePress(window, button, Qt::NoModifier, InWindow(View(), from));
+    QTest::mousePress(window, button, modifiers, InWindow(View(), from));
     QTest::mouseMove(window, InWindow(View(), CPoint((from.x + to.x) / 2, (from.y + to.y) / 2)));
     QTest::mouseMove(window, InWindow(View(), to));
-    QTest::mouseRelease(window, button, Qt::NoModifier, InWindow(View(), to));
+    QTest::mouseRelease(window, button, modifiers, InWindow(View(), to));
     CWinApp::PumpMessages();
 }
 
@@ -93,11 +93,11 @@ void WorkspaceTest::Wheel(CPoint at, int notches) {
     CWinApp::PumpMessages();
 }
 
-void WorkspaceTest::Press(Qt::Key key) {
+void WorkspaceTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     View().Widget().activateWindow();
     View().Widget().setFocus();
     CWinApp::PumpMessages();
-    QTest::keyClick(NativeWindow(View()), key);
+    QTest::keyClick(NativeWindow(View()), key, modifiers);
     CWinApp::PumpMessages();
 }
 

@@ -35,10 +35,11 @@ class WorkspaceTest : public testing::Test {
     CPoint PixelOf(const CFPoint& point) { return View().Vista().Project(point).Pixel(); }
     CPoint PixelOf(CNodo& node);
     void Click(CPoint at, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void Drag(CPoint from, CPoint to, Qt::MouseButton button = Qt::LeftButton);
+    void Drag(CPoint from, CPoint to, Qt::MouseButton button = Qt::LeftButton,
+              Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void Wheel(CPoint at, int notches);
-    void Press(Qt::Key key);                              // to the view
-    void Select(const std::vector<CElemento*>& elements); // these and no others
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier); // to the view
+    void Select(const std::vector<CElemento*>& elements);                      // these and no others
     void Trigger(const QString& command);
     void Trigger(UINT dialog, int kind = 0); // the command of a dialog, by the number of its template
 

@@ -6,6 +6,7 @@
 #include "tests/support/DialogTest.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -49,6 +50,7 @@ int main(int argc, char** argv) {
     const QTemporaryDir scratch;
     const std::string folder = scratch.path().toStdString();
     setenv("XDG_CONFIG_HOME", folder.c_str(), 1); // what the file dialogs remember between two runs
+    QDir::setCurrent(scratch.path());             // a name without a folder is saved here
     // Before the toolkit: a child that is killed shares nothing with it.
     if (!*mode || !std::strcmp(mode, "kills"))
         RunKills(seed, count ? count : 10, folder);

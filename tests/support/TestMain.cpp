@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QWidget>
+
+#include <cstdlib>
 
 namespace {
 
@@ -37,6 +40,8 @@ TestApp& TestApp::Instance() {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    const QTemporaryDir settings; // what windows remember is not the user's
+    setenv("XDG_CONFIG_HOME", qPrintable(settings.path()), 1);
     testing::UnitTest::GetInstance()->listeners().Append(new WindowCount);
     TestApp application(argc, argv);
     return RUN_ALL_TESTS();

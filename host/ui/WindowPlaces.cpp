@@ -1,0 +1,72 @@
+#include "host/ui/WindowPlaces.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSettings>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+const QString mainKey = QStringLiteral("finestra");
+const QString dialogGroup = QStringLiteral("dialoghi/");
+
+QRect ScreenOf(const QPoint& place) {
+    const QScreen* screen = QGuiApplication::screenAt(place);
+    return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+} // namespace
+
+QRect OntoScreen(const QRect& frame) {
+    const QRect screen = ScreenOf(frame.center());
+    const QSize size = frame.size().boundedTo(screen.size());
+    return {QPoint(std::clamp(frame.x(), screen.x(), screen.right() - size.width() + 1),
+                   std::clamp(frame.y(), screen.y(), screen.bottom() - size.height() + 1)),
+            size};
+}
+
+void MoveOntoScreen(QWidget& window, QPoint corner) {
+    window.move(OntoScreen(QRect(corner, window.frameGeometry().size())).topLeft());
+}
+
+std::optional<QPoint> DialogPlaces::PlaceOf(const QString& name) const {
+    if (const auto found = m_places.find(name); found != m_places.end())
+        return found->second;
+    if (m_settings && m_settings->contains(dialogGroup + name))
+        return m_settings->value(dialogGroup + name).toPoint();
+    return std::nullopt;
+}
+
+void DialogPlaces::Remember(const QString& name, QPoint corner) {
+    m_places[name] = corner;
+    if (m_settings)
+        m_settings->setValue(dialogGroup + name, corner);
+}
+
+void RestoreMainWindow(QWidget& window, const QSettings& settings) {
+    constexpr int beside = 500, least = 900; // pixels: of the widest dialogs, and of the window
+    const QSize frame(8, 40);                // that the window gets when it is shown, with a caption
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QRect place(screen.topLeft(), window.size() + frame);
+    place.setWidth(std::clamp(screen.width() - beside, least, std::max(least, place.width())));
+    if (window.restoreGeometry(settings.value(mainKey).toByteArray())) {
+        if (window.isMaximized() || window.isFullScreen())
+            return;
+        place = QRect(window.pos(), window.size() + frame);
+        if (OntoScreen(place) == place)
+            return;
+    }
+    place = OntoScreen(place);
+    window.resize(place.size() - frame);
+    window.move(place.topLeft());
+}
+
+void RememberMainWindow(const QWidget& window, QSettings& settings) {
+    settings.setValue(mainKey, window.saveGeometry());
+}
+
+} // namespace host
