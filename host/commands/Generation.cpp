@@ -1,4 +1,4 @@
-// The commands that generate nodes and meshes, divide lines and measure.
+// The commands that generate nodes and meshes, those that divide lines, and the one that measures.
 #include "dialogs/generation/DialogDistanza.h"
 #include "dialogs/generation/DialogDividiLinea.h"
 #include "dialogs/generation/DialogGenNodi2P.h"
@@ -22,6 +22,9 @@ namespace host {
 
 namespace {
 
+template <class Dialog>
+constexpr Command row = {.menu = CommandMenu::Generate, .dialog = Dialog::IDD, .open = OpenTool<Dialog>};
+
 CLinea* OnlySelectedLine(HostDocument& document) {
     const HostSelection& selection = document.Selection();
     if (selection.Size(Kind::Beam) + selection.Size(Kind::Truss) != 1)
@@ -43,8 +46,15 @@ void RunDivideLine(HostDocument& document, CWnd& frame) {
 }
 
 void RunSplitLines(HostDocument& document, CWnd& frame) {
-    if (CDialogSpezza dialog(&frame); dialog.DoModal() == IDOK)
-        document.Selection().DivideEqually(dialog.m_nDivisioni);
+    HostSelection& selection = document.Selection();
+    if (selection.Size(Kind::Beam) + selection.Size(Kind::Truss) == 0) {
+        AfxMessageBox("Selezionare prima le travi o le aste.");
+        return;
+    }
+    CDialogSpezza dialog(&frame);
+    while (dialog.DoModal() == IDOK && !selection.DivideEqually(dialog.m_nDivisioni)) {
+        // The number that was refused is there to be mended.
+    }
 }
 
 std::unique_ptr<CDialog> OpenGrid(HostView& view, CWnd& frame) {
@@ -53,9 +63,6 @@ std::unique_ptr<CDialog> OpenGrid(HostView& view, CWnd& frame) {
         dialog.reset();
     return dialog;
 }
-
-template <class Dialog>
-constexpr Command row = {.menu = CommandMenu::Generate, .dialog = Dialog::IDD, .open = OpenTool<Dialog>};
 
 const Command rows[] = {
     row<CDialogGenNodiLineare>,

@@ -217,25 +217,29 @@ void HostSelection::IntersezioneLineePiano(CPoligono* pPoligono) {
     division.Finish();
 }
 
-void HostSelection::DivideEqually(int parts) {
+bool HostSelection::DivideEqually(int parts) {
     const int count = Size(Kind::Beam) + Size(Kind::Truss);
+    CString why;
     if (count == 0)
-        return Refuse("Nessuna trave o asta selezionata");
-    if (parts < 2)
-        return Refuse("Il numero delle divisioni deve essere almeno 2");
-    if (parts > mostGeneratedNodes / count)
-        return Refuse("Il numero delle divisioni è troppo grande"_t);
+        why = "Nessuna trave o asta selezionata";
+    else if (parts < 2)
+        why = "Il numero delle divisioni deve essere almeno 2";
+    else if (parts > mostGeneratedNodes / count)
+        why = "Il numero delle divisioni è troppo grande"_t;
     std::vector<CLineaFisica*> lines;
+    // Nodes within the tolerance of two places must follow each other as the places do.
+    const double shortest = 2 * m_document.GetTolerance() * parts;
     for (const Kind kind : {Kind::Beam, Kind::Truss}) {
-        for (int i = 0; i < Size(kind); ++i) {
+        for (int i = 0; why.IsEmpty() && i < Size(kind); ++i) {
             lines.push_back(static_cast<CLineaFisica*>(At(kind, i)));
-            if (lines.back()->GetLunghezzaLinea() / parts > m_document.GetTolerance())
-                continue;
-            CString text;
-            text.Format("%s n.ro %d è troppo corta per il numero delle divisioni"_t,
-                        kind == Kind::Beam ? "La trave" : "L'asta", lines.back()->GetID());
-            return Refuse(text);
+            if (!(lines.back()->GetLunghezzaLinea() > shortest))
+                why.Format("%s n.ro %d è troppo corta per il numero delle divisioni"_t,
+                           kind == Kind::Beam ? "La trave" : "L'asta", lines.back()->GetID());
         }
+    }
+    if (!why.IsEmpty()) {
+        Refuse(why);
+        return false;
     }
     std::vector<double> places;
     for (int i = 1; i < parts; ++i)
@@ -248,6 +252,7 @@ void HostSelection::DivideEqually(int parts) {
         CMainFrame::_StepBar();
     }
     division.Finish();
+    return true;
 }
 
 void HostSelection::SelezionaElementiPiano(CPoligono* pPoligono) {

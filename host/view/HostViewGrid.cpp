@@ -95,6 +95,8 @@ LRESULT HostView::OnGridChanged(WPARAM, LPARAM) {
     if (!m_gridDialog->UpdateData(TRUE) || !m_gridDialog)
         return 0;
     ConstructionGrid grid = Read(*m_gridDialog, m_document.Data().Grid());
+    if (grid == m_document.Data().Grid()) // leaving a field unchanged does not show what the user has hidden
+        return 0;
     grid.shown = true;
     if (grid.IsUsable())
         SetGrid(m_dialogGrid = grid);

@@ -23,7 +23,5 @@ BOOL CExceptionEx::GetErrorMessage(LPSTR buffer, UINT size, UINT* helpContext) {
 }
 
 int CExceptionEx::ReportError(UINT nType, UINT nMessageID) {
-    if (m_strMessage.IsEmpty())
-        return CException::ReportError(nType, nMessageID);
-    return AfxMessageBox(m_strMessage, nType, nMessageID);
+    return AfxMessageBox(m_strMessage.IsEmpty() ? "L'operazione non è riuscita."_t : m_strMessage, nType, nMessageID);
 }

@@ -163,18 +163,26 @@ TEST_F(DivisionCommands, OneStepGivesTheLinesBack) {
 // Catches a command that begins what it cannot finish.
 TEST_F(DivisionCommands, RefusesWhatMakesNoSense) {
     const std::string before = State();
-    m_user.ExpectMessage("Il numero delle divisioni deve essere almeno 2: il comando non è stato eseguito.");
-    Split("-3");
-    m_user.ExpectMessage("Il numero delle divisioni è troppo grande: il comando non è stato eseguito.");
-    Split("2000000000");
-    m_user.ExpectMessage(
-        "La trave n.ro 1 è troppo corta per il numero delle divisioni: il comando non è stato eseguito.");
-    Split("100000");
+    const auto refused = [this](const char* parts, const std::string& why) {
+        m_user.ExpectMessage(why + ": il comando non è stato eseguito.");
+        m_user.WhenDialogOpens([parts](DialogDriver& driver) {
+            driver.Type(CDialogSpezza::IDC_DIVISIONI, parts);
+            driver.Click(IDOK);
+        });
+        m_user.WhenDialogOpens([parts](DialogDriver& driver) {
+            EXPECT_EQ(driver.Text(CDialogSpezza::IDC_DIVISIONI), parts);
+            driver.Press(VK_ESCAPE);
+        });
+        Trigger(CDialogSpezza::IDD);
+    };
+    refused("-3", "Il numero delle divisioni deve essere almeno 2");
+    refused("2000000000", "Il numero delle divisioni è troppo grande");
+    refused("100000", "La trave n.ro 1 è troppo corta per il numero delle divisioni");
     m_user.ExpectMessage("Selezionare una sola trave o asta.");
     Trigger(CDialogDividiLinea::IDD);
     Select({Document().GetIndexNodo(0)});
-    m_user.ExpectMessage("Nessuna trave o asta selezionata: il comando non è stato eseguito.");
-    Split("2");
+    m_user.ExpectMessage("Selezionare prima le travi o le aste.");
+    Trigger(CDialogSpezza::IDD);
     Select({Document().GetIndexTrave(0)});
     EXPECT_EQ(State(), before);
 }
