@@ -117,14 +117,16 @@ MainWindow::~MainWindow() {
 void MainWindow::BuildStatusBar() {
     m_prompt = new QLabel;
     m_sentence = new QLabel;
-    for (QLabel* each : {m_prompt, m_sentence}) // long texts do not widen a window on a small screen
-        each->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // Long texts do not widen a window on a small screen; the prompt goes before the sentence.
+    m_prompt->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    m_prompt->setMinimumWidth(1);
+    m_sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_selected = new QLabel;
     m_coordinates = new QLabel;
     m_unit = new QLabel;
     m_coordinates->setMinimumWidth(
         fontMetrics().horizontalAdvance("Nodo 000000   x -0000.000   y -0000.000   z -0000.000"));
-    statusBar()->addWidget(m_prompt, 1);
+    statusBar()->addWidget(m_prompt);
     statusBar()->addWidget(m_sentence, 1);
     m_wait = std::make_unique<WaitIndicator>(*statusBar());
     statusBar()->addPermanentWidget(m_selected);

@@ -28,10 +28,8 @@ bool LiesInView(const CDialog& dialog) {
 }
 
 // Beside the main window where the screen has room, otherwise inside the view's right edge, and a caption lower for
-// each window that stands there already. One that places itself is only kept on the screen.
-QPoint FreePlace(const Command& command, const QWidget& window, const HostView& view, int others) {
-    if (command.place == Place::Own)
-        return window.pos();
+// each window that stands there already.
+QPoint FreePlace(const QWidget& window, const HostView& view, int others) {
     const QWidget& viewWidget = view.Widget();
     const QRect screen = viewWidget.screen()->availableGeometry();
     const QRect frame = viewWidget.window()->frameGeometry();
@@ -137,11 +135,9 @@ CDialog* ToolDialogs::Make(Tool& tool, CWnd& frame) {
     QObject::connect(&window, &QObject::destroyed, &m_orphanWatch, [this] { EndClosed(); });
     const bool inside = LiesInView(*tool.dialog);
     if (!inside)
-        MoveOntoScreen(window,
-                       m_places.PlaceOf(PlaceName(*tool.command))
-                           .value_or(FreePlace(*tool.command, window, *tool.view, static_cast<int>(others) - 1)));
+        PutInPlace(*tool.command, window, FreePlace(window, *tool.view, static_cast<int>(others) - 1));
     tool.dialog->ShowWindow(SW_SHOW);
-    tool.place = window.pos();
+    tool.place = window.geometry().topLeft();
     if (!inside)
         tool.dialog->SetActiveWindow();
     return tool.dialog.get();
@@ -163,13 +159,23 @@ void ToolDialogs::End(const CDialog* dialog) {
         End(FindLast([dialog](const Tool& each) { return each.dialog.get() == dialog; }));
 }
 
+// Where the user left it, or a free place. One that places itself is only kept on the screen.
+void ToolDialogs::PutInPlace(const Command& command, QWidget& window, QPoint free) const {
+    if (const auto kept = m_places.PlaceOf(PlaceName(command)))
+        MoveOntoScreen(window, *kept);
+    else if (command.place == Place::Own)
+        window.move(OntoScreen(window.frameGeometry()).topLeft());
+    else
+        MoveOntoScreen(window, free);
+}
+
 // Where the user has moved it to.
 void ToolDialogs::RememberPlace(const Tool& tool) {
     if (!tool.dialog || !tool.dialog->GetSafeHwnd() || LiesInView(*tool.dialog))
         return;
     const QWidget* window = platform::WidgetOf(*tool.dialog);
-    if (window && window->isVisible() && !window->isMinimized() && window->pos() != tool.place)
-        m_places.Remember(PlaceName(*tool.command), window->pos());
+    if (window && window->isVisible() && !window->isMinimized() && window->geometry().topLeft() != tool.place)
+        m_places.Remember(PlaceName(*tool.command), window->geometry().topLeft());
 }
 
 void ToolDialogs::End(std::shared_ptr<Tool> tool) {

@@ -16,6 +16,7 @@ class CFPoint;
 class CObject;
 class CView;
 class CWnd;
+class QWidget;
 
 namespace host {
 
@@ -77,7 +78,7 @@ class ToolDialogs {
         CDialogDocument* tool = nullptr;    // the same; null for one of another kind
         bool picks = false;                 // in its view, or in the one that it had
         std::optional<CString> prompt = {}; // of its last picking, unless it stopped that by itself
-        QPoint place = {};                  // the frame's corner when it opened
+        QPoint place = {};                  // its corner when it opened
     };
     using Tools = std::vector<std::shared_ptr<Tool>>;
 
@@ -91,6 +92,7 @@ class ToolDialogs {
     CDialog* BringToFront(Tool& tool);
     void ResumePicking(Tool& tool);
     void Adopt(Tool& tool, HostView& view);
+    void PutInPlace(const Command& command, QWidget& window, QPoint free) const;
     void RememberPlace(const Tool& tool);
     void End(std::shared_ptr<Tool> tool); // by value: the list holds it no longer
     void EndClosed();

@@ -14,6 +14,10 @@ namespace {
 const QString mainKey = QStringLiteral("finestra");
 const QString dialogGroup = QStringLiteral("dialoghi/");
 
+// Pixels that a window manager's frame takes, with a caption.
+const QPoint frameCorner(4, 32);
+const QSize frameSize(8, 40);
+
 QRect ScreenOf(const QPoint& place) {
     const QScreen* screen = QGuiApplication::screenAt(place);
     return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
@@ -30,7 +34,8 @@ QRect OntoScreen(const QRect& frame) {
 }
 
 void MoveOntoScreen(QWidget& window, QPoint corner) {
-    window.move(OntoScreen(QRect(corner, window.frameGeometry().size())).topLeft());
+    const QRect fitting = OntoScreen(QRect(corner - frameCorner, window.size() + frameSize));
+    window.setGeometry(QRect(fitting.topLeft() + frameCorner, window.size()));
 }
 
 std::optional<QPoint> DialogPlaces::PlaceOf(const QString& name) const {
@@ -49,19 +54,18 @@ void DialogPlaces::Remember(const QString& name, QPoint corner) {
 
 void RestoreMainWindow(QWidget& window, const QSettings& settings) {
     constexpr int beside = 500, least = 900; // pixels: of the widest dialogs, and of the window
-    const QSize frame(8, 40);                // that the window gets when it is shown, with a caption
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    QRect place(screen.topLeft(), window.size() + frame);
+    QRect place(screen.topLeft(), window.size() + frameSize);
     place.setWidth(std::clamp(screen.width() - beside, least, std::max(least, place.width())));
     if (window.restoreGeometry(settings.value(mainKey).toByteArray())) {
         if (window.isMaximized() || window.isFullScreen())
             return;
-        place = QRect(window.pos(), window.size() + frame);
+        place = QRect(window.pos(), window.size() + frameSize);
         if (OntoScreen(place) == place)
             return;
     }
     place = OntoScreen(place);
-    window.resize(place.size() - frame);
+    window.resize(place.size() - frameSize);
     window.move(place.topLeft());
 }
 

@@ -16,7 +16,8 @@ namespace host {
 
 // Moved, and made smaller where it must be, until it lies on the screen that it was on, or on the first one.
 QRect OntoScreen(const QRect& frame);
-// The same for a window whose size stays: its caption at least can be reached.
+// The same for a window whose size stays. The corner, here and below, is that of its inside: its frame's is not known
+// before the window manager has given it one.
 void MoveOntoScreen(QWidget& window, QPoint corner);
 
 // Of the dialogs beside a view.
@@ -24,7 +25,7 @@ class DialogPlaces {
   public:
     // Kept there between two runs; null keeps them for this run only.
     void SetSettings(QSettings* settings) { m_settings = settings; }
-    std::optional<QPoint> PlaceOf(const QString& name) const; // the frame's corner; empty when nobody moved it yet
+    std::optional<QPoint> PlaceOf(const QString& name) const; // the corner; empty when nobody moved it yet
     void Remember(const QString& name, QPoint corner);
 
   private:

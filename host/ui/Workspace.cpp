@@ -182,6 +182,7 @@ void Workspace::ReleaseView(HostView& view) {
         std::find_if(m_views.begin(), m_views.end(), [&view](const auto& each) { return each.get() == &view; });
     std::unique_ptr<HostView> closing = std::move(*held);
     m_views.erase(held);
+    std::erase(m_recent, &view);
     if (document.GetViewStructure() == &view)
         document.SetActiveView(other);
     if (m_active == &view) {
@@ -191,13 +192,13 @@ void Workspace::ReleaseView(HostView& view) {
     } else if (m_active) {
         m_tools.ViewActivated(*m_active); // it may be the other one
     }
+    if (!m_active && !m_recent.empty())
+        Activate(*m_recent.back()); // not the next in the row of tabs
     closing->Close();
     m_window->RemoveView(*closing);
     DeleteLater(std::move(closing));
     if (!other)
         std::erase_if(m_projects, [&document](const auto& each) { return each->document.get() == &document; });
-    if (!m_active && !m_views.empty())
-        Activate(*m_views.back());
     m_window->ScheduleRefresh();
 }
 
@@ -205,6 +206,8 @@ void Workspace::ViewActivated(HostView& view) {
     if (view.IsClosed())
         return;
     m_active = &view;
+    std::erase(m_recent, &view);
+    m_recent.push_back(&view);
     view.Document().SetActiveView(&view);
     m_tools.ViewActivated(view);
     m_window->ScheduleRefresh();

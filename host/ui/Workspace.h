@@ -140,6 +140,7 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     std::vector<std::unique_ptr<Project>> m_projects;
     std::vector<std::unique_ptr<HostView>> m_views;
     HostView* m_active = nullptr;
+    std::vector<HostView*> m_recent; // views in the order in which they were active last
     QSettings* m_settings = nullptr; // null remembers nothing
     ToolDialogs m_tools;
     int m_untitled = 0;

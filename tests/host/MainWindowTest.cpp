@@ -109,6 +109,14 @@ TEST_F(MainWindowTest, TabsAreFilled) {
     Trigger("file.chiudi");
     ASSERT_TRUE(area.currentSubWindow());
     EXPECT_TRUE(area.currentSubWindow()->isMaximized());
+    HostView& first = View();
+    m_workspace->NewDocument();
+    HostView& second = View();
+    m_workspace->NewDocument();
+    m_workspace->ViewActivated(first);
+    m_workspace->ViewActivated(second);
+    Trigger("file.chiudi");
+    EXPECT_EQ(&View(), &first) << "the one that was used last";
     Trigger("finestra.nuova");
     Trigger("finestra.affianca");
     Trigger("finestra.schede");
