@@ -53,7 +53,7 @@ void DialogPlaces::Remember(const QString& name, QPoint corner) {
 }
 
 void RestoreMainWindow(QWidget& window, const QSettings& settings) {
-    constexpr int beside = 500, least = 900; // pixels: of the widest dialogs, and of the window
+    constexpr int beside = 496, least = 780; // pixels: of the widest dialogs, and of the window
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     QRect place(screen.topLeft(), window.size() + frameSize);
     place.setWidth(std::clamp(screen.width() - beside, least, std::max(least, place.width())));
