@@ -11,12 +11,15 @@
 #include "tests/host/WorkspaceTest.h"
 
 #include <QAction>
+#include <QDropEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QTest>
 #include <QToolBar>
+#include <QUrl>
 
 using namespace host;
 
@@ -83,6 +86,10 @@ TEST_F(MainWindowTest, NoCommandStartsInsideAnother) {
         dialog.Press(VK_RETURN);
         m_workspace->Window().Command("file.chiudi")->trigger();
         m_workspace->Window().Frame().SendMessage(WM_CLOSE);
+        QMimeData file;
+        file.setUrls({QUrl::fromLocalFile("manca.asg")});
+        QDropEvent drop({}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&m_workspace->Window(), &drop);
         EXPECT_EQ(m_workspace->Views().size(), 1u);
     });
     const int cases = Document().GetSizeCasiCarico();
