@@ -16,6 +16,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace host {
 
@@ -210,10 +211,13 @@ void ToolDialogs::EndClosed() {
 }
 
 void ToolDialogs::Update(const HostView& view, CView* sender, long hint, CObject* pHint) {
-    for (const auto& each : Tools(m_tools)) // a copy: a dialog may end, or open another, on the news
+    for (const auto& each : Tools(m_tools)) { // a copy: a dialog may end, or open another, on the news
         if (each->view == &view && each->dialog && each->tool)
             // A window that cannot follow must not break the command that changed the document.
             platform::RunGuarded([&] { each->tool->Update(sender, hint, pHint); });
+        else if (!each->view && each->document == &view.Document() && !std::ranges::count(each->missed, hint))
+            each->missed.push_back(hint);
+    }
 }
 
 void ToolDialogs::ResultShown(const HostView& view, int kind, bool shown) {
@@ -264,7 +268,9 @@ void ToolDialogs::Adopt(Tool& tool, HostView& view) {
     tool.picks = false;
     tool.view = &view;
     tool.tool->AggiornaVista(&view);
-    tool.tool->Update(nullptr, MODIFICA_RISULTATI_CASO, nullptr); // it showed nothing, or what was
+    tool.missed.push_back(MODIFICA_RISULTATI_CASO); // it showed nothing, or what was
+    for (const long hint : std::exchange(tool.missed, {}))
+        tool.tool->Update(nullptr, hint, nullptr);
     if (resumes)
         ResumePicking(tool);
 }

@@ -79,6 +79,7 @@ class ToolDialogs {
         bool picks = false;                 // in its view, or in the one that it had
         std::optional<CString> prompt = {}; // of its last picking, unless it stopped that by itself
         QPoint place = {};                  // its corner when it opened
+        std::vector<long> missed = {};      // codes that came while it had no view, each once
     };
     using Tools = std::vector<std::shared_ptr<Tool>>;
 

@@ -305,6 +305,7 @@ void Workspace::EndTool(HostView& view, const CDialogDocument* dialog) {
     if (!m_tools.IsOpen(dialog, view))
         return;
     m_tools.End(dialog);
+    m_tools.ViewActivated(view); // one of the kind that waits for a view may come into its place
     view.Widget().activateWindow();
     view.Widget().setFocus();
     m_window->ScheduleRefresh();

@@ -1,5 +1,6 @@
 // The dialogs beside the views: which one hears and picks what, and when each ends.
 #include "host/ui/ToolDialogs.h"
+#include "dialogs/frame/host/QuovarGlobal.h"
 #include "dialogs/generation/DialogGenNodi2P.h"
 #include "dialogs/generation/DialogGenNodiLineare.h"
 #include "host/commands/Commands.h"
@@ -202,6 +203,22 @@ TEST_F(ToolDialogsTest, ClosingAViewLeavesItsDialogsToTheDocumentsOtherViews) {
     CWinApp::PumpMessages();
     EXPECT_EQ(Witness::alive, 0) << "it ends with its document";
     EXPECT_FALSE(linear.IsOpen());
+}
+
+// Faults: a second of one kind that goes on waiting when the view's own ends, or then shows what was.
+TEST_F(ToolDialogsTest, OneThatWaitedHearsWhatItMissed) {
+    HostView& first = View();
+    Witness* waiting = Open(witnessRow);
+    HostView& second = m_workspace->NewView(Document());
+    Witness* present = Open(witnessRow);
+    EXPECT_TRUE(m_workspace->CloseView(first));
+    Document().UpdateAllViews(nullptr, 77, nullptr);
+    Document().UpdateAllViews(nullptr, 77, nullptr);
+    EXPECT_FALSE(waiting->Bound());
+    Witness::hints.clear();
+    present->OnCancel();
+    EXPECT_TRUE(m_workspace->Tools().IsOpen(waiting, second));
+    EXPECT_EQ(Witness::hints, (std::vector<long>{77, MODIFICA_RISULTATI_CASO}));
 }
 
 // Faults: captions that keep the former name, lose their own, or get a name where the dialog shows none.
