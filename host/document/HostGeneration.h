@@ -47,7 +47,6 @@ class HostGeneration : public HostEditing {
 
   private:
     int GenerateNodes(const std::vector<CFPoint>& places);
-
 };
 
 } // namespace host

@@ -45,8 +45,8 @@ class HostSelection : public CQuovarSelection {
     void FineCicloTraslaSelezione(Adv3dRect& rect, unsigned int contatore) override;
     // Throws a CExceptionEx for a polygon that defines no plane.
     void IntersezioneLineePiano(CPoligono* pPoligono) override;
-    // Divides each selected beam and truss member into equal parts. False, and nothing done, when it is refused, as where
-    // a part would be too short.
+    // Divides each selected beam and truss member into equal parts. False, and nothing done, when it is refused, as
+    // where a part would be too short.
     bool DivideEqually(int parts);
     void SelezionaElementiPiano(CPoligono* pPoligono) override;
     void SelezionaElementiRange(CFPoint da, CFPoint a, int nodi, int aste, int travi, int solai, int setti) override;

@@ -28,7 +28,8 @@ TEST_F(IntLineaPiano, TheThirdPickRunsTheCommandOnce) {
         lines.insert(lines.end(), more);
         return lines;
     };
-    EXPECT_EQ(pick(2), with({"GetNodo (2,4,0) null 1e-05", "IntersezioneLineePiano (0,0,0) (1,1,0) (2,4,0)", "WM_FINEDIALOGO 1"}));
+    EXPECT_EQ(pick(2), with({"GetNodo (2,4,0) null 1e-05", "IntersezioneLineePiano (0,0,0) (1,1,0) (2,4,0)",
+                             "WM_FINEDIALOGO 1"}));
     m_user.ExpectMessage("L'operazione non è riuscita.", IDOK, MB_OK); // no node there
     EXPECT_EQ(pick(3), with({"GetNodo (3,9,0) null 1e-05", "WM_FINEDIALOGO 1"}));
     m_user.ExpectMessage("L'operazione non è riuscita.", IDOK, MB_OK); // a vertex twice

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-// The toolkit hides the focus in a window until the user presses Tab there; who works by keyboard would not know where the
-// first key goes.
+// The toolkit hides the focus in a window until the user presses Tab there; who works by keyboard would not know where
+// the first key goes.
 class VisibleFocus final : public QObject {
   public:
     using QObject::QObject;
