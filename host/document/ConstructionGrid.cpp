@@ -42,10 +42,16 @@ bool ConstructionGrid::IsUsable() const {
     return Cross(Direction(0), Direction(1)).GetMod() > leastSine;
 }
 
-void ConstructionGrid::ScaleLengths(double factor) {
-    origin *= factor;
-    for (Lines& each : lines)
+ConstructionGrid ConstructionGrid::In(Lunghezza unit) const {
+    ConstructionGrid grid = *this;
+    if (unit == length)
+        return grid;
+    const double factor = CGrandezza::_LengthFactor(length, unit);
+    grid.length = unit;
+    grid.origin *= factor;
+    for (Lines& each : grid.lines)
         each.spacing *= factor;
+    return grid;
 }
 
 } // namespace host

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/values/FPoint.h"
+#include "model/values/Units.h"
 
 namespace host {
 
@@ -24,6 +25,8 @@ struct ConstructionGrid {
     double tilt = 0; // degrees, of the plane about its first axis
     CFPoint origin;
     Lines lines[2]; // across the plane's first axis and its second, each turned by its own angle
+    // Of origin and spacings, whatever the document's unit is by now: numbers that were typed stay what they were.
+    Lunghezza length = Lunghezza::Metres;
 
     bool operator==(const ConstructionGrid&) const = default;
     CFPoint Direction(int i) const; // of lines[i], a unit vector
@@ -31,7 +34,7 @@ struct ConstructionGrid {
     CFPoint At(double a, double b) const { return origin + Direction(0) * a + Direction(1) * b; }
     // Whether all crossings are places that a node may have, and the directions not one.
     bool IsUsable() const;
-    void ScaleLengths(double factor);
+    ConstructionGrid In(Lunghezza unit) const;
 };
 
 } // namespace host

@@ -23,7 +23,6 @@ void ConvertUnits(DocumentData& data, DocumentUnits units) {
     const double factor = CGrandezza::_LengthFactor(data.Units().length, units.length);
     data.Tolerance() *= factor;
     data.ScaleExtent(factor);
-    data.Grid().ScaleLengths(factor);
     data.Units() = units;
 }
 
@@ -33,7 +32,7 @@ void UseOfferedUnits(DocumentData& data) {
 }
 
 UnitChange::UnitChange(DocumentData& data, DocumentUnits units)
-    : m_data(data), m_units(data.Units()), m_tolerance(data.Tolerance()), m_other(data.Grid()) {
+    : m_data(data), m_units(data.Units()), m_tolerance(data.Tolerance()) {
     for (const Kind kind : allKinds) {
         for (int i = 0; i < data.Size(kind); ++i) {
             CElemento& object = *data.At(kind, i);
@@ -48,17 +47,10 @@ UnitChange::UnitChange(DocumentData& data, DocumentUnits units)
         }
     }
     ConvertUnits(data, units);
-    m_here = data.Grid();
 }
 
 void UnitChange::Swap() {
-    const double factor = CGrandezza::_LengthFactor(m_data.Units().length, m_units.length);
-    m_data.ScaleExtent(factor);
-    if (m_data.Grid() == m_here)
-        m_data.Grid() = m_other;
-    else
-        m_data.Grid().ScaleLengths(factor);
-    std::swap(m_here, m_other);
+    m_data.ScaleExtent(CGrandezza::_LengthFactor(m_data.Units().length, m_units.length));
     std::swap(m_units, m_data.Units());
     std::swap(m_tolerance, m_data.Tolerance());
     for (int i = 0; i < m_data.Size(Kind::LoadCase); ++i)

@@ -28,7 +28,6 @@ class UnitChange : public Change {
     DocumentData& m_data;
     DocumentUnits m_units;
     double m_tolerance;
-    ConstructionGrid m_here, m_other; // of the construction lines, while nobody changes them
     std::vector<std::pair<CElemento*, std::unique_ptr<CElemento>>> m_others;
 };
 

@@ -187,12 +187,10 @@ class Reader {
         ForEach(tables::groups, [this](RowReader& row) { ReadNamed<CGruppo>(row); });
     }
 
-    // Limits of places are the same length whatever the unit: a model that reaches them in metres may be shown in
-    // millimetres. A conversion may round it up.
-    double Metres() const { return CGrandezza::_LengthFactor(m_data.Units().length, Lunghezza::Metres) / (1 + 1e-9); }
-
     void ReadNodes() {
-        const double metres = Metres();
+        // The limit is the same length whatever the unit: a model that reaches it in metres may be shown in
+        // millimetres. A conversion may round it up.
+        const double metres = CGrandezza::_LengthFactor(m_data.Units().length, Lunghezza::Metres) / (1 + 1e-9);
         ForEach(tables::nodes, [this, metres](RowReader& row) {
             const int id = row.Id();
             CFPoint place;
@@ -344,9 +342,8 @@ class Reader {
             lines.spacing = row.Real();
             lines.angle = row.Real();
         }
-        ConstructionGrid inMetres = grid;
-        inMetres.ScaleLengths(Metres());
-        if (!inMetres.IsUsable())
+        grid.length = static_cast<Lunghezza>(row.Int(0, lengthCount - 1));
+        if (!grid.IsUsable())
             row.Fail("la griglia non è valida."_utf8);
         ++m_rows;
         if (row.Next())

@@ -44,7 +44,7 @@ inline constexpr Table loads{"carichi", "caso I, id I, genere I, riferimento I, 
 inline constexpr Table loaded{"carichi_elementi", "genere I, elemento I, caso I, carico I"};
 inline constexpr Table members{"gruppi_elementi", "gruppo I, genere I, elemento I"};
 inline constexpr Table grid{"griglia", "visibile I, piano I, inclinazione R, x R, y R, z R, neg1 I, pos1 I, passo1 R, "
-                                       "angolo1 R, neg2 I, pos2 I, passo2 R, angolo2 R"};
+                                       "angolo1 R, neg2 I, pos2 I, passo2 R, angolo2 R, lunghezza I"};
 
 // In the order in which they are made; a file of the format has exactly these. Tables of a format that was released
 // never change: see docs/project-format.md.

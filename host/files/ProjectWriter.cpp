@@ -202,7 +202,7 @@ class Writer {
         row.Put(grid.origin.x).Put(grid.origin.y).Put(grid.origin.z);
         for (const ConstructionGrid::Lines& lines : grid.lines)
             row.Put(lines.negative).Put(lines.positive).Put(lines.spacing).Put(lines.angle);
-        row.End();
+        row.Put(static_cast<int>(grid.length)).End();
     }
 
     const DocumentData& m_data;

@@ -1,6 +1,5 @@
 #include "host/view/GridSight.h"
 
-#include "host/document/ConstructionGrid.h"
 #include "model/view/Adv3d.h"
 
 #include <algorithm>

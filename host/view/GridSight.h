@@ -2,6 +2,7 @@
 // cost depends on the window and not on the grid.
 #pragma once
 
+#include "host/document/ConstructionGrid.h"
 #include "model/values/FPoint.h"
 #include "platform/core/Geometry.h"
 
@@ -12,11 +13,9 @@ class Adv3d;
 
 namespace host {
 
-struct ConstructionGrid;
-
 class GridSight {
   public:
-    // Both are only kept until it is made and outlive it.
+    // The grid in the unit of the projection, which outlives this and does not move meanwhile.
     GridSight(const ConstructionGrid& grid, const Adv3d& vista);
 
     // On the projection's device context.
@@ -50,7 +49,7 @@ class GridSight {
     // The drawn lines across direction i that pass within the radius of a place, perhaps with some more.
     Drawn Around(int i, const Place& place, double radius) const;
 
-    const ConstructionGrid& m_grid;
+    const ConstructionGrid m_grid;
     const Adv3d& m_vista;
     double m_originX, m_originY;  // pixel of the projection's target
     Field m_right, m_up;          // of a place on the screen, length units from the target

@@ -99,6 +99,7 @@ class HostView final : public CQuovarView, public DocumentObserver {
     void SetResultShown(int kind, bool shown);
 
     // ---- The construction lines, which all views of the document show.
+    ConstructionGrid Grid() const; // in the document's unit
     bool IsGridShown() const;
     void ShowGrid(bool shown);
     // Opens the dialog on them; they follow it until its window goes, and stay then. False when there is no window.

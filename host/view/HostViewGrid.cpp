@@ -46,6 +46,10 @@ ConstructionGrid Read(const CDialogGrigliaNodi& dialog, ConstructionGrid grid) {
 
 } // namespace
 
+ConstructionGrid HostView::Grid() const {
+    return m_document.Data().Grid().In(m_document.GetLunghezza());
+}
+
 bool HostView::IsGridShown() const {
     return m_document.Data().Grid().shown;
 }
@@ -65,18 +69,18 @@ void HostView::SetGrid(const ConstructionGrid& grid) {
 }
 
 bool HostView::EditGrid(CDialogGrigliaNodi& dialog) {
-    WriteFields(m_document.Data().Grid(), dialog);
+    WriteFields(Grid(), dialog);
     if (!dialog.Create(this))
         return false;
     m_gridDialog = &dialog;
-    m_dialogGrid = m_document.Data().Grid();
+    m_dialogGrid = Grid();
     ShowGrid(true);
     return true;
 }
 
 // Another view's dialog, or a change of units, may have changed what this one shows.
 void HostView::RefreshGridDialog() {
-    const ConstructionGrid& grid = m_document.Data().Grid();
+    const ConstructionGrid grid = Grid();
     m_dialogGrid.shown = grid.shown;
     if (!m_gridDialog || m_readingGrid || m_dialogGrid == grid)
         return;
@@ -94,8 +98,8 @@ LRESULT HostView::OnGridChanged(WPARAM, LPARAM) {
     const QScopedValueRollback<bool> reading(m_readingGrid, true);
     if (!m_gridDialog->UpdateData(TRUE) || !m_gridDialog)
         return 0;
-    ConstructionGrid grid = Read(*m_gridDialog, m_document.Data().Grid());
-    if (grid == m_document.Data().Grid()) // leaving a field unchanged does not show what the user has hidden
+    ConstructionGrid grid = Read(*m_gridDialog, Grid());
+    if (grid == Grid()) // leaving a field unchanged does not show what the user has hidden
         return 0;
     grid.shown = true;
     if (grid.IsUsable())
@@ -111,10 +115,9 @@ LRESULT HostView::OnGridDone(WPARAM, LPARAM) {
 }
 
 std::optional<CFPoint> HostView::SnapCrossing(CPoint at) const {
-    const ConstructionGrid& grid = m_document.Data().Grid();
-    if (!grid.shown)
+    if (!IsGridShown())
         return std::nullopt;
-    return GridSight(grid, m_projection).Nearest(at, pickRadius);
+    return GridSight(Grid(), m_projection).Nearest(at, pickRadius);
 }
 
 std::optional<HostView::Snap> HostView::SnapAt(CPoint at) {

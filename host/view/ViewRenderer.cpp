@@ -65,7 +65,7 @@ void DrawModel(HostDocument& document, Adv3d& vista, CDC& dc, int stride) {
     stride = std::max(stride, 1);
     const DrawingScope scope(vista, dc);
     DrawPlanes(document, vista);
-    if (const ConstructionGrid& grid = document.Data().Grid(); grid.shown)
+    if (const ConstructionGrid grid = document.Data().Grid().In(document.GetLunghezza()); grid.shown)
         GridSight(grid, vista).Draw(vista);
     // Lines and nodes ask themselves whether they are to be drawn.
     for (int i = 0; i < document.GetSizeTravi(); i += stride)

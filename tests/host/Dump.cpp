@@ -31,7 +31,7 @@ class Dumper {
         }
         const ConstructionGrid& grid = data.Grid();
         m_text += "\n== ";
-        Add(grid.shown, grid.plane, grid.tilt, grid.origin);
+        Add(grid.shown, grid.plane, grid.tilt, grid.origin, grid.length);
         for (const ConstructionGrid::Lines& lines : grid.lines)
             Add(lines.negative, lines.positive, lines.spacing, lines.angle);
         return m_text;

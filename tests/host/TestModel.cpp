@@ -42,7 +42,7 @@ void AddLoads(HostDocument& document) {
 void BuildEverything(HostDocument& document) {
     BuildExample(document);
     document.Data().Info().title = "Prova: perché no?"_t;
-    document.Data().Grid() = {false, 2, 33.3, {1, 2, 3}, {{3, 40, 0.25, 12.5}, {-7, 4, -2.5, 80}}};
+    document.Data().Grid() = {false, 2, 33.3, {1, 2, 3}, {{3, 40, 0.25, 12.5}, {-7, 4, -2.5, 80}}, Lunghezza::Inches};
     AddLoads(document);
     CTrave* beam = document.GetIndexTrave(0);
     document.Modify(*beam, [&] {
