@@ -54,7 +54,7 @@ int HostGeneration::GenerateNodes(const std::vector<CFPoint>& places) {
     UndoStep step(Undo(), generationStep);
     for (const CFPoint& place : places) {
         if (Data().NodeAt(place, nullptr, GetTolerance()))
-            Undo().NotePresent();
+            Undo().NotePresent(Kind::Node, 1);
         else
             AddNew(std::make_unique<CNodo>(place), generationStep);
     }

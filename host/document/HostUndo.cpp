@@ -20,7 +20,7 @@ struct HostUndo::Step {
     std::vector<long> announced, told;            // codes sent before its first change and after it
     std::array<int, kindCount> firstNew{};        // objects from that number on were made in this step
     std::unordered_set<const CElemento*> keptNew; // those of them whose state it keeps
-    int present = 0;                              // nodes that it was to make and found
+    std::array<int, kindCount> present{};         // that it was to make and found
 
     Reach GetReach() const {
         Reach farthest = Reach::Look;
@@ -269,9 +269,9 @@ void HostUndo::EndDirect(const char* name) {
     TakeRecords(name ? name : defaultName);
 }
 
-void HostUndo::NotePresent() {
+void HostUndo::NotePresent(Kind kind, int count) {
     if (m_open)
-        ++m_open->present;
+        m_open->present[static_cast<std::size_t>(kind)] += count;
 }
 
 StepSummary HostUndo::Summarize(const Step& step) const {
@@ -301,7 +301,7 @@ void HostUndo::CloseStep() {
     step->DropIdle();
     const StepSummary summary = Summarize(*step);
     if (step->changes.empty()) {
-        if (summary.present > 0)
+        if (summary.present != KindCounts{})
             m_owner.StepMade(summary);
         return;
     }

@@ -122,8 +122,8 @@ class HostUndo : public CQuovarUndo, private WriteWatch {
     void CodeSent(long hint);
     void EndDirect(const char* name);
     bool IsOpen() const { return !m_brackets.empty() || m_open; }
-    // A node that the open step was to make lay there already: its summary says so.
-    void NotePresent();
+    // Objects that the open step was to make were there already: its summary says so.
+    void NotePresent(Kind kind, int count);
 
     // Takes a change that has just been made. Outside every bracket it opens a step of that name by itself, closed at
     // once, or when control is back in the event loop (see HostCore::SetIdleScheduler).

@@ -126,8 +126,11 @@ bool Mesher::Run() {
     const WaitBar wait("Attendere...Generazione della mesh.", static_cast<unsigned>(2 * m_places.size() - Row()));
     // All that is made goes into a change of its own, which can be taken back alone.
     undo.Record(std::make_unique<Creation>(m_document.Data()), stepName);
-    if (MakeNodes() && MakeElements())
+    if (MakeNodes() && MakeElements()) {
+        undo.NotePresent(Kind::Node, m_nodesMet);
+        undo.NotePresent(Kind::Wall, m_wallsMet);
         return true;
+    }
     undo.TakeBack();
     return false;
 }
@@ -152,7 +155,7 @@ bool Mesher::MakeNodes() {
         } else if (i >= row && m_places[i] == m_places[i - row]) {
             m_nodes[i] = m_nodes[i - row];
         } else if (m_nodes[i]) {
-            m_document.Undo().NotePresent();
+            ++m_nodesMet;
         } else {
             m_nodes[i] = m_document.AddNew(std::make_unique<CNodo>(m_places[i]), stepName);
         }
@@ -183,6 +186,7 @@ void Mesher::MakeElement(std::size_t corner) {
         return; // all of it met one node or two
     if (std::all_of(m_sides.begin(), m_sides.end(), [this](CNodo* node) { return node->GetID() < m_firstNew; }) &&
         HasElement(Kind::Wall, m_sides)) {
+        ++m_wallsMet;
         return;
     }
     auto wall = std::make_unique<CSetto>();

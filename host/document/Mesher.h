@@ -46,6 +46,7 @@ class Mesher {
     std::vector<CNodo*> m_nodes; // at the places
     std::vector<CNodo*> m_sides; // of the element at work
     int m_firstNew = 0;          // nodes from that number on were made here
+    int m_nodesMet = 0, m_wallsMet = 0;
 };
 
 } // namespace host

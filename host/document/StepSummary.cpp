@@ -65,10 +65,17 @@ CString Sentence(const StepSummary& summary) {
             Join(done, phrases);
     if (summary.moved > 0)
         Join(done, Phrase(nouns[0], summary.moved, "spostat"));
-    if (summary.present > 0) {
-        CString present;
-        present.Format(summary.present == 1 ? "%d già presente"_t : "%d già presenti"_t, summary.present);
-        Join(done, done.IsEmpty() ? "nessun nodo creato, " + present : present);
+    const auto madeKinds = std::count_if(summary.made.begin(), summary.made.end(), [](int count) { return count > 0; });
+    for (const Noun& noun : nouns) {
+        const auto kind = static_cast<std::size_t>(noun.kind);
+        const int count = summary.present[kind];
+        if (count == 0)
+            continue;
+        CString number; // of what has just been named, otherwise with its name
+        number.Format("%d", count);
+        const bool named = madeKinds == 1 && summary.made[kind] > 0;
+        Join(done,
+             (named ? number : Phrase(noun, count, nullptr)) + (count == 1 ? " già presente"_t : " già presenti"_t));
     }
     if (done.IsEmpty()) // otherwise it follows from what came and went
         done = Phrases(summary.changed, "modificat");

@@ -12,8 +12,8 @@ struct StepSummary {
     KindCounts made = {}; // each object once
     KindCounts removed = {};
     KindCounts changed = {};
-    int moved = 0;   // nodes
-    int present = 0; // nodes that were to be made and lay there already
+    KindCounts present = {}; // were to be made and were there already
+    int moved = 0;           // nodes
 };
 
 // One sentence in Italian: "Generazione nodi: 24 nodi creati, 3 già presenti."

@@ -68,7 +68,7 @@ TEST(DocumentGeneration, SegmentCountsTheNodesBetweenItsEnds) {
     EXPECT_NE(document.GenNodi2Punti({0, 0, 0}, {2, 0, 0}, 1), 0);
     EXPECT_EQ(told, (std::vector<std::string>{"Generazione nodi: 4 nodi creati.",
                                               "Generazione nodi: 2 nodi creati, 1 già presente.",
-                                              "Generazione nodi: nessun nodo creato, 3 già presenti."}));
+                                              "Generazione nodi: 3 nodi già presenti."}));
 }
 
 // Parameters that cannot be used leave no trace: no node, no step.
