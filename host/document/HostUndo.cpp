@@ -332,7 +332,9 @@ void HostUndo::Record(std::unique_ptr<Change> change, const char* name) {
         if (KindOf(*object, kind) && IsNew(kind, *object))
             m_open->keptNew.insert(object);
     } else {
-        m_kept.clear(); // what was kept before this change may not fit after it
+        // What was kept before this change may not fit after it. Not by clear(), which takes as long as the set was
+        // ever large.
+        std::unordered_set<const CElemento*>().swap(m_kept);
         if (change->KeepsAll())
             CountNew();
     }
