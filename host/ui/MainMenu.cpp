@@ -69,8 +69,10 @@ QAction* MainMenu::Add(QMenu& menu, const QString& name, const QString& text, co
     action->setShortcut(keys);
     menu.addAction(action);
     const QString caption = QString(text).remove('&').remove(u'\u2026');
+    // A dialog that ends with nothing to tell was cancelled.
+    const QString otherwise = text.endsWith(u'\u2026') ? caption + ": nessuna modifica" : caption;
     QObject::connect(action, &QAction::triggered, &m_window,
-                     [this, caption, run = std::move(run)] { m_workspace.RunCommand(caption, run); });
+                     [this, otherwise, run = std::move(run)] { m_workspace.RunCommand(otherwise, run); });
     m_items.push_back({action, needs, {}});
     m_keys.push_back({action, QString(menu.title()).remove('&') + ", " + caption, action->shortcut()});
     return action;

@@ -124,8 +124,6 @@ void MainWindow::BuildStatusBar() {
     m_selected = new QLabel;
     m_coordinates = new QLabel;
     m_unit = new QLabel;
-    m_coordinates->setMinimumWidth(
-        fontMetrics().horizontalAdvance("Nodo 000000   x -0000.000   y -0000.000   z -0000.000"));
     statusBar()->addWidget(m_prompt);
     statusBar()->addWidget(m_sentence, 1);
     m_wait = std::make_unique<WaitIndicator>(*statusBar());

@@ -101,7 +101,7 @@ void RestoreShortcuts(const Shortcuts& shortcuts, const QSettings& settings) {
                 each.action->setShortcut(QKeySequence(text));
 }
 
-void EditShortcuts(QWidget& parent, const Shortcuts& shortcuts, QSettings* settings) {
+bool EditShortcuts(QWidget& parent, const Shortcuts& shortcuts, QSettings* settings) {
     ShortcutTable table(shortcuts);
     AssignForm form(parent, "Tasti di scelta rapida");
     form.Content().addWidget(new QLabel("Scrivere i tasti di un comando, per esempio Ctrl+T; niente per toglierli."));
@@ -111,7 +111,7 @@ void EditShortcuts(QWidget& parent, const Shortcuts& shortcuts, QSettings* setti
     form.Content().addWidget(standard, 0, Qt::AlignLeft);
     form.SetCheck([&table] { return table.Check(); });
     if (!form.Ask())
-        return;
+        return false;
     for (std::size_t i = 0; i < shortcuts.size(); ++i) {
         const Shortcut& each = shortcuts[i];
         const QKeySequence keys = table.Keys(static_cast<int>(i));
@@ -121,6 +121,7 @@ void EditShortcuts(QWidget& parent, const Shortcuts& shortcuts, QSettings* setti
         else if (settings)
             settings->setValue(KeyOf(*each.action), keys.toString(QKeySequence::PortableText));
     }
+    return true;
 }
 
 } // namespace host

@@ -22,8 +22,8 @@ using Shortcuts = std::vector<Shortcut>;
 // Gives the commands what the settings say; those of which they say nothing have their standard ones.
 void RestoreShortcuts(const Shortcuts& shortcuts, const QSettings& settings);
 // Lets the user change them in a dialog. What differs from the standard goes into the settings; null keeps it for this
-// run only.
-void EditShortcuts(QWidget& parent, const Shortcuts& shortcuts, QSettings* settings);
+// run only. False when the user cancels.
+bool EditShortcuts(QWidget& parent, const Shortcuts& shortcuts, QSettings* settings);
 
 // Why the text is no shortcut of a command; empty for one that can be, and for none. Keys without Ctrl or Alt belong to
 // what has the focus, but for function keys and Del.

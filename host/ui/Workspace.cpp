@@ -55,7 +55,8 @@ void Workspace::Remember(QSettings& settings) {
 }
 
 void Workspace::EditShortcuts() {
-    host::EditShortcuts(*m_window, m_window->Menus().Keys(), m_settings);
+    if (host::EditShortcuts(*m_window, m_window->Menus().Keys(), m_settings))
+        Tell("Tasti di scelta rapida assegnati.");
 }
 
 Workspace::Project& Workspace::Adopt(std::unique_ptr<HostDocument> document, const QString& path, const QString& name) {
@@ -220,7 +221,7 @@ void Workspace::Execute(const std::function<void()>& command) {
     platform::RunGuarded(command);
 }
 
-void Workspace::RunCommand(const QString& caption, const std::function<void()>& command) {
+void Workspace::RunCommand(const QString& sentence, const std::function<void()>& command) {
     Execute([&] {
         const HostView* view = m_active;
         const auto before = view ? view->Document().Selection().TakeSnapshot() : HostSelection::Snapshot();
@@ -232,7 +233,7 @@ void Workspace::RunCommand(const QString& caption, const std::function<void()>& 
         if (sameView && view->Document().Selection().TakeSnapshot() != before)
             Tell(view->Document().Selection().Text() + ".");
         else
-            Tell(platform::FromQString(caption + "."));
+            Tell(platform::FromQString(sentence + "."));
     });
 }
 
@@ -266,10 +267,13 @@ CDialog* Workspace::Run(const Command& command) {
     if (command.needs == Needs::Selection && view.Document().Selection().IsEmpty())
         return nullptr;
     CDialog* dialog = nullptr;
-    if (command.run)
+    if (command.run) {
         command.run(view.Document(), m_window->Frame());
-    else
+        if (!m_told)
+            Tell(platform::FromQString(CaptionOf(command)) + ": nessuna modifica.");
+    } else {
         dialog = m_tools.Open(command, view, m_window->Frame());
+    }
     if (dialog && command.opened)
         command.opened(view.Document());
     m_window->ScheduleRefresh();

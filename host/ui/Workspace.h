@@ -66,9 +66,9 @@ class Workspace final : public CQuovarHost, public ViewOwner {
     // is gone, and a request that was already waiting behind the dialog's last key may come before that.
     void Execute(const std::function<void()>& command);
 
-    // The same for a command of the menus. Where it has told nothing of what it did, its caption is told, or what is
+    // The same for a command of the menus. Where it has told nothing of what it did, the sentence is told, or what is
     // selected now when that is other than before.
-    void RunCommand(const QString& caption, const std::function<void()>& command);
+    void RunCommand(const QString& sentence, const std::function<void()>& command);
     // A key for which a tool dialog had no use: one of those in SharedKeys.h runs its command on the dialog's view.
     // False for any other key, and while a modal dialog is open.
     bool TakeKey(const MSG& message);

@@ -95,6 +95,7 @@ void HostView::StopDefinisciVettore() {
 
 void HostView::StartDrawing(Kind kind) {
     m_owner.Tell(m_drawing.Start(kind));
+    m_widget->activateWindow(); // from a dialog too: the numbers that are typed next are nodes'
     m_widget->setFocus();
     ShowPicking();
 }

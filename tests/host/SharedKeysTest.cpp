@@ -4,12 +4,14 @@
 #include "dialogs/generation/DialogGenNodiLineare.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
+#include "host/view/ViewWidget.h"
 #include "platform/window/Application.h"
 #include "tests/host/WorkspaceTest.h"
 #include "tests/support/TestApp.h"
 
 #include <QAction>
 #include <QTemporaryDir>
+#include <QTest>
 
 using namespace host;
 
@@ -102,4 +104,6 @@ TEST_F(SharedKeysTest, MeanTheDialogsOwnView) {
     CWinApp::PumpMessages();
     EXPECT_EQ(first.Vista().GetAxis(2), CFPoint(0, 0, 1));
     EXPECT_FALSE(second.Vista().GetAxis(2) == CFPoint(0, 0, 1));
+    driver.Press(VK_F1 + 5); // a drawing takes the keyboard along
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.Widget().hasFocus(); }));
 }
