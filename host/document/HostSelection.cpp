@@ -211,9 +211,12 @@ void HostSelection::IntersezioneLineePiano(CPoligono* pPoligono) {
     if (crossed.empty())
         return Refuse("Nessuna trave o asta selezionata attraversa il piano");
     UndoStep step(m_document.Undo(), "Intersezione linee piano");
+    WaitBar bar("Attendere...Intersezione delle linee selezionate.", static_cast<unsigned>(crossed.size()));
     Division division(m_document);
-    for (const auto& [line, place] : crossed)
+    for (const auto& [line, place] : crossed) {
         division.Cut(*line, {place});
+        CMainFrame::_StepBar();
+    }
     division.Finish();
 }
 

@@ -187,6 +187,8 @@ void ToolDialogs::End(std::shared_ptr<Tool> tool) {
     RememberPlace(*tool);
     const QScopedValueRollback<Tool*> calling(m_caller, tool.get());
     std::unique_ptr<CDialog> ended = std::move(tool->dialog);
+    if (ended && tool->view)
+        tool->view->DialogEnds(*ended);
     if (ended)
         ended->DestroyWindow();
     if (tool->picks && tool->view)

@@ -15,6 +15,7 @@
 #include <optional>
 #include <utility>
 
+class CDialog;
 class CDialogGrigliaNodi;
 class QWidget;
 
@@ -104,6 +105,8 @@ class HostView final : public CQuovarView, public DocumentObserver {
     void ShowGrid(bool shown);
     // Opens the dialog on them; they follow it until its window goes, and stay then. False when there is no window.
     bool EditGrid(CDialogGrigliaNodi& dialog);
+    // The application ends a dialog beside the view: what the going window still says is not listened to.
+    void DialogEnds(const CDialog& dialog);
 
     // ---- What the user does with the pointer.
     // Where nodes are asked for the click picks one; otherwise it selects.

@@ -78,6 +78,11 @@ bool HostView::EditGrid(CDialogGrigliaNodi& dialog) {
     return true;
 }
 
+void HostView::DialogEnds(const CDialog& dialog) {
+    if (m_gridDialog == &dialog)
+        m_gridDialog = nullptr;
+}
+
 // Another view's dialog, or a change of units, may have changed what this one shows.
 void HostView::RefreshGridDialog() {
     const ConstructionGrid grid = Grid();

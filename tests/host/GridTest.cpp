@@ -2,6 +2,7 @@
 #include "dialogs/generation/DialogGenNodiLineare.h"
 #include "dialogs/generation/DialogGrigliaNodi.h"
 #include "dialogs/generation/DialogIntLineaPiano.h"
+#include "host/commands/Commands.h"
 #include "host/document/HostDocument.h"
 #include "host/ui/MainWindow.h"
 #include "host/view/GridSight.h"
@@ -29,8 +30,7 @@ class GridTest : public WorkspaceTest {
   protected:
     // From the menu, in the view's middle.
     DialogDriver OpenGrid() {
-        Trigger(G::IDD);
-        m_dialog = dynamic_cast<G*>(CWnd::GetActiveWindow());
+        m_dialog = dynamic_cast<G*>(m_workspace->Run(*FindCommand(G::IDD)));
         EXPECT_TRUE(m_dialog);
         return DialogDriver(*m_dialog);
     }
@@ -89,6 +89,12 @@ TEST_F(GridTest, FollowsItsDialogAndIsPicked) {
     Click(PixelOf(*Document().GetIndexNodo(1)));
     EXPECT_EQ(DialogDriver(*cut).Text(CDialogIntLineaPiano::IDC_X1), "4");
     DialogDriver(*cut).Press(VK_ESCAPE);
+
+    m_workspace->NewView(Document());
+    DialogDriver left = OpenGrid();
+    left.Type(G::IDC_PASSO_X, "mah");
+    m_workspace->CloseView(View()); // says nothing about the text
+    EXPECT_FALSE(left.IsOpen());
 }
 
 // Catches a double click that makes two nodes, or one where there is one, and lines that are hidden and picked.
