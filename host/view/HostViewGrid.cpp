@@ -11,6 +11,7 @@
 #include <QScopedValueRollback>
 
 #include <cmath>
+#include <utility>
 
 namespace host {
 
@@ -63,8 +64,10 @@ void HostView::ShowGrid(bool shown) {
 void HostView::SetGrid(const ConstructionGrid& grid) {
     if (grid == m_document.Data().Grid())
         return;
-    m_document.Data().Grid() = grid;
-    m_document.SetModifiedFlag();
+    ConstructionGrid former = std::exchange(m_document.Data().Grid(), grid);
+    former.shown = grid.shown;
+    if (!(former == grid)) // to look at them, or not, is no work that is to be saved
+        m_document.SetModifiedFlag();
     m_document.UpdateAllViews(nullptr, MODIFICA_NESSUNA);
 }
 

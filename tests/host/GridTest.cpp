@@ -50,6 +50,7 @@ TEST_F(GridTest, FollowsItsDialogAndIsPicked) {
     Document().MarkSaved();
     DialogDriver driver = OpenGrid();
     EXPECT_TRUE(Grid().shown);
+    EXPECT_FALSE(Document().IsModified()) << "only looked at";
     driver.Click(G::IDC_PIANO_XZ);
     driver.Type(G::IDC_PASSO_X, "0.5");
     driver.Type(G::IDC_PASSO_Y, "0.75");
