@@ -1,31 +1,16 @@
 #include "host/document/ConstructionGrid.h"
 
 #include "host/document/DocumentData.h"
+#include "host/document/TiltedPlane.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace host {
 
-namespace {
-
-// Exact for right angles.
-CFPoint Turned(const CFPoint& from, const CFPoint& towards, double degrees) {
-    const double angle = std::remainder(degrees, 360);
-    const double radians = angle * std::numbers::pi / 180;
-    const double cosine = std::fabs(angle) == 90 ? 0 : std::cos(radians);
-    const double sine = std::fabs(angle) == 180 ? 0 : std::sin(radians);
-    return from * cosine + towards * sine;
-}
-
-} // namespace
-
 CFPoint ConstructionGrid::Direction(int i) const {
-    const CFPoint axes[] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
-    const CFPoint& first = axes[plane == 2 ? 1 : 0];
-    const CFPoint& flat = axes[plane == 0 ? 1 : 2];
-    const CFPoint second = Turned(flat, Cross(first, flat), tilt);
-    return i == 0 ? Turned(first, second, lines[0].angle) : Turned(second, first * -1, lines[1].angle);
+    const TiltedPlane axes(plane, tilt);
+    const Turn turn(lines[i].angle);
+    return i == 0 ? turn.Between(axes.first, axes.second) : turn.Between(axes.second, axes.first * -1);
 }
 
 bool ConstructionGrid::IsUsable() const {

@@ -1,8 +1,9 @@
 #include "host/document/Generation.h"
 
+#include "host/document/TiltedPlane.h"
+
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace host {
 
@@ -20,43 +21,8 @@ Places Checked(Places places, double tolerance) {
     return places;
 }
 
-// The sine and cosine of an angle in degrees, exact at quarter turns: a coordinate that is 0 there is no rounding.
-struct Turn {
-    double sine, cosine;
-};
-
-Turn TurnBy(double degrees) {
-    const double turn = std::remainder(degrees, 360);
-    const double quarters = std::nearbyint(turn / 90);
-    const double rest = (turn - 90 * quarters) * std::numbers::pi / 180;
-    const double sine = std::sin(rest), cosine = std::cos(rest);
-    switch (static_cast<int>(quarters) & 3) {
-    case 0:
-        return {sine, cosine};
-    case 1:
-        return {cosine, -sine};
-    case 2:
-        return {-sine, -cosine};
-    default:
-        return {-cosine, sine};
-    }
-}
-
-struct Axes {
-    CFPoint u, v, normal;
-};
-
-// The axes of a coordinate plane turned about its first one; false for another number.
-bool AxesOf(int plane, double tilt, Axes& axes) {
-    if (plane < 1 || plane > 3 || !std::isfinite(tilt))
-        return false;
-    const CFPoint x(1, 0, 0), y(0, 1, 0), z(0, 0, 1);
-    axes.u = plane == 3 ? y : x;
-    const CFPoint v = plane == 1 ? y : z;
-    const Turn turn = TurnBy(tilt);
-    axes.v = v * turn.cosine + Cross(axes.u, v) * turn.sine;
-    axes.normal = Cross(axes.u, axes.v);
-    return true;
+bool IsPlane(int plane, double tilt) {
+    return plane >= 1 && plane <= 3 && std::isfinite(tilt);
 }
 
 } // namespace
@@ -121,21 +87,19 @@ Places PlacesOnArc(const CFPoint& from, const CFPoint& through, const CFPoint& t
 
 Places PlacesOnArc(int plane, double tilt, const CFPoint& centre, const CFPoint& start, double angle, int count,
                    double tolerance) {
-    Axes axes;
     if (!IsCount(count) || !centre.IsFinite() || !start.IsFinite() || !(std::fabs(angle) > 0) ||
-        std::fabs(angle) > 360 || !AxesOf(plane, tilt, axes))
+        std::fabs(angle) > 360 || !IsPlane(plane, tilt))
         return {};
-    const CFPoint foot = centre + axes.normal * Dot(start - centre, axes.normal); // on the axis
-    const CFPoint radius = start - foot, across = Cross(axes.normal, radius);
+    const CFPoint normal = TiltedPlane(plane - 1, tilt).Normal();
+    const CFPoint foot = centre + normal * Dot(start - centre, normal); // on the axis
+    const CFPoint radius = start - foot, across = Cross(normal, radius);
     if (!(radius.GetMod() > tolerance))
         return {};
     const int last = std::fabs(angle) == 360 ? count - 1 : count; // a full turn ends where it began
     Places places = {start};
     places.reserve(static_cast<std::size_t>(last) + 1);
-    for (int i = 1; i <= last; ++i) {
-        const Turn turn = TurnBy(angle * i / count);
-        places.push_back(foot + radius * turn.cosine + across * turn.sine);
-    }
+    for (int i = 1; i <= last; ++i)
+        places.push_back(foot + Turn(angle * i / count).Between(radius, across));
     places = Checked(std::move(places), tolerance);
     if (!places.empty())
         places.erase(places.begin());
@@ -143,16 +107,14 @@ Places PlacesOnArc(int plane, double tilt, const CFPoint& centre, const CFPoint&
 }
 
 Places PlacesOnCircle(int plane, double tilt, const CFPoint& centre, double radius, int count, double tolerance) {
-    Axes axes;
     if (!IsCount(count) || !centre.IsFinite() || !std::isfinite(radius) || !(radius > tolerance) ||
-        !AxesOf(plane, tilt, axes))
+        !IsPlane(plane, tilt))
         return {};
+    const TiltedPlane axes(plane - 1, tilt);
     Places places;
     places.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        const Turn turn = TurnBy(360.0 * i / count);
-        places.push_back(centre + axes.u * (radius * turn.cosine) + axes.v * (radius * turn.sine));
-    }
+    for (int i = 0; i < count; ++i)
+        places.push_back(centre + Turn(360.0 * i / count).Between(axes.first * radius, axes.second * radius));
     return Checked(std::move(places), tolerance);
 }
 
