@@ -18,24 +18,24 @@ void CDialogDistanza::DoDataExchange(CDataExchange* pDX) {
 BOOL CDialogDistanza::OnInitDialog() {
     PickingDialog::OnInitDialog();
     SetTitle("Distanza fra 2 Punti");
-    StorePoint(CFPoint(), m_dX1, m_dY1, m_dZ1);
-    ResetSecond();
-    if (CQuovarDoc* pDoc = GetDoc())
-        m_strUnita = CGrandezza::_GetStringLunghezza(pDoc->GetLunghezza());
+    BeginPair(CFPoint());
     UpdateData(FALSE);
     StartPicking();
     return TRUE;
 }
 
-void CDialogDistanza::ResetSecond() {
+// The document's unit may have changed since the pair before.
+void CDialogDistanza::BeginPair(const CFPoint& first) {
+    StorePoint(first, m_dX1, m_dY1, m_dZ1);
     StorePoint(CFPoint(), m_dX2, m_dY2, m_dZ2);
     m_dDistanza = 0;
+    if (CQuovarDoc* pDoc = GetDoc())
+        m_strUnita = CGrandezza::_GetStringLunghezza(pDoc->GetLunghezza());
 }
 
 void CDialogDistanza::SetVettoreFrom(CFPoint point) {
     UpdateData(TRUE);
-    StorePoint(point, m_dX1, m_dY1, m_dZ1);
-    ResetSecond();
+    BeginPair(point);
     UpdateData(FALSE);
 }
 

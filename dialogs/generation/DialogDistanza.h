@@ -29,5 +29,5 @@ class CDialogDistanza : public PickingDialog {
     void DoDataExchange(CDataExchange* pDX) override;
 
   private:
-    void ResetSecond();
+    void BeginPair(const CFPoint& first);
 };

@@ -85,10 +85,11 @@ TEST_F(NodoRelativo, TellsOnceOfATextThatIsNoNumber) {
     EXPECT_EQ(m_host.Take(), (Lines{"StopDefinisciVettore", "WM_FINEDIALOGO 1"}));
 }
 
-TEST_F(Distanza, ShowsTheUnitOfTheDocument) {
+TEST_F(Distanza, MeasuresInTheUnitOfTheDocument) {
     EXPECT_EQ(m_driver.Text(CDialogDistanza::IDC_UNITA), "mm");
     m_host.doc.length = Lunghezza::Inches;
-    EXPECT_EQ(Reopen().Text(CDialogDistanza::IDC_UNITA), "in");
+    m_host.View().Pick(1, 2, 3);
+    EXPECT_EQ(m_driver.Text(CDialogDistanza::IDC_UNITA), "in") << "changed while the dialog stood open";
 }
 
 } // namespace
