@@ -40,7 +40,7 @@ bool AddTrapezoidal(CTraveRisultati& line, const Member& member, CCaricoTrapezoi
     const double slack = sameEnd * member.length;
     for (int axis = 0; axis < 3; ++axis) {
         auto part = load.GetStretch(axis);
-        if (part.inizio == 0 && part.fine == 0)
+        if ((part.inizio == 0 && part.fine == 0) || part.a == part.da)
             continue;
         if (part.a < part.da) {
             std::swap(part.da, part.a);

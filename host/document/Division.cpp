@@ -1,5 +1,6 @@
 #include "host/document/Division.h"
 
+#include "host/analysis/Analysis.h"
 #include "host/document/Copier.h"
 #include "host/document/HostDocument.h"
 #include "model/element/Asta.h"
@@ -43,7 +44,8 @@ bool Acts(const CCaricoTrapezoidale::Stretch& load) {
     return (load.inizio != 0 || load.fine != 0) && load.a != load.da;
 }
 
-// What of the load lies between two places, measured from the first one; an open end lets it reach beyond.
+// What of the load lies between two places, measured from the first one; an open end lets it reach beyond, but not so
+// little beyond that it ends there: of a part, which is shorter, that may be too much.
 CCaricoTrapezoidale::Stretch Clipped(CCaricoTrapezoidale::Stretch load, double from, double to, bool openStart,
                                      bool openEnd, double slack) {
     if (load.a < load.da) {
@@ -51,7 +53,7 @@ CCaricoTrapezoidale::Stretch Clipped(CCaricoTrapezoidale::Stretch load, double f
         std::swap(load.inizio, load.fine);
     }
     const double low = openStart ? load.da : std::max(load.da, from);
-    const double high = openEnd ? load.a : std::min(load.a, to);
+    const double high = openEnd && load.a > to * (1 + sameEnd) ? load.a : std::min(load.a, to);
     if (!Acts(load) || !(high - low > slack))
         return {};
     const double slope = (load.fine - load.inizio) / (load.a - load.da);
@@ -211,8 +213,9 @@ CCarico* Division::PartOf(CCarico& load, const Stretch& stretch) {
 }
 
 void Division::SharePoint(Line& cut, const std::vector<double>& places, CCarico& load) {
-    const double place = static_cast<CCaricoConcentrato&>(load).GetDistance();
-    const std::size_t part = PartAt(places, place + samePlace * places.back());
+    const double length = places.back(), given = static_cast<CCaricoConcentrato&>(load).GetDistance();
+    const double place = given > length * (1 + sameEnd) ? given : std::min(given, length);
+    const std::size_t part = PartAt(places, place + samePlace * length);
     CCarico*& its = m_parts[{&load, {places[part], places[part + 1], part == 0, part == cut.others.size()}}];
     if (!its && part == 0)
         its = &load;
