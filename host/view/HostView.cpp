@@ -22,6 +22,7 @@
 #include <cmath>
 #include <iterator>
 #include <numbers>
+#include <utility>
 
 namespace host {
 
@@ -48,7 +49,11 @@ QString AskPictureFile(QWidget* parent) {
 std::function<QString()> HostView::pictureFileHook;
 
 HostView::HostView(HostDocument& document, ViewOwner& owner, HWND frame, QWidget* parent)
-    : m_document(document), m_owner(owner), m_widget(new ViewWidget(*this, frame, parent)), m_drawing(document) {
+    : m_document(document),
+      m_owner(owner),
+      m_widget(new ViewWidget(*this, frame, parent)),
+      m_length(document.GetLunghezza()),
+      m_drawing(document) {
     m_widget->Open(*this);
     m_projection.SetScale(firstScale * CGrandezza::_LengthFactor(m_document.GetLunghezza(), Lunghezza::Metres));
     // What a window of diagrams begins with.
@@ -171,6 +176,7 @@ void HostView::CatturaImmagine() {
 void HostView::OnDocumentUpdate(CView* sender, long hint, CObject* pHint) {
     if (CQuovarGlobal::_GetInformazioniBase(hint) == MODIFICA_UNITA)
         ForgetPoints(); // they are of another unit
+    FollowUnit();
     if (m_empty && m_document.GetSizeNodi() > 1)
         Fit();
     Redraw();
@@ -178,9 +184,20 @@ void HostView::OnDocumentUpdate(CView* sender, long hint, CObject* pHint) {
     m_owner.DocumentChanged(*this, sender, hint, pHint);
 }
 
+// What the window shows stays where it was.
+void HostView::FollowUnit() {
+    const Lunghezza former = std::exchange(m_length, m_document.GetLunghezza());
+    if (former == m_length)
+        return;
+    const double factor = CGrandezza::_LengthFactor(former, m_length);
+    m_projection.SetTarget(m_projection.GetTarget() * factor);
+    m_projection.SetScale(m_projection.GetScale() / factor);
+}
+
 void HostView::Fit() {
     CFPoint minimum, maximum;
     if (GetBounds(m_document, minimum, maximum)) {
+        FollowUnit(); // one point alone keeps the scale
         m_projection.FitToBounds(minimum, maximum);
         m_fitted = true;
         m_empty = m_document.GetSizeNodi() < 2;

@@ -143,6 +143,7 @@ class HostView final : public CQuovarView, public DocumentObserver {
     void Pick(CNodo& node);
     void PickForTool(const CFPoint& point);
     void Select(const std::vector<CElemento*>& found, SelectMode mode);
+    void FollowUnit();   // of length, which may have changed
     void ForgetPoints(); // that were picked
     void ShowPicking();  // whether nodes are asked for, and what was picked
     void Redraw();       // the picture is out of date
@@ -160,6 +161,7 @@ class HostView final : public CQuovarView, public DocumentObserver {
     ViewOwner& m_owner;
     ViewWidget* m_widget; // owned by its parent widget
     Adv3d m_projection;
+    Lunghezza m_length; // of the projection
     KindFilter m_filter;
     VectorDefinition m_vector;
     CDialogGrigliaNodi* m_gridDialog = nullptr; // open on the construction lines; not owned

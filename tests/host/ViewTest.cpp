@@ -236,7 +236,8 @@ TEST_F(ViewTest, DrawsTheModelOnlyWhenItChanged) {
     EXPECT_GT(widget.DrawCount(), changed) << "what a dialog changed on the settings must be seen";
 }
 
-// Catches an orbit that tilts columns, and a zoom that loses the point under the pointer.
+// Catches an orbit that tilts columns, a zoom that loses the point under the pointer, and a change of units that loses
+// the model.
 TEST_F(ViewTest, OrbitKeepsTheVerticalAndZoomThePointer) {
     BuildSmallModel();
     View().SetDirection(Adv3d::Axonometry);
@@ -248,4 +249,12 @@ TEST_F(ViewTest, OrbitKeepsTheVerticalAndZoomThePointer) {
     EXPECT_NEAR(CFPoint::GetMod(View().Vista().Unproject(at, View().Vista().GetTarget()), under), 0, 1e-6);
     View().Zoom(1e30, at);
     EXPECT_LT(View().Vista().GetScale(), 1e9);
+    CNodo& node = *Document().GetIndexNodo(2);
+    const CPoint before = PixelOf(node);
+    Document().ChangeUnits(Lunghezza::Inches, Forza::Kips);
+    CWinApp::PumpMessages();
+    EXPECT_TRUE(PixelOf(node) == before);
+    Document().Undo().Undo();
+    CWinApp::PumpMessages();
+    EXPECT_TRUE(PixelOf(node) == before);
 }
