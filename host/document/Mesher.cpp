@@ -43,8 +43,8 @@ const char* Mesher::Fault() {
     if (!JoinCorners(tolerance) || !IsConvex())
         return "I punti non sono i vertici, in ordine, di un quadrilatero convesso o di un triangolo";
     FillPlaces();
-    if (!AreLargerThan(tolerance))
-        return "Gli elementi sarebbero più piccoli della tolleranza"_utf8;
+    if (!AreLargerThan(2 * tolerance)) // otherwise a node between two corners would be taken for both
+        return "Gli elementi sarebbero troppo piccoli per la tolleranza";
     if (!m_document.Data().HasNumbers(Kind::Node, m_places.size()) ||
         !m_document.Data().HasNumbers(Kind::Wall, m_places.size()))
         return "I numeri dei nodi o dei setti sono esauriti";
@@ -97,9 +97,9 @@ void Mesher::FillPlaces() {
 
 // Every element has longer sides, where they are not none, and more area for its longest side: with that its shorter
 // diagonal is longer too, so that no two of its nodes can be one.
-bool Mesher::AreLargerThan(double tolerance) const {
+bool Mesher::AreLargerThan(double size) const {
     const std::size_t row = Row();
-    const double square = tolerance * tolerance;
+    const double square = size * size;
     for (std::size_t i = 0; i + row + 1 < m_places.size(); ++i) {
         if ((i + 1) % row == 0)
             continue;

@@ -32,7 +32,7 @@ class Mesher {
     bool JoinCorners(double tolerance);
     bool IsConvex() const;
     void FillPlaces();
-    bool AreLargerThan(double tolerance) const;
+    bool AreLargerThan(double size) const;
     bool MakeNodes();
     bool MakeElements();
     void MakeElement(std::size_t corner);

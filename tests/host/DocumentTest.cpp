@@ -105,7 +105,7 @@ TEST(DocumentGeneration, NonsenseIsRejected) {
     EXPECT_EQ(document.Mesh4Punti(o, o, x, x, 3, 3), 0);
     EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 100'000, 100'000), 0);
     EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 2'000'000'000, 2'000'000'000), 0);
-    EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 2000, 1), 0) << "nodes within the tolerance of each other";
+    EXPECT_EQ(document.Mesh4Punti(o, x, {1, 1, 0}, y, 600, 1), 0) << "a node within the tolerance of two";
     EXPECT_EQ(document.Mesh4Punti(o, {1, -0.00045, 0}, {2, 0, 0}, {1, 0.00045, 0}, 1, 1), 0) << "across a diagonal";
     EXPECT_EQ(document.Mesh4Punti(o, x, y, {1, 1, 0}, 3, 3), 0) << "sides that cross";
     EXPECT_EQ(document.Mesh4Punti(o, {4, 0, 0}, {1, 1, 0}, {0, 4, 0}, 3, 3), 0) << "concave";
