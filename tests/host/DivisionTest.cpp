@@ -39,6 +39,8 @@ class LoadedBeam : public AnalysisModel {
         CCaricoConcentrato turning(CFPoint(0, 3, 1), 11.1, CCarico::Global);
         turning.GetMomentVector() = CFPoint(4, -5, 6);
         On(beam, turning);
+        turning.GetDistance() = 13 * (1 + 0.9e-6); // the end, as rounded: where that is released, it turns the beam
+        On(beam, turning);
         CCaricoTemperatura heat;
         heat.GetTemperature() = 25;
         heat.GetGradient2() = 3;
