@@ -35,7 +35,6 @@ class LoadedBeam : public AnalysisModel {
         trapezoid.GetStretch(2) = {7, 8, 5, 5};
         On(beam, trapezoid)->SetReference(CCarico::Global);
         On(beam, CCaricoConcentrato(CFPoint(1, 2, -9), 6.5, CCarico::Local));
-        On(beam, CCaricoConcentrato(CFPoint(0, 0, -9), 13 * (1 + 0.9e-6), CCarico::Local)); // at the end, as rounded
         CCaricoConcentrato turning(CFPoint(0, 3, 1), 11.1, CCarico::Global);
         turning.GetMomentVector() = CFPoint(4, -5, 6);
         On(beam, turning);

@@ -14,7 +14,7 @@ class CommandUndo {
     using Record = std::array<double, 10>;
 
     CommandUndo(CQuovarDoc& doc, unsigned int kind, const Record& record = {});
-    ~CommandUndo();
+    ~CommandUndo() noexcept(false); // the host may run out of memory
     CommandUndo(const CommandUndo&) = delete;
     CommandUndo& operator=(const CommandUndo&) = delete;
 
