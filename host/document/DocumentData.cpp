@@ -91,7 +91,6 @@ DocumentData& DocumentData::operator=(DocumentData&& other) noexcept {
     DocumentData old(std::move(*this)); // destroyed in its own order, with its own grid
     m_lists = std::move(other.m_lists);
     m_grid = std::move(other.m_grid);
-    m_extent = other.m_extent;
     m_tolerance = other.m_tolerance;
     m_units = other.m_units;
     m_info = std::move(other.m_info);
@@ -143,7 +142,6 @@ void DocumentData::Enter(Kind kind, CElemento& object) {
     if (kind == Kind::Node) {
         auto& node = static_cast<CNodo&>(object);
         m_grid->Insert(&node);
-        Grow(*node.GetPunto());
     } else if (IsLineKind(kind)) {
         static_cast<CLinea&>(object).LinkNodes();
     } else if (IsPolygonKind(kind)) {
@@ -267,22 +265,12 @@ void DocumentData::PutBack(Kind kind, Taken taken) {
         Enter(kind, *to[index]);
 }
 
-void DocumentData::Grow(const CFPoint& place) {
-    m_extent = std::max({m_extent, std::fabs(place.x), std::fabs(place.y), std::fabs(place.z)});
-}
-
 void DocumentData::MoveNode(CNodo& node, const CFPoint& place) {
     node.SetPoint(place);
-    Grow(place);
 }
 
 CNodo* DocumentData::NodeAt(const CFPoint& place, const CNodo* excluded, double tolerance) const {
     return m_grid->Find(place, excluded, tolerance);
-}
-
-double DocumentData::ExactTolerance() const {
-    // Of the next power of ten: the search keeps a table for each size of tolerance, and few should do.
-    return m_extent > 0 ? 1e-9 * std::pow(10.0, std::floor(std::log10(m_extent))) : 0;
 }
 
 CNodo* DocumentData::FindNode(int id) {

@@ -138,11 +138,6 @@ class DocumentData : public ModelLookup {
     CNodo* NodeAt(const CFPoint& place, double tolerance, const std::function<bool(CNodo&)>& accepts) const {
         return m_grid->Find(place, tolerance, accepts);
     }
-    // What counts as exactly the same place in a model of this size.
-    double ExactTolerance() const;
-
-    // What the model's size is measured by goes into another length unit.
-    void ScaleExtent(double factor) { m_extent *= factor; }
 
     // How near two nodes may lie before they count as one.
     double Tolerance() const { return m_tolerance; }
@@ -179,12 +174,10 @@ class DocumentData : public ModelLookup {
     void Add(Kind kind, std::unique_ptr<CElemento> object);
     std::size_t PlaceOf(Kind kind, const CElemento& object) const;
     void Enter(Kind kind, CElemento& object);
-    void Grow(const CFPoint& place);
     void Leave(Kind kind, CElemento& object);
 
     std::array<List, kindCount> m_lists;
     std::unique_ptr<NodeGrid> m_grid; // by pointer: nodes keep its address
-    double m_extent = 0;              // the largest coordinate that ever was
     double m_tolerance = 0.001;
     DocumentUnits m_units;
     ProjectInfo m_info;

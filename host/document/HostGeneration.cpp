@@ -99,7 +99,7 @@ CNodo* HostGeneration::AddNodo(CFPoint& punto, CView*, int flag) {
         return nullptr;
     }
     if (flag != 0)
-        if (CNodo* there = Data().NodeAt(punto, nullptr, Data().ExactTolerance()))
+        if (CNodo* there = Data().NodeAt(punto, nullptr, GetTolerance()))
             return there;
     return AddNew(std::make_unique<CNodo>(punto), "Aggiungi nodo");
 }

@@ -30,8 +30,8 @@ class HostGeneration : public HostEditing {
     // stands there already none is made again. A user who breaks it off gets everything back. A refusal says why.
     int Mesh4Punti(CFPoint p1, CFPoint p2, CFPoint p3, CFPoint p4, int nSuddivisioni1, int nSuddivisioni2) override;
 
-    // A node that lies at exactly this place (1e-9 of the model's size) is returned instead of a second one. With a
-    // flag of 0 the node is made all the same.
+    // A node that lies there within the tolerance of the document is returned instead of a second one. With a flag of 0
+    // the node is made all the same.
     CNodo* AddNodo(CFPoint& punto, CView* pView, int flag) override;
     // Null for unknown or equal nodes. A second element between the same nodes is made: the check reports it.
     CTrave* AddTrave(int idNodo1, int idNodo2, CView* pView) override;

@@ -22,7 +22,6 @@ void ConvertUnits(DocumentData& data, DocumentUnits units) {
     }
     const double factor = CGrandezza::_LengthFactor(data.Units().length, units.length);
     data.Tolerance() *= factor;
-    data.ScaleExtent(factor);
     data.Units() = units;
 }
 
@@ -50,7 +49,6 @@ UnitChange::UnitChange(DocumentData& data, DocumentUnits units)
 }
 
 void UnitChange::Swap() {
-    m_data.ScaleExtent(CGrandezza::_LengthFactor(m_data.Units().length, m_units.length));
     std::swap(m_units, m_data.Units());
     std::swap(m_tolerance, m_data.Tolerance());
     for (int i = 0; i < m_data.Size(Kind::LoadCase); ++i)

@@ -266,11 +266,11 @@ TEST(DocumentGeneration, MeshThatIsBrokenOffLeavesNothing) {
 
 TEST(Document, AddingRefusesWhatCannotBe) {
     HostDocument document;
-    CFPoint a(0, 0, 0), b(100, 0, 0), close(100, 0, 1e-8), nowhere(std::nan(""), 0, 0);
+    CFPoint a(0, 0, 0), b(100, 0, 0), close(100, 0, 0.0009), nowhere(std::nan(""), 0, 0);
     CNodo* first = document.AddNodo(a, nullptr, 1);
     CNodo* second = document.AddNodo(b, nullptr, 1);
     EXPECT_EQ(document.AddNodo(b, nullptr, 1), second);
-    EXPECT_EQ(document.AddNodo(close, nullptr, 1), second) << "1e-9 of the model's size";
+    EXPECT_EQ(document.AddNodo(close, nullptr, 1), second) << "a beam divided there would not be joined to it";
     EXPECT_EQ(document.AddNodo(nowhere, nullptr, 1), nullptr);
     EXPECT_EQ(document.AddTrave(1, 1, nullptr), nullptr);
     EXPECT_EQ(document.AddTrave(1, 99, nullptr), nullptr);
