@@ -149,8 +149,7 @@ void HostView::DoubleClickAt(CPoint at) {
     if (snap && !snap->node) {
         CFPoint place = snap->point;
         const UndoStep step(m_document.Undo(), "Aggiungi nodo");
-        if (!m_document.GetNodo(place, nullptr, m_document.GetTolerance()))
-            m_document.AddNodo(place, nullptr, 1);
+        m_document.AddNodo(place, nullptr, 1);
     } else if (CElemento* hit = ObjectAt(m_document, m_projection, at, m_filter)) {
         m_owner.ShowProperties(*hit);
     } else {

@@ -162,6 +162,32 @@ TEST_F(DivisionCommands, OneStepGivesTheLinesBack) {
         EXPECT_GT(Document().GetIndexTrave(i)->GetLunghezzaLinea(), 0.1);
 }
 
+// Catches a line cut beside another one's node and left apart from it, and parts without length at the line's ends.
+TEST_F(DivisionCommands, PointsMeetNodesWithinTheTolerance) {
+    CTrave& line = *Document().GetIndexTrave(0);
+    CFPoint along;
+    line.GetDir(along, 0);
+    const CNodo* const end = line.GetNodoFinale();
+    CFPoint place = *line.GetNodoIniziale()->GetPunto() + along * 1.0003;
+    CNodo* const there = Document().AddNodo(place, nullptr, 1);
+    Document().Idle();
+    Select({&line});
+    const int nodes = Document().GetSizeNodi(), beams = Document().GetSizeTravi();
+    m_user.WhenDialogOpens([&](DialogDriver& driver) {
+        for (const double distance : {0.0005, 1.0, 1.0008, line.GetLunghezzaLinea() - 0.0005}) {
+            driver.Type(CDialogDividiLinea::IDC_DISTANZA, std::to_string(distance));
+            driver.Click(CDialogDividiLinea::IDC_INSERISCI_NODO);
+        }
+        driver.Click(IDOK);
+    });
+    ExpectOneStep("Suddivisione linea", [this] { Trigger(CDialogDividiLinea::IDD); });
+    EXPECT_EQ(Document().GetSizeNodi(), nodes);
+    ASSERT_EQ(Document().GetSizeTravi(), beams + 1);
+    EXPECT_EQ(line.GetNodoFinale(), there);
+    EXPECT_EQ(Document().GetIndexTrave(beams)->GetNodoIniziale(), there);
+    EXPECT_EQ(Document().GetIndexTrave(beams)->GetNodoFinale(), end);
+}
+
 // Catches a command that begins what it cannot finish.
 TEST_F(DivisionCommands, RefusesWhatMakesNoSense) {
     const std::string before = State();
